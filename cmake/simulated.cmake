@@ -1,0 +1,39 @@
+# The logic on the simulated platform: the host, the tests and the measurements.
+
+file(GLOB SIMULATED CONFIGURE_DEPENDS src/platform/simulated/*.cpp)
+list(FILTER SIMULATED EXCLUDE REGEX "/language\\.cpp$")
+
+add_library(kvrpage OBJECT ${LOGIC} ${SIMULATED})
+set(KVRPAGE $<TARGET_OBJECTS:kvrpage>)
+foreach(file ${LANGUAGES})
+  get_filename_component(name ${file} NAME_WE)
+  add_library(language_${name} OBJECT src/platform/simulated/language.cpp)
+  target_compile_definitions(language_${name} PRIVATE LANGUAGE_FILE=${name})
+  list(APPEND KVRPAGE $<TARGET_OBJECTS:language_${name}>)
+endforeach()
+
+find_package(CLI11 REQUIRED)
+find_package(utf8cpp REQUIRED)
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(EDIT REQUIRED IMPORTED_TARGET libedit)
+
+file(GLOB HOST CONFIGURE_DEPENDS host/*.cpp host/simulated/*.cpp)
+list(FILTER HOST EXCLUDE REGEX "/main\\.cpp$")
+add_library(host OBJECT ${HOST})
+target_include_directories(host PUBLIC ${CMAKE_SOURCE_DIR})
+target_link_libraries(host PUBLIC CLI11::CLI11 utf8cpp::utf8cpp PkgConfig::EDIT)
+add_executable(kvrhost host/main.cpp ${KVRPAGE})
+target_link_libraries(kvrhost PRIVATE host)
+
+enable_testing()
+find_package(GTest REQUIRED)
+file(GLOB TESTS CONFIGURE_DEPENDS tests/*.cpp)
+add_executable(kvr_tests ${TESTS} ${KVRPAGE})
+target_link_libraries(kvr_tests PRIVATE host GTest::gtest_main rapidcheck)
+target_compile_definitions(kvr_tests PRIVATE SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+include(GoogleTest)
+gtest_discover_tests(kvr_tests)
+
+find_package(benchmark REQUIRED)
+add_executable(kvr_bench bench/kvr_bench.cpp ${KVRPAGE})
+target_link_libraries(kvr_bench PRIVATE benchmark::benchmark)

@@ -1,0 +1,28 @@
+// What both systems must agree on: the integer names of the records, the form in which a page is described,
+// and the size of every structure that is passed outside.
+#pragma once
+
+using u32 = DWORD;
+using u64 = ULONGLONG;
+
+// A page description as the pages pass it: the header bitmap stands last, after the members that every
+// version of the structure has. `page.dwSize` is the size of the whole.
+struct PropertyPageDescription {
+    PROPSHEETPAGEW page;
+    HBITMAP hbmHeader;
+};
+
+
+static_assert(sizeof(WCHAR) == 2);
+static_assert(sizeof(u32) == 4 && sizeof(u64) == 8);
+static_assert(sizeof(void*) == 8);
+static_assert(sizeof(PropertyPageDescription) == 104);
+static_assert(sizeof(SP_DEVINSTALL_PARAMS_W) == 584);
+static_assert(sizeof(SP_DEVINFO_LIST_DETAIL_DATA_W) == 560);
+static_assert(sizeof(SP_DEVINFO_DATA) == 32);
+static_assert(sizeof(SP_DEVICE_INTERFACE_DATA) == 32);
+static_assert(sizeof(SP_DEVICE_INTERFACE_DETAIL_DATA_W) == 8);
+static_assert(sizeof(SP_CLASSINSTALL_HEADER) == 8);
+static_assert(sizeof(SP_PROPCHANGE_PARAMS) == 20);
+static_assert(sizeof(SP_PROPSHEETPAGE_REQUEST) == 24);
+static_assert(sizeof(GUID) == 16);

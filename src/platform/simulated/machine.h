@@ -1,0 +1,180 @@
+// The simulated machine: everything outside the library that the logic can read, write, show or break.
+//
+// A `Machine` is plain data and one machine is current at a time. Whoever makes it owns it; the operations of
+// `windows_api.h` work on the current one. Every operation of the logic passes `Operation` once: there it is
+// written into the journal and there the fault plan decides whether it fails. What a host or an operator does
+// while a window waits for it is neither journaled nor counted nor failed.
+//
+// Handles, keys, sets, databases, pages and allocations are counted: `Machine::open` is empty again when the
+// logic has given back all that it took, and `Machine::misuse` has a line for every handle that was not valid
+// (closed twice, never opened, of another kind) and for memory freed twice.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/platform.h"
+
+namespace sim {
+
+using Text = std::u16string;
+
+// A registry value: its type and its bytes, as they are. Any length, with or without terminator.
+struct Value {
+    Text name;
+    DWORD type = REG_NONE;
+    std::vector<BYTE> data;
+    friend bool operator==(const Value&, const Value&) = default;
+};
+
+// The values of one key in their order. Names are found without regard to case.
+struct Values {
+    std::vector<Value> list;
+    const Value* Find(std::u16string_view name) const;
+    void Set(std::u16string_view name, DWORD type, std::vector<BYTE> data);
+    void SetDword(std::u16string_view name, DWORD number);
+    void SetQword(std::u16string_view name, ULONGLONG number);
+    void SetText(std::u16string_view name, std::u16string_view text); // REG_SZ with its terminator
+    bool Erase(std::u16string_view name);
+    friend bool operator==(const Values&, const Values&) = default;
+};
+
+struct Device {
+    Text instance_id;                  // "PCI\VEN_...\3&11583659&0&20", the place below Enum
+    Text class_name;                   // "Ports", may be empty
+    std::optional<GUID> class_guid;
+    std::optional<Text> description;   // what SPDRP_DEVICEDESC gives
+    std::optional<Text> friendly_name;
+    bool has_key = true;               // whether "Device Parameters" exists
+    bool access_denied = false;        // opening the hardware key with full access fails
+    bool remote = false;               // its set belongs to another machine
+    Values key;                        // the hardware key, the device store
+    DWORD install_flags = 0;           // SP_DEVINSTALL_PARAMS_W.Flags
+};
+
+// An interface of a device. The enumeration order of a class is the order in `Machine::interfaces`.
+struct Interface {
+    GUID class_guid{};
+    Text path;                         // the symbolic link, "\\?\..."
+    std::size_t device = 0;            // index in `Machine::devices`
+    bool linked = true;                // present
+};
+
+// The usage of the COM numbers as the database keeps it: number n is bit (n - 1) % 8 of byte (n - 1) / 8.
+using PortUsage = std::array<BYTE, 32>;
+bool IsClaimed(const PortUsage& usage, unsigned number);
+void SetClaimed(PortUsage& usage, unsigned number, bool claimed);
+
+// --- Journal and faults ---------------------------------------------------------------------------------
+
+enum class Reach {
+    Memory, // allocations
+    Screen, // windows, controls, resources
+    Read,   // reading a store outside the library
+    Write,  // changing a store outside the library, or telling others of a change
+};
+
+struct JournalEntry {
+    Reach reach = Reach::Memory;
+    std::string name;   // the operation, "RegSetValueExW"
+    std::string detail; // the arguments that matter, UTF-8, as `journal` shows them
+};
+
+// Decides whether the operation at hand fails. Counts run from 1 and start anew with `Machine::faults = {}`.
+struct FaultPlan {
+    std::optional<std::size_t> at;                              // the n-th operation of all
+    std::vector<std::pair<std::string, std::size_t>> at_call;   // the n-th call of a name; 0: each call
+    std::function<bool(const JournalEntry&)> when;              // any other rule
+    std::size_t count = 0;                                      // operations seen so far
+    std::map<std::string, std::size_t, std::less<>> count_by_name;
+    std::size_t hits = 0;                                       // operations failed so far
+};
+
+// --- The person in front of the screen --------------------------------------------------------------------
+
+struct Machine;
+
+// Attend is called whenever a modal window waits for its user: a property sheet, a dialog, a message box. It
+// operates the windows by the operations of `windows_api.h` and comes back; it is called again until the window
+// has ended. A window that is still there after 10,000 calls is ended as if cancelled, with a line in `misuse`.
+using Operator = std::function<void(HWND front)>;
+
+// A message box that was shown, in the order in which they ended.
+struct ShownBox {
+    Text text;
+    Text caption;
+    UINT style = 0;
+    int answer = 0;
+    bool owned = false; // it had an owner window
+};
+
+struct Machine {
+    std::vector<Device> devices;
+    std::vector<Interface> interfaces;
+    std::vector<std::pair<Text, Text>> dos_names; // name and target
+    Values serial_map;                            // Hardware\DeviceMap\SerialComm, in its order
+    bool serial_map_exists = true;
+    PortUsage port_usage{};
+    std::vector<std::pair<Text, Values>> profile; // section and keys, all REG_SZ
+    Text decimal_separator = u".";
+    LANGID language = 1033; // a language without resources falls back as Windows does, at last to 1033
+
+    std::vector<JournalEntry> journal;
+    FaultPlan faults;
+    Operator user;
+    std::vector<ShownBox> boxes;
+    std::vector<UINT> missing_strings; // string numbers that LoadStringW does not find
+    std::vector<int> missing_controls; // control numbers that no dialog has
+
+    std::map<std::string, std::size_t, std::less<>> open; // what is not given back, by kind; no zero entries
+    std::vector<std::string> misuse;
+
+    const Device* FindDevice(std::u16string_view instance_id) const;
+    Values* ProfileSection(std::u16string_view section, bool create);
+};
+
+// The machine that the operations work on. It must outlive all that is opened on it.
+Machine& Current();
+// Makes a machine current while the scope lasts. No window may be open at either end.
+struct Scope {
+    explicit Scope(Machine& machine);
+    ~Scope();
+    Scope(const Scope&) = delete;
+    Scope& operator=(const Scope&) = delete;
+
+private:
+    Machine* before_;
+};
+
+// Journals an operation of the logic and asks the fault plan; true if it is to fail. Always false, without a
+// trace, while an operator is at work.
+bool Operation(Reach reach, std::string_view name, std::string detail = {});
+
+// A set with one device, such as the device manager passes in a provider's request. `data` is filled.
+HDEVINFO OpenDeviceSet(std::size_t device, SP_DEVINFO_DATA& data);
+
+// The instance handle that stands for the library's resources; for DllMain.
+HINSTANCE LibraryInstance();
+
+// --- The sheet: what the device manager does around a provider ------------------------------------------------
+
+// Runs a sheet with the given pages as a modal window until its user closes it: creates the pages (PSPCB_CREATE,
+// WM_INITDIALOG with the page description), sends PSN_SETACTIVE, PSN_APPLY, PSN_RESET as the buttons are pressed
+// and releases the pages at the end (PSPCB_RELEASE). Buttons: IDOK, IDCANCEL, ID_APPLY_NOW, by PSM_PRESSBUTTON or
+// a click; PSM_CHANGED enables Apply. The pages are used up. True if it ended by OK.
+bool RunSheet(std::u16string_view title, const std::vector<HPROPSHEETPAGE>& pages);
+
+// --- Text ------------------------------------------------------------------------------------------------------
+
+// Half a surrogate pair passes as it is, in the three-byte form.
+std::string ToUtf8(std::u16string_view text);
+Text FromUtf8(std::string_view text);
+bool EqualNoCase(std::u16string_view left, std::u16string_view right);
+
+} // namespace sim
