@@ -1,0 +1,87 @@
+// What the host needs of the machine around it, and the whole of what differs between its two builds: on the
+// simulated machine `simulated/world.cpp` answers from a `sim::Machine`, on Windows `windows/world.cpp` from the
+// system itself. Everything else in this folder is the same code for both, and reads and operates windows by the
+// operations of `platform/platform.h`.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/platform.h"
+
+namespace host {
+
+using Text = std::basic_string<WCHAR>;
+
+std::string ToUtf8(std::basic_string_view<WCHAR> text);
+Text FromUtf8(std::string_view text);
+
+enum class DeviceKind { Board, Port };
+
+// A device whose sheet can be opened: one with the values of a board, or a serial port.
+struct Device {
+    std::string id; // the instance id, "PCI\VEN_1B5C&...", UTF-8
+    DeviceKind kind = DeviceKind::Board;
+    Text description;   // may be empty
+    Text friendly_name; // may be empty
+    bool present = true;
+};
+
+struct StoreValue {
+    Text name;
+    DWORD type = 0;
+    std::vector<BYTE> data;
+};
+
+// Every place outside the devices that holds a port's number.
+struct PortRecords {
+    std::vector<std::pair<Text, Text>> dos_names;      // "COM5" and its target
+    std::vector<std::pair<Text, Text>> serial_map;     // value name and "COM5"
+    std::vector<std::pair<Text, Text>> settings_lines; // "COM5:" and its line
+    std::array<BYTE, 32> usage{};                      // number n is bit (n - 1) % 8 of byte (n - 1) / 8
+};
+
+class World {
+public:
+    virtual ~World() = default;
+
+    // Boards first, then ports, each in the order of their instance ids.
+    virtual std::vector<Device> Devices() = 0;
+
+    // The device store: the values of the hardware key, by name without regard to case.
+    virtual std::vector<StoreValue> Store(const std::string& id) = 0;
+
+    virtual PortRecords Ports() = 0;
+
+    // Calls the provider of the device's kind and runs the sheet with its page; comes back when the sheet has
+    // closed, or at once when the provider gives no page. `attend` is called whenever a modal window waits for its
+    // user, message boxes included; it operates that window and comes back once it has ended or there is nothing
+    // left to do. False if there is no such device.
+    virtual bool RunSheet(const std::string& id, const std::function<void(HWND front)>& attend) = 0;
+
+    // What the library has changed outside itself since the last call, a line an operation:
+    //   RegSetValueExW <instance id> <value> = <data>      (numbers in decimal, texts in quotes)
+    //   RegSetValueExW SERIALCOMM <value> = "COM5"
+    //   DefineDosDeviceW COM5 -> <target>  /  DefineDosDeviceW remove COM5
+    //   ComDBReleasePort 5  /  ComDBClaimPort 7 force
+    //   SetupDiSetDeviceRegistryPropertyW <instance id> friendly name = "..."
+    //   SetupDiSetDeviceInstallParamsW <instance id> flags 0x00004000
+    //   SetupDiSetClassInstallParamsW <instance id> DIF_PROPERTYCHANGE
+    //   SetupDiCallClassInstaller <instance id> DIF_PROPERTYCHANGE
+    //   WriteProfileStringW [Ports] COM7: = "9600,n,8,1"  /  WriteProfileStringW [Ports] COM5: deleted
+    //   SendNotifyMessageW WM_WININICHANGE "Ports"
+    virtual std::vector<std::string> Journal() = 0;
+
+    // The style that a message box in front was opened with; 0 if `box` is none.
+    virtual UINT BoxStyle(HWND box) = 0;
+
+    // Writes the machine as a registry export. False, with a reason in `error`, if the file can't be written or
+    // this world has no such form of itself.
+    virtual bool Export(const std::string& file, std::string& error) = 0;
+};
+
+} // namespace host
