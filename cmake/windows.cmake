@@ -1,0 +1,40 @@
+# The product, and the programs that try and measure it on a real or a stand-in Windows.
+
+enable_language(RC)
+set(CMAKE_CXX_STANDARD_LIBRARIES "")
+add_compile_definitions(UNICODE _UNICODE WINVER=0x0601 _WIN32_WINNT=0x0601)
+# The same bytes from the same sources, wherever they lie.
+add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>)
+add_link_options(-static -Wl,--no-insert-timestamp $<$<NOT:$<CONFIG:Debug>>:-s>)
+
+# One object a resource script and language; the linker merges them into the one resource section.
+function(add_resources target script)
+  add_library(${target} OBJECT ${script})
+  set_target_properties(${target} PROPERTIES COMPILE_OPTIONS "-c;65001")
+  target_include_directories(${target} PRIVATE src/resources)
+  target_compile_definitions(${target} PRIVATE ${ARGN})
+endfunction()
+
+file(GLOB RESOURCE_PARTS CONFIGURE_DEPENDS src/resources/*.h src/resources/*.inc src/resources/*.manifest)
+set_source_files_properties(src/resources/language.rc src/resources/kvrpagex64.rc
+                            PROPERTIES OBJECT_DEPENDS "${RESOURCE_PARTS};${LANGUAGES}")
+add_resources(module_resources src/resources/kvrpagex64.rc)
+set(RESOURCES $<TARGET_OBJECTS:module_resources>)
+foreach(file ${LANGUAGES})
+  get_filename_component(name ${file} NAME_WE)
+  add_resources(language_${name} src/resources/language.rc LANGUAGE_FILE=${name})
+  list(APPEND RESOURCES $<TARGET_OBJECTS:language_${name}>)
+endforeach()
+
+# The library lives in other people's processes: it starts at its own entry point, without a runtime's start-up, and
+# takes nothing but what every Windows has. Only constructors, thread-local data and references to the data of another
+# library would need one: the linker refuses the last, tests/windows/hardening_test.py the others.
+add_library(kvrpagex64 SHARED ${LOGIC} ${RESOURCES} src/resources/kvrpagex64.def)
+set_target_properties(kvrpagex64 PROPERTIES PREFIX "" LINK_DEPENDS ${CMAKE_SOURCE_DIR}/src/resources/kvrpagex64.def)
+target_compile_options(kvrpagex64 PRIVATE
+  -fno-exceptions -fno-rtti -fno-threadsafe-statics -ffunction-sections -fdata-sections)
+target_link_options(kvrpagex64 PRIVATE
+  -nostdlib -Wl,--entry=DllMain -Wl,--gc-sections -Wl,--disable-auto-import -Wl,--disable-runtime-pseudo-reloc
+  -Wl,--subsystem,windows:6.1 -Wl,--image-base,0x180000000
+  -Wl,--dynamicbase -Wl,--high-entropy-va -Wl,--nxcompat)
+target_link_libraries(kvrpagex64 PRIVATE gcc kernel32 user32 comctl32 advapi32 setupapi msports msvcrt)
