@@ -1,0 +1,115 @@
+#include "com_numbers/com_port_database.h"
+
+#include "reporting/error_reporter.h"
+#include "reporting/module_entry.h"
+#include "reporting/text_operations.h"
+#include "reporting/trace.h"
+#include "resources/resource_ids.h"
+
+namespace {
+
+// One bit per COM number: number n is bit (n - 1) % 8, from the least significant, of byte (n - 1) / 8.
+using PortUsageBitmap = BYTE[ComNumberMax / 8];
+
+bool IsClaimed(const PortUsageBitmap& usage, u32 number) {
+    return (usage[(number - 1) / 8] & (1u << ((number - 1) % 8))) != 0;
+}
+
+// 0, StatusNoDatabase or StatusNoUsage.
+u32 ReadPortUsage(const char* function, PortUsageBitmap& usage) {
+    HCOMDB database = nullptr;
+    u32 sStatus = 0;
+    DWORD portCount = 0;
+    if (ComDBOpen(&database) != ERROR_SUCCESS) {
+        TraceOut("%s - ComDBOpen fail, GetLastError():%d\n", function, GetLastError());
+        sStatus = StatusNoDatabase;
+    } else if (ComDBGetCurrentPortUsage(database, usage, sizeof(usage), CDB_REPORT_BITS, &portCount) !=
+               ERROR_SUCCESS) {
+        TraceOut("%s - ComDBGetCurrentPortUsage fail, GetLastError():%d\n", function, GetLastError());
+        sStatus = StatusNoUsage;
+    }
+    if (database != nullptr) {
+        ComDBClose(database);
+    }
+    return sStatus;
+}
+
+u32 ClampComNumber(u32 number) {
+    const INT value = static_cast<INT>(number);
+    return value < 1 ? 1 : value > static_cast<INT>(ComNumberMax) ? ComNumberMax : number;
+}
+
+void LoadInUseSuffix(WCHAR* suffix, u32 capacity) {
+    if (LoadStringW(ModuleInstance, IDS_IN_USE_SUFFIX, suffix, static_cast<int>(capacity)) == 0) {
+        CopyText(suffix, capacity, TEXT(" (in use)"));
+    }
+}
+
+void AddAllNumbers(HWND combo, const PortUsageBitmap& usage, u32 currentNumber) {
+    WCHAR entry[40];
+    WCHAR suffix[40];
+    LoadInUseSuffix(suffix, ARRAYSIZE(suffix));
+    for (u32 number = 1; number <= ComNumberMax; ++number) {
+        FormatText(entry, ARRAYSIZE(entry), TEXT("COM%d"), number);
+        if (IsClaimed(usage, number)) {
+            if (number == currentNumber) {
+                TraceOut("%s COM%d -> used, is current port number, don't in use\n", __func__, number);
+            } else {
+                TraceOut("%s COM%d -> used\n", __func__, number);
+                AppendText(entry, ARRAYSIZE(entry), suffix);
+            }
+        }
+        SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry));
+    }
+    SendMessageW(combo, CB_SETCURSEL, currentNumber - 1, 0);
+}
+
+} // namespace
+
+u32 Kavro_COMPortCheckNumberInUse(u32 number) {
+    TraceOut("----> %s( )\n", __func__);
+    PortUsageBitmap usage = {};
+    u32 sStatus = ReadPortUsage(__func__, usage);
+    if (sStatus == 0 && IsClaimed(usage, number)) {
+        TraceOut("%s - port has been previously claimed\n", __func__);
+        sStatus = StatusNumberClaimed;
+    }
+    TraceOut("<---- %s, sStatus:%d\n", __func__, sStatus);
+    return sStatus;
+}
+
+u32 Kavro_COMPortGetMaxNumberAvailable(u32* MaxAvlComNumber) {
+    TraceOut("----> %s( )\n", __func__);
+    *MaxAvlComNumber = 0;
+    PortUsageBitmap usage = {};
+    u32 sStatus = ReadPortUsage(__func__, usage);
+    if (sStatus == 0) {
+        u32 number = ComNumberMax;
+        while (number != 0 && IsClaimed(usage, number)) {
+            --number;
+        }
+        if (number != 0) {
+            TraceOut("%s - maxAvl:%d\n", __func__, number);
+            *MaxAvlComNumber = number;
+        } else {
+            TraceOut("%s - Can't find any available COM number\n", __func__);
+            sStatus = StatusNoneFree;
+        }
+    }
+    TraceOut("<---- %s, sStatus:%d, *MaxAvlComNumber:%d\n", __func__, sStatus, *MaxAvlComNumber);
+    return sStatus;
+}
+
+u32 Kavro_COMPortFillPortNameCombox(HWND dialog, const WCHAR* portName) {
+    TraceOut("----> %s( )\n", __func__);
+    const HWND combo = GetDlgItem(dialog, IDC_PORT_NUMBER);
+    PortUsageBitmap usage = {};
+    const u32 sStatus = combo == nullptr || portName[0] == 0 ? StatusNoCombo : ReadPortUsage(__func__, usage);
+    if (sStatus == 0) {
+        AddAllNumbers(combo, usage, ClampComNumber(ComNumberFromName(portName)));
+    }
+    EnableWindow(combo, sStatus == 0);
+    EnableWindow(GetDlgItem(dialog, IDC_PORT_NUMBER_CAPTION), sStatus == 0);
+    TraceOut("<---- %s, sStatus:%d\n", __func__, sStatus);
+    return sStatus;
+}

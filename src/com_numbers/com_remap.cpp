@@ -1,0 +1,176 @@
+#include "com_numbers/com_remap.h"
+
+#include "com_numbers/com_port_database.h"
+#include "device_model/board_discovery.h"
+#include "device_model/device_store.h"
+#include "reporting/text_operations.h"
+#include "reporting/trace.h"
+
+namespace {
+
+constexpr u32 RemapTextCapacity = 81;
+constexpr u32 DescriptionBytes = 512;
+
+// One rename: allocated for it, and released when it is over.
+struct Remap {
+    HDEVINFO DeviceInfoSet;
+    SP_DEVINFO_DATA* DeviceInfoData;
+    u32 OldComNumber;
+    u32 NewComNumber;
+    HCOMDB ComDbHandle; // null until opened
+    HKEY DeviceKey;     // open for the whole rename
+    HKEY SerialCommKey; // open during the scan only
+    WCHAR OldComName[RemapTextCapacity];
+    WCHAR NewComName[RemapTextCapacity];
+    WCHAR Buffer1[RemapTextCapacity]; // first the DOS device's target path, later the friendly name
+    WCHAR Buffer2[RemapTextCapacity]; // spare
+};
+
+DWORD TextBytes(const WCHAR* text) {
+    return static_cast<DWORD>((lstrlenW(text) + 1) * sizeof(WCHAR));
+}
+
+// Exactly, unit by unit: a map value com5 is not COM5.
+bool SameText(const WCHAR* left, const WCHAR* right) {
+    while (*left != 0 && *left == *right) {
+        ++left;
+        ++right;
+    }
+    return *left == *right;
+}
+
+bool QueryOldTarget(Remap* remap) {
+    return QueryDosDeviceW(remap->OldComName, remap->Buffer1, RemapTextCapacity - 1) != 0;
+}
+
+// Moves the DOS name, whose target the first look has found, to the new name. 0 or StatusNoDosName.
+u32 MoveDosName(Remap* remap, const char* function) {
+    if (!QueryOldTarget(remap)) {
+        TraceOut("%s - this shouldn't happen, QueryDosDevice fail, GetLastError():%d\n", function, GetLastError());
+        return StatusNoDosName;
+    }
+    TraceOut("%s - Remap->OldComName:%ws, Remap->Buffer1:%ws\n", function, remap->OldComName, remap->Buffer1);
+    const BOOL bRemoved = DefineDosDeviceW(DDD_REMOVE_DEFINITION, remap->OldComName, nullptr);
+    TraceOut("%s - DefineDosDevice, bRemoved:%d, OldComName:%ws, Buffer1:%ws, GetLastError():%d\n", function, bRemoved,
+             remap->OldComName, remap->Buffer1, GetLastError());
+    if (!DefineDosDeviceW(DDD_RAW_TARGET_PATH, remap->NewComName, remap->Buffer1)) {
+        TraceOut("%s - DefineDosDevice fail, Remap->NewComName:%ws, Remap->Buffer1:%ws, GetLastError():%d\n", function,
+                 remap->NewComName, remap->Buffer1, GetLastError());
+        if (bRemoved) {
+            DefineDosDeviceW(DDD_RAW_TARGET_PATH, remap->OldComName, remap->Buffer1);
+        }
+        return StatusNoDosName;
+    }
+    return 0;
+}
+
+// The first value of the serial device map that holds the old name gets the new one. A value that doesn't fit the
+// buffers ends the scan.
+void RenameInSerialMap(Remap* remap, DWORD dwNewComNameLen) {
+    if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, TEXT("Hardware\\DeviceMap\\SerialComm"), 0, KEY_READ | KEY_WRITE,
+                      &remap->SerialCommKey) != ERROR_SUCCESS) {
+        return;
+    }
+    WCHAR name[RemapTextCapacity];
+    WCHAR data[RemapTextCapacity + 1]; // one more for the terminator that a stored text may lack
+    for (DWORD index = 0;; ++index) {
+        DWORD nameCapacity = RemapTextCapacity;
+        DWORD bytes = RemapTextCapacity * sizeof(WCHAR);
+        DWORD type = REG_NONE;
+        if (RegEnumValueW(remap->SerialCommKey, index, name, &nameCapacity, nullptr, &type,
+                          reinterpret_cast<BYTE*>(data), &bytes) != ERROR_SUCCESS) {
+            break;
+        }
+        data[bytes / sizeof(WCHAR)] = 0;
+        if (type == REG_SZ && SameText(data, remap->OldComName)) {
+            RegSetValueExW(remap->SerialCommKey, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(remap->NewComName),
+                           dwNewComNameLen);
+            break;
+        }
+    }
+    RegCloseKey(remap->SerialCommKey);
+}
+
+void RenameInDatabase(Remap* remap) {
+    if (remap->ComDbHandle != nullptr && remap->ComDbHandle != INVALID_HANDLE_VALUE) {
+        ComDBReleasePort(remap->ComDbHandle, remap->OldComNumber);
+        ComDBClaimPort(remap->ComDbHandle, remap->NewComNumber, TRUE, nullptr);
+    }
+}
+
+void WriteFriendlyName(Remap* remap, const char* function) {
+    WCHAR description[DescriptionBytes / sizeof(WCHAR) + 1] = {}; // one more than is asked for: it stays terminated
+    if (SetupDiGetDeviceRegistryPropertyW(remap->DeviceInfoSet, remap->DeviceInfoData, SPDRP_DEVICEDESC, nullptr,
+                                          reinterpret_cast<BYTE*>(description), DescriptionBytes, nullptr) == 1) {
+        FormatText(remap->Buffer1, RemapTextCapacity, TEXT("%ws (%ws)"), description, remap->NewComName);
+    } else {
+        CopyText(remap->Buffer1, RemapTextCapacity, remap->NewComName);
+    }
+    TraceOut("%s - friendly name:%ws\n", function, remap->Buffer1);
+    SetupDiSetDeviceRegistryPropertyW(remap->DeviceInfoSet, remap->DeviceInfoData, SPDRP_FRIENDLYNAME,
+                                      reinterpret_cast<const BYTE*>(remap->Buffer1), TextBytes(remap->Buffer1));
+}
+
+// With the device key and the database open. 0 or StatusNoDosName.
+u32 RenameEverywhere(Remap* remap, const char* function) {
+    TraceOut("%s - ARRAYSIZE(Remap->OldComName):%I64d\n", function, ARRAYSIZE(remap->OldComName));
+    FormatText(remap->OldComName, RemapTextCapacity, TEXT("COM%d"), remap->OldComNumber);
+    const bool dosNameExists = QueryOldTarget(remap);
+    if (!dosNameExists) {
+        TraceOut("%s - QueryDosDevice 1 fail, GetLastError():%d\n", function, GetLastError());
+    }
+    TraceOut("%s - Remap->OldComName:%ws, Remap->Buffer1:%ws\n", function, remap->OldComName, remap->Buffer1);
+    FormatText(remap->NewComName, RemapTextCapacity, TEXT("COM%d"), remap->NewComNumber);
+    const DWORD dwNewComNameLen = TextBytes(remap->NewComName);
+    TraceOut("%s - Remap->NewComName:%ws, dwNewComNameLen:%d\n", function, remap->NewComName, dwNewComNameLen);
+
+    const u32 sStatus = dosNameExists ? MoveDosName(remap, function) : 0;
+    if (sStatus == 0) {
+        RenameInSerialMap(remap, dwNewComNameLen);
+        RenameInDatabase(remap);
+        WriteFriendlyName(remap, function);
+        RegSetValueExW(remap->DeviceKey, TEXT("PortName"), 0, REG_SZ,
+                       reinterpret_cast<const BYTE*>(remap->NewComName), dwNewComNameLen);
+    }
+    return sStatus;
+}
+
+u32 _EnactComNameChanges(Remap* remap) {
+    TraceOut("----> %s( )\n", __func__);
+    u32 sStatus = 0;
+    remap->DeviceKey = OpenDeviceKey(__func__, remap->DeviceInfoSet, remap->DeviceInfoData);
+    if (remap->DeviceKey == INVALID_HANDLE_VALUE) {
+        sStatus = StatusNoKey;
+    } else if (ComDBOpen(&remap->ComDbHandle) != ERROR_SUCCESS) {
+        TraceOut("%s - ComDBOpen fail, GetLastError():%d\n", __func__, GetLastError());
+        sStatus = StatusNoDatabase;
+    } else {
+        sStatus = RenameEverywhere(remap, __func__);
+    }
+    if (remap->ComDbHandle != nullptr) {
+        ComDBClose(remap->ComDbHandle);
+    }
+    if (remap->DeviceKey != INVALID_HANDLE_VALUE) {
+        RegCloseKey(remap->DeviceKey);
+    }
+    TraceOut("<---- %s, sStatus:%d\n", __func__, sStatus);
+    return sStatus;
+}
+
+} // namespace
+
+u32 Kavro_COMPortDoRemap(HDEVINFO DeviceInfoSet, SP_DEVINFO_DATA* DeviceInfoData, u32 oldNumber, u32 newNumber) {
+    TraceOut("----> %s( )\n", __func__);
+    Remap* remap = static_cast<Remap*>(LocalAlloc(LPTR, sizeof(Remap)));
+    u32 sStatus = StatusNoMemory;
+    if (remap != nullptr) {
+        remap->DeviceInfoSet = DeviceInfoSet;
+        remap->DeviceInfoData = DeviceInfoData;
+        remap->OldComNumber = oldNumber;
+        remap->NewComNumber = newNumber;
+        sStatus = _EnactComNameChanges(remap);
+        LocalFree(remap);
+    }
+    TraceOut("<---- %s, sStatus:%d\n", __func__, sStatus);
+    return sStatus;
+}

@@ -1,0 +1,189 @@
+#include "device_model/board_discovery.h"
+
+#include <cstddef>
+
+#include "device_model/channel_list.h"
+#include "device_model/device_store.h"
+#include "reporting/trace.h"
+
+namespace {
+
+// GUID_DEVINTERFACE_COMPORT and the four of the board's own: _DIO, _MCP251X, _MCP251XFD and _CAN. A class stands at the
+// index of its ChannelClass less one.
+constexpr GUID InterfaceClasses[ChannelClassCount] = {
+    {0x86E0D1E0, 0x8089, 0x11D0, {0x9C, 0xE4, 0x08, 0x00, 0x3E, 0x30, 0x1F, 0x73}},
+    {0xD169C409, 0xDB38, 0x43F5, {0x87, 0xA2, 0x5C, 0xB9, 0x5E, 0xF2, 0xCA, 0xC3}},
+    {0xC64BD006, 0x0A75, 0x4A56, {0x9B, 0x99, 0x17, 0x61, 0x61, 0x33, 0x82, 0x30}},
+    {0x219EE0B6, 0x8597, 0x4826, {0xB1, 0x0F, 0xDA, 0xAE, 0x1E, 0x13, 0x2C, 0x02}},
+    {0xBD052268, 0xEA5E, 0x4FD3, {0xB7, 0xE4, 0x39, 0x97, 0x8E, 0xA8, 0x5C, 0xC9}},
+};
+
+u32 ReadBoard(BoardParams* board) {
+    const HDEVINFO set = board->DeviceInfoSet;
+    SP_DEVINFO_DATA* data = board->DeviceInfoData;
+    u32 sStatus = Kavro_RegBoardGetBasic(set, data, &board->BoardBasic);
+    TraceOut("BOARD, sStatus:%d, PciBusNumber:%d, Irq:%d\n", sStatus, board->BoardBasic.BoardPciBusNumber,
+             board->BoardBasic.BoardIrq);
+    if (sStatus == 0) {
+        sStatus = Kavro_RegBoardGetOther(set, data, &board->BoardOther);
+    }
+    if (sStatus == 0) {
+        sStatus = Kavro_RegChlGetBasic(set, data, &board->BoardChl);
+    }
+    if (sStatus == 0) {
+        sStatus = Kavro_RegConfigGetBasic(set, data, &board->BoardConfig);
+    }
+    return sStatus;
+}
+
+u32 ReadClassValues(HDEVINFO set, SP_DEVINFO_DATA* data, u32 channelClass, ChannelInfo* info) {
+    switch (channelClass) {
+    case ClassUart: {
+        const u32 sStatus = Kavro_RegUartGetBasic(set, data, &info->Uart);
+        return sStatus != 0 ? sStatus
+                            : Kavro_RegUartGetCOMName(set, data, info->Uart.PortName, sizeof(info->Uart.PortName));
+    }
+    case ClassDio:
+        return Kavro_RegDioGetBasic(set, data, &info->Dio);
+    case ClassMcp251x:
+        return Kavro_RegMcp251xGetBasic(set, data, &info->Mcp251x);
+    case ClassMcp251xFd:
+        return Kavro_RegMcp251xFdGetBasic(set, data, &info->Mcp251xFd);
+    default:
+        return Kavro_RegCanGetBasic(set, data, &info->Can);
+    }
+}
+
+bool ReadChannel(HDEVINFO set, SP_DEVINFO_DATA* data, u32 channelClass, ChannelInfo* info) {
+    *info = {};
+    return Kavro_RegBoardGetBasic(set, data, &info->BoardBasic) == 0 &&
+           Kavro_RegChlGetBasic(set, data, &info->ChlBasic) == 0 &&
+           ReadClassValues(set, data, channelClass, info) == 0;
+}
+
+bool BelongsToBoard(const BoardParams* board, const ChannelInfo& info) {
+    const BoardBasicInfo& mine = board->BoardBasic;
+    const BoardBasicInfo& its = info.BoardBasic;
+    if (mine.BoardPciBusNumber == its.BoardPciBusNumber && mine.BoardIrq == its.BoardIrq) {
+        return true;
+    }
+    TraceOut("BPPCHL_ENUM, not belong this board, BOARD[pci:%d,irq:%d], CHL[pci:%d,irq:%d,n:%d,t:%d]\n",
+             mine.BoardPciBusNumber, mine.BoardIrq, its.BoardPciBusNumber, its.BoardIrq, info.ChlBasic.ChlNumber,
+             info.ChlBasic.ChlType);
+    return false;
+}
+
+// A copy of the path that the caller owns; null without memory for it. `capacity` in units bounds the path.
+WCHAR* CopyDevicePath(const WCHAR* path, u32 capacity) {
+    u32 length = 0;
+    while (length < capacity && path[length] != 0) {
+        ++length;
+    }
+    WCHAR* copy = static_cast<WCHAR*>(LocalAlloc(LPTR, (length + 1) * sizeof(WCHAR)));
+    if (copy != nullptr) {
+        CopyText(copy, length + 1, path);
+    }
+    return copy;
+}
+
+void AddChannel(BoardParams* board, HDEVINFO set, const SP_DEVINFO_DATA& data, u32 channelClass,
+                const ChannelInfo& info, const WCHAR* path, u32 pathCapacity) {
+    BPPCHL* chl = static_cast<BPPCHL*>(LocalAlloc(LPTR, sizeof(BPPCHL)));
+    if (chl == nullptr) {
+        return;
+    }
+    ChlListInit(chl);
+    chl->Board = board;
+    chl->Class = channelClass;
+    chl->SavedInfo = info;
+    chl->CurrentInfo = info;
+    chl->ListIndex = NotListed;
+    if (channelClass == ClassUart) {
+        RxFifoStages(info.Uart.UartRxFifoSize, chl->Fifo.RxFifo4Stage);
+    }
+    chl->DeviceInfoSet = set;
+    chl->DeviceInfoData = data;
+    chl->DevicePath = CopyDevicePath(path, pathCapacity);
+    ChlListInsertTail(&board->ChlList, chl);
+    BoardChlWalkInsert(board, chl);
+    ++board->ChlCount;
+    TraceOut("BPPCHL (%d, x%p, x%p, T:%d), CREATE\n", info.ChlBasic.ChlNumber, chl, chl->DevicePath, channelClass);
+}
+
+} // namespace
+
+bool BoardInitiate(BoardParams* board, u32* status) {
+    TraceOut("----> %s( )\n", __func__);
+    *status = 0;
+    board->ChlCount = 0;
+    ChlListInit(&board->ChlList);
+    for (u32 i = 0; i < ChannelClassCount; ++i) {
+        board->InterfaceSet[i] =
+            SetupDiGetClassDevsW(&InterfaceClasses[i], nullptr, nullptr, DIGCF_PRESENT | DIGCF_DEVICEINTERFACE);
+        if (board->InterfaceSet[i] == INVALID_HANDLE_VALUE) {
+            *status = StatusNoInterfaceSet;
+            return false;
+        }
+    }
+    BYTE* buffer = static_cast<BYTE*>(LocalAlloc(LPTR, DetailBufferBytes));
+    if (buffer == nullptr) {
+        *status = StatusNoMemory;
+        return false;
+    }
+    *status = ReadBoard(board);
+    if (*status == 0) {
+        for (u32 i = 0; i < ChannelClassCount; ++i) {
+            BoardEnumClass(board, buffer, DetailBufferBytes, board->InterfaceSet[i], &InterfaceClasses[i],
+                           ClassUart + i);
+        }
+    }
+    LocalFree(buffer);
+    TraceOut("<---- %s, sStatus:%d\n", __func__, *status);
+    return *status == 0;
+}
+
+void BoardEnumClass(BoardParams* board, BYTE* buffer, u32 bufferSize, HDEVINFO set, const GUID* interfaceClass,
+                    u32 channelClass) {
+    auto* detail = reinterpret_cast<SP_DEVICE_INTERFACE_DETAIL_DATA_W*>(buffer);
+    const u32 pathCapacity = (bufferSize - offsetof(SP_DEVICE_INTERFACE_DETAIL_DATA_W, DevicePath)) / sizeof(WCHAR);
+    SP_DEVICE_INTERFACE_DATA interfaceData = {};
+    interfaceData.cbSize = sizeof(interfaceData);
+    ChannelInfo info;
+    for (DWORD index = 0; SetupDiEnumDeviceInterfaces(set, nullptr, interfaceClass, index, &interfaceData); ++index) {
+        DWORD needed = 0;
+        SetupDiGetDeviceInterfaceDetailW(set, &interfaceData, nullptr, 0, &needed, nullptr);
+        if (needed > DetailBufferBytes) {
+            continue;
+        }
+        for (u32 i = 0; i < bufferSize; ++i) {
+            buffer[i] = 0;
+        }
+        detail->cbSize = sizeof(*detail);
+        SP_DEVINFO_DATA data = {};
+        data.cbSize = sizeof(data);
+        if (SetupDiGetDeviceInterfaceDetailW(set, &interfaceData, detail, needed, &needed, &data) &&
+            ReadChannel(set, &data, channelClass, &info) && BelongsToBoard(board, info)) {
+            AddChannel(board, set, data, channelClass, info, detail->DevicePath, pathCapacity);
+        }
+    }
+}
+
+void BoardDeinitiate(BoardParams* board) {
+    TraceOut("----> %s( )\n", __func__);
+    while (!ChlListIsEmpty(&board->ChlList)) {
+        BPPCHL* chl = static_cast<BPPCHL*>(ChlListFirst(&board->ChlList));
+        TraceOut("BPPCHL (%d, x%p, x%p, T:%d), TERMINATE\n", chl->CurrentInfo.ChlBasic.ChlNumber, chl,
+                 chl->DevicePath, chl->Class);
+        ChlListRemove(chl);
+        if (chl->DevicePath != nullptr) {
+            LocalFree(chl->DevicePath);
+        }
+        LocalFree(chl);
+        --board->ChlCount;
+    }
+    board->WalkFirst = nullptr;
+    for (const HDEVINFO set : board->InterfaceSet) {
+        SetupDiDestroyDeviceInfoList(set);
+    }
+    TraceOut("<---- %s\n", __func__);
+}

@@ -1,0 +1,231 @@
+#include "device_model/device_store.h"
+
+#include <cstddef>
+
+#include "reporting/trace.h"
+
+namespace {
+
+// One value that is read: its name, and the field of the record that it lands in.
+struct StoreField {
+    const WCHAR* name;
+    u32 offset;
+    u32 bytes;
+    bool text;
+};
+
+#define NUMBER(record, field) {TEXT(#field), offsetof(record, field), sizeof(record::field), false}
+#define TEXT_FIELD(record, field) {TEXT(#field), offsetof(record, field), sizeof(record::field), true}
+
+constexpr StoreField BoardBasicFields[] = {
+    NUMBER(BoardBasicInfo, BoardPciBusNumber),
+    NUMBER(BoardBasicInfo, BoardIrq),
+};
+constexpr StoreField BoardOtherFields[] = {
+    NUMBER(BoardOtherInfo, BoardMajorVersion),
+    NUMBER(BoardOtherInfo, BoardMinorVersion),
+    NUMBER(BoardOtherInfo, BoardNrController),
+    TEXT_FIELD(BoardOtherInfo, BoardModelName),
+};
+constexpr StoreField ChlBasicFields[] = {
+    NUMBER(ChlBasicInfo, ChlNumber),
+    NUMBER(ChlBasicInfo, ChlType),
+    NUMBER(ChlBasicInfo, ChlVersion),
+    NUMBER(ChlBasicInfo, ChlEventAddr),
+    NUMBER(ChlBasicInfo, ChlEventLength),
+    NUMBER(ChlBasicInfo, ChlMemAddr),
+    NUMBER(ChlBasicInfo, ChlMemLength),
+    NUMBER(ChlBasicInfo, ChlPortAddr),
+    NUMBER(ChlBasicInfo, ChlPortLength),
+    NUMBER(ChlBasicInfo, ChlOpened),
+};
+constexpr StoreField ConfigBasicFields[] = {
+    NUMBER(ConfigBasicInfo, ConfigModel),
+    NUMBER(ConfigBasicInfo, ConfigBrand),
+};
+constexpr StoreField DioBasicFields[] = {
+    NUMBER(DioBasicInfo, DioNrBank),
+    NUMBER(DioBasicInfo, DioCapability),
+    NUMBER(DioBasicInfo, DioDiSamplingFreq),
+    NUMBER(DioBasicInfo, DioDiFilterLowerBound),
+};
+constexpr StoreField Mcp251xBasicFields[] = {
+    NUMBER(Mcp251xBasicInfo, Mcp251xSpiNrDevice),
+    NUMBER(Mcp251xBasicInfo, Mcp251xSpiClkRate),
+    TEXT_FIELD(Mcp251xBasicInfo, Mcp251xName),
+    NUMBER(Mcp251xBasicInfo, Mcp251xNumber),
+    NUMBER(Mcp251xBasicInfo, Mcp251xCS),
+    NUMBER(Mcp251xBasicInfo, Mcp251xGpioInputBits),
+    NUMBER(Mcp251xBasicInfo, Mcp251xGpioOutputBits),
+};
+constexpr StoreField Mcp251xFdBasicFields[] = {
+    NUMBER(Mcp251xFdBasicInfo, Mcp251xFdSpiNrDevice),
+    NUMBER(Mcp251xFdBasicInfo, Mcp251xFdSpiClkRate),
+    TEXT_FIELD(Mcp251xFdBasicInfo, Mcp251xFdName),
+    NUMBER(Mcp251xFdBasicInfo, Mcp251xFdNumber),
+    NUMBER(Mcp251xFdBasicInfo, Mcp251xFdCS),
+    NUMBER(Mcp251xFdBasicInfo, Mcp251xFdGpioInputBits),
+    NUMBER(Mcp251xFdBasicInfo, Mcp251xFdGpioOutputBits),
+};
+constexpr StoreField CanBasicFields[] = {
+    NUMBER(CanBasicInfo, KvrCanCapability),
+    NUMBER(CanBasicInfo, KvrCanTxMsgQueueSize),
+    NUMBER(CanBasicInfo, KvrCanTxEventQueueSize),
+    NUMBER(CanBasicInfo, KvrCanRxMsgQueueSize),
+    NUMBER(CanBasicInfo, KvrCanNrRxFilterGroup),
+    NUMBER(CanBasicInfo, KvrCanSystemClkRate),
+    NUMBER(CanBasicInfo, KvrCanReferenceClkRate),
+    NUMBER(CanBasicInfo, KvrCanFifoTXMMax),
+    NUMBER(CanBasicInfo, KvrCanFifoTXEMax),
+    NUMBER(CanBasicInfo, KvrCanFifoRXMMax),
+};
+constexpr StoreField UartBasicFields[] = {
+    NUMBER(UartBasicInfo, UartTxFifoSize),
+    NUMBER(UartBasicInfo, UartRxFifoSize),
+    NUMBER(UartBasicInfo, UartClkRate),
+    NUMBER(UartBasicInfo, UartCapability),
+    NUMBER(UartBasicInfo, UartDefCntFifoSettings),
+    NUMBER(UartBasicInfo, UartDefCntAdvanceSettings),
+    NUMBER(UartBasicInfo, UartFifoEnable),
+    NUMBER(UartBasicInfo, UartTxFifoLowHigh),
+    NUMBER(UartBasicInfo, UartRxFifoLowHigh),
+    NUMBER(UartBasicInfo, UartMode),
+    NUMBER(UartBasicInfo, UartAHDC),
+    NUMBER(UartBasicInfo, UartCS),
+    NUMBER(UartBasicInfo, UartAutoRS422485),
+    NUMBER(UartBasicInfo, UartRS422Termination),
+    NUMBER(UartBasicInfo, UartRS485Termination),
+};
+
+// A stored text may come without its terminator, or with half a unit: it ends behind its last whole unit, at the
+// latest in the field's last one.
+void EndText(BYTE* field, u32 fieldBytes, u32 storedBytes) {
+    const u32 last = fieldBytes / sizeof(WCHAR) - 1;
+    const u32 end = storedBytes / sizeof(WCHAR);
+    reinterpret_cast<WCHAR*>(field)[end < last ? end : last] = 0;
+}
+
+template <SIZE_T Count>
+u32 ReadValues(const char* function, HDEVINFO set, SP_DEVINFO_DATA* data, const StoreField (&fields)[Count],
+               void* record) {
+    const HKEY key = OpenDeviceKey(function, set, data);
+    if (key == INVALID_HANDLE_VALUE) {
+        return StatusNoKey;
+    }
+    u32 sStatus = 0;
+    for (const StoreField& field : fields) {
+        BYTE* destination = static_cast<BYTE*>(record) + field.offset;
+        DWORD length = field.bytes;
+        const LSTATUS lStatus = RegQueryValueExW(key, field.name, nullptr, nullptr, destination, &length);
+        if (lStatus != ERROR_SUCCESS) {
+            TraceOut("%s - RegQueryValueEx() fail, %ws, lStatus:%d\n", function, field.name, lStatus);
+            sStatus = StatusReadFailed;
+            break;
+        }
+        if (field.text) {
+            EndText(destination, field.bytes, length);
+        }
+    }
+    RegCloseKey(key);
+    return sStatus;
+}
+
+// One value that is written, a REG_DWORD.
+struct StoreNumber {
+    const WCHAR* name;
+    u32 value;
+};
+
+template <SIZE_T Count>
+u32 WriteValues(const char* function, HDEVINFO set, SP_DEVINFO_DATA* data, const StoreNumber (&numbers)[Count]) {
+    const HKEY key = OpenDeviceKey(function, set, data);
+    if (key == INVALID_HANDLE_VALUE) {
+        return StatusNoKey;
+    }
+    u32 sStatus = 0;
+    for (const StoreNumber& number : numbers) {
+        const LSTATUS lStatus = RegSetValueExW(key, number.name, 0, REG_DWORD,
+                                               reinterpret_cast<const BYTE*>(&number.value), sizeof(number.value));
+        if (lStatus != ERROR_SUCCESS) {
+            TraceOut("%s - RegSetValueEx() fail, %ws, lStatus:%d\n", function, number.name, lStatus);
+            sStatus = StatusWriteFailed;
+            break;
+        }
+    }
+    RegCloseKey(key);
+    return sStatus;
+}
+
+} // namespace
+
+HKEY OpenDeviceKey(const char* function, HDEVINFO set, SP_DEVINFO_DATA* data) {
+    const HKEY key = SetupDiOpenDevRegKey(set, data, DICS_FLAG_GLOBAL, 0, DIREG_DEV, KEY_ALL_ACCESS);
+    if (key == INVALID_HANDLE_VALUE) {
+        TraceOut("%s - SetupDiOpenDevRegKey() fail, GetLastError:%d\n", function, GetLastError());
+    }
+    return key;
+}
+
+u32 Kavro_RegBoardGetBasic(HDEVINFO set, SP_DEVINFO_DATA* data, BoardBasicInfo* info) {
+    return ReadValues(__func__, set, data, BoardBasicFields, info);
+}
+
+u32 Kavro_RegBoardGetOther(HDEVINFO set, SP_DEVINFO_DATA* data, BoardOtherInfo* info) {
+    return ReadValues(__func__, set, data, BoardOtherFields, info);
+}
+
+u32 Kavro_RegChlGetBasic(HDEVINFO set, SP_DEVINFO_DATA* data, ChlBasicInfo* info) {
+    return ReadValues(__func__, set, data, ChlBasicFields, info);
+}
+
+u32 Kavro_RegConfigGetBasic(HDEVINFO set, SP_DEVINFO_DATA* data, ConfigBasicInfo* info) {
+    return ReadValues(__func__, set, data, ConfigBasicFields, info);
+}
+
+u32 Kavro_RegDioGetBasic(HDEVINFO set, SP_DEVINFO_DATA* data, DioBasicInfo* info) {
+    return ReadValues(__func__, set, data, DioBasicFields, info);
+}
+
+u32 Kavro_RegMcp251xGetBasic(HDEVINFO set, SP_DEVINFO_DATA* data, Mcp251xBasicInfo* info) {
+    return ReadValues(__func__, set, data, Mcp251xBasicFields, info);
+}
+
+u32 Kavro_RegMcp251xFdGetBasic(HDEVINFO set, SP_DEVINFO_DATA* data, Mcp251xFdBasicInfo* info) {
+    return ReadValues(__func__, set, data, Mcp251xFdBasicFields, info);
+}
+
+u32 Kavro_RegCanGetBasic(HDEVINFO set, SP_DEVINFO_DATA* data, CanBasicInfo* info) {
+    return ReadValues(__func__, set, data, CanBasicFields, info);
+}
+
+u32 Kavro_RegUartGetBasic(HDEVINFO set, SP_DEVINFO_DATA* data, UartBasicInfo* info) {
+    return ReadValues(__func__, set, data, UartBasicFields, info);
+}
+
+u32 Kavro_RegUartGetCOMName(HDEVINFO set, SP_DEVINFO_DATA* data, WCHAR* text, u32 bytes) {
+    const StoreField portName[] = {{TEXT("PortName"), 0, bytes, true}};
+    return ReadValues(__func__, set, data, portName, text);
+}
+
+u32 Kavro_RegUartSetFifoSettings(HDEVINFO set, SP_DEVINFO_DATA* data, u32 UartFifoEnable, u32 UartTxFifoLowHigh,
+                                 u32 UartRxFifoLowHigh) {
+    const StoreNumber numbers[] = {
+        {TEXT("UartFifoEnable"), UartFifoEnable},
+        {TEXT("UartTxFifoLowHigh"), UartTxFifoLowHigh},
+        {TEXT("UartRxFifoLowHigh"), UartRxFifoLowHigh},
+    };
+    return WriteValues(__func__, set, data, numbers);
+}
+
+u32 Kavro_RegUartSetAdvanceSettings(HDEVINFO set, SP_DEVINFO_DATA* data, u32 UartMode, u32 UartAHDC, u32 UartCS,
+                                    u32 UartAutoRS422485, u32 UartRS422Termination, u32 UartRS485Termination) {
+    const StoreNumber numbers[] = {
+        {TEXT("UartMode"), UartMode},
+        {TEXT("UartAHDC"), UartAHDC},
+        {TEXT("UartCS"), UartCS},
+        {TEXT("UartAutoRS422485"), UartAutoRS422485},
+        {TEXT("UartRS422Termination"), UartRS422Termination},
+        {TEXT("UartRS485Termination"), UartRS485Termination},
+    };
+    return WriteValues(__func__, set, data, numbers);
+}

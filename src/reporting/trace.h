@@ -1,0 +1,6 @@
+// The trace: calls stand at the entry and exit of functions and at their decisions, with all that decides the
+// run. It goes nowhere.
+#pragma once
+
+// `format` is narrow, "%s" stands for a narrow name and "%ws" for UTF-16 text; every line ends in a line feed.
+template <typename... Arguments> inline void TraceOut(const char* /*format*/, const Arguments&... /*arguments*/) {}
