@@ -1,0 +1,98 @@
+#!/usr/bin/env python3
+"""What a library that elevated processes load must be, read from the file itself.
+
+Takes the folder of the build from KVR_WINDOWS_BUILD; build/windows without it."""
+import os
+import pathlib
+import shutil
+import subprocess
+import tempfile
+import unittest
+
+import pe
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+BUILD = pathlib.Path(os.environ.get("KVR_WINDOWS_BUILD", ROOT / "build" / "windows"))
+LIBRARY = BUILD / "kvrpagex64.dll"
+
+SYSTEM_LIBRARIES = {"KERNEL32.DLL", "USER32.DLL", "COMCTL32.DLL", "ADVAPI32.DLL", "SETUPAPI.DLL", "MSPORTS.DLL",
+                    "MSVCRT.DLL"}
+# By these a library would be searched for, or a function found, at run time.
+SEARCHES = ("LoadLibrary", "LoadModule", "GetProcAddress", "LdrLoad", "LdrGet", "CreateProcess", "ShellExecute")
+KIB = 1024
+
+
+class Hardening(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.image = pe.Image(LIBRARY)
+
+    def test_is_a_64_bit_library(self):
+        self.assertEqual((self.image.machine, self.image.magic), (0x8664, 0x20B))
+        self.assertTrue(self.image.characteristics & 0x2000)
+
+    def test_moves_in_memory_and_runs_no_data(self):
+        high_entropy, dynamic_base, nx = 0x20, 0x40, 0x100
+        wanted = high_entropy | dynamic_base | nx
+        self.assertEqual(self.image.dll_characteristics & wanted, wanted)
+        self.assertFalse(self.image.characteristics & 0x0001, "relocations stripped")
+        self.assertNotEqual(self.image.directories[5], (0, 0), "no relocations")
+        for section in self.image.sections:
+            self.assertFalse(section.flags & pe.WRITABLE and section.flags & pe.EXECUTABLE, section.name)
+
+    def test_exports_three_names_and_nothing_else(self):
+        self.assertEqual(self.image.exports(),
+                         {1: "DllMain", 2: "KvrBoardPropPageProvider", 3: "KvrUartPropPageProvider"})
+
+    def test_takes_everything_by_name_from_the_system(self):
+        imports = self.image.imports()
+        self.assertLessEqual({name.upper() for name in imports}, SYSTEM_LIBRARIES)
+        for name in (name for names in imports.values() for name in names):
+            self.assertIsInstance(name, str)
+            self.assertFalse(name.startswith(SEARCHES), name)
+        self.assertEqual(self.image.directories[13], (0, 0), "delayed imports search at run time")
+
+    def test_needs_no_start_up(self):
+        # Without a runtime's start-up nothing would run a constructor or fill thread-local data.
+        objects = sorted(BUILD.glob("CMakeFiles/kvrpagex64.dir/**/*.obj"))
+        self.assertTrue(objects)
+        for path in objects:
+            data = path.read_bytes()
+            machine, sections = pe.unpack("HH", data, 0)
+            self.assertEqual(machine, 0x8664, path)
+            for i in range(sections):
+                name = data[20 + 40 * i:28 + 40 * i].rstrip(b"\0").decode()
+                self.assertFalse(name.startswith((".ctors", ".dtors", ".tls", ".CRT", ".init")), f"{path}: {name}")
+
+    def test_says_what_it_is(self):
+        resources = self.image.resources()
+        manifest = resources[pe.RT_MANIFEST, 2, 0].decode()
+        self.assertIn('level="asInvoker" uiAccess="false"', manifest)
+        version = resources[pe.RT_VERSION, 1, 1033]
+        signature, _, high, low = pe.unpack("IIII", version, version.index(b"\xbd\x04\xef\xfe"))
+        self.assertEqual((signature, high, low), (0xFEEF04BD, 0x00010000, 0))
+
+    def test_is_small_and_holds_no_trace_of_its_making(self):
+        data = self.image.data
+        languages = {language for kind, _, language in self.image.resources() if kind == pe.RT_DIALOG}
+        self.assertLess(len(data), 450 * KIB if len(languages) > 1 else 200 * KIB)
+        for place in (str(ROOT), str(BUILD), ".debug", ".symtab", "GCC: ("):
+            self.assertNotIn(place.encode(), data)
+        # What English alone takes is what the whole takes without the other languages.
+        others = sum(len(bytes_) for (_, _, language), bytes_ in self.image.resources().items()
+                     if language not in (0, 1033))
+        self.assertLess(len(data) - others, 200 * KIB)
+
+    def test_the_same_sources_give_the_same_bytes(self):
+        with tempfile.TemporaryDirectory() as place:
+            tree = pathlib.Path(place) / "elsewhere"
+            shutil.copytree(ROOT, tree, ignore=shutil.ignore_patterns(".git", "build"))
+            for step in (["cmake", "--preset", "windows"],
+                         ["cmake", "--build", "build/windows", "--target", "kvrpagex64", "-j", "2"]):
+                done = subprocess.run(step, cwd=tree, capture_output=True, text=True)
+                self.assertEqual(done.returncode, 0, done.stdout + done.stderr)
+            self.assertEqual((tree / "build/windows/kvrpagex64.dll").read_bytes(), LIBRARY.read_bytes())
+
+
+if __name__ == "__main__":
+    unittest.main()
