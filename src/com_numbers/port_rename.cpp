@@ -23,7 +23,7 @@ bool RenamePortForUser(HWND owner, const RenameFailureCodes& codes, HDEVINFO set
     if (sStatus != 0) {
         ErrorBoxShow(codes.numberInUse, sStatus, owner, 0, 0, 0, &nUserDialogChoice);
         TraceOut("%s - 1, nUserDialogChoice:%d\n", __func__, nUserDialogChoice);
-        if (nUserDialogChoice == IDNO) {
+        if (nUserDialogChoice != IDYES) {
             return false;
         }
     }

@@ -1,0 +1,243 @@
+#include "com_numbers/com_sort.h"
+
+#include "com_numbers/com_port_database.h"
+#include "com_numbers/port_rename.h"
+#include "com_numbers/port_settings_migration.h"
+#include "device_model/channel_list.h"
+#include "reporting/error_reporter.h"
+#include "reporting/text_operations.h"
+#include "reporting/trace.h"
+#include "resources/resource_ids.h"
+
+namespace {
+
+// A UART's channel number and a COM number. The table stands in channel order; sorting exchanges the COM column only.
+struct SortPair {
+    u32 channel;
+    u32 com;
+};
+constexpr u32 SortPairMax = ComNumberMax;
+constexpr u32 SortPairTableBytes = SortPairMax * sizeof(SortPair);
+static_assert(SortPairTableBytes == 2048);
+
+constexpr int SortButtons[] = {IDOK, IDCANCEL, IDC_RESTORE, IDC_SORT_COM};
+
+// One of the three moves of an exchange: what is reported if it fails, and its lines in the trace.
+struct SortMove {
+    u32 failureCode;
+    const char* settingsTrace;
+    const char* namesTrace;
+};
+constexpr SortMove PartnerToTemporary = {
+    FailureSortToTemporary, "%s - S1_2, CHL%d, move port settings, %ws -> %ws\n",
+    "%s - S1_3, CHL%d, ComName [old:%ws, new:%ws]\n"};
+constexpr SortMove ChannelToFinal = {
+    FailureSortToFinal, "%s - S2_2, CHL%d, move port settings, %ws -> %ws\n",
+    "%s - S2_3, CHL%d, ComName [old:%ws, new:%ws]\n"};
+constexpr SortMove PartnerFromTemporary = {
+    FailureSortFromTemporary, "%s - S3_2, CHL%d, move port settings, %ws -> %ws\n",
+    "%s - S3_3, CHL%d, ComName [old:%ws, new:%ws]\n"};
+
+bool IsUart(const BPPCHL* chl) {
+    return chl->Class == ClassUart;
+}
+
+bool NeedsMove(const BPPCHL* chl) {
+    return IsUart(chl) && chl->SortCurrentCom != chl->SortNewCom;
+}
+
+// Reads every UART's number from its name and fills the table; the number of pairs.
+u32 GatherPairs(BoardParams* board, SortPair* table) {
+    u32 count = 0;
+    for (BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
+        if (!IsUart(chl)) {
+            continue;
+        }
+        chl->SortChlNumber = chl->CurrentInfo.ChlBasic.ChlNumber;
+        chl->SortCurrentCom = ComNumberFromName(chl->CurrentInfo.Uart.PortName);
+        chl->SortNewCom = chl->SortCurrentCom;
+        if (chl->SortCurrentCom >= 1 && chl->SortCurrentCom <= ComNumberMax && count < SortPairMax) {
+            table[count++] = {chl->SortChlNumber, chl->SortCurrentCom};
+        }
+    }
+    return count;
+}
+
+void SortComColumn(SortPair* table, u32 count) {
+    for (u32 i = 0; i + 1 < count; ++i) {
+        u32 smallest = i;
+        for (u32 j = i + 1; j < count; ++j) {
+            if (table[j].com < table[smallest].com) {
+                smallest = j;
+            }
+        }
+        const u32 com = table[i].com;
+        table[i].com = table[smallest].com;
+        table[smallest].com = com;
+    }
+}
+
+void AssignNewNumbers(BoardParams* board, const SortPair* table, u32 count) {
+    u32 next = 0;
+    for (BPPCHL* chl = board->WalkFirst; chl != nullptr && next < count; chl = chl->WalkNext) {
+        if (chl->CurrentInfo.ChlBasic.ChlNumber == table[next].channel) {
+            chl->SortNewCom = table[next++].com;
+        }
+    }
+}
+
+void TraceNumbers(const BoardParams* board, const char* heading) {
+    TraceOut(heading);
+    for (const BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
+        if (IsUart(chl)) {
+            TraceOut("UART # ChlNumber:%d - CURRENT:%03d, NEW:%03d\n", chl->SortChlNumber, chl->SortCurrentCom,
+                     chl->SortNewCom);
+        }
+    }
+    TraceOut("----------------------------------------\n");
+}
+
+bool AnyNeedsMove(const BoardParams* board, const char* function) {
+    bool any = false;
+    for (const BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
+        if (NeedsMove(chl)) {
+            TraceOut("%s - ChlNumber:%d - COM%d -> COM%d\n", function, chl->SortChlNumber, chl->SortCurrentCom,
+                     chl->SortNewCom);
+            any = true;
+        }
+    }
+    if (!any) {
+        TraceOut("%s - Don't need to swap COM number\n", function);
+    }
+    return any;
+}
+
+// Every port that will move is closed; the first that isn't is reported.
+bool AllMovingPortsClosed(HWND dialog, BoardParams* board) {
+    for (BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
+        if (!NeedsMove(chl)) {
+            continue;
+        }
+        const u32 sStatus = Kavro_COMPortCheckOpened(chl->DeviceInfoSet, &chl->DeviceInfoData);
+        if (sStatus != 0) {
+            ErrorBoxShow(FailureSortPortOpened, sStatus, dialog, chl->SortChlNumber, chl->SortCurrentCom,
+                         chl->SortNewCom, nullptr);
+            return false;
+        }
+    }
+    return true;
+}
+
+void EnableSortButtons(HWND dialog, BOOL enable) {
+    for (const int button : SortButtons) {
+        EnableWindow(GetDlgItem(dialog, button), enable);
+    }
+}
+
+// The port that holds the number which the channel wants; the last in the walk's order, null if none holds it.
+BPPCHL* FindPartner(BoardParams* board, const BPPCHL* chl) {
+    BPPCHL* partner = nullptr;
+    for (BPPCHL* other = board->WalkFirst; other != nullptr; other = other->WalkNext) {
+        if (IsUart(other) && other->SortCurrentCom == chl->SortNewCom) {
+            partner = other;
+        }
+    }
+    return partner;
+}
+
+// Moves one port to another number and keeps its records true to it. False, after a box, if the rename failed.
+bool MovePort(HWND dialog, BPPCHL* port, u32 to, const SortMove& move, const char* function) {
+    UartBasicInfo& saved = port->SavedInfo.Uart;
+    UartBasicInfo& current = port->CurrentInfo.Uart;
+    const u32 sStatus = RenamePort(port->DeviceInfoSet, &port->DeviceInfoData, port->SortCurrentCom, to,
+                                   current.PortName, ARRAYSIZE(current.PortName));
+    if (sStatus != 0) {
+        ErrorBoxShow(move.failureCode, sStatus, dialog, port->SortChlNumber, port->SortCurrentCom, to, nullptr);
+        return false;
+    }
+    port->SortCurrentCom = to;
+    TraceOut(move.settingsTrace, function, port->SortChlNumber, saved.PortName, current.PortName);
+    Kavro_COMPortMigratePortSettings(saved.PortName, current.PortName);
+    FormatText(saved.PortName, ARRAYSIZE(saved.PortName), TEXT("COM%d"), port->SortCurrentCom);
+    TraceOut(move.namesTrace, function, port->SortChlNumber, saved.PortName, current.PortName);
+    return true;
+}
+
+// Brings the channel to its number and its partner, who holds that number, to the channel's.
+bool ExchangePorts(HWND dialog, BPPCHL* chl, BPPCHL* partner, u32 temporary, const char* function) {
+    TraceOut("%s - ----------------------------------------\n", function);
+    TraceOut("%s - S1_1, CHL%d to AVL, COM%d -> COM%d\n", function, partner->SortChlNumber, partner->SortCurrentCom,
+             temporary);
+    if (!MovePort(dialog, partner, temporary, PartnerToTemporary, function)) {
+        return false;
+    }
+    const u32 old = chl->SortCurrentCom;
+    TraceOut("%s - S2_1, CHL%d to CHL%d, COM%d -> COM%d\n", function, chl->SortChlNumber, partner->SortChlNumber, old,
+             chl->SortNewCom);
+    if (!MovePort(dialog, chl, chl->SortNewCom, ChannelToFinal, function)) {
+        return false;
+    }
+    TraceOut("%s - S3_1, AVL to CHL%d, COM%d -> COM%d\n", function, partner->SortChlNumber, partner->SortCurrentCom,
+             old);
+    if (!MovePort(dialog, partner, old, PartnerFromTemporary, function)) {
+        return false;
+    }
+    TraceOut("%s - ----------------------------------------\n", function);
+    return true;
+}
+
+// One pass is enough, whatever the cycles: a channel that has its number is nobody's partner any more.
+void ExchangeAll(HWND dialog, BoardParams* board, u32 temporary, const char* function) {
+    for (BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
+        if (!NeedsMove(chl)) {
+            continue;
+        }
+        BPPCHL* partner = FindPartner(board, chl);
+        if (partner != nullptr && !ExchangePorts(dialog, chl, partner, temporary, function)) {
+            return;
+        }
+    }
+    TraceNumbers(board, "----------------------------------------, DONE\n");
+}
+
+// With ports to change. Nothing moves unless a temporary number is free and every port that moves is closed.
+void MovePorts(HWND dialog, BoardParams* board, const char* function) {
+    u32 avlMaxTempComNumber = 0;
+    const u32 sStatus = Kavro_COMPortGetMaxNumberAvailable(&avlMaxTempComNumber);
+    TraceOut("%s - avlMaxTempComNumber:%d\n", function, avlMaxTempComNumber);
+    if (sStatus != 0) {
+        ErrorBoxShow(FailureSortNoNumber, sStatus, dialog, 0, 0, 0, nullptr);
+    } else if (AllMovingPortsClosed(dialog, board)) {
+        EnableSortButtons(dialog, FALSE);
+        ExchangeAll(dialog, board, avlMaxTempComNumber, function);
+        EnableSortButtons(dialog, TRUE);
+    }
+}
+
+} // namespace
+
+bool _SortCOMClicked(HWND dialog, BPPCHL* channel) {
+    TraceOut("----> %s( )\n", __func__);
+    const bool bSuccess = false;
+    BoardParams* board = channel != nullptr ? channel->Board : nullptr;
+    if (board == nullptr) {
+        return bSuccess;
+    }
+    SortPair* table = static_cast<SortPair*>(LocalAlloc(LPTR, SortPairTableBytes));
+    if (table == nullptr) {
+        ErrorBoxShow(FailureNoMemory, 0, nullptr, 0, 0, 0, nullptr);
+        return bSuccess;
+    }
+    const u32 count = GatherPairs(board, table);
+    TraceNumbers(board, "----------------------------------------, BEFORE\n");
+    SortComColumn(table, count);
+    AssignNewNumbers(board, table, count);
+    TraceNumbers(board, "----------------------------------------, AFTER\n");
+    if (AnyNeedsMove(board, __func__)) {
+        MovePorts(dialog, board, __func__);
+        board->ChlListChanged = true;
+    }
+    LocalFree(table);
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
+}
