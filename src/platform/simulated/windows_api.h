@@ -25,6 +25,7 @@ using UINT = std::uint32_t;
 using LONG = std::int32_t;
 using ULONG = std::uint32_t;
 using DWORD = std::uint32_t;
+using LONG64 = std::int64_t;
 using ULONGLONG = std::uint64_t;
 using INT_PTR = std::intptr_t;
 using UINT_PTR = std::uintptr_t;
@@ -464,6 +465,7 @@ int MessageBoxW(HWND owner, LPCWSTR text, LPCWSTR caption, UINT style);
 HWND GetWindow(HWND window, UINT relation);
 int GetClassNameW(HWND window, LPWSTR buffer, int capacity);
 BOOL GetWindowRect(HWND window, RECT* rectangle);
+BOOL MapDialogRect(HWND dialog, RECT* rectangle); // dialog units to those of GetWindowRect
 BOOL IsWindow(HWND window);
 BOOL IsWindowVisible(HWND window);
 BOOL IsWindowEnabled(HWND window);
