@@ -11,6 +11,7 @@
 #pragma once
 
 #include <array>
+#include <concepts>
 #include <functional>
 #include <map>
 #include <memory>
@@ -46,24 +47,24 @@ struct Values {
 };
 
 struct Device {
-    Text instance_id;                  // "PCI\VEN_...\3&11583659&0&20", the place below Enum
-    Text class_name;                   // "Ports", may be empty
+    Text instance_id; // "PCI\VEN_...\3&11583659&0&20", the place below Enum
+    Text class_name;  // "Ports", may be empty
     std::optional<GUID> class_guid;
-    std::optional<Text> description;   // what SPDRP_DEVICEDESC gives
+    std::optional<Text> description; // what SPDRP_DEVICEDESC gives
     std::optional<Text> friendly_name;
-    bool has_key = true;               // whether "Device Parameters" exists
-    bool access_denied = false;        // opening the hardware key with full access fails
-    bool remote = false;               // its set belongs to another machine
-    Values key;                        // the hardware key, the device store
-    DWORD install_flags = 0;           // SP_DEVINSTALL_PARAMS_W.Flags
+    bool has_key = true;        // whether "Device Parameters" exists
+    bool access_denied = false; // opening the hardware key with full access fails
+    bool remote = false;        // its set belongs to another machine
+    Values key;                 // the hardware key, the device store
+    DWORD install_flags = 0;    // SP_DEVINSTALL_PARAMS_W.Flags
 };
 
 // An interface of a device. The enumeration order of a class is the order in `Machine::interfaces`.
 struct Interface {
     GUID class_guid{};
-    Text path;                         // the symbolic link, "\\?\..."
-    std::size_t device = 0;            // index in `Machine::devices`
-    bool linked = true;                // present
+    Text path;              // the symbolic link, "\\?\..."
+    std::size_t device = 0; // index in `Machine::devices`
+    bool linked = true;     // present
 };
 
 // The usage of the COM numbers as the database keeps it: number n is bit (n - 1) % 8 of byte (n - 1) / 8.
@@ -82,18 +83,20 @@ enum class Reach {
 
 struct JournalEntry {
     Reach reach = Reach::Memory;
-    std::string name;   // the operation, "RegSetValueExW"
-    std::string detail; // the arguments that matter, UTF-8, as `journal` shows them
+    std::string_view name; // the operation, "RegSetValueExW"; a literal
+    std::string detail;    // the arguments that matter, UTF-8, as `journal` shows them
 };
 
-// Decides whether the operation at hand fails. Counts run from 1 and start anew with `Machine::faults = {}`.
+// Decides whether the operation at hand fails. A rule may look at the machine and its windows by the
+// operations of `windows_api.h` and may change the machine's data: that leaves no trace, as with an operator.
+// Counts run from 1 and start anew with `Machine::faults = {}`.
 struct FaultPlan {
-    std::optional<std::size_t> at;                              // the n-th operation of all
-    std::vector<std::pair<std::string, std::size_t>> at_call;   // the n-th call of a name; 0: each call
-    std::function<bool(const JournalEntry&)> when;              // any other rule
-    std::size_t count = 0;                                      // operations seen so far
+    std::optional<std::size_t> at;                            // the n-th operation of all
+    std::vector<std::pair<std::string, std::size_t>> at_call; // the n-th call of a name; 0: each call
+    std::function<bool(const JournalEntry&)> when;            // any other rule
+    std::size_t count = 0;                                    // operations seen so far
     std::map<std::string, std::size_t, std::less<>> count_by_name;
-    std::size_t hits = 0;                                       // operations failed so far
+    std::size_t hits = 0; // operations failed so far
 };
 
 // --- The person in front of the screen --------------------------------------------------------------------
@@ -101,8 +104,9 @@ struct FaultPlan {
 struct Machine;
 
 // Attend is called whenever a modal window waits for its user: a property sheet, a dialog, a message box. It
-// operates the windows by the operations of `windows_api.h` and comes back; it is called again until the window
-// has ended. A window that is still there after 10,000 calls is ended as if cancelled, with a line in `misuse`.
+// operates the windows by the operations of `windows_api.h` and comes back; it is called again until the
+// window has ended. A window that is still there after 10,000 calls is ended as if cancelled, with a line in
+// `misuse`.
 using Operator = std::function<void(HWND front)>;
 
 // A message box that was shown, in the order in which they ended.
@@ -126,6 +130,7 @@ struct Machine {
     LANGID language = 1033; // a language without resources falls back as Windows does, at last to 1033
 
     std::vector<JournalEntry> journal;
+    bool journal_reads = true; // false: only Reach::Write is journaled, for long runs; all is counted
     FaultPlan faults;
     Operator user;
     std::vector<ShownBox> boxes;
@@ -153,24 +158,37 @@ private:
 };
 
 // Journals an operation of the logic and asks the fault plan; true if it is to fail. Always false, without a
-// trace, while an operator is at work.
+// trace, while an operator is at work. The name is a literal (or __func__).
 bool Operation(Reach reach, std::string_view name, std::string detail = {});
 
-// A set with one device, such as the device manager passes in a provider's request. `data` is filled.
+// Whether the journal or a rule of the fault plan reads the details of such an operation now.
+bool DetailIsRead(Reach reach);
+
+// The same with a detail that is made only if it is read.
+template <std::invocable Detail> bool Operation(Reach reach, std::string_view name, const Detail& detail) {
+    return Operation(reach, name, DetailIsRead(reach) ? std::string(detail()) : std::string());
+}
+
+// A set with one device, such as the device manager passes in a provider's request. `data` is filled. The
+// caller closes it with SetupDiDestroyDeviceInfoList.
 HDEVINFO OpenDeviceSet(std::size_t device, SP_DEVINFO_DATA& data);
 
 // The instance handle that stands for the library's resources; for DllMain.
 HINSTANCE LibraryInstance();
 
-// --- The sheet: what the device manager does around a provider ------------------------------------------------
+// --- The sheet: what the device manager does around a provider --------------------------------------------
 
-// Runs a sheet with the given pages as a modal window until its user closes it: creates the pages (PSPCB_CREATE,
-// WM_INITDIALOG with the page description), sends PSN_SETACTIVE, PSN_APPLY, PSN_RESET as the buttons are pressed
-// and releases the pages at the end (PSPCB_RELEASE). Buttons: IDOK, IDCANCEL, ID_APPLY_NOW, by PSM_PRESSBUTTON or
-// a click; PSM_CHANGED enables Apply. The pages are used up. True if it ended by OK.
+// Runs a sheet with the given pages as a modal window until its user closes it: creates the pages
+// (PSPCB_CREATE, WM_INITDIALOG with the page description), sends PSN_SETACTIVE, PSN_APPLY, PSN_RESET as the
+// buttons are pressed and releases the pages at the end (PSPCB_RELEASE). Buttons: IDOK, IDCANCEL,
+// ID_APPLY_NOW, by PSM_PRESSBUTTON or a click; PSM_CHANGED enables Apply. The pages are used up. True if it
+// ended by OK.
 bool RunSheet(std::u16string_view title, const std::vector<HPROPSHEETPAGE>& pages);
 
-// --- Text ------------------------------------------------------------------------------------------------------
+// The style that a message box was opened with; 0 for any other window.
+UINT BoxStyle(HWND window);
+
+// --- Text -------------------------------------------------------------------------------------------------
 
 // Half a surrogate pair passes as it is, in the three-byte form.
 std::string ToUtf8(std::u16string_view text);
