@@ -1,7 +1,7 @@
 // What the host needs of the machine around it, and the whole of what differs between its two builds: on the
-// simulated machine `simulated/world.cpp` answers from a `sim::Machine`, on Windows `windows/world.cpp` from the
-// system itself. Everything else in this folder is the same code for both, and reads and operates windows by the
-// operations of `platform/platform.h`.
+// simulated machine `simulated/world.cpp` answers from a `sim::Machine`, on Windows `windows/world.cpp` from
+// the system itself. Everything else in this folder is the same code for both, and reads and operates windows
+// by the operations of `platform/platform.h`.
 #pragma once
 
 #include <array>
@@ -58,9 +58,9 @@ public:
     virtual PortRecords Ports() = 0;
 
     // Calls the provider of the device's kind and runs the sheet with its page; comes back when the sheet has
-    // closed, or at once when the provider gives no page. `attend` is called whenever a modal window waits for its
-    // user, message boxes included; it operates that window and comes back once it has ended or there is nothing
-    // left to do. False if there is no such device.
+    // closed, or at once when the provider gives no page. `attend` is called whenever a modal window waits
+    // for its user, message boxes included; it operates that window and comes back once it has ended or there
+    // is nothing left to do. False if there is no such device.
     virtual bool RunSheet(const std::string& id, const std::function<void(HWND front)>& attend) = 0;
 
     // What the library has changed outside itself since the last call, a line an operation:
@@ -79,9 +79,14 @@ public:
     // The style that a message box in front was opened with; 0 if `box` is none.
     virtual UINT BoxStyle(HWND box) = 0;
 
-    // Writes the machine as a registry export. False, with a reason in `error`, if the file can't be written or
-    // this world has no such form of itself.
+    // Writes the machine as a registry export. False, with a reason in `error`, if the file can't be written
+    // or this world has no such form of itself.
     virtual bool Export(const std::string& file, std::string& error) = 0;
 };
+
+// The world that the host works on. `file` is the registry export of the machine to simulate, empty for the
+// sample machine; a `language` of 0 leaves the machine's own. Null, with a reason in `error`, if it can't be
+// had.
+std::unique_ptr<World> OpenWorld(const std::string& file, LANGID language, std::string& error);
 
 } // namespace host

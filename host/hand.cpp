@@ -1,0 +1,67 @@
+#include "host/hand.h"
+
+#include <algorithm>
+
+#include "host/text.h"
+
+namespace host {
+namespace {
+
+std::string Told(const Control& control) {
+    const std::string caption = Shown(control.text);
+    return std::string{KindName(control.kind)} + ' ' +
+           (caption.empty() || control.kind == Kind::Combo ? std::to_string(control.id) : Quoted(caption));
+}
+
+void Require(const Control& control, std::initializer_list<Kind> kinds, const char* what) {
+    if (std::find(kinds.begin(), kinds.end(), control.kind) == kinds.end())
+        throw Refusal(Told(control) + " can't be " + what);
+    if (!control.enabled)
+        throw Refusal(Told(control) + " is disabled");
+}
+
+void TellParent(const Control& control, UINT message, WPARAM wParam) {
+    SendMessageW(GetParent(control.window), message, wParam, reinterpret_cast<LPARAM>(control.window));
+}
+
+} // namespace
+
+void Click(const Control& button_or_check) {
+    Require(button_or_check, {Kind::Button, Kind::Check}, "clicked");
+    SendMessageW(button_or_check.window, BM_CLICK, 0, 0);
+}
+
+void SetCheck(const Control& check, bool checked) {
+    Require(check, {Kind::Check}, "checked");
+    if (check.checked != checked)
+        Click(check);
+}
+
+void Pick(const Control& combo_or_list, std::string_view name) {
+    Require(combo_or_list, {Kind::Combo, Kind::List}, "picked from");
+    const int item = FindItem(combo_or_list, name);
+    const bool combo = combo_or_list.kind == Kind::Combo;
+    SendMessageW(combo_or_list.window, combo ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(item), 0);
+    TellParent(combo_or_list, WM_COMMAND,
+               MAKEWPARAM(combo_or_list.id, combo ? CBN_SELCHANGE : LBN_SELCHANGE));
+}
+
+void Slide(const Control& slider, long position) {
+    Require(slider, {Kind::Slider}, "slid");
+    if (position < slider.minimum || position > slider.maximum)
+        throw Refusal("the slider goes from " + std::to_string(slider.minimum) + " to " +
+                      std::to_string(slider.maximum));
+    SendMessageW(slider.window, TBM_SETPOS, TRUE, static_cast<LPARAM>(position));
+    TellParent(slider, WM_HSCROLL, MAKEWPARAM(TB_THUMBPOSITION, position));
+    TellParent(slider, WM_HSCROLL, MAKEWPARAM(TB_ENDTRACK, 0));
+}
+
+const Control& FindButton(const Window& window, int id) {
+    for (const Control& control : window.controls)
+        if (control.kind == Kind::Button && control.id == id &&
+            (window.kind != WindowKind::Sheet || control.of_frame))
+            return control;
+    throw Refusal("no such button in front");
+}
+
+} // namespace host

@@ -1,0 +1,19 @@
+// What a person's hand causes: the messages that follow from a click, a pick, a drag. Each operation throws
+// Refusal if a hand could not do it: the control is disabled, or is none of the kind. A modal window that
+// opens in consequence runs inside the operation.
+#pragma once
+
+#include "host/naming.h"
+
+namespace host {
+
+void Click(const Control& button_or_check);
+void SetCheck(const Control& check, bool checked);
+void Pick(const Control& combo_or_list, std::string_view item);
+// The position must be within the slider's range.
+void Slide(const Control& slider, long position);
+
+// The button with this number on a sheet, dialog or box.
+const Control& FindButton(const Window& window, int id);
+
+} // namespace host

@@ -1,0 +1,16 @@
+// The places that hold a port's number, side by side: what a rename must change together. Where one of them
+// does not agree with the port's name in its device store, ! stands behind it.
+#pragma once
+
+#include "host/listing.h"
+
+namespace host {
+
+// The number of a port's name: the digits behind the letters COM, without regard to case; 0 for any other
+// text.
+unsigned long PortNumber(std::string_view name);
+
+// A line a port, then the numbers that the COM port database has claimed though no device holds them.
+Lines PortsTable(World& world);
+
+} // namespace host

@@ -1,0 +1,72 @@
+// The windows on the screen, read into plain records: all that the drawing, the listing and the hand need, so
+// that none of them asks a window anything. A record is a picture of one moment and is read anew for each
+// use.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/platform.h"
+
+namespace host {
+
+// In dialog units, from the upper left corner of the dialog or page that the control stands on.
+struct Area {
+    int x = 0, y = 0, cx = 0, cy = 0;
+    int Middle() const { return y + cy / 2; }
+};
+
+enum class Kind { Group, Label, Button, Check, Combo, List, Table, Slider };
+
+// As the listing calls it.
+const char* KindName(Kind kind);
+
+struct TableColumn {
+    std::string title;
+    int cx = 0; // dialog units
+};
+
+// Texts are UTF-8. What does not belong to a control's kind is left as it is here.
+struct Control {
+    HWND window = nullptr;
+    int id = -1; // -1 for all that have none of their own
+    Kind kind = Kind::Label;
+    std::string text; // with its &
+    Area area;        // of a combo as it is closed
+    bool enabled = true;
+    bool of_frame = false; // a button of the sheet itself, not of its page
+    bool right_aligned = false;
+    bool checked = false;
+    int selection = -1; // of a combo or list
+    std::vector<std::string> items;
+    bool ticks = false;
+    int position = 0, minimum = 0, maximum = 0; // of a slider
+    std::vector<TableColumn> columns;
+    std::vector<std::vector<std::string>> rows;
+};
+
+enum class WindowKind { Sheet, Dialog, Box };
+
+struct Window {
+    HWND handle = nullptr;
+    WindowKind kind = WindowKind::Dialog;
+    std::string title;
+    std::string page;              // the title of the sheet's page
+    int cx = 0, cy = 0;            // of the dialog or the page, in dialog units
+    std::vector<Control> controls; // visible ones in tab order, the page's before the sheet's own
+};
+
+// `box` says that the window is a message box; a sheet is known by its page.
+Window ReadWindow(HWND window, bool box);
+
+// The captions of its buttons, as shown, with commas between them.
+std::string ButtonNames(const Window& window);
+
+// The text of a message box: its labels but the icon.
+std::string BoxText(const Window& box);
+
+// False once the window has ended, also if it is not yet destroyed.
+bool IsOpen(HWND window);
+
+} // namespace host
