@@ -103,8 +103,16 @@ Text FromUtf8(std::string_view utf8) {
 }
 
 bool EqualNoCase(std::u16string_view left, std::u16string_view right) {
-    return std::ranges::equal(left, right,
-                              [](char16_t a, char16_t b) { return a == b || Upper(a) == Upper(b); });
+    if (left.size() != right.size()) {
+        return false;
+    }
+    // From the end, since the names of a group begin alike.
+    for (std::size_t i = left.size(); i-- > 0;) {
+        if (left[i] != right[i] && Upper(left[i]) != Upper(right[i])) {
+            return false;
+        }
+    }
+    return true;
 }
 
 Text TextIn(const void* data, std::size_t bytes) {
