@@ -1,0 +1,51 @@
+// Push buttons, check boxes and group boxes: one class, as on Windows.
+#include <algorithm>
+
+#include "platform/simulated/window.h"
+
+namespace sim {
+namespace {
+
+struct Button : Window {
+    WPARAM check = BST_UNCHECKED;
+
+    Button() : Window(u"Button") {}
+
+    bool IsKind(DWORD kind) const { return (style & BS_TYPEMASK) == kind; }
+
+    void Click() {
+        if (IsKind(BS_GROUPBOX) || !IsShown() || !IsOpenToInput()) {
+            return;
+        }
+        Focus() = handle;
+        if (IsKind(BS_AUTOCHECKBOX)) {
+            check ^= BST_CHECKED;
+        }
+        parent->Answer(WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(handle));
+    }
+
+    LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam) override {
+        switch (message) {
+        case BM_GETCHECK:
+            return static_cast<LRESULT>(check);
+        case BM_SETCHECK:
+            if (IsKind(BS_AUTOCHECKBOX)) {
+                check = std::min<WPARAM>(wParam, BST_CHECKED);
+            }
+            return 0;
+        case BM_CLICK:
+            Click();
+            return 0;
+        default:
+            return Window::Answer(message, wParam, lParam);
+        }
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Window> MakeButton() {
+    return std::make_unique<Button>();
+}
+
+} // namespace sim
