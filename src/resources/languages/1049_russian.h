@@ -2,8 +2,8 @@
 //
 // For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h.
 // The letters behind & are Cyrillic, those of ОК too. The letter ё is written е, as Windows does. A text that
-// needs more room than the layout gives carries its own rectangle. On the board's page the captions before
-// the sliders stand in two lines, parted at a blank. The three buttons under the sliders fill their row.
+// needs more room than the layout gives carries its own rectangle. On the board's page a caption before a
+// slider stands in two lines, parted at a blank. The three buttons under the sliders fill their row.
 
 #define LANGUAGE_PRIMARY 0x19
 #define LANGUAGE_SUB 0x01

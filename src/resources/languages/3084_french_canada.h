@@ -2,9 +2,9 @@
 //
 // For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h.
 // The blank before a colon is a no-break space (U+00A0); ; and ? stand without one, as is the custom in
-// Canada. A text that needs more room than the layout gives carries its own rectangle. On the board's page
-// the captions before the sliders stand in two lines, parted at a blank. The three buttons under the sliders
-// fill their row.
+// Canada. A text that needs more room than the layout gives carries its own rectangle. On the board's page a
+// caption before a slider stands in two lines, parted at a blank. The three buttons under the sliders fill
+// their row.
 
 #define LANGUAGE_PRIMARY 0x0C
 #define LANGUAGE_SUB 0x03
