@@ -1,7 +1,6 @@
 #include "host/interpreter.h"
 
 #include <algorithm>
-#include <cstring>
 #include <iterator>
 
 #include "host/drawing.h"
@@ -37,11 +36,13 @@ const Interpreter::Command Interpreter::commands_[] = {
 
 namespace {
 
+constexpr int apply_now = 0x3021; // the sheet's own Apply button, on every Windows
+
 constexpr struct {
     const char* word;
     int id;
 } answers[] = {{"yes", IDYES}, {"no", IDNO}, {"ok", IDOK}},
-  sheet_buttons[] = {{"ok", IDOK}, {"apply", ID_APPLY_NOW}, {"cancel", IDCANCEL}};
+  sheet_buttons[] = {{"ok", IDOK}, {"apply", apply_now}, {"cancel", IDCANCEL}};
 
 int IdOf(const auto& table, const std::string& word) {
     std::string words;
@@ -66,8 +67,7 @@ void Interpreter::Execute(const std::string& line) {
         return Fail("no command " + Quoted(words[0]) + "; help lists them");
     Words arguments;
     SplitWords(command->arguments, arguments);
-    const auto optional =
-        static_cast<std::size_t>(std::count(command->arguments, std::strchr(command->arguments, 0), '['));
+    const std::size_t optional = std::string_view{command->arguments}.find('[') != std::string_view::npos;
     if (words.size() > arguments.size() + 1 || words.size() + optional < arguments.size() + 1)
         return Fail(std::string{"right is: "} + command->name + ' ' + command->arguments);
     try {

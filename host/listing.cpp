@@ -43,10 +43,10 @@ std::string Told(const StoreValue& value) {
         return text;
     }
     // A text is told as such only if nothing of it is lost by that.
-    const std::string text = TextOf(value);
+    const Text text = TextIn(value.data);
     if ((value.type == REG_SZ || value.type == REG_EXPAND_SZ) &&
-        value.data.size() == (FromUtf8(text).size() + 1) * sizeof(WCHAR))
-        return Quoted(text);
+        value.data.size() == (text.size() + 1) * sizeof(WCHAR))
+        return Quoted(ToUtf8(text));
     return Hexadecimal(value.data);
 }
 
@@ -86,11 +86,15 @@ const StoreValue* FindValue(const std::vector<StoreValue>& store, std::string_vi
     return nullptr;
 }
 
-std::string TextOf(const StoreValue& value) {
-    Text text(value.data.size() / sizeof(WCHAR), 0);
+Text TextIn(const std::vector<BYTE>& data) {
+    Text text(data.size() / sizeof(WCHAR), 0);
     if (!text.empty())
-        std::memcpy(text.data(), value.data.data(), text.size() * sizeof(WCHAR));
-    return ToUtf8(std::basic_string_view<WCHAR>{text}.substr(0, text.find(WCHAR{0})));
+        std::memcpy(text.data(), data.data(), text.size() * sizeof(WCHAR));
+    return text.substr(0, text.find(WCHAR{0}));
+}
+
+std::string TextOf(const StoreValue& value) {
+    return ToUtf8(TextIn(value.data));
 }
 
 bool NumberOf(const StoreValue& value, unsigned long& number) {

@@ -16,7 +16,8 @@ std::string NameOf(const Device& device);
 
 // A value of a device's store by its name, without regard to case; null if there is none.
 const StoreValue* FindValue(const std::vector<StoreValue>& store, std::string_view name);
-// The text of a value up to its terminator or its end.
+// The text in a value's bytes, up to its terminator or their end.
+Text TextIn(const std::vector<BYTE>& data);
 std::string TextOf(const StoreValue& value);
 // A value of exactly four bytes.
 bool NumberOf(const StoreValue& value, unsigned long& number);
