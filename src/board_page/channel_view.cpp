@@ -1,0 +1,97 @@
+#include "board_page/channel_view.h"
+
+#include "board_page/fifo_settings.h"
+#include "board_page/resource_list.h"
+#include "com_numbers/com_port_database.h"
+#include "device_model/channel_list.h"
+#include "fifo_controls/label_text.h"
+#include "reporting/trace.h"
+#include "resources/resource_ids.h"
+
+namespace {
+
+constexpr u32 PollingCycleSeconds = 5;
+
+void FormatChannelLine(const BPPCHL* chl, WCHAR* line, u32 capacity) {
+    const ChannelInfo& info = chl->CurrentInfo;
+    const u32 number = info.ChlBasic.ChlNumber;
+    switch (chl->Class) {
+    case ClassUart:
+        FormatText(line, capacity, TEXT("%ws (port%d)"), info.Uart.PortName, number);
+        break;
+    case ClassDio:
+        FormatText(line, capacity, TEXT("DIO (port%d)"), number);
+        break;
+    case ClassMcp251x:
+        FormatText(line, capacity, TEXT("%ws (port%d)"), info.Mcp251x.Mcp251xName, number);
+        break;
+    case ClassMcp251xFd:
+        FormatText(line, capacity, TEXT("%ws (port%d)"), info.Mcp251xFd.Mcp251xFdName, number);
+        break;
+    case ClassCan:
+        FormatText(line, capacity, TEXT("CAN (port%d)"), number);
+        break;
+    }
+}
+
+void Select(HWND hDlg, u32 index) {
+    const HWND list = GetDlgItem(hDlg, IDC_PORT_LIST);
+    SetFocus(list);
+    SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(static_cast<INT>(index)), 0);
+}
+
+// A combo with one text in it, which the user can't change.
+void ShowFixedCombo(HWND hDlg, int combo, int caption, const WCHAR* text) {
+    SendDlgItemMessageW(hDlg, combo, CB_RESETCONTENT, 0, 0);
+    SendDlgItemMessageW(hDlg, combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+    SendDlgItemMessageW(hDlg, combo, CB_SETCURSEL, 0, 0);
+    EnableWindow(GetDlgItem(hDlg, caption), FALSE);
+    EnableWindow(GetDlgItem(hDlg, combo), FALSE);
+}
+
+void ShowPollingCycle(HWND hDlg) {
+    WCHAR text[ControlTextCapacity];
+    FormatText(text, ARRAYSIZE(text), TEXT("%d"), PollingCycleSeconds);
+    ShowFixedCombo(hDlg, IDC_POLLING_CYCLE, IDC_POLLING_CYCLE_CAPTION, text);
+}
+
+void ShowPortNumber(HWND hDlg, const BPPCHL* chl) {
+    if (chl != nullptr && chl->Class == ClassUart) {
+        SendDlgItemMessageW(hDlg, IDC_PORT_NUMBER, CB_RESETCONTENT, 0, 0);
+        Kavro_COMPortFillPortNameCombox(hDlg, chl->CurrentInfo.Uart.PortName);
+    } else {
+        ShowFixedCombo(hDlg, IDC_PORT_NUMBER, IDC_PORT_NUMBER_CAPTION, TEXT("NONE"));
+    }
+}
+
+} // namespace
+
+u32 SelectedChannel(HWND hDlg) {
+    return static_cast<u32>(SendDlgItemMessageW(hDlg, IDC_PORT_LIST, LB_GETCURSEL, 0, 0));
+}
+
+void _FillChannelList(HWND hDlg, const BoardParams* params) {
+    TraceOut("----> %s( )\n", __func__);
+    const HWND list = GetDlgItem(hDlg, IDC_PORT_LIST);
+    SendMessageW(list, LB_RESETCONTENT, 0, 0);
+    u32 position = 0;
+    for (BPPCHL* chl = params->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
+        WCHAR line[ControlTextCapacity];
+        FormatChannelLine(chl, line, ARRAYSIZE(line));
+        chl->ListIndex = position++;
+        SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line));
+    }
+    TraceOut("<---- %s\n", __func__);
+}
+
+void _ChlListSelectChange(HWND hDlg, BoardParams* params, u32 index) {
+    TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
+    Select(hDlg, index);
+    BPPCHL* chl = BoardChlByListIndex(params, index);
+    _FillResourceList(hDlg, chl);
+    _RefreshFifoControls(hDlg, chl);
+    ShowPollingCycle(hDlg);
+    ShowPortNumber(hDlg, chl);
+    Select(hDlg, index);
+    TraceOut("<---- %s\n", __func__);
+}

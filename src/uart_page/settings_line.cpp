@@ -1,0 +1,116 @@
+#include "uart_page/settings_line.h"
+
+#include "reporting/text_operations.h"
+
+const u32 BaudRateTable[22] = {75,   110,   134,   150,   300,   600,    1200,   1800,   2400,   4800,   7200,
+                               9600, 14400, 19200, 38400, 57600, 115200, 128000, 230400, 460800, 921600, 0};
+const WORD DataBitsTable[6] = {4, 5, 6, 7, 8, 0};
+
+namespace {
+
+// The number of a line that names none, whatever the default line says.
+constexpr u32 MissingBaudIndex = 3;
+
+constexpr const WCHAR* ParitySuffixes[] = {TEXT(",e"), TEXT(",o"), TEXT(",n"), TEXT(",m"), TEXT(",s")};
+constexpr const WCHAR* DataBitsSuffixes[] = {TEXT(",4"), TEXT(",5"), TEXT(",6"), TEXT(",7"), TEXT(",8")};
+constexpr const WCHAR* StopBitsSuffixes[] = {TEXT(",1"), TEXT(",1.5"), TEXT(",2 ")};
+constexpr const WCHAR* FlowControlSuffixes[] = {TEXT(",x"), TEXT(",p"), TEXT(" ")};
+
+// What the first characters and fields mean, by index.
+constexpr const WCHAR* ParityLetters = TEXT("eonms");
+constexpr const WCHAR* DataBitsDigits = TEXT("45678");
+constexpr const WCHAR* FlowControlLetters = TEXT("xp");
+constexpr const WCHAR* StopBitsFields[] = {TEXT("1"), TEXT("1.5"), TEXT("2")};
+
+// Ends the field at the text's first comma; the place behind it, or the terminator without one.
+WCHAR* SplitField(WCHAR* text) {
+    WCHAR* comma = ScanComma(text, TEXT(","));
+    if (*comma == 0) {
+        return comma;
+    }
+    *comma = 0;
+    return comma + 1;
+}
+
+// The next field, trimmed; `rest` moves behind it.
+WCHAR* NextField(WCHAR*& rest) {
+    WCHAR* field = rest;
+    rest = SplitField(field);
+    TrimBlanks(field);
+    return field;
+}
+
+// The place of a field's first character among `letters`.
+u32 IndexOfFirst(const WCHAR* field, const WCHAR* letters, u32 fallback) {
+    for (u32 i = 0; field[0] != 0 && letters[i] != 0; ++i) {
+        if (letters[i] == field[0]) {
+            return i;
+        }
+    }
+    return fallback;
+}
+
+u32 IndexOfStopBits(const WCHAR* field) {
+    for (u32 i = 0; i < ARRAYSIZE(StopBitsFields); ++i) {
+        if (lstrcmpW(field, StopBitsFields[i]) == 0) {
+            return i;
+        }
+    }
+    return DefaultStopBitsIndex;
+}
+
+} // namespace
+
+void TrimBlanks(WCHAR* text) {
+    const WCHAR* first = text;
+    while (*first == TEXT(' ')) {
+        ++first;
+    }
+    u32 length = 0;
+    u32 kept = 0; // up to the last character that is no blank
+    for (; first[length] != 0; ++length) {
+        text[length] = first[length];
+        if (text[length] != TEXT(' ')) {
+            kept = length + 1;
+        }
+    }
+    text[kept] = 0;
+}
+
+WCHAR* ScanComma(WCHAR* text, const WCHAR* sep) {
+    for (; *text != 0; ++text) {
+        u32 matched = 0;
+        while (sep[matched] != 0 && text[matched] == sep[matched]) {
+            ++matched;
+        }
+        if (sep[matched] == 0) {
+            break;
+        }
+    }
+    return text;
+}
+
+PortSettings ParseSettingsLine(WCHAR* line, const WCHAR*& baudText) {
+    PortSettings settings = {};
+    WCHAR* rest = SplitField(line);
+    baudText = line;
+    settings.BaudRate = line[0] != 0 ? ParseDecimal(line) : BaudRateTable[MissingBaudIndex];
+    settings.ParityIndex = IndexOfFirst(NextField(rest), ParityLetters, DefaultParityIndex);
+    settings.DataBitsIndex = IndexOfFirst(NextField(rest), DataBitsDigits, DefaultDataBitsIndex);
+    settings.StopBitsIndex = IndexOfStopBits(NextField(rest));
+    settings.FlowControlIndex = IndexOfFirst(NextField(rest), FlowControlLetters, DefaultFlowControlIndex);
+    return settings;
+}
+
+void ComposeSettingsLine(WCHAR* line, u32 capacity, const PortSettings& settings) {
+    AppendText(line, capacity, ParitySuffixes[settings.ParityIndex]);
+    AppendText(line, capacity, DataBitsSuffixes[settings.DataBitsIndex]);
+    AppendText(line, capacity, StopBitsSuffixes[settings.StopBitsIndex]);
+    AppendText(line, capacity, FlowControlSuffixes[settings.FlowControlIndex]);
+}
+
+bool SamePortSettings(const PortSettings& left, const PortSettings& right) {
+    return left.BaudRate == right.BaudRate && left.ParityIndex == right.ParityIndex &&
+           left.DataBitsIndex == right.DataBitsIndex && left.StopBitsIndex == right.StopBitsIndex &&
+           left.FlowControlIndex == right.FlowControlIndex;
+}

@@ -1,0 +1,98 @@
+#include "uart_page/settings_storage.h"
+
+#include "reporting/text_operations.h"
+#include "reporting/trace.h"
+#include "resources/resource_ids.h"
+
+namespace {
+
+constexpr u32 ComposedLineCapacity = 260;
+constexpr WPARAM BaudTextCapacity = 18;
+
+// The four combos whose index is what the line keeps.
+struct IndexCombo {
+    int combo;
+    u32 PortSettings::* index;
+};
+constexpr IndexCombo IndexCombos[] = {
+    {IDC_PARITY, &PortSettings::ParityIndex},
+    {IDC_DATA_BITS, &PortSettings::DataBitsIndex},
+    {IDC_STOP_BITS, &PortSettings::StopBitsIndex},
+    {IDC_FLOW_CONTROL, &PortSettings::FlowControlIndex},
+};
+
+void MakeSettingsKey(WCHAR (&key)[SettingsKeyCapacity], const WCHAR* comName) {
+    CopyText(key, SettingsKeyCapacity, comName);
+    AppendText(key, SettingsKeyCapacity, TEXT(":"));
+}
+
+// The selections of the four combos; false if one has none.
+bool ReadSelections(HWND dialog, PortSettings& settings) {
+    for (const IndexCombo& combo : IndexCombos) {
+        const LRESULT selection = SendDlgItemMessageW(dialog, combo.combo, CB_GETCURSEL, 0, 0);
+        if (selection == CB_ERR || selection == CB_ERRSPACE) {
+            return false;
+        }
+        settings.*combo.index = static_cast<u32>(selection);
+    }
+    return true;
+}
+
+} // namespace
+
+void SelectBaudRate(HWND dialog, const WCHAR* text) {
+    const LRESULT found = SendDlgItemMessageW(dialog, IDC_BAUD_RATE, CB_FINDSTRING, static_cast<WPARAM>(-1),
+                                              reinterpret_cast<LPARAM>(text));
+    TraceOut("%s - Search baudrate index, shIndex:%d\n", __func__, static_cast<INT>(found));
+    SendDlgItemMessageW(dialog, IDC_BAUD_RATE, CB_SETCURSEL, found != CB_ERR ? static_cast<WPARAM>(found) : 0, 0);
+}
+
+void SelectSettings(HWND dialog, const PortSettings& settings) {
+    for (const IndexCombo& combo : IndexCombos) {
+        SendDlgItemMessageW(dialog, combo.combo, CB_SETCURSEL, settings.*combo.index, 0);
+    }
+}
+
+void _GetSettingsFromRegistryAndApplyToUI(HWND dialog, UartPageParams* params) {
+    WCHAR key[SettingsKeyCapacity];
+    MakeSettingsKey(key, params->ComName);
+    WCHAR szParms[SettingsLineCapacity] = {};
+    GetProfileStringW(TEXT("Ports"), key, TEXT(""), szParms, ARRAYSIZE(szParms));
+    TraceOut("%s - A, szParms:%ws, lstrlen(szParms):%d\n", __func__, szParms, lstrlenW(szParms));
+    TrimBlanks(szParms);
+    if (szParms[0] == 0) {
+        CopyText(szParms, ARRAYSIZE(szParms), DefaultSettingsLine);
+        WriteProfileStringW(TEXT("Ports"), key, szParms);
+    }
+    TraceOut("%s - B, szParms:%ws, m_szPorts:%ws, ComName:%ws\n", __func__, szParms, TEXT("Ports"), params->ComName);
+    const WCHAR* baudText = nullptr;
+    params->Saved = ParseSettingsLine(szParms, baudText);
+    TraceOut(baudText[0] != 0 ? "%s - BaudRate:%d, use selection\n" : "%s - BaudRate:%d, use default\n", __func__,
+             params->Saved.BaudRate);
+    SelectBaudRate(dialog, baudText);
+    SelectSettings(dialog, params->Saved);
+}
+
+bool _SaveSettings(HWND dialog, const UartPageParams* params) {
+    WCHAR szParms[ComposedLineCapacity] = {};
+    PortSettings settings = {};
+    if (SendDlgItemMessageW(dialog, IDC_BAUD_RATE, WM_GETTEXT, BaudTextCapacity, reinterpret_cast<LPARAM>(szParms)) ==
+        0) {
+        return false;
+    }
+    settings.BaudRate = ParseDecimal(szParms);
+    if (!ReadSelections(dialog, settings)) {
+        return false;
+    }
+    if (SamePortSettings(settings, params->Saved)) {
+        return true;
+    }
+    ComposeSettingsLine(szParms, ARRAYSIZE(szParms), settings);
+    TraceOut("%s - ComName:%ws, szParms:%ws\n", __func__, params->ComName, szParms);
+    WCHAR key[SettingsKeyCapacity];
+    MakeSettingsKey(key, params->ComName);
+    WriteProfileStringW(TEXT("Ports"), key, szParms);
+    SendNotifyMessageW(HWND_BROADCAST, WM_WININICHANGE, 0, reinterpret_cast<LPARAM>(TEXT("Ports")));
+    SetupDiCallClassInstaller(DIF_PROPERTYCHANGE, params->DeviceInfoSet, params->DeviceInfoData);
+    return true;
+}

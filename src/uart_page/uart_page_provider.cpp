@@ -1,0 +1,129 @@
+#include "uart_page/uart_page_provider.h"
+
+#include "device_model/device_store.h"
+#include "reporting/error_reporter.h"
+#include "reporting/module_entry.h"
+#include "reporting/trace.h"
+#include "resources/resource_ids.h"
+#include "uart_page/port_settings_page.h"
+#include "uart_page/uart_page_params.h"
+
+namespace {
+
+// What the driver publishes as `ChlType` of a UART.
+constexpr u32 ChlTypeUart = 1;
+
+void ReportFailure(u32 oerr, u32 serr, u32 channel) {
+    ErrorBoxShow(oerr, serr, nullptr, channel, 0, 0, nullptr);
+}
+
+void ReleaseUartParams(UartPageParams* params) {
+    if (params->AdvancedParams != nullptr) {
+        LocalFree(params->AdvancedParams);
+    }
+    LocalFree(params);
+}
+
+// Releases the records once the page is gone, however it went.
+UINT CALLBACK UartBasicDlgCallback(HWND, UINT message, LPPROPSHEETPAGEW page) {
+    TraceOut("----> %s( ), Message:%d\n", __func__, message);
+    UINT nReturn = 1;
+    switch (message) {
+    case PSPCB_CREATE:
+        TraceOut("%s - PSPCB_CREATE\n", __func__);
+        break;
+    case PSPCB_RELEASE:
+        TraceOut("%s - PSPCB_RELEASE\n", __func__);
+        ReleaseUartParams(reinterpret_cast<UartPageParams*>(page->lParam));
+        nReturn = 0;
+        break;
+    }
+    TraceOut("<---- %s, nReturn:%d\n", __func__, nReturn);
+    return nReturn;
+}
+
+// A set that doesn't tell whose it is counts as local.
+bool IsRemote(HDEVINFO set) {
+    SP_DEVINFO_LIST_DETAIL_DATA_W detail = {};
+    detail.cbSize = sizeof(detail);
+    return SetupDiGetDeviceInfoListDetailW(set, &detail) && detail.RemoteMachineHandle != nullptr;
+}
+
+bool _InitUartParams(UartPageParams* params, const SP_PROPSHEETPAGE_REQUEST* request) {
+    params->DeviceInfoSet = request->DeviceInfoSet;
+    params->DeviceInfoData = request->DeviceInfoData;
+    params->AdvancedParams = static_cast<UartAdvancedParams*>(LocalAlloc(LPTR, sizeof(UartAdvancedParams)));
+    if (params->AdvancedParams == nullptr) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return false;
+    }
+    params->ChangesEnabled = !IsRemote(params->DeviceInfoSet);
+    params->ShowAdvanced = params->ChangesEnabled;
+    params->AdvancedParams->DeviceInfoSet = params->DeviceInfoSet;
+    params->AdvancedParams->DeviceInfoData = params->DeviceInfoData;
+    return true;
+}
+
+HPROPSHEETPAGE _InitUartBasicSettingsPage(UartPageParams* params) {
+    PropertyPageDescription description = {};
+    PROPSHEETPAGEW& page = description.page;
+    page.dwSize = sizeof(description);
+    page.dwFlags = PSP_USECALLBACK;
+    page.hInstance = ModuleInstance;
+    page.pszTemplate = MAKEINTRESOURCEW(IDD_PORT_SETTINGS);
+    page.pfnDlgProc = UartBasicDlgProc;
+    page.lParam = reinterpret_cast<LPARAM>(params);
+    page.pfnCallback = UartBasicDlgCallback;
+    return CreatePropertySheetPageW(&page);
+}
+
+bool AddUartPage(const SP_PROPSHEETPAGE_REQUEST* request, LPFNADDPROPSHEETPAGE addPage, LPARAM addPageParam,
+                 UartPageParams* params) {
+    if (!_InitUartParams(params, request)) {
+        ReportFailure(FailureInitPort, 0, 0);
+        ReleaseUartParams(params);
+        return false;
+    }
+    const HPROPSHEETPAGE page = _InitUartBasicSettingsPage(params);
+    if (page == nullptr) {
+        ReportFailure(FailureCreatePage, 0, 0);
+        ReleaseUartParams(params);
+        return false;
+    }
+    if (addPage(page, addPageParam) != 1) {
+        ReportFailure(FailureAddPage, 0, 0);
+        DestroyPropertySheetPage(page);
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+extern "C" BOOL WINAPI KvrUartPropPageProvider(PSP_PROPSHEETPAGE_REQUEST request, LPFNADDPROPSHEETPAGE addPage,
+                                               LPARAM addPageParam) {
+    TraceOut("----> %s( )\n", __func__);
+    ChlBasicInfo basic = {};
+    const u32 sStatus = Kavro_RegChlGetBasic(request->DeviceInfoSet, request->DeviceInfoData, &basic);
+    if (sStatus != 0) {
+        ReportFailure(FailureChannelBasic, sStatus, 0);
+        return FALSE;
+    }
+    if (basic.ChlType != ChlTypeUart) {
+        ReportFailure(FailureNotComPort, 0, basic.ChlNumber);
+        return FALSE;
+    }
+    auto* params = static_cast<UartPageParams*>(LocalAlloc(LPTR, sizeof(UartPageParams)));
+    if (params == nullptr) {
+        ReportFailure(FailureNoMemory, 0, 0);
+        return FALSE;
+    }
+    bool bSuccess = true;
+    if (request->PageRequested == SPPSR_ENUM_ADV_DEVICE_PROPERTIES) {
+        bSuccess = AddUartPage(request, addPage, addPageParam, params);
+    } else {
+        LocalFree(params);
+    }
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
+}
