@@ -1,6 +1,5 @@
 // Message boxes: a dialog of the system's own with the text as a label and one or two buttons.
 #include <algorithm>
-#include <cstddef>
 
 #include "platform/simulated/window.h"
 
