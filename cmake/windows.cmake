@@ -38,3 +38,31 @@ target_link_options(kvrpagex64 PRIVATE
   -Wl,--subsystem,windows:6.1 -Wl,--image-base,0x180000000
   -Wl,--dynamicbase -Wl,--high-entropy-va -Wl,--nxcompat)
 target_link_libraries(kvrpagex64 PRIVATE gcc kernel32 user32 comctl32 advapi32 setupapi msports msvcrt)
+
+# --- The stand-in of the device manager, and the programs beside it -----------------------------------------------
+
+# What of the host's dependencies consists of headers only serves both builds: these two, and nothing else of the
+# machine's own headers.
+find_path(CLI11_HEADERS CLI/CLI.hpp PATHS /usr/include REQUIRED NO_CMAKE_FIND_ROOT_PATH)
+find_path(UTFCPP_HEADERS utf8.h PATHS /usr/include/utf8cpp /usr/include REQUIRED NO_CMAKE_FIND_ROOT_PATH)
+file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/headers)
+foreach(header ${CLI11_HEADERS}/CLI ${UTFCPP_HEADERS}/utf8 ${UTFCPP_HEADERS}/utf8.h)
+  get_filename_component(name ${header} NAME)
+  file(CREATE_LINK ${header} ${CMAKE_BINARY_DIR}/headers/${name} SYMBOLIC)
+endforeach()
+
+# Stands in for the system's own library where that has nothing to offer, and is never shipped.
+add_library(standin_msports SHARED host/windows/standins/msports.cpp host/windows/standins/msports.def)
+set_target_properties(standin_msports PROPERTIES PREFIX "" OUTPUT_NAME msports RUNTIME_OUTPUT_DIRECTORY standins
+                                                 ARCHIVE_OUTPUT_DIRECTORY standins)
+target_link_libraries(standin_msports PRIVATE kernel32 advapi32)
+
+file(GLOB HOST CONFIGURE_DEPENDS host/*.cpp host/windows/*.cpp host/windows/standins/*.cpp)
+list(FILTER HOST EXCLUDE REGEX "/(main|msports)\\.cpp$")
+add_library(host OBJECT ${HOST})
+target_include_directories(host PUBLIC ${CMAKE_SOURCE_DIR})
+target_include_directories(host SYSTEM PUBLIC ${CMAKE_BINARY_DIR}/headers)
+target_link_libraries(host PUBLIC kernel32 user32 gdi32 comctl32 advapi32 setupapi msports)
+
+add_executable(kvrhost host/main.cpp)
+target_link_libraries(kvrhost PRIVATE host)

@@ -1,0 +1,24 @@
+// What the library does to the world outside itself, seen at its import table and written down in the lines
+// of `World::Journal`. A call is written down before it is passed on, whatever comes of it.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/platform.h"
+
+namespace host {
+
+// Observes a library from here on. One library at a time.
+void Observe(HMODULE library);
+
+// The lines since the last call.
+std::vector<std::string> TakeJournal();
+
+// The style that an open message box was opened with, 0 if `box` is none.
+UINT OpenBoxStyle(HWND box);
+
+// The instance id of a device, UTF-8; empty if the set has no such device.
+std::string InstanceId(HDEVINFO set, SP_DEVINFO_DATA* data);
+
+} // namespace host
