@@ -11,7 +11,7 @@ namespace host {
 namespace {
 
 constexpr double columns_per_unit = 0.39; // a dialog of 257 units takes 100 columns
-constexpr double rows_per_unit = 1.0 / 8;
+constexpr double rows_per_unit = 1.0 / 7; // even spaces between what stands 21 units apart, as most does
 
 int ColumnAt(int x) {
     return static_cast<int>(std::lround(x * columns_per_unit));

@@ -11,7 +11,7 @@ constexpr const char* lines[] = {
     "# The board's page: its channels, and the FIFO settings of the one selected.",
     "open 1",
     "uncheck \"Enable large FIFO buffers\"",
-    "click 1041",
+    "click Apply",
     "journal",
     "# The electrical interface of the UART, and the sort of the board's numbers.",
     "click Advanced",
@@ -25,7 +25,7 @@ constexpr const char* lines[] = {
     "open 2",
     "pick \"Bits per second\" 115200",
     "sheet ok",
-    "journal",
+    "ports",
 };
 
 class Tour : public LineSource {

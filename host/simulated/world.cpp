@@ -139,22 +139,27 @@ struct OwnWorld : private Owned, SimulatedWorld {
 
 } // namespace
 
-std::unique_ptr<World> OpenWorld(const std::string& file, LANGID language, std::string& error) {
+bool OpenMachine(const std::string& file, sim::Machine& machine, std::string& error) {
     std::ifstream from_file;
     std::istringstream sample{std::string{SampleMachine()}};
     if (!file.empty()) {
         from_file.open(file, std::ios::binary);
         if (!from_file) {
             error = "can't open " + file;
-            return nullptr;
+            return false;
         }
     }
-    sim::Machine machine;
     Problem problem;
-    if (!LoadMachine(file.empty() ? static_cast<std::istream&>(sample) : from_file, file, machine, problem)) {
-        error = problem.text;
+    if (LoadMachine(file.empty() ? static_cast<std::istream&>(sample) : from_file, file, machine, problem))
+        return true;
+    error = problem.text;
+    return false;
+}
+
+std::unique_ptr<World> OpenWorld(const std::string& file, LANGID language, std::string& error) {
+    sim::Machine machine;
+    if (!OpenMachine(file, machine, error))
         return nullptr;
-    }
     if (language != 0)
         machine.language = language;
     return std::make_unique<OwnWorld>(std::move(machine));

@@ -6,6 +6,10 @@
 
 namespace host {
 
+// Reads the machine of a registry export, or the sample machine if `file` is empty. False with a reason in
+// `error`.
+bool OpenMachine(const std::string& file, sim::Machine& machine, std::string& error);
+
 class SimulatedWorld : public World {
 public:
     // Makes the machine current and loads the library; the machine must outlive the world, and no other be

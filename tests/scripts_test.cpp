@@ -1,0 +1,114 @@
+// The operator scripts: each tests/scripts/*.txt runs on a machine of its own, and its transcript must be the
+// one that is kept beside it. Comments at the top of a script say on which machine, from the root of the
+// project:
+//     # machine: host/machines/two_boards.reg
+//     # language: 1031
+// and one of this form anywhere makes the next call of an operation fail:
+//     # fail: DefineDosDeviceW
+// With KEEP_TRANSCRIPTS set in the environment the transcripts are written anew instead.
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include "host/interpreter.h"
+#include "host/simulated/world.h"
+
+namespace {
+
+const std::filesystem::path scripts = SOURCE_DIR "/tests/scripts";
+
+std::string ContentOf(const std::filesystem::path& file) {
+    std::ostringstream content;
+    content << std::ifstream(file, std::ios::binary).rdbuf();
+    return content.str();
+}
+
+std::vector<std::string> LinesOf(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back(line);
+    return lines;
+}
+
+// What stands behind "# name: " in a line, empty if the line is another.
+std::string Said(const std::string& line, const std::string& name) {
+    const std::string start = "# " + name + ": ";
+    return line.starts_with(start) ? line.substr(start.size()) : std::string{};
+}
+
+class Script : public host::LineSource {
+public:
+    Script(std::vector<std::string> lines, sim::Machine& machine)
+        : lines_(std::move(lines)), machine_(machine) {}
+
+    std::optional<std::string> Next(const std::string&) override {
+        if (next_ == lines_.size())
+            return {};
+        const std::string& line = lines_[next_++];
+        if (const std::string operation = Said(line, "fail"); !operation.empty())
+            machine_.faults.at_call.emplace_back(operation, machine_.faults.count_by_name[operation] + 1);
+        return line;
+    }
+
+private:
+    std::vector<std::string> lines_;
+    std::size_t next_ = 0;
+    sim::Machine& machine_;
+};
+
+std::vector<std::string> Names() {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(scripts))
+        if (entry.path().extension() == ".txt")
+            names.push_back(entry.path().stem().string());
+    std::ranges::sort(names);
+    return names;
+}
+
+class ScriptsTest : public testing::TestWithParam<std::string> {};
+
+TEST_P(ScriptsTest, RunsAsItsTranscriptTells) {
+    const std::vector<std::string> lines = LinesOf(ContentOf(scripts / (GetParam() + ".txt")));
+    std::string file;
+    sim::Machine machine;
+    const auto top_end = std::ranges::find_if(lines, [](const auto& line) { return !line.starts_with('#'); });
+    for (auto line = lines.begin(); line != top_end; ++line)
+        if (const std::string said = Said(*line, "machine"); !said.empty())
+            file = SOURCE_DIR "/" + said;
+    std::string error;
+    ASSERT_TRUE(host::OpenMachine(file, machine, error)) << error;
+    for (auto line = lines.begin(); line != top_end; ++line)
+        if (const std::string said = Said(*line, "language"); !said.empty())
+            machine.language = static_cast<LANGID>(std::stoi(said));
+
+    std::ostringstream out;
+    {
+        host::SimulatedWorld world(machine);
+        Script script(lines, machine);
+        host::Interpreter(world, script, out).Run();
+    }
+    EXPECT_TRUE(machine.open.empty());
+    EXPECT_EQ(machine.misuse, std::vector<std::string>{});
+
+    const std::filesystem::path kept = scripts / (GetParam() + ".out");
+    if (std::getenv("KEEP_TRANSCRIPTS")) {
+        std::ofstream(kept, std::ios::binary) << out.str();
+        return;
+    }
+    const std::vector<std::string> expected = LinesOf(ContentOf(kept)), got = LinesOf(out.str());
+    const auto [left, right] = std::ranges::mismatch(expected, got);
+    EXPECT_TRUE(left == expected.end() && right == got.end())
+        << kept.string() << ':' << left - expected.begin() + 1
+        << "\n  kept: " << (left == expected.end() ? "(end)" : *left)
+        << "\n  now:  " << (right == got.end() ? "(end)" : *right);
+}
+
+INSTANTIATE_TEST_SUITE_P(Scripts, ScriptsTest, testing::ValuesIn(Names()),
+                         [](const auto& test) { return test.param; });
+
+} // namespace
