@@ -1,9 +1,10 @@
 // Chinese (traditional, Taiwan).
 //
-// For translators: the terms are those of the device manager (連接埠, 每秒傳輸位元, 同位檢查, 緩衝區). The letter that
-// reaches a control by the keyboard stands as (&X) behind the text, before a colon or dots: one at most in a text,
-// no letter twice in one dialog. %d is a number and %s a port name, put in at run time: keep them. Commas in the
-// lists are ASCII; sentences have Chinese punctuation. \r is a line end. The file is UTF-8.
+// For translators: the terms are those of the device manager (連接埠, 每秒傳輸位元, 同位檢查, 緩衝區). The
+// letter that reaches a control by the keyboard stands as (&X) behind the text, before a colon or dots: one
+// at most in a text, no letter twice in one dialog. %d is a number and %s a port name, put in at run time:
+// keep them. Commas in the lists are ASCII; sentences have Chinese punctuation. \r is a line end. The file is
+// UTF-8.
 
 #define LANGUAGE_PRIMARY 0x04
 #define LANGUAGE_SUB 0x01
@@ -23,8 +24,8 @@
 #define PORT_SETTINGS_ADVANCED "進階(&A)..."
 #define PORT_SETTINGS_RESTORE "還原預設值(&R)"
 
-// The dialog behind "進階..." of a COM port. The title shows only where string 19 is missing. The number of bytes
-// in %d has up to five digits; those of "低" and "高" up to three.
+// The dialog behind "進階..." of a COM port. The title shows only where string 19 is missing. The number of
+// bytes in %d has up to five digits; those of "低" and "高" up to three.
 #define ADVANCED_PORT_SETTINGS "進階連接埠設定"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "啟用 %d 位元組 FIFO 緩衝區(&E)"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION "接收緩衝區(&R):"
@@ -63,8 +64,8 @@
 #define PORT_CONTROL_PORT_NUMBER_RECT INSTEAD(81, 216, 90, 90)
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION "LPT 輪詢週期 (秒):"
 
-// The dialog behind "進階..." of the board. ACS is a function of the RS-485 driver; 終端電阻 is the resistor that
-// terminates the line.
+// The dialog behind "進階..." of the board. ACS is a function of the RS-485 driver; 終端電阻 is the resistor
+// that terminates the line.
 #define ADVANCED_PORT_CONTROL "進階連接埠控制"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "UART 功能"
 #define ADVANCED_PORT_CONTROL_SORT_COM "UART 排序"
@@ -90,8 +91,8 @@
 #define STRING_BOX_CAPTION "通訊連接埠內容"
 #define STRING_RENAME_FAILED "重新命名 COM 連接埠時發生錯誤。"
 
-// Lists: the first character separates the items, and their order carries meaning. Even, odd, none, mark, space;
-// one, one and a half and two stop bits (the same text in every language); Xon / Xoff, hardware, none.
+// Lists: the first character separates the items, and their order carries meaning. Even, odd, none, mark,
+// space; one, one and a half and two stop bits (the same text in every language); Xon / Xoff, hardware, none.
 #define STRING_PARITY_LIST ",偶數,奇數,無,標記,空格"
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,硬體,無"

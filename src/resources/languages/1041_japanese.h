@@ -1,10 +1,10 @@
 // Japanese.
 //
 // For translators: the terms are those of the device manager, with a half-width blank between the parts of a
-// katakana compound (データ ビット) and the long vowel mark in バッファー. The letter that reaches a control by the
-// keyboard stands as (&X) behind the text, before a colon or dots: one at most in a text, no letter twice in one
-// dialog. %d is a number and %s a port name, put in at run time: keep them. Commas in the lists are ASCII. \r is a
-// line end. The file is UTF-8.
+// katakana compound (データ ビット) and the long vowel mark in バッファー. The letter that reaches a control
+// by the keyboard stands as (&X) behind the text, before a colon or dots: one at most in a text, no letter
+// twice in one dialog. %d is a number and %s a port name, put in at run time: keep them. Commas in the lists
+// are ASCII. \r is a line end. The file is UTF-8.
 
 #define LANGUAGE_PRIMARY 0x11
 #define LANGUAGE_SUB 0x01
@@ -22,10 +22,12 @@
 #define PORT_SETTINGS_FLOW_CONTROL_CAPTION "フロー制御(&F):"
 #define PORT_SETTINGS_FLOW_CONTROL_CAPTION_RECT INSTEAD(40, 102, 98, 8)
 #define PORT_SETTINGS_ADVANCED "詳細設定(&A)..."
+#define PORT_SETTINGS_ADVANCED_RECT INSTEAD(112, 130, 67, 14)
 #define PORT_SETTINGS_RESTORE "既定値に戻す(&R)"
+#define PORT_SETTINGS_RESTORE_RECT INSTEAD(183, 130, 67, 14)
 
-// The dialog behind "詳細設定..." of a COM port. The title shows only where string 19 is missing. The number of
-// bytes in %d has up to five digits; those of "低" and "高" up to three.
+// The dialog behind "詳細設定..." of a COM port. The title shows only where string 19 is missing. The number
+// of bytes in %d has up to five digits; those of "低" and "高" up to three.
 #define ADVANCED_PORT_SETTINGS "ポートの詳細設定"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "%d バイトの FIFO バッファーを有効にする(&E)"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO_RECT INSTEAD(23, 23, 240, 10)
@@ -50,23 +52,23 @@
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 165, 12)
 #define PORT_CONTROL_ADVANCED "詳細設定(&V)..."
 #define PORT_CONTROL_RECEIVE_CAPTION "受信バッファー(&R):"
-#define PORT_CONTROL_RECEIVE_CAPTION_RECT INSTEAD(16, 115, 69, 10)
+#define PORT_CONTROL_RECEIVE_CAPTION_RECT INSTEAD(16, 115, 72, 10)
 #define PORT_CONTROL_RECEIVE_LOW "低"
-#define PORT_CONTROL_RECEIVE_LOW_RECT INSTEAD(87, 115, 25, 10)
+#define PORT_CONTROL_RECEIVE_LOW_RECT INSTEAD(89, 115, 26, 10)
 #define PORT_CONTROL_RECEIVE_SLIDER_RECT INSTEAD(115, 113, 90, 18)
 #define PORT_CONTROL_RECEIVE_HIGH "高"
 #define PORT_CONTROL_TRANSMIT_CAPTION "送信バッファー(&T):"
-#define PORT_CONTROL_TRANSMIT_CAPTION_RECT INSTEAD(16, 139, 69, 10)
+#define PORT_CONTROL_TRANSMIT_CAPTION_RECT INSTEAD(16, 139, 72, 10)
 #define PORT_CONTROL_TRANSMIT_LOW "低"
-#define PORT_CONTROL_TRANSMIT_LOW_RECT INSTEAD(87, 139, 25, 10)
+#define PORT_CONTROL_TRANSMIT_LOW_RECT INSTEAD(89, 139, 26, 10)
 #define PORT_CONTROL_TRANSMIT_SLIDER_RECT INSTEAD(115, 136, 90, 18)
 #define PORT_CONTROL_TRANSMIT_HIGH "高"
 #define PORT_CONTROL_APPLY "適用(&A)"
-#define PORT_CONTROL_APPLY_RECT INSTEAD(35, 165, 66, 14)
+#define PORT_CONTROL_APPLY_RECT INSTEAD(33, 165, 68, 14)
 #define PORT_CONTROL_SET_TO_ALL "すべてに適用(&S)"
-#define PORT_CONTROL_SET_TO_ALL_RECT INSTEAD(107, 165, 66, 14)
+#define PORT_CONTROL_SET_TO_ALL_RECT INSTEAD(105, 165, 68, 14)
 #define PORT_CONTROL_RESTORE "既定値に戻す(&D)"
-#define PORT_CONTROL_RESTORE_RECT INSTEAD(179, 165, 66, 14)
+#define PORT_CONTROL_RESTORE_RECT INSTEAD(177, 165, 68, 14)
 #define PORT_CONTROL_PORT_NUMBER_CAPTION "ポート番号(&P):"
 #define PORT_CONTROL_PORT_NUMBER_CAPTION_RECT INSTEAD(16, 218, 62, 8)
 #define PORT_CONTROL_PORT_NUMBER_RECT INSTEAD(81, 216, 90, 90)
@@ -74,8 +76,8 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 96, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(115, 193, 72, 90)
 
-// The dialog behind "詳細設定..." of the board. ACS is a function of the RS-485 driver; 終端抵抗 is the resistor
-// that terminates the line.
+// The dialog behind "詳細設定..." of the board. ACS is a function of the RS-485 driver; 終端抵抗 is the
+// resistor that terminates the line.
 #define ADVANCED_PORT_CONTROL "ポート制御の詳細設定"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "UART 機能"
 #define ADVANCED_PORT_CONTROL_SORT_COM "UART の並べ替え"
@@ -101,8 +103,8 @@
 #define STRING_BOX_CAPTION "通信ポートのプロパティ"
 #define STRING_RENAME_FAILED "COM ポートの名前を変更中にエラーが発生しました。"
 
-// Lists: the first character separates the items, and their order carries meaning. Even, odd, none, mark, space;
-// one, one and a half and two stop bits (the same text in every language); Xon / Xoff, hardware, none.
+// Lists: the first character separates the items, and their order carries meaning. Even, odd, none, mark,
+// space; one, one and a half and two stop bits (the same text in every language); Xon / Xoff, hardware, none.
 #define STRING_PARITY_LIST ",偶数,奇数,なし,マーク,スペース"
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,ハードウェア,なし"

@@ -1,9 +1,10 @@
 // Korean.
 //
-// For translators: the terms are those of the device manager (비트/초, 패리티, 흐름 제어, 버퍼). The letter that reaches
-// a control by the keyboard stands as (&X) behind the text, before a colon or dots: one at most in a text, no letter
-// twice in one dialog. %d is a number and %s a port name, put in at run time: keep them, and let no particle follow
-// them whose form depends on the sound before it. \r is a line end. The file is UTF-8.
+// For translators: the terms are those of the device manager (비트/초, 패리티, 흐름 제어, 버퍼). The letter
+// that reaches a control by the keyboard stands as (&X) behind the text, before a colon or dots: one at most
+// in a text, no letter twice in one dialog. %d is a number and %s a port name, put in at run time: keep them,
+// and let no particle follow them whose form depends on the sound before it. \r is a line end. The file is
+// UTF-8.
 
 #define LANGUAGE_PRIMARY 0x12
 #define LANGUAGE_SUB 0x01
@@ -25,18 +26,20 @@
 #define PORT_SETTINGS_RESTORE "기본값 복원(&R)"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(181, 130, 69, 14)
 
-// The dialog behind "고급..." of a COM port. The title shows only where string 19 is missing. The number of bytes
-// in %d has up to five digits; those of "낮음" and "높음" up to three.
+// The dialog behind "고급..." of a COM port. The title shows only where string 19 is missing. The number of
+// bytes in %d has up to five digits; those of "낮음" and "높음" up to three.
 #define ADVANCED_PORT_SETTINGS "고급 포트 설정"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "%d바이트 FIFO 버퍼 사용(&E)"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION "수신 버퍼(&R):"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION_RECT INSTEAD(23, 53, 70, 10)
 #define ADVANCED_PORT_SETTINGS_RECEIVE_LOW "낮음(%d)"
+#define ADVANCED_PORT_SETTINGS_RECEIVE_LOW_RECT INSTEAD(95, 53, 38, 10)
 #define ADVANCED_PORT_SETTINGS_RECEIVE_HIGH "높음(%d)"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_HIGH_RECT INSTEAD(257, 53, 40, 10)
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_CAPTION "전송 버퍼(&T):"
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_CAPTION_RECT INSTEAD(23, 79, 70, 10)
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_LOW "낮음(%d)"
+#define ADVANCED_PORT_SETTINGS_TRANSMIT_LOW_RECT INSTEAD(95, 79, 38, 10)
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_HIGH "높음(%d)"
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_HIGH_RECT INSTEAD(257, 79, 40, 10)
 #define ADVANCED_PORT_SETTINGS_PORT_NUMBER_CAPTION "COM 포트 번호(&P):"
@@ -74,8 +77,8 @@
 #define PORT_CONTROL_PORT_NUMBER_RECT INSTEAD(77, 216, 90, 90)
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION "LPT 폴링 주기(초):"
 
-// The dialog behind "고급..." of the board. ACS is a function of the RS-485 driver; 종단 저항 is the resistor that
-// terminates the line.
+// The dialog behind "고급..." of the board. ACS is a function of the RS-485 driver; 종단 저항 is the resistor
+// that terminates the line.
 #define ADVANCED_PORT_CONTROL "고급 포트 제어"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "UART 기능"
 #define ADVANCED_PORT_CONTROL_SORT_COM "UART 정렬"
@@ -101,8 +104,8 @@
 #define STRING_BOX_CAPTION "통신 포트 속성"
 #define STRING_RENAME_FAILED "COM 포트의 이름을 바꾸는 동안 오류가 발생했습니다."
 
-// Lists: the first character separates the items, and their order carries meaning. Even, odd, none, mark, space;
-// one, one and a half and two stop bits (the same text in every language); Xon / Xoff, hardware, none.
+// Lists: the first character separates the items, and their order carries meaning. Even, odd, none, mark,
+// space; one, one and a half and two stop bits (the same text in every language); Xon / Xoff, hardware, none.
 #define STRING_PARITY_LIST ",짝수,홀수,없음,표시,공백"
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,하드웨어,없음"

@@ -1,9 +1,9 @@
 // Thai.
 //
-// For translators: an & stands before the consonant that reaches the control by the keyboard: one at most in a text,
-// no consonant twice in one dialog, and never between a consonant and a mark above or below it. %d is a number and
-// %s a port name, put in at run time: keep them. \r is a line end. The labels are 10 dialog units high for the marks
-// above and below the line. The file is UTF-8.
+// For translators: an & stands before the consonant that reaches the control by the keyboard: one at most in
+// a text, no consonant twice in one dialog, and never between a consonant and a mark above or below it. %d is
+// a number and %s a port name, put in at run time: keep them. \r is a line end. The labels are 10 dialog
+// units high for the marks above and below the line. The file is UTF-8.
 
 #define LANGUAGE_PRIMARY 0x1E
 #define LANGUAGE_SUB 0x01
@@ -23,8 +23,8 @@
 #define PORT_SETTINGS_ADVANCED "ขั้น&สูง..."
 #define PORT_SETTINGS_RESTORE "คืนค่าเริ่ม&ต้น"
 
-// The dialog behind "ขั้นสูง..." of a COM port. The title shows only where string 19 is missing. The number of bytes
-// in %d has up to five digits; those of "ต่ำ" and "สูง" up to three.
+// The dialog behind "ขั้นสูง..." of a COM port. The title shows only where string 19 is missing. The number
+// of bytes in %d has up to five digits; those of "ต่ำ" and "สูง" up to three.
 #define ADVANCED_PORT_SETTINGS "การตั้งค่าพอร์ตขั้นสูง"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "เ&ปิดใช้งานบัฟเฟอร์ FIFO ขนาด %d ไบต์"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO_RECT INSTEAD(23, 22, 240, 12)
@@ -38,7 +38,7 @@
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_HIGH "สูง (%d)"
 #define ADVANCED_PORT_SETTINGS_PORT_NUMBER_CAPTION "&หมายเลขพอร์ต COM:"
 #define ADVANCED_PORT_SETTINGS_PORT_NUMBER_CAPTION_RECT INSTEAD(13, 120, 82, 10)
-#define ADVANCED_PORT_SETTINGS_PORT_NUMBER_RECT INSTEAD(98, 118, 90, 90)
+#define ADVANCED_PORT_SETTINGS_PORT_NUMBER_RECT INSTEAD(98, 118, 100, 90)
 #define ADVANCED_PORT_SETTINGS_OK "ตกลง"
 #define ADVANCED_PORT_SETTINGS_CANCEL "ยกเลิก"
 #define ADVANCED_PORT_SETTINGS_RESTORE "ค่าเริ่ม&ต้น"
@@ -59,13 +59,13 @@
 #define PORT_CONTROL_RESTORE "คืนค่าเริ่ม&ต้น"
 #define PORT_CONTROL_PORT_NUMBER_CAPTION "&หมายเลขพอร์ต:"
 #define PORT_CONTROL_PORT_NUMBER_CAPTION_RECT INSTEAD(16, 218, 64, 10)
-#define PORT_CONTROL_PORT_NUMBER_RECT INSTEAD(83, 216, 90, 90)
+#define PORT_CONTROL_PORT_NUMBER_RECT INSTEAD(83, 216, 100, 90)
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION "รอบการโพล LPT (วินาที):"
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 98, 10)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(117, 193, 72, 90)
 
-// The dialog behind "ขั้นสูง..." of the board. ACS is a function of the RS-485 driver; ตัวต้านทานปลายสาย is the
-// resistor that terminates the line.
+// The dialog behind "ขั้นสูง..." of the board. ACS is a function of the RS-485 driver; ตัวต้านทานปลายสาย is
+// the resistor that terminates the line.
 #define ADVANCED_PORT_CONTROL "การควบคุมพอร์ตขั้นสูง"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "คุณลักษณะของ UART"
 #define ADVANCED_PORT_CONTROL_SORT_COM "เรียงลำดับ UART"
@@ -92,8 +92,8 @@
 #define STRING_BOX_CAPTION "คุณสมบัติของพอร์ตการสื่อสาร"
 #define STRING_RENAME_FAILED "เกิดข้อผิดพลาดขณะเปลี่ยนชื่อพอร์ต COM"
 
-// Lists: the first character separates the items, and their order carries meaning. Even, odd, none, mark, space;
-// one, one and a half and two stop bits (the same text in every language); Xon / Xoff, hardware, none.
+// Lists: the first character separates the items, and their order carries meaning. Even, odd, none, mark,
+// space; one, one and a half and two stop bits (the same text in every language); Xon / Xoff, hardware, none.
 #define STRING_PARITY_LIST ",คู่,คี่,ไม่มี,เครื่องหมาย,ช่องว่าง"
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,ฮาร์ดแวร์,ไม่มี"

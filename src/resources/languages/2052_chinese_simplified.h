@@ -1,9 +1,9 @@
 // Chinese (simplified).
 //
 // For translators: the terms are those of the device manager (端口, 每秒位数, 奇偶校验, 缓冲区). The letter
-// that reaches a control by the keyboard stands as (&X) behind the text, before a colon or dots: one at most in a
-// text, no letter twice in one dialog. %d is a number and %s a port name, put in at run time: keep them. Commas in
-// the lists are ASCII; sentences have Chinese punctuation. \r is a line end. The file is UTF-8.
+// that reaches a control by the keyboard stands as (&X) behind the text, before a colon or dots: one at most
+// in a text, no letter twice in one dialog. %d is a number and %s a port name, put in at run time: keep them.
+// Commas in the lists are ASCII; sentences have Chinese punctuation. \r is a line end. The file is UTF-8.
 
 #define LANGUAGE_PRIMARY 0x04
 #define LANGUAGE_SUB 0x02
@@ -18,8 +18,8 @@
 #define PORT_SETTINGS_ADVANCED "高级(&A)..."
 #define PORT_SETTINGS_RESTORE "还原默认值(&R)"
 
-// The dialog behind "高级..." of a COM port. The title shows only where string 19 is missing. The number of bytes
-// in %d has up to five digits; those of "低" and "高" up to three.
+// The dialog behind "高级..." of a COM port. The title shows only where string 19 is missing. The number of
+// bytes in %d has up to five digits; those of "低" and "高" up to three.
 #define ADVANCED_PORT_SETTINGS "高级端口设置"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "启用 %d 字节 FIFO 缓冲区(&E)"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION "接收缓冲区(&R):"
@@ -55,8 +55,8 @@
 #define PORT_CONTROL_PORT_NUMBER_CAPTION "端口号(&P):"
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION "LPT 轮询周期(秒):"
 
-// The dialog behind "高级..." of the board. ACS is a function of the RS-485 driver; 终端电阻 is the resistor that
-// terminates the line.
+// The dialog behind "高级..." of the board. ACS is a function of the RS-485 driver; 终端电阻 is the resistor
+// that terminates the line.
 #define ADVANCED_PORT_CONTROL "高级端口控制"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "UART 功能"
 #define ADVANCED_PORT_CONTROL_SORT_COM "UART 排序"
@@ -81,8 +81,8 @@
 #define STRING_BOX_CAPTION "通信端口属性"
 #define STRING_RENAME_FAILED "重命名 COM 端口时出错。"
 
-// Lists: the first character separates the items, and their order carries meaning. Even, odd, none, mark, space;
-// one, one and a half and two stop bits (the same text in every language); Xon / Xoff, hardware, none.
+// Lists: the first character separates the items, and their order carries meaning. Even, odd, none, mark,
+// space; one, one and a half and two stop bits (the same text in every language); Xon / Xoff, hardware, none.
 #define STRING_PARITY_LIST ",偶,奇,无,标志,空格"
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,硬件,无"
