@@ -13,7 +13,8 @@ namespace {
 constexpr u32 NotOffered = 0xFFFFFFFF;
 
 void SelectEntry(HWND hDlg, u32 position) {
-    SendDlgItemMessageW(hDlg, IDC_INTERFACE_SELECT, CB_SETCURSEL, static_cast<WPARAM>(static_cast<INT>(position)), 0);
+    SendDlgItemMessageW(hDlg, IDC_INTERFACE_SELECT, CB_SETCURSEL,
+                        static_cast<WPARAM>(static_cast<INT>(position)), 0);
 }
 
 u32 SelectedEntry(HWND hDlg) {
@@ -44,9 +45,10 @@ void ShowBoxes(HWND hDlg, const UartBasicInfo& uart, const UartMode* mode) {
     const u32 capability = uart.UartCapability;
     const bool hasTermination = mode != nullptr && HasAny(capability, mode->termination);
     const bool hasAcs = mode != nullptr && HasAny(capability, mode->acs);
-    const bool terminated = hasTermination &&
-                            ((HasAny(mode->termination, CapRS422Termination) && uart.UartRS422Termination != 0) ||
-                             (HasAny(mode->termination, CapRS485Termination) && uart.UartRS485Termination != 0));
+    const bool terminated =
+        hasTermination &&
+        ((HasAny(mode->termination, CapRS422Termination) && uart.UartRS422Termination != 0) ||
+         (HasAny(mode->termination, CapRS485Termination) && uart.UartRS485Termination != 0));
     SetBox(hDlg, IDC_TERMINATION_ENABLE, terminated, hasTermination);
     SetBox(hDlg, IDC_ACS_ENABLE, hasAcs && uart.UartCS != 0, hasAcs);
 }
@@ -65,10 +67,12 @@ bool _InitializeControls(HWND hDlg, BPPCHL* chl) {
     const UartBasicInfo& uart = chl->CurrentInfo.Uart;
     SendDlgItemMessageW(hDlg, IDC_INTERFACE_SELECT, CB_RESETCONTENT, 0, 0);
     for (const UartMode& mode : UartModes) {
-        chl->*mode.comboPos = HasAll(uart.UartCapability, mode.offered) ? AddEntry(hDlg, mode.text) : NotOffered;
+        chl->*mode.comboPos =
+            HasAll(uart.UartCapability, mode.offered) ? AddEntry(hDlg, mode.text) : NotOffered;
     }
-    TraceOut("%s - RS232ComboxPos:%d, RS422ComboxPos:%d, RS485ComboxPos:%d, AutoRS422485ComboxPos:%d\n", __func__,
-             chl->RS232ComboxPos, chl->RS422ComboxPos, chl->RS485ComboxPos, chl->AutoRS422485ComboxPos);
+    TraceOut("%s - RS232ComboxPos:%d, RS422ComboxPos:%d, RS485ComboxPos:%d, AutoRS422485ComboxPos:%d\n",
+             __func__, chl->RS232ComboxPos, chl->RS422ComboxPos, chl->RS485ComboxPos,
+             chl->AutoRS422485ComboxPos);
     EnableWindow(GetDlgItem(hDlg, IDC_SORT_COM), TRUE);
     const UartMode* mode = FindUartMode(uart.UartMode);
     if (mode != nullptr) {
@@ -221,6 +225,6 @@ INT_PTR CALLBACK BoardUartAdvancedDlgProc(HWND hDlg, UINT message, WPARAM wParam
 } // namespace
 
 void KvrBoardUartAdvancedDlgShow(HWND hParent, BPPCHL* channel) {
-    DialogBoxParamW(ModuleInstance, MAKEINTRESOURCEW(IDD_ADVANCED_PORT_CONTROL), hParent, BoardUartAdvancedDlgProc,
-                    reinterpret_cast<LPARAM>(channel));
+    DialogBoxParamW(ModuleInstance, MAKEINTRESOURCEW(IDD_ADVANCED_PORT_CONTROL), hParent,
+                    BoardUartAdvancedDlgProc, reinterpret_cast<LPARAM>(channel));
 }

@@ -3,6 +3,6 @@
 
 #include "device_model/board_params.h"
 
-// Runs the dialog for a UART, modally over `hParent`; comes back when it has closed. What its OK chose is stored by then,
-// and what Sort UART moved is in the records, with ChlListChanged of the board set.
+// Runs the dialog for a UART, modally over `hParent`; comes back when it has closed. What its OK chose is
+// stored by then, and what Sort UART moved is in the records, with ChlListChanged of the board set.
 void KvrBoardUartAdvancedDlgShow(HWND hParent, BPPCHL* channel);

@@ -7,14 +7,15 @@
 #include "com_numbers/port_rename.h"
 #include "com_numbers/port_settings_migration.h"
 #include "device_model/channel_list.h"
-#include "fifo_controls/fifo_controls.h"
+#include "page_parts/fifo_controls.h"
 #include "reporting/error_reporter.h"
 #include "reporting/trace.h"
 #include "resources/resource_ids.h"
 
 namespace {
 
-constexpr RenameFailureCodes RenameCodes = {FailureBoardNumberInUse, FailureBoardPortOpened, FailureBoardRemap};
+constexpr RenameFailureCodes RenameCodes = {FailureBoardNumberInUse, FailureBoardPortOpened,
+                                            FailureBoardRemap};
 
 // Null until the page has been initialised.
 BoardParams* PageParams(HWND hDlg) {
@@ -163,7 +164,7 @@ INT_PTR CALLBACK BoardBasicDlgProc(HWND hDlg, UINT message, WPARAM wParam, LPARA
         return _OnCommand(hDlg, LOWORD(wParam), HIWORD(wParam));
     case WM_HSCROLL:
         TraceOut("%s - WM_HSCROLL\n", __func__);
-        _OnHscroll(hDlg, PageParams(hDlg), reinterpret_cast<HWND>(lParam));
+        _OnHscroll(hDlg, PageParams(hDlg), SelectedChannel(hDlg), reinterpret_cast<HWND>(lParam));
         return true;
     case WM_NOTIFY:
         return _OnNotify(hDlg, lParam);

@@ -3,8 +3,8 @@
 #include "board_page/board_page_dialog.h"
 #include "device_model/board_discovery.h"
 #include "device_model/device_store.h"
+#include "page_parts/page_creation.h"
 #include "reporting/error_reporter.h"
-#include "reporting/module_entry.h"
 #include "reporting/trace.h"
 #include "resources/resource_ids.h"
 
@@ -46,45 +46,22 @@ bool _InitBoardParams(BoardParams* params, const SP_PROPSHEETPAGE_REQUEST* reque
     return BoardInitiate(params, status);
 }
 
-HPROPSHEETPAGE _InitBoardBasicSettingsPage(BoardParams* params) {
-    PropertyPageDescription description = {};
-    PROPSHEETPAGEW& page = description.page;
-    page.dwSize = sizeof(description);
-    page.dwFlags = PSP_USECALLBACK;
-    page.hInstance = ModuleInstance;
-    page.pszTemplate = MAKEINTRESOURCEW(IDD_PORT_CONTROL);
-    page.pfnDlgProc = BoardBasicDlgProc;
-    page.lParam = reinterpret_cast<LPARAM>(params);
-    page.pfnCallback = BoardBasicDlgCallback;
-    return CreatePropertySheetPageW(&page);
-}
-
-bool AddBoardPage(const SP_PROPSHEETPAGE_REQUEST* request, LPFNADDPROPSHEETPAGE addPage, LPARAM addPageParam,
-                  BoardParams* params) {
+bool _InitBoardBasicSettingsPage(const SP_PROPSHEETPAGE_REQUEST* request, LPFNADDPROPSHEETPAGE addPage,
+                                 LPARAM addPageParam, BoardParams* params) {
     u32 sStatus = 0;
     if (!_InitBoardParams(params, request, &sStatus)) {
         ReportFailure(FailureInitBoard, sStatus);
         ReleaseBoardParams(params);
         return false;
     }
-    const HPROPSHEETPAGE page = _InitBoardBasicSettingsPage(params);
-    if (page == nullptr) {
-        ReportFailure(FailureCreatePage, 0);
-        ReleaseBoardParams(params);
-        return false;
-    }
-    if (addPage(page, addPageParam) != 1) {
-        ReportFailure(FailureAddPage, 0);
-        DestroyPropertySheetPage(page);
-        return false;
-    }
-    return true;
+    return AddPropertyPage(IDD_PORT_CONTROL, BoardBasicDlgProc, BoardBasicDlgCallback, params, addPage,
+                           addPageParam);
 }
 
 } // namespace
 
-extern "C" BOOL WINAPI KvrBoardPropPageProvider(PSP_PROPSHEETPAGE_REQUEST request, LPFNADDPROPSHEETPAGE addPage,
-                                                LPARAM addPageParam) {
+extern "C" BOOL WINAPI KvrBoardPropPageProvider(PSP_PROPSHEETPAGE_REQUEST request,
+                                                LPFNADDPROPSHEETPAGE addPage, LPARAM addPageParam) {
     TraceOut("----> %s( )\n", __func__);
     BoardBasicInfo basic = {};
     const u32 sStatus = Kavro_RegBoardGetBasic(request->DeviceInfoSet, request->DeviceInfoData, &basic);
@@ -99,7 +76,7 @@ extern "C" BOOL WINAPI KvrBoardPropPageProvider(PSP_PROPSHEETPAGE_REQUEST reques
     }
     bool bSuccess = true;
     if (request->PageRequested == SPPSR_ENUM_ADV_DEVICE_PROPERTIES) {
-        bSuccess = AddBoardPage(request, addPage, addPageParam, params);
+        bSuccess = _InitBoardBasicSettingsPage(request, addPage, addPageParam, params);
     } else {
         LocalFree(params);
     }

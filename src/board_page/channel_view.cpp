@@ -4,7 +4,7 @@
 #include "board_page/resource_list.h"
 #include "com_numbers/com_port_database.h"
 #include "device_model/channel_list.h"
-#include "fifo_controls/label_text.h"
+#include "page_parts/label_text.h"
 #include "reporting/trace.h"
 #include "resources/resource_ids.h"
 

@@ -1,5 +1,5 @@
-// The channel list box and what follows its selection. The selection is the page's only record of which channel is
-// selected.
+// The channel list box and what follows its selection. The selection is the page's only record of which
+// channel is selected.
 #pragma once
 
 #include "device_model/board_params.h"
@@ -10,6 +10,6 @@ u32 SelectedChannel(HWND hDlg);
 // Fills the list box in ascending channel number, and tells each channel its position.
 void _FillChannelList(HWND hDlg, const BoardParams* params);
 
-// Makes a position the selected channel and brings the whole page into line with it; a position without a channel,
-// -1 for one, means none. What the controls held and the records don't is lost.
+// Makes a position the selected channel and brings the whole page into line with it; a position without a
+// channel, -1 for one, means none. What the controls held and the records don't is lost.
 void _ChlListSelectChange(HWND hDlg, BoardParams* params, u32 index);

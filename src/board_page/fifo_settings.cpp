@@ -1,9 +1,8 @@
 #include "board_page/fifo_settings.h"
 
-#include "board_page/channel_view.h"
 #include "device_model/channel_list.h"
 #include "device_model/device_store.h"
-#include "fifo_controls/fifo_controls.h"
+#include "page_parts/fifo_controls.h"
 #include "reporting/error_reporter.h"
 #include "reporting/trace.h"
 #include "resources/resource_ids.h"
@@ -42,12 +41,14 @@ bool _SetEachUartUiFifoSettingsIfChange(BoardParams* params, u32* status, u32* c
         if (pending.UartFifoEnable == saved.UartFifoEnable &&
             pending.UartTxFifoLowHigh == saved.UartTxFifoLowHigh &&
             pending.UartRxFifoLowHigh == saved.UartRxFifoLowHigh) {
-            TraceOut("%s - Chl:%d, uart fifo settings not change\n", __func__, chl->CurrentInfo.ChlBasic.ChlNumber);
+            TraceOut("%s - Chl:%d, uart fifo settings not change\n", __func__,
+                     chl->CurrentInfo.ChlBasic.ChlNumber);
             continue;
         }
         TraceOut("%s - Chl:%d, uart fifo settings change\n", __func__, chl->CurrentInfo.ChlBasic.ChlNumber);
-        *status = Kavro_RegUartSetFifoSettings(chl->DeviceInfoSet, &chl->DeviceInfoData, pending.UartFifoEnable,
-                                               pending.UartTxFifoLowHigh, pending.UartRxFifoLowHigh);
+        *status =
+            Kavro_RegUartSetFifoSettings(chl->DeviceInfoSet, &chl->DeviceInfoData, pending.UartFifoEnable,
+                                         pending.UartTxFifoLowHigh, pending.UartRxFifoLowHigh);
         if (*status != 0) {
             *comNumber = ComNumberFromName(pending.PortName);
             return false;
@@ -77,8 +78,8 @@ void _RefreshFifoControls(HWND hDlg, BPPCHL* channel) {
     }
 }
 
-void _OnHscroll(HWND hDlg, const BoardParams* params, HWND slider) {
-    BPPCHL* chl = params != nullptr ? BoardChlByListIndex(params, SelectedChannel(hDlg)) : nullptr;
+void _OnHscroll(HWND hDlg, const BoardParams* params, u32 index, HWND slider) {
+    BPPCHL* chl = params != nullptr ? BoardChlByListIndex(params, index) : nullptr;
     if (chl != nullptr) {
         FifoSliderMoved(hDlg, slider, &chl->Fifo);
     }

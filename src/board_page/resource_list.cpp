@@ -1,6 +1,6 @@
 #include "board_page/resource_list.h"
 
-#include "fifo_controls/label_text.h"
+#include "page_parts/label_text.h"
 #include "reporting/module_entry.h"
 #include "resources/resource_ids.h"
 

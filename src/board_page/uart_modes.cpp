@@ -37,9 +37,12 @@ bool HasAny(u32 capability, u32 bits) {
 }
 
 InterfaceSettings SettingsOf(const UartBasicInfo& uart) {
-    return {uart.UartMode,         uart.UartAHDC,
-            uart.UartCS,           uart.UartAutoRS422485,
-            uart.UartRS422Termination, uart.UartRS485Termination};
+    return {uart.UartMode,
+            uart.UartAHDC,
+            uart.UartCS,
+            uart.UartAutoRS422485,
+            uart.UartRS422Termination,
+            uart.UartRS485Termination};
 }
 
 void SetSettings(UartBasicInfo& uart, const InterfaceSettings& settings) {
@@ -52,8 +55,8 @@ void SetSettings(UartBasicInfo& uart, const InterfaceSettings& settings) {
 }
 
 bool SameSettings(const InterfaceSettings& left, const InterfaceSettings& right) {
-    return left.UartMode == right.UartMode && left.UartAHDC == right.UartAHDC && left.UartCS == right.UartCS &&
-           left.UartAutoRS422485 == right.UartAutoRS422485 &&
+    return left.UartMode == right.UartMode && left.UartAHDC == right.UartAHDC &&
+           left.UartCS == right.UartCS && left.UartAutoRS422485 == right.UartAutoRS422485 &&
            left.UartRS422Termination == right.UartRS422Termination &&
            left.UartRS485Termination == right.UartRS485Termination;
 }

@@ -1,4 +1,5 @@
-// A UART's electrical interface: the modes, what a UART must be capable of for each, and the values that each stores.
+// A UART's electrical interface: the modes, what a UART must be capable of for each, and the values that each
+// stores.
 #pragma once
 
 #include "device_model/board_params.h"
@@ -25,11 +26,12 @@ struct InterfaceSettings {
     u32 UartRS485Termination;
 };
 
-// One mode. A capability is a mask: "offered" and "required" need all of its bits, the others any one of them.
+// One mode. A capability is a mask: "offered" and "required" need all of its bits, the others any one of
+// them.
 struct UartMode {
     u32 mode; // the value of `UartMode`
     const WCHAR* text;
-    u32 BPPCHL::* comboPos;  // where the record keeps the mode's place in the combo
+    u32 BPPCHL::*comboPos;   // where the record keeps the mode's place in the combo
     u32 offered;             // the mode can be chosen
     u32 required;            // the mode can be stored; tested bit by bit
     u32 termination;         // the termination box is enabled
@@ -53,6 +55,6 @@ InterfaceSettings SettingsOf(const UartBasicInfo& uart);
 void SetSettings(UartBasicInfo& uart, const InterfaceSettings& settings);
 bool SameSettings(const InterfaceSettings& left, const InterfaceSettings& right);
 
-// The values that a mode stores on a UART of that capability, with the two boxes checked or not. No value is ever 1
-// without its capability bit.
+// The values that a mode stores on a UART of that capability, with the two boxes checked or not. No value is
+// ever 1 without its capability bit.
 InterfaceSettings ChooseSettings(const UartMode& mode, u32 capability, bool termination, bool acs);

@@ -46,16 +46,17 @@ bool QueryOldTarget(Remap* remap) {
 // Moves the DOS name, whose target the first look has found, to the new name. 0 or StatusNoDosName.
 u32 MoveDosName(Remap* remap, const char* function) {
     if (!QueryOldTarget(remap)) {
-        TraceOut("%s - this shouldn't happen, QueryDosDevice fail, GetLastError():%d\n", function, GetLastError());
+        TraceOut("%s - this shouldn't happen, QueryDosDevice fail, GetLastError():%d\n", function,
+                 GetLastError());
         return StatusNoDosName;
     }
     TraceOut("%s - Remap->OldComName:%ws, Remap->Buffer1:%ws\n", function, remap->OldComName, remap->Buffer1);
     const BOOL bRemoved = DefineDosDeviceW(DDD_REMOVE_DEFINITION, remap->OldComName, nullptr);
-    TraceOut("%s - DefineDosDevice, bRemoved:%d, OldComName:%ws, Buffer1:%ws, GetLastError():%d\n", function, bRemoved,
-             remap->OldComName, remap->Buffer1, GetLastError());
+    TraceOut("%s - DefineDosDevice, bRemoved:%d, OldComName:%ws, Buffer1:%ws, GetLastError():%d\n", function,
+             bRemoved, remap->OldComName, remap->Buffer1, GetLastError());
     if (!DefineDosDeviceW(DDD_RAW_TARGET_PATH, remap->NewComName, remap->Buffer1)) {
-        TraceOut("%s - DefineDosDevice fail, Remap->NewComName:%ws, Remap->Buffer1:%ws, GetLastError():%d\n", function,
-                 remap->NewComName, remap->Buffer1, GetLastError());
+        TraceOut("%s - DefineDosDevice fail, Remap->NewComName:%ws, Remap->Buffer1:%ws, GetLastError():%d\n",
+                 function, remap->NewComName, remap->Buffer1, GetLastError());
         if (bRemoved) {
             DefineDosDeviceW(DDD_RAW_TARGET_PATH, remap->OldComName, remap->Buffer1);
         }
@@ -64,8 +65,8 @@ u32 MoveDosName(Remap* remap, const char* function) {
     return 0;
 }
 
-// The first value of the serial device map that holds the old name gets the new one. A value that doesn't fit the
-// buffers ends the scan.
+// The first value of the serial device map that holds the old name gets the new one. A value that doesn't fit
+// the buffers ends the scan.
 void RenameInSerialMap(Remap* remap, DWORD dwNewComNameLen) {
     if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, TEXT("Hardware\\DeviceMap\\SerialComm"), 0, KEY_READ | KEY_WRITE,
                       &remap->SerialCommKey) != ERROR_SUCCESS) {
@@ -83,8 +84,8 @@ void RenameInSerialMap(Remap* remap, DWORD dwNewComNameLen) {
         }
         data[bytes / sizeof(WCHAR)] = 0;
         if (type == REG_SZ && SameText(data, remap->OldComName)) {
-            RegSetValueExW(remap->SerialCommKey, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(remap->NewComName),
-                           dwNewComNameLen);
+            RegSetValueExW(remap->SerialCommKey, name, 0, REG_SZ,
+                           reinterpret_cast<const BYTE*>(remap->NewComName), dwNewComNameLen);
             break;
         }
     }
@@ -99,16 +100,19 @@ void RenameInDatabase(Remap* remap) {
 }
 
 void WriteFriendlyName(Remap* remap, const char* function) {
-    WCHAR description[DescriptionBytes / sizeof(WCHAR) + 1] = {}; // one more than is asked for: it stays terminated
-    if (SetupDiGetDeviceRegistryPropertyW(remap->DeviceInfoSet, remap->DeviceInfoData, SPDRP_DEVICEDESC, nullptr,
-                                          reinterpret_cast<BYTE*>(description), DescriptionBytes, nullptr) == 1) {
+    WCHAR description[DescriptionBytes / sizeof(WCHAR) + 1] =
+        {}; // one more than is asked for: it stays terminated
+    if (SetupDiGetDeviceRegistryPropertyW(remap->DeviceInfoSet, remap->DeviceInfoData, SPDRP_DEVICEDESC,
+                                          nullptr, reinterpret_cast<BYTE*>(description), DescriptionBytes,
+                                          nullptr) == 1) {
         FormatText(remap->Buffer1, RemapTextCapacity, TEXT("%ws (%ws)"), description, remap->NewComName);
     } else {
         CopyText(remap->Buffer1, RemapTextCapacity, remap->NewComName);
     }
     TraceOut("%s - friendly name:%ws\n", function, remap->Buffer1);
     SetupDiSetDeviceRegistryPropertyW(remap->DeviceInfoSet, remap->DeviceInfoData, SPDRP_FRIENDLYNAME,
-                                      reinterpret_cast<const BYTE*>(remap->Buffer1), TextBytes(remap->Buffer1));
+                                      reinterpret_cast<const BYTE*>(remap->Buffer1),
+                                      TextBytes(remap->Buffer1));
 }
 
 // With the device key and the database open. 0 or StatusNoDosName.
@@ -122,7 +126,8 @@ u32 RenameEverywhere(Remap* remap, const char* function) {
     TraceOut("%s - Remap->OldComName:%ws, Remap->Buffer1:%ws\n", function, remap->OldComName, remap->Buffer1);
     FormatText(remap->NewComName, RemapTextCapacity, TEXT("COM%d"), remap->NewComNumber);
     const DWORD dwNewComNameLen = TextBytes(remap->NewComName);
-    TraceOut("%s - Remap->NewComName:%ws, dwNewComNameLen:%d\n", function, remap->NewComName, dwNewComNameLen);
+    TraceOut("%s - Remap->NewComName:%ws, dwNewComNameLen:%d\n", function, remap->NewComName,
+             dwNewComNameLen);
 
     const u32 sStatus = dosNameExists ? MoveDosName(remap, function) : 0;
     if (sStatus == 0) {
@@ -159,7 +164,8 @@ u32 _EnactComNameChanges(Remap* remap) {
 
 } // namespace
 
-u32 Kavro_COMPortDoRemap(HDEVINFO DeviceInfoSet, SP_DEVINFO_DATA* DeviceInfoData, u32 oldNumber, u32 newNumber) {
+u32 Kavro_COMPortDoRemap(HDEVINFO DeviceInfoSet, SP_DEVINFO_DATA* DeviceInfoData, u32 oldNumber,
+                         u32 newNumber) {
     TraceOut("----> %s( )\n", __func__);
     Remap* remap = static_cast<Remap*>(LocalAlloc(LPTR, sizeof(Remap)));
     u32 sStatus = StatusNoMemory;

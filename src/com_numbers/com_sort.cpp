@@ -11,7 +11,8 @@
 
 namespace {
 
-// A UART's channel number and a COM number. The table stands in channel order; sorting exchanges the COM column only.
+// A UART's channel number and a COM number. The table stands in channel order; sorting exchanges the COM
+// column only.
 struct SortPair {
     u32 channel;
     u32 com;
@@ -28,15 +29,14 @@ struct SortMove {
     const char* settingsTrace;
     const char* namesTrace;
 };
-constexpr SortMove PartnerToTemporary = {
-    FailureSortToTemporary, "%s - S1_2, CHL%d, move port settings, %ws -> %ws\n",
-    "%s - S1_3, CHL%d, ComName [old:%ws, new:%ws]\n"};
-constexpr SortMove ChannelToFinal = {
-    FailureSortToFinal, "%s - S2_2, CHL%d, move port settings, %ws -> %ws\n",
-    "%s - S2_3, CHL%d, ComName [old:%ws, new:%ws]\n"};
-constexpr SortMove PartnerFromTemporary = {
-    FailureSortFromTemporary, "%s - S3_2, CHL%d, move port settings, %ws -> %ws\n",
-    "%s - S3_3, CHL%d, ComName [old:%ws, new:%ws]\n"};
+constexpr SortMove PartnerToTemporary = {FailureSortToTemporary,
+                                         "%s - S1_2, CHL%d, move port settings, %ws -> %ws\n",
+                                         "%s - S1_3, CHL%d, ComName [old:%ws, new:%ws]\n"};
+constexpr SortMove ChannelToFinal = {FailureSortToFinal, "%s - S2_2, CHL%d, move port settings, %ws -> %ws\n",
+                                     "%s - S2_3, CHL%d, ComName [old:%ws, new:%ws]\n"};
+constexpr SortMove PartnerFromTemporary = {FailureSortFromTemporary,
+                                           "%s - S3_2, CHL%d, move port settings, %ws -> %ws\n",
+                                           "%s - S3_3, CHL%d, ComName [old:%ws, new:%ws]\n"};
 
 bool IsUart(const BPPCHL* chl) {
     return chl->Class == ClassUart;
@@ -90,8 +90,8 @@ void TraceNumbers(const BoardParams* board, const char* heading) {
     TraceOut(heading);
     for (const BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
         if (IsUart(chl)) {
-            TraceOut("UART # ChlNumber:%d - CURRENT:%03d, NEW:%03d\n", chl->SortChlNumber, chl->SortCurrentCom,
-                     chl->SortNewCom);
+            TraceOut("UART # ChlNumber:%d - CURRENT:%03d, NEW:%03d\n", chl->SortChlNumber,
+                     chl->SortCurrentCom, chl->SortNewCom);
         }
     }
     TraceOut("----------------------------------------\n");
@@ -101,8 +101,8 @@ bool AnyNeedsMove(const BoardParams* board, const char* function) {
     bool any = false;
     for (const BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
         if (NeedsMove(chl)) {
-            TraceOut("%s - ChlNumber:%d - COM%d -> COM%d\n", function, chl->SortChlNumber, chl->SortCurrentCom,
-                     chl->SortNewCom);
+            TraceOut("%s - ChlNumber:%d - COM%d -> COM%d\n", function, chl->SortChlNumber,
+                     chl->SortCurrentCom, chl->SortNewCom);
             any = true;
         }
     }
@@ -134,7 +134,8 @@ void EnableSortButtons(HWND dialog, BOOL enable) {
     }
 }
 
-// The port that holds the number which the channel wants; the last in the walk's order, null if none holds it.
+// The port that holds the number which the channel wants; the last in the walk's order, null if none holds
+// it.
 BPPCHL* FindPartner(BoardParams* board, const BPPCHL* chl) {
     BPPCHL* partner = nullptr;
     for (BPPCHL* other = board->WalkFirst; other != nullptr; other = other->WalkNext) {
@@ -145,14 +146,16 @@ BPPCHL* FindPartner(BoardParams* board, const BPPCHL* chl) {
     return partner;
 }
 
-// Moves one port to another number and keeps its records true to it. False, after a box, if the rename failed.
+// Moves one port to another number and keeps its records true to it. False, after a box, if the rename
+// failed.
 bool MovePort(HWND dialog, BPPCHL* port, u32 to, const SortMove& move, const char* function) {
     UartBasicInfo& saved = port->SavedInfo.Uart;
     UartBasicInfo& current = port->CurrentInfo.Uart;
     const u32 sStatus = RenamePort(port->DeviceInfoSet, &port->DeviceInfoData, port->SortCurrentCom, to,
                                    current.PortName, ARRAYSIZE(current.PortName));
     if (sStatus != 0) {
-        ErrorBoxShow(move.failureCode, sStatus, dialog, port->SortChlNumber, port->SortCurrentCom, to, nullptr);
+        ErrorBoxShow(move.failureCode, sStatus, dialog, port->SortChlNumber, port->SortCurrentCom, to,
+                     nullptr);
         return false;
     }
     port->SortCurrentCom = to;
@@ -166,19 +169,19 @@ bool MovePort(HWND dialog, BPPCHL* port, u32 to, const SortMove& move, const cha
 // Brings the channel to its number and its partner, who holds that number, to the channel's.
 bool ExchangePorts(HWND dialog, BPPCHL* chl, BPPCHL* partner, u32 temporary, const char* function) {
     TraceOut("%s - ----------------------------------------\n", function);
-    TraceOut("%s - S1_1, CHL%d to AVL, COM%d -> COM%d\n", function, partner->SortChlNumber, partner->SortCurrentCom,
-             temporary);
+    TraceOut("%s - S1_1, CHL%d to AVL, COM%d -> COM%d\n", function, partner->SortChlNumber,
+             partner->SortCurrentCom, temporary);
     if (!MovePort(dialog, partner, temporary, PartnerToTemporary, function)) {
         return false;
     }
     const u32 old = chl->SortCurrentCom;
-    TraceOut("%s - S2_1, CHL%d to CHL%d, COM%d -> COM%d\n", function, chl->SortChlNumber, partner->SortChlNumber, old,
-             chl->SortNewCom);
+    TraceOut("%s - S2_1, CHL%d to CHL%d, COM%d -> COM%d\n", function, chl->SortChlNumber,
+             partner->SortChlNumber, old, chl->SortNewCom);
     if (!MovePort(dialog, chl, chl->SortNewCom, ChannelToFinal, function)) {
         return false;
     }
-    TraceOut("%s - S3_1, AVL to CHL%d, COM%d -> COM%d\n", function, partner->SortChlNumber, partner->SortCurrentCom,
-             old);
+    TraceOut("%s - S3_1, AVL to CHL%d, COM%d -> COM%d\n", function, partner->SortChlNumber,
+             partner->SortCurrentCom, old);
     if (!MovePort(dialog, partner, old, PartnerFromTemporary, function)) {
         return false;
     }

@@ -7,7 +7,8 @@
 #include "reporting/text_operations.h"
 #include "reporting/trace.h"
 
-u32 RenamePort(HDEVINFO set, SP_DEVINFO_DATA* data, u32 oldNumber, u32 newNumber, WCHAR* newName, u32 newNameCapacity) {
+u32 RenamePort(HDEVINFO set, SP_DEVINFO_DATA* data, u32 oldNumber, u32 newNumber, WCHAR* newName,
+               u32 newNameCapacity) {
     const u32 sStatus = Kavro_COMPortDoRemap(set, data, oldNumber, newNumber);
     if (sStatus == 0) {
         Kavro_COMPortBroadcastRemap(set, data);
@@ -16,8 +17,8 @@ u32 RenamePort(HDEVINFO set, SP_DEVINFO_DATA* data, u32 oldNumber, u32 newNumber
     return sStatus;
 }
 
-bool RenamePortForUser(HWND owner, const RenameFailureCodes& codes, HDEVINFO set, SP_DEVINFO_DATA* data, u32 oldNumber,
-                       u32 newNumber, WCHAR* newName, u32 newNameCapacity) {
+bool RenamePortForUser(HWND owner, const RenameFailureCodes& codes, HDEVINFO set, SP_DEVINFO_DATA* data,
+                       u32 oldNumber, u32 newNumber, WCHAR* newName, u32 newNameCapacity) {
     u32 nUserDialogChoice = IDNO;
     u32 sStatus = Kavro_COMPortCheckNumberInUse(newNumber);
     if (sStatus != 0) {

@@ -46,7 +46,8 @@ u32 Kavro_COMPortCheckOpened(HDEVINFO DeviceInfoSet, SP_DEVINFO_DATA* DeviceInfo
                                              reinterpret_cast<BYTE*>(&nChlOpened), &bytes);
     TraceOut("%s - lStatus:%d, nChlOpened:%d\n", __func__, lStatus, nChlOpened);
     if (lStatus != ERROR_SUCCESS) {
-        TraceOut("%s - RegQueryValueEx() fail, lStatus:%d, GetLastError:%d\n", __func__, lStatus, GetLastError());
+        TraceOut("%s - RegQueryValueEx() fail, lStatus:%d, GetLastError:%d\n", __func__, lStatus,
+                 GetLastError());
         sStatus = StatusReadFailed;
     } else if (nChlOpened != 0) {
         TraceOut("%s - Chl opened\n", __func__);
@@ -70,12 +71,13 @@ void Kavro_COMPortBroadcastRemap(HDEVINFO DeviceInfoSet, SP_DEVINFO_DATA* Device
     change.ClassInstallHeader.InstallFunction = DIF_PROPERTYCHANGE;
     change.StateChange = DICS_PROPCHANGE;
     change.Scope = DICS_FLAG_GLOBAL;
-    if (!SetupDiSetClassInstallParamsW(DeviceInfoSet, DeviceInfoData, &change.ClassInstallHeader, sizeof(change))) {
+    if (!SetupDiSetClassInstallParamsW(DeviceInfoSet, DeviceInfoData, &change.ClassInstallHeader,
+                                       sizeof(change))) {
         TraceOut("%s - SetupDiSetClassInstallParams fail, GetLastError:%d\n", __func__, GetLastError());
     }
     if (!SetupDiCallClassInstaller(DIF_PROPERTYCHANGE, DeviceInfoSet, DeviceInfoData)) {
-        TraceOut("%s - SetupDiCallClassInstaller fail, GetLastError:%d, ERROR_IN_WOW64:%d\n", __func__, GetLastError(),
-                 ERROR_IN_WOW64);
+        TraceOut("%s - SetupDiCallClassInstaller fail, GetLastError:%d, ERROR_IN_WOW64:%d\n", __func__,
+                 GetLastError(), ERROR_IN_WOW64);
     }
     TraceOut("<---- %s\n", __func__);
 }

@@ -8,8 +8,8 @@
 
 namespace {
 
-// GUID_DEVINTERFACE_COMPORT and the four of the board's own: _DIO, _MCP251X, _MCP251XFD and _CAN. A class stands at the
-// index of its ChannelClass less one.
+// GUID_DEVINTERFACE_COMPORT and the four of the board's own: _DIO, _MCP251X, _MCP251XFD and _CAN. A class
+// stands at the index of its ChannelClass less one.
 constexpr GUID InterfaceClasses[ChannelClassCount] = {
     {0x86E0D1E0, 0x8089, 0x11D0, {0x9C, 0xE4, 0x08, 0x00, 0x3E, 0x30, 0x1F, 0x73}},
     {0xD169C409, 0xDB38, 0x43F5, {0x87, 0xA2, 0x5C, 0xB9, 0x5E, 0xF2, 0xCA, 0xC3}},
@@ -40,8 +40,9 @@ u32 ReadClassValues(HDEVINFO set, SP_DEVINFO_DATA* data, u32 channelClass, Chann
     switch (channelClass) {
     case ClassUart: {
         const u32 sStatus = Kavro_RegUartGetBasic(set, data, &info->Uart);
-        return sStatus != 0 ? sStatus
-                            : Kavro_RegUartGetCOMName(set, data, info->Uart.PortName, sizeof(info->Uart.PortName));
+        return sStatus != 0
+                   ? sStatus
+                   : Kavro_RegUartGetCOMName(set, data, info->Uart.PortName, sizeof(info->Uart.PortName));
     }
     case ClassDio:
         return Kavro_RegDioGetBasic(set, data, &info->Dio);
@@ -68,8 +69,8 @@ bool BelongsToBoard(const BoardParams* board, const ChannelInfo& info) {
         return true;
     }
     TraceOut("BPPCHL_ENUM, not belong this board, BOARD[pci:%d,irq:%d], CHL[pci:%d,irq:%d,n:%d,t:%d]\n",
-             mine.BoardPciBusNumber, mine.BoardIrq, its.BoardPciBusNumber, its.BoardIrq, info.ChlBasic.ChlNumber,
-             info.ChlBasic.ChlType);
+             mine.BoardPciBusNumber, mine.BoardIrq, its.BoardPciBusNumber, its.BoardIrq,
+             info.ChlBasic.ChlNumber, info.ChlBasic.ChlType);
     return false;
 }
 
@@ -107,7 +108,8 @@ void AddChannel(BoardParams* board, HDEVINFO set, const SP_DEVINFO_DATA& data, u
     ChlListInsertTail(&board->ChlList, chl);
     BoardChlWalkInsert(board, chl);
     ++board->ChlCount;
-    TraceOut("BPPCHL (%d, x%p, x%p, T:%d), CREATE\n", info.ChlBasic.ChlNumber, chl, chl->DevicePath, channelClass);
+    TraceOut("BPPCHL (%d, x%p, x%p, T:%d), CREATE\n", info.ChlBasic.ChlNumber, chl, chl->DevicePath,
+             channelClass);
 }
 
 } // namespace
@@ -118,8 +120,8 @@ bool BoardInitiate(BoardParams* board, u32* status) {
     board->ChlCount = 0;
     ChlListInit(&board->ChlList);
     for (u32 i = 0; i < ChannelClassCount; ++i) {
-        board->InterfaceSet[i] =
-            SetupDiGetClassDevsW(&InterfaceClasses[i], nullptr, nullptr, DIGCF_PRESENT | DIGCF_DEVICEINTERFACE);
+        board->InterfaceSet[i] = SetupDiGetClassDevsW(&InterfaceClasses[i], nullptr, nullptr,
+                                                      DIGCF_PRESENT | DIGCF_DEVICEINTERFACE);
         if (board->InterfaceSet[i] == INVALID_HANDLE_VALUE) {
             *status = StatusNoInterfaceSet;
             return false;
@@ -142,14 +144,16 @@ bool BoardInitiate(BoardParams* board, u32* status) {
     return *status == 0;
 }
 
-void BoardEnumClass(BoardParams* board, BYTE* buffer, u32 bufferSize, HDEVINFO set, const GUID* interfaceClass,
-                    u32 channelClass) {
+void BoardEnumClass(BoardParams* board, BYTE* buffer, u32 bufferSize, HDEVINFO set,
+                    const GUID* interfaceClass, u32 channelClass) {
     auto* detail = reinterpret_cast<SP_DEVICE_INTERFACE_DETAIL_DATA_W*>(buffer);
-    const u32 pathCapacity = (bufferSize - offsetof(SP_DEVICE_INTERFACE_DETAIL_DATA_W, DevicePath)) / sizeof(WCHAR);
+    const u32 pathCapacity =
+        (bufferSize - offsetof(SP_DEVICE_INTERFACE_DETAIL_DATA_W, DevicePath)) / sizeof(WCHAR);
     SP_DEVICE_INTERFACE_DATA interfaceData = {};
     interfaceData.cbSize = sizeof(interfaceData);
     ChannelInfo info;
-    for (DWORD index = 0; SetupDiEnumDeviceInterfaces(set, nullptr, interfaceClass, index, &interfaceData); ++index) {
+    for (DWORD index = 0; SetupDiEnumDeviceInterfaces(set, nullptr, interfaceClass, index, &interfaceData);
+         ++index) {
         DWORD needed = 0;
         SetupDiGetDeviceInterfaceDetailW(set, &interfaceData, nullptr, 0, &needed, nullptr);
         if (needed > DetailBufferBytes) {

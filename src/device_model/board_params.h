@@ -1,12 +1,14 @@
 // The device model: what is known of one board and its channels.
 //
-// One Port Control page works on one `BoardParams`. The page owns it; it owns its `BPPCHL` records and its five
-// interface sets, and each record owns its device path. The device of the provider's request is borrowed. The records
-// live from `BoardInitiate` to `BoardDeinitiate`, and the sets stay open as long, since a record's device means
-// something only in its set. Nothing refreshes them in between: the store is read once.
+// One Port Control page works on one `BoardParams`. The page owns it; it owns its `BPPCHL` records and its
+// five interface sets, and each record owns its device path. The device of the provider's request is
+// borrowed. The records live from `BoardInitiate` to `BoardDeinitiate`, and the sets stay open as long, since
+// a record's device means something only in its set. Nothing refreshes them in between: the store is read
+// once.
 //
-// Of a channel's values there are two copies. `SavedInfo` mirrors the store and follows only a successful write;
-// `CurrentInfo` holds what the page means to store. All readers but the comparison before a write use `CurrentInfo`.
+// Of a channel's values there are two copies. `SavedInfo` mirrors the store and follows only a successful
+// write; `CurrentInfo` holds what the page means to store. All readers but the comparison before a write use
+// `CurrentInfo`.
 //
 // All records are plain and zero-filled at creation. Texts have a terminator within their field.
 #pragma once
@@ -158,8 +160,8 @@ struct BPPCHL : ChlListEntry {
     u32 RS422ComboxPos;
     u32 RS485ComboxPos;
     u32 AutoRS422485ComboxPos;
-    // Working values of one click on Sort UART: the channel's number, the COM number that it holds, and the one that
-    // it gets.
+    // Working values of one click on Sort UART: the channel's number, the COM number that it holds, and the
+    // one that it gets.
     u32 SortChlNumber;
     u32 SortCurrentCom;
     u32 SortNewCom;

@@ -14,8 +14,10 @@ struct StoreField {
     bool text;
 };
 
-#define NUMBER(record, field) {TEXT(#field), offsetof(record, field), sizeof(record::field), false}
-#define TEXT_FIELD(record, field) {TEXT(#field), offsetof(record, field), sizeof(record::field), true}
+#define NUMBER(record, field)                                                                                \
+    { TEXT(#field), offsetof(record, field), sizeof(record::field), false }
+#define TEXT_FIELD(record, field)                                                                            \
+    { TEXT(#field), offsetof(record, field), sizeof(record::field), true }
 
 constexpr StoreField BoardBasicFields[] = {
     NUMBER(BoardBasicInfo, BoardPciBusNumber),
@@ -28,16 +30,11 @@ constexpr StoreField BoardOtherFields[] = {
     TEXT_FIELD(BoardOtherInfo, BoardModelName),
 };
 constexpr StoreField ChlBasicFields[] = {
-    NUMBER(ChlBasicInfo, ChlNumber),
-    NUMBER(ChlBasicInfo, ChlType),
-    NUMBER(ChlBasicInfo, ChlVersion),
-    NUMBER(ChlBasicInfo, ChlEventAddr),
-    NUMBER(ChlBasicInfo, ChlEventLength),
-    NUMBER(ChlBasicInfo, ChlMemAddr),
-    NUMBER(ChlBasicInfo, ChlMemLength),
-    NUMBER(ChlBasicInfo, ChlPortAddr),
-    NUMBER(ChlBasicInfo, ChlPortLength),
-    NUMBER(ChlBasicInfo, ChlOpened),
+    NUMBER(ChlBasicInfo, ChlNumber),      NUMBER(ChlBasicInfo, ChlType),
+    NUMBER(ChlBasicInfo, ChlVersion),     NUMBER(ChlBasicInfo, ChlEventAddr),
+    NUMBER(ChlBasicInfo, ChlEventLength), NUMBER(ChlBasicInfo, ChlMemAddr),
+    NUMBER(ChlBasicInfo, ChlMemLength),   NUMBER(ChlBasicInfo, ChlPortAddr),
+    NUMBER(ChlBasicInfo, ChlPortLength),  NUMBER(ChlBasicInfo, ChlOpened),
 };
 constexpr StoreField ConfigBasicFields[] = {
     NUMBER(ConfigBasicInfo, ConfigModel),
@@ -68,16 +65,11 @@ constexpr StoreField Mcp251xFdBasicFields[] = {
     NUMBER(Mcp251xFdBasicInfo, Mcp251xFdGpioOutputBits),
 };
 constexpr StoreField CanBasicFields[] = {
-    NUMBER(CanBasicInfo, KvrCanCapability),
-    NUMBER(CanBasicInfo, KvrCanTxMsgQueueSize),
-    NUMBER(CanBasicInfo, KvrCanTxEventQueueSize),
-    NUMBER(CanBasicInfo, KvrCanRxMsgQueueSize),
-    NUMBER(CanBasicInfo, KvrCanNrRxFilterGroup),
-    NUMBER(CanBasicInfo, KvrCanSystemClkRate),
-    NUMBER(CanBasicInfo, KvrCanReferenceClkRate),
-    NUMBER(CanBasicInfo, KvrCanFifoTXMMax),
-    NUMBER(CanBasicInfo, KvrCanFifoTXEMax),
-    NUMBER(CanBasicInfo, KvrCanFifoRXMMax),
+    NUMBER(CanBasicInfo, KvrCanCapability),       NUMBER(CanBasicInfo, KvrCanTxMsgQueueSize),
+    NUMBER(CanBasicInfo, KvrCanTxEventQueueSize), NUMBER(CanBasicInfo, KvrCanRxMsgQueueSize),
+    NUMBER(CanBasicInfo, KvrCanNrRxFilterGroup),  NUMBER(CanBasicInfo, KvrCanSystemClkRate),
+    NUMBER(CanBasicInfo, KvrCanReferenceClkRate), NUMBER(CanBasicInfo, KvrCanFifoTXMMax),
+    NUMBER(CanBasicInfo, KvrCanFifoTXEMax),       NUMBER(CanBasicInfo, KvrCanFifoRXMMax),
 };
 constexpr StoreField UartBasicFields[] = {
     NUMBER(UartBasicInfo, UartTxFifoSize),
@@ -97,8 +89,8 @@ constexpr StoreField UartBasicFields[] = {
     NUMBER(UartBasicInfo, UartRS485Termination),
 };
 
-// A stored text may come without its terminator, or with half a unit: it ends behind its last whole unit, at the
-// latest in the field's last one.
+// A stored text may come without its terminator, or with half a unit: it ends behind its last whole unit, at
+// the latest in the field's last one.
 void EndText(BYTE* field, u32 fieldBytes, u32 storedBytes) {
     const u32 last = fieldBytes / sizeof(WCHAR) - 1;
     const u32 end = storedBytes / sizeof(WCHAR);
@@ -137,15 +129,17 @@ struct StoreNumber {
 };
 
 template <SIZE_T Count>
-u32 WriteValues(const char* function, HDEVINFO set, SP_DEVINFO_DATA* data, const StoreNumber (&numbers)[Count]) {
+u32 WriteValues(const char* function, HDEVINFO set, SP_DEVINFO_DATA* data,
+                const StoreNumber (&numbers)[Count]) {
     const HKEY key = OpenDeviceKey(function, set, data);
     if (key == INVALID_HANDLE_VALUE) {
         return StatusNoKey;
     }
     u32 sStatus = 0;
     for (const StoreNumber& number : numbers) {
-        const LSTATUS lStatus = RegSetValueExW(key, number.name, 0, REG_DWORD,
-                                               reinterpret_cast<const BYTE*>(&number.value), sizeof(number.value));
+        const LSTATUS lStatus =
+            RegSetValueExW(key, number.name, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&number.value),
+                           sizeof(number.value));
         if (lStatus != ERROR_SUCCESS) {
             TraceOut("%s - RegSetValueEx() fail, %ws, lStatus:%d\n", function, number.name, lStatus);
             sStatus = StatusWriteFailed;
@@ -207,8 +201,8 @@ u32 Kavro_RegUartGetCOMName(HDEVINFO set, SP_DEVINFO_DATA* data, WCHAR* text, u3
     return ReadValues(__func__, set, data, portName, text);
 }
 
-u32 Kavro_RegUartSetFifoSettings(HDEVINFO set, SP_DEVINFO_DATA* data, u32 UartFifoEnable, u32 UartTxFifoLowHigh,
-                                 u32 UartRxFifoLowHigh) {
+u32 Kavro_RegUartSetFifoSettings(HDEVINFO set, SP_DEVINFO_DATA* data, u32 UartFifoEnable,
+                                 u32 UartTxFifoLowHigh, u32 UartRxFifoLowHigh) {
     const StoreNumber numbers[] = {
         {TEXT("UartFifoEnable"), UartFifoEnable},
         {TEXT("UartTxFifoLowHigh"), UartTxFifoLowHigh},
@@ -217,8 +211,9 @@ u32 Kavro_RegUartSetFifoSettings(HDEVINFO set, SP_DEVINFO_DATA* data, u32 UartFi
     return WriteValues(__func__, set, data, numbers);
 }
 
-u32 Kavro_RegUartSetAdvanceSettings(HDEVINFO set, SP_DEVINFO_DATA* data, u32 UartMode, u32 UartAHDC, u32 UartCS,
-                                    u32 UartAutoRS422485, u32 UartRS422Termination, u32 UartRS485Termination) {
+u32 Kavro_RegUartSetAdvanceSettings(HDEVINFO set, SP_DEVINFO_DATA* data, u32 UartMode, u32 UartAHDC,
+                                    u32 UartCS, u32 UartAutoRS422485, u32 UartRS422Termination,
+                                    u32 UartRS485Termination) {
     const StoreNumber numbers[] = {
         {TEXT("UartMode"), UartMode},
         {TEXT("UartAHDC"), UartAHDC},

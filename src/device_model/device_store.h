@@ -1,11 +1,12 @@
-// The device store: the values that the driver publishes under a device's hardware key, and the nine that are written
-// back for it to act on.
+// The device store: the values that the driver publishes under a device's hardware key, and the nine that are
+// written back for it to act on.
 //
-// A device is the pair of a set and its SP_DEVINFO_DATA. Every operation opens the device's key anew, with full access
-// also for reading, and closes it before it returns. A list of values is read in a fixed order and reading stops at the
-// first value that is missing or too long for its field; what was read before stays in the destination, and nothing
-// is cleared: a caller that wants a clean record clears it first. A value's type is not looked at. A shorter value
-// fills only its own bytes; a text ends within its field whatever was stored.
+// A device is the pair of a set and its SP_DEVINFO_DATA. Every operation opens the device's key anew, with
+// full access also for reading, and closes it before it returns. A list of values is read in a fixed order
+// and reading stops at the first value that is missing or too long for its field; what was read before stays
+// in the destination, and nothing is cleared: a caller that wants a clean record clears it first. A value's
+// type is not looked at. A shorter value fills only its own bytes; a text ends within its field whatever was
+// stored.
 #pragma once
 
 #include "device_model/board_params.h"
@@ -29,11 +30,12 @@ u32 Kavro_RegUartGetBasic(HDEVINFO set, SP_DEVINFO_DATA* data, UartBasicInfo* in
 u32 Kavro_RegUartGetCOMName(HDEVINFO set, SP_DEVINFO_DATA* data, WCHAR* text, u32 bytes);
 
 // Each writes its values in the order of the parameters and returns 0, StatusNoKey or StatusWriteFailed.
-u32 Kavro_RegUartSetFifoSettings(HDEVINFO set, SP_DEVINFO_DATA* data, u32 UartFifoEnable, u32 UartTxFifoLowHigh,
-                                 u32 UartRxFifoLowHigh);
-u32 Kavro_RegUartSetAdvanceSettings(HDEVINFO set, SP_DEVINFO_DATA* data, u32 UartMode, u32 UartAHDC, u32 UartCS,
-                                    u32 UartAutoRS422485, u32 UartRS422Termination, u32 UartRS485Termination);
+u32 Kavro_RegUartSetFifoSettings(HDEVINFO set, SP_DEVINFO_DATA* data, u32 UartFifoEnable,
+                                 u32 UartTxFifoLowHigh, u32 UartRxFifoLowHigh);
+u32 Kavro_RegUartSetAdvanceSettings(HDEVINFO set, SP_DEVINFO_DATA* data, u32 UartMode, u32 UartAHDC,
+                                    u32 UartCS, u32 UartAutoRS422485, u32 UartRS422Termination,
+                                    u32 UartRS485Termination);
 
-// Opens a device's hardware key with full access, for `function`. INVALID_HANDLE_VALUE on failure; the caller closes
-// the key.
+// Opens a device's hardware key with full access, for `function`. INVALID_HANDLE_VALUE on failure; the caller
+// closes the key.
 HKEY OpenDeviceKey(const char* function, HDEVINFO set, SP_DEVINFO_DATA* data);

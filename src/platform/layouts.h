@@ -12,7 +12,6 @@ struct PropertyPageDescription {
     HBITMAP hbmHeader;
 };
 
-
 static_assert(sizeof(WCHAR) == 2);
 static_assert(sizeof(u32) == 4 && sizeof(u64) == 8);
 static_assert(sizeof(void*) == 8);

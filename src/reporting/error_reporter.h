@@ -1,11 +1,11 @@
-// The one error reporter: a failing operation names a code and hands over a status, and the text, the caption and the
-// kind of box stand here.
+// The one error reporter: a failing operation names a code and hands over a status, and the text, the caption
+// and the kind of box stand here.
 #pragma once
 
 #include "platform/platform.h"
 
-// The failure codes. Codes below 100 belong to both pages, 100 to 299 to the port page and its dialog, 300 to 399 to
-// the board page, 400 upwards to its dialog.
+// The failure codes. Codes below 100 belong to both pages, 100 to 299 to the port page and its dialog, 300 to
+// 399 to the board page, 400 upwards to its dialog.
 enum FailureCode : u32 {
     FailureNoMemory = 1,
     FailureLoadString = 2,
@@ -46,9 +46,10 @@ constexpr u32 StatusNumberClaimed = 202;
 
 // Shows the box of a failure and returns when it has closed.
 //
-// oerr: the failure code. serr: the status of the failed operation, 0 where there is none. parent: the owner of the
-// box, the window with the focus if null. channel, firstNumber, secondNumber: the channel and COM numbers for the
-// texts that print them, else 0. nUserDialogChoice: where the answer goes, IDYES, IDNO or IDOK; IDNO from every box
-// that asks nothing. May be null but for the codes that ask or notify: 203, 205 and 305.
+// oerr: the failure code. serr: the status of the failed operation, 0 where there is none. parent: the owner
+// of the box, the window with the focus if null. channel, firstNumber, secondNumber: the channel and COM
+// numbers for the texts that print them, else 0. nUserDialogChoice: where the answer goes, IDYES, IDNO or
+// IDOK; IDNO from every box that asks nothing. May be null but for the codes that ask or notify: 203, 205 and
+// 305.
 void ErrorBoxShow(u32 oerr, u32 serr, HWND parent, u32 channel, u32 firstNumber, u32 secondNumber,
                   u32* nUserDialogChoice);

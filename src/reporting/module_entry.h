@@ -1,5 +1,5 @@
-// What the library does when it is loaded, and the little state that belongs to the module as a whole. The state is
-// written at attach and read-only afterwards.
+// What the library does when it is loaded, and the little state that belongs to the module as a whole. The
+// state is written at attach and read-only afterwards.
 #pragma once
 
 #include "platform/platform.h"
@@ -7,8 +7,8 @@
 // The library's instance, for every template and string that is loaded.
 extern HINSTANCE ModuleInstance;
 
-// The out-of-memory box, loaded at attach so that it needs neither memory nor resources when it is shown. Empty if
-// the string was missing.
+// The out-of-memory box, loaded at attach so that it needs neither memory nor resources when it is shown.
+// Empty if the string was missing.
 extern WCHAR OutOfMemoryText[200];
 extern WCHAR OutOfMemoryCaption[30];
 

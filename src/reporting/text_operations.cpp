@@ -49,7 +49,9 @@ void PutValue(Output& output, const FormatArgument& argument) {
         if (value < 0) {
             Put(output, TEXT('-'));
         }
-        PutNumber(output, value < 0 ? 0ull - static_cast<u64>(static_cast<LONG64>(value)) : static_cast<u64>(value), 10);
+        PutNumber(output,
+                  value < 0 ? 0ull - static_cast<u64>(static_cast<LONG64>(value)) : static_cast<u64>(value),
+                  10);
         break;
     }
     case FormatArgument::Number64:
@@ -80,7 +82,8 @@ const Conversion* FindConversion(const WCHAR* text, const WCHAR*& after) {
 
 } // namespace
 
-u32 FormatTextWith(WCHAR* destination, u32 capacity, const WCHAR* format, const FormatArgument* arguments, u32 count) {
+u32 FormatTextWith(WCHAR* destination, u32 capacity, const WCHAR* format, const FormatArgument* arguments,
+                   u32 count) {
     if (capacity == 0) {
         return TextInvalid;
     }

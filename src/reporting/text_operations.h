@@ -1,5 +1,5 @@
-// Bounded text operations on UTF-16 text. Capacities are in units, terminator included. A text that does not fit
-// stays cut short and is terminated, so that callers go on without a test.
+// Bounded text operations on UTF-16 text. Capacities are in units, terminator included. A text that does not
+// fit stays cut short and is terminated, so that callers go on without a test.
 #pragma once
 
 #include <concepts>
@@ -14,8 +14,8 @@ constexpr u32 TextMaxCapacity = 0x7FFFFFFF;
 // Units that hold a name such as "COM256".
 constexpr u32 PortNameCapacity = 64;
 
-// One value for FormatText, with its kind: a format text can come from a resource, so a conversion is carried out
-// only on a value of its own kind.
+// One value for FormatText, with its kind: a format text can come from a resource, so a conversion is carried
+// out only on a value of its own kind.
 struct FormatArgument {
     enum Kind : u32 { Number32, Number64, Text };
 
@@ -26,13 +26,15 @@ struct FormatArgument {
     };
 
     FormatArgument(const WCHAR* value) : kind(Text), text(value) {}
-    template <std::integral T> FormatArgument(T value) : kind(sizeof(T) == 8 ? Number64 : Number32), number(value) {}
+    template <std::integral T>
+    FormatArgument(T value) : kind(sizeof(T) == 8 ? Number64 : Number32), number(value) {}
 };
 
-// Formats into the destination. Conversions: "%d" a signed 32-bit decimal, "%s" and "%ws" a text, "%I64X" a 64-bit
-// number in capital hexadecimal digits, "%%" a percent sign. Any other conversion, one value too few, or a value of
-// another kind ends the text and counts as cut. Returns TextDone, TextInvalid or TextCut.
-u32 FormatTextWith(WCHAR* destination, u32 capacity, const WCHAR* format, const FormatArgument* arguments, u32 count);
+// Formats into the destination. Conversions: "%d" a signed 32-bit decimal, "%s" and "%ws" a text, "%I64X" a
+// 64-bit number in capital hexadecimal digits, "%%" a percent sign. Any other conversion, one value too few,
+// or a value of another kind ends the text and counts as cut. Returns TextDone, TextInvalid or TextCut.
+u32 FormatTextWith(WCHAR* destination, u32 capacity, const WCHAR* format, const FormatArgument* arguments,
+                   u32 count);
 
 template <typename... Arguments>
 u32 FormatText(WCHAR* destination, u32 capacity, const WCHAR* format, Arguments... arguments) {
@@ -43,8 +45,8 @@ u32 FormatText(WCHAR* destination, u32 capacity, const WCHAR* format, Arguments.
 // Copies the source up to its terminator. Returns TextDone, TextInvalid or TextCut.
 u32 CopyText(WCHAR* destination, u32 capacity, const WCHAR* source);
 
-// Appends the source to the text in the destination. TextInvalid, with nothing written, also if the destination has
-// no terminator within its capacity.
+// Appends the source to the text in the destination. TextInvalid, with nothing written, also if the
+// destination has no terminator within its capacity.
 u32 AppendText(WCHAR* destination, u32 capacity, const WCHAR* source);
 
 // The number that a text's leading digits give, modulo 2 to the power 32; 0 without a leading digit.

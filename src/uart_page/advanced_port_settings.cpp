@@ -4,8 +4,8 @@
 #include "com_numbers/port_rename.h"
 #include "com_numbers/port_settings_migration.h"
 #include "device_model/device_store.h"
-#include "fifo_controls/fifo_controls.h"
-#include "fifo_controls/label_text.h"
+#include "page_parts/fifo_controls.h"
+#include "page_parts/label_text.h"
 #include "reporting/error_reporter.h"
 #include "reporting/module_entry.h"
 #include "reporting/trace.h"
@@ -40,8 +40,8 @@ bool _InitializeControls(HWND hDlg, UartAdvancedParams* params, u32* code, u32* 
     FifoSliders& sliders = params->Fifo;
     *code = 0;
     RxFifoStages(uart.UartRxFifoSize, sliders.RxFifo4Stage);
-    TraceOut("%s - RxFifo4Stage: %d, %d, %d, %d\n", __func__, sliders.RxFifo4Stage[0], sliders.RxFifo4Stage[1],
-             sliders.RxFifo4Stage[2], sliders.RxFifo4Stage[3]);
+    TraceOut("%s - RxFifo4Stage: %d, %d, %d, %d\n", __func__, sliders.RxFifo4Stage[0],
+             sliders.RxFifo4Stage[1], sliders.RxFifo4Stage[2], sliders.RxFifo4Stage[3]);
     FillCaptions(hDlg, uart, sliders);
     ShowFifoLowLabels(hDlg);
     ShowFifoSettings(hDlg, uart, &sliders);
@@ -84,8 +84,8 @@ void _OnHScroll(HWND hDlg, HWND slider) {
     }
 }
 
-// Unlike the page's Restore Defaults this one moves the remembered positions too, and the COM number combo back to the
-// port's present name.
+// Unlike the page's Restore Defaults this one moves the remembered positions too, and the COM number combo
+// back to the port's present name.
 void _RestoreDefaultClicked(HWND hDlg, UartAdvancedParams* params) {
     const UartBasicInfo& uart = params->UartBasicInfo;
     FifoSliders& sliders = params->Fifo;
@@ -109,8 +109,10 @@ u32 StoreFifoSettings(HWND hDlg, UartAdvancedParams* params) {
     }
     TraceOut("%s - fifo settings change\n", __func__);
     TraceOut("%s - FifoEnable [old:%d, new:%d]\n", __func__, uart.UartFifoEnable, values.UartFifoEnable);
-    TraceOut("%s - TxFifoLowHigh [old:%d, new:%d]\n", __func__, uart.UartTxFifoLowHigh, values.UartTxFifoLowHigh);
-    TraceOut("%s - RxFifoLowHigh [old:%d, new:%d]\n", __func__, uart.UartRxFifoLowHigh, values.UartRxFifoLowHigh);
+    TraceOut("%s - TxFifoLowHigh [old:%d, new:%d]\n", __func__, uart.UartTxFifoLowHigh,
+             values.UartTxFifoLowHigh);
+    TraceOut("%s - RxFifoLowHigh [old:%d, new:%d]\n", __func__, uart.UartRxFifoLowHigh,
+             values.UartRxFifoLowHigh);
     return Kavro_RegUartSetFifoSettings(params->DeviceInfoSet, params->DeviceInfoData, values.UartFifoEnable,
                                         values.UartTxFifoLowHigh, values.UartRxFifoLowHigh);
 }
@@ -125,8 +127,8 @@ bool RenameIfChosen(HWND hDlg, UartAdvancedParams* params) {
         return true;
     }
     TraceOut("%s - COM number [old:%d, new:%d]\n", __func__, oldNumber, newNumber);
-    if (!RenamePortForUser(hDlg, RenameCodes, params->DeviceInfoSet, params->DeviceInfoData, oldNumber, newNumber,
-                           params->NewComName, ComNameCapacity)) {
+    if (!RenamePortForUser(hDlg, RenameCodes, params->DeviceInfoSet, params->DeviceInfoData, oldNumber,
+                           newNumber, params->NewComName, ComNameCapacity)) {
         return false;
     }
     _ChangeParentTitle(GetParent(hDlg), params->ComName, params->NewComName);
@@ -219,7 +221,7 @@ bool KvrUartAdvancedDlgShow(HWND hParent, UartAdvancedParams* params) {
         ErrorBoxShow(FailureUartBasic, sStatus, hParent, 0, 0, 0, nullptr);
         return false;
     }
-    DialogBoxParamW(ModuleInstance, MAKEINTRESOURCEW(IDD_ADVANCED_PORT_SETTINGS), hParent, UartAdvancedDlgProc,
-                    reinterpret_cast<LPARAM>(params));
+    DialogBoxParamW(ModuleInstance, MAKEINTRESOURCEW(IDD_ADVANCED_PORT_SETTINGS), hParent,
+                    UartAdvancedDlgProc, reinterpret_cast<LPARAM>(params));
     return true;
 }

@@ -10,7 +10,8 @@ WCHAR* AllocateText(u32 capacity) {
 }
 
 // `title` holds the old name at `place`, `capacity` units in all.
-void SetTitleWith(HWND hWindow, WCHAR* title, u32 capacity, WCHAR* place, const WCHAR* oldName, const WCHAR* newName) {
+void SetTitleWith(HWND hWindow, WCHAR* title, u32 capacity, WCHAR* place, const WCHAR* oldName,
+                  const WCHAR* newName) {
     const u32 oldLength = static_cast<u32>(lstrlenW(oldName));
     const u32 newLength = static_cast<u32>(lstrlenW(newName));
     const u32 newCapacity = capacity + (newLength > oldLength ? newLength - oldLength : 0);

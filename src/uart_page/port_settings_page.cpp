@@ -12,8 +12,8 @@ namespace {
 
 constexpr int SettingsCombos[] = {IDC_BAUD_RATE, IDC_PARITY, IDC_DATA_BITS, IDC_STOP_BITS, IDC_FLOW_CONTROL};
 
-constexpr PortSettings DefaultSettings = {9600, DefaultParityIndex, DefaultDataBitsIndex, DefaultStopBitsIndex,
-                                          DefaultFlowControlIndex};
+constexpr PortSettings DefaultSettings = {9600, DefaultParityIndex, DefaultDataBitsIndex,
+                                          DefaultStopBitsIndex, DefaultFlowControlIndex};
 
 void NotifySheetOfChange(HWND hDlg) {
     SendMessageW(GetParent(hDlg), PSM_CHANGED, reinterpret_cast<WPARAM>(hDlg), 0);
@@ -48,15 +48,16 @@ bool _OnInitDialog(HWND hDlg, LPARAM page) {
         ErrorBoxShow(code, sStatus, hDlg, 0, 0, 0, nullptr);
         return false;
     }
-    TraceOut("%s - ShowAdvanced:%d, ChangesEnabled:%d\n", __func__, params->ShowAdvanced, params->ChangesEnabled);
+    TraceOut("%s - ShowAdvanced:%d, ChangesEnabled:%d\n", __func__, params->ShowAdvanced,
+             params->ChangesEnabled);
     EnableWindow(GetDlgItem(hDlg, IDC_ADVANCED), params->ShowAdvanced);
     EnableWindow(GetDlgItem(hDlg, IDC_RESTORE_PORT), params->ChangesEnabled);
     params->BasicSettingsDlgInitiateOK = true;
     return true;
 }
 
-// A rename in the dialog comes back as a new name, the key of the next save. The saved fields stay: the line has moved
-// with the port.
+// A rename in the dialog comes back as a new name, the key of the next save. The saved fields stay: the line
+// has moved with the port.
 void _AdvancedClicked(HWND hDlg, UartPageParams* params) {
     UartAdvancedParams* advanced = params->AdvancedParams;
     CopyText(advanced->NewComName, ComNameCapacity, params->ComName);

@@ -36,7 +36,8 @@ template <typename Number> void FillComboFromTable(HWND hDlg, int combo, const N
 // The user's decimal separator; 0 if there is none, or one longer than a character.
 WCHAR LoadDecimalSeparator() {
     WCHAR decimal[2] = {};
-    const bool loaded = GetLocaleInfoW(GetUserDefaultLCID(), LOCALE_SDECIMAL, decimal, ARRAYSIZE(decimal)) != 0;
+    const bool loaded =
+        GetLocaleInfoW(GetUserDefaultLCID(), LOCALE_SDECIMAL, decimal, ARRAYSIZE(decimal)) != 0;
     return loaded ? decimal[0] : TEXT('\0');
 }
 
@@ -80,7 +81,8 @@ bool _FillComboxDlg(HWND hDlg, u32* code) {
     FillComboFromTable(hDlg, IDC_DATA_BITS, DataBitsTable);
     SendDlgItemMessageW(hDlg, IDC_DATA_BITS, CB_SETCURSEL, DefaultDataBitsIndex, 0);
     for (const ListCombo& list : ListCombos) {
-        if (!_FillComboFromString(GetDlgItem(hDlg, list.combo), list.stringId, list.selection, list.localDecimal)) {
+        if (!_FillComboFromString(GetDlgItem(hDlg, list.combo), list.stringId, list.selection,
+                                  list.localDecimal)) {
             *code = list.failureCode;
             return false;
         }

@@ -1,8 +1,8 @@
-// The settings line of a port, one text of up to five fields: speed, parity, data bits, stop bits, flow control. Here is
-// its text alone; where it is kept and shown is settings_storage.h's.
+// The settings line of a port, one text of up to five fields: speed, parity, data bits, stop bits, flow
+// control. Here is its text alone; where it is kept and shown is settings_storage.h's.
 //
-// Reading takes any text and always gives five fields in range. Writing puts the fields together by index; some parts
-// carry a blank that other programs' lines have too, and reading trims it away again.
+// Reading takes any text and always gives five fields in range. Writing puts the fields together by index;
+// some parts carry a blank that other programs' lines have too, and reading trims it away again.
 #pragma once
 
 #include "platform/platform.h"
@@ -42,8 +42,8 @@ WCHAR* ScanComma(WCHAR* text, const WCHAR* sep);
 // Takes a line apart. The line is cut at its commas; `baudText` is its first field, untrimmed, within `line`.
 PortSettings ParseSettingsLine(WCHAR* line, const WCHAR*& baudText);
 
-// Puts a line together behind the baud rate's text that `line` holds, from the four selections. Each index must be in
-// range. A line that does not fit `capacity` units is cut.
+// Puts a line together behind the baud rate's text that `line` holds, from the four selections. Each index
+// must be in range. A line that does not fit `capacity` units is cut.
 void ComposeSettingsLine(WCHAR* line, u32 capacity, const PortSettings& settings);
 
 bool SamePortSettings(const PortSettings& left, const PortSettings& right);

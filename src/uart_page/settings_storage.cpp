@@ -12,7 +12,7 @@ constexpr WPARAM BaudTextCapacity = 18;
 // The four combos whose index is what the line keeps.
 struct IndexCombo {
     int combo;
-    u32 PortSettings::* index;
+    u32 PortSettings::*index;
 };
 constexpr IndexCombo IndexCombos[] = {
     {IDC_PARITY, &PortSettings::ParityIndex},
@@ -44,7 +44,8 @@ void SelectBaudRate(HWND dialog, const WCHAR* text) {
     const LRESULT found = SendDlgItemMessageW(dialog, IDC_BAUD_RATE, CB_FINDSTRING, static_cast<WPARAM>(-1),
                                               reinterpret_cast<LPARAM>(text));
     TraceOut("%s - Search baudrate index, shIndex:%d\n", __func__, static_cast<INT>(found));
-    SendDlgItemMessageW(dialog, IDC_BAUD_RATE, CB_SETCURSEL, found != CB_ERR ? static_cast<WPARAM>(found) : 0, 0);
+    SendDlgItemMessageW(dialog, IDC_BAUD_RATE, CB_SETCURSEL, found != CB_ERR ? static_cast<WPARAM>(found) : 0,
+                        0);
 }
 
 void SelectSettings(HWND dialog, const PortSettings& settings) {
@@ -64,11 +65,12 @@ void _GetSettingsFromRegistryAndApplyToUI(HWND dialog, UartPageParams* params) {
         CopyText(szParms, ARRAYSIZE(szParms), DefaultSettingsLine);
         WriteProfileStringW(TEXT("Ports"), key, szParms);
     }
-    TraceOut("%s - B, szParms:%ws, m_szPorts:%ws, ComName:%ws\n", __func__, szParms, TEXT("Ports"), params->ComName);
+    TraceOut("%s - B, szParms:%ws, m_szPorts:%ws, ComName:%ws\n", __func__, szParms, TEXT("Ports"),
+             params->ComName);
     const WCHAR* baudText = nullptr;
     params->Saved = ParseSettingsLine(szParms, baudText);
-    TraceOut(baudText[0] != 0 ? "%s - BaudRate:%d, use selection\n" : "%s - BaudRate:%d, use default\n", __func__,
-             params->Saved.BaudRate);
+    TraceOut(baudText[0] != 0 ? "%s - BaudRate:%d, use selection\n" : "%s - BaudRate:%d, use default\n",
+             __func__, params->Saved.BaudRate);
     SelectBaudRate(dialog, baudText);
     SelectSettings(dialog, params->Saved);
 }
@@ -76,8 +78,8 @@ void _GetSettingsFromRegistryAndApplyToUI(HWND dialog, UartPageParams* params) {
 bool _SaveSettings(HWND dialog, const UartPageParams* params) {
     WCHAR szParms[ComposedLineCapacity] = {};
     PortSettings settings = {};
-    if (SendDlgItemMessageW(dialog, IDC_BAUD_RATE, WM_GETTEXT, BaudTextCapacity, reinterpret_cast<LPARAM>(szParms)) ==
-        0) {
+    if (SendDlgItemMessageW(dialog, IDC_BAUD_RATE, WM_GETTEXT, BaudTextCapacity,
+                            reinterpret_cast<LPARAM>(szParms)) == 0) {
         return false;
     }
     settings.BaudRate = ParseDecimal(szParms);

@@ -1,6 +1,6 @@
-// The records of one port's page and of its advanced dialog. The page owns both; the set and device of the provider's
-// request are borrowed. A page sees a snapshot: the settings line is read once, and the dialog reads the store at each
-// opening.
+// The records of one port's page and of its advanced dialog. The page owns both; the set and device of the
+// provider's request are borrowed. A page sees a snapshot: the settings line is read once, and the dialog
+// reads the store at each opening.
 #pragma once
 
 #include "device_model/board_params.h"

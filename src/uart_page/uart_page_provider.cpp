@@ -1,8 +1,8 @@
 #include "uart_page/uart_page_provider.h"
 
 #include "device_model/device_store.h"
+#include "page_parts/page_creation.h"
 #include "reporting/error_reporter.h"
-#include "reporting/module_entry.h"
 #include "reporting/trace.h"
 #include "resources/resource_ids.h"
 #include "uart_page/port_settings_page.h"
@@ -18,9 +18,7 @@ void ReportFailure(u32 oerr, u32 serr, u32 channel) {
 }
 
 void ReleaseUartParams(UartPageParams* params) {
-    if (params->AdvancedParams != nullptr) {
-        LocalFree(params->AdvancedParams);
-    }
+    LocalFree(params->AdvancedParams);
     LocalFree(params);
 }
 
@@ -64,44 +62,21 @@ bool _InitUartParams(UartPageParams* params, const SP_PROPSHEETPAGE_REQUEST* req
     return true;
 }
 
-HPROPSHEETPAGE _InitUartBasicSettingsPage(UartPageParams* params) {
-    PropertyPageDescription description = {};
-    PROPSHEETPAGEW& page = description.page;
-    page.dwSize = sizeof(description);
-    page.dwFlags = PSP_USECALLBACK;
-    page.hInstance = ModuleInstance;
-    page.pszTemplate = MAKEINTRESOURCEW(IDD_PORT_SETTINGS);
-    page.pfnDlgProc = UartBasicDlgProc;
-    page.lParam = reinterpret_cast<LPARAM>(params);
-    page.pfnCallback = UartBasicDlgCallback;
-    return CreatePropertySheetPageW(&page);
-}
-
-bool AddUartPage(const SP_PROPSHEETPAGE_REQUEST* request, LPFNADDPROPSHEETPAGE addPage, LPARAM addPageParam,
-                 UartPageParams* params) {
+bool _InitUartBasicSettingsPage(const SP_PROPSHEETPAGE_REQUEST* request, LPFNADDPROPSHEETPAGE addPage,
+                                LPARAM addPageParam, UartPageParams* params) {
     if (!_InitUartParams(params, request)) {
         ReportFailure(FailureInitPort, 0, 0);
-        ReleaseUartParams(params);
+        LocalFree(params);
         return false;
     }
-    const HPROPSHEETPAGE page = _InitUartBasicSettingsPage(params);
-    if (page == nullptr) {
-        ReportFailure(FailureCreatePage, 0, 0);
-        ReleaseUartParams(params);
-        return false;
-    }
-    if (addPage(page, addPageParam) != 1) {
-        ReportFailure(FailureAddPage, 0, 0);
-        DestroyPropertySheetPage(page);
-        return false;
-    }
-    return true;
+    return AddPropertyPage(IDD_PORT_SETTINGS, UartBasicDlgProc, UartBasicDlgCallback, params, addPage,
+                           addPageParam);
 }
 
 } // namespace
 
-extern "C" BOOL WINAPI KvrUartPropPageProvider(PSP_PROPSHEETPAGE_REQUEST request, LPFNADDPROPSHEETPAGE addPage,
-                                               LPARAM addPageParam) {
+extern "C" BOOL WINAPI KvrUartPropPageProvider(PSP_PROPSHEETPAGE_REQUEST request,
+                                               LPFNADDPROPSHEETPAGE addPage, LPARAM addPageParam) {
     TraceOut("----> %s( )\n", __func__);
     ChlBasicInfo basic = {};
     const u32 sStatus = Kavro_RegChlGetBasic(request->DeviceInfoSet, request->DeviceInfoData, &basic);
@@ -120,7 +95,7 @@ extern "C" BOOL WINAPI KvrUartPropPageProvider(PSP_PROPSHEETPAGE_REQUEST request
     }
     bool bSuccess = true;
     if (request->PageRequested == SPPSR_ENUM_ADV_DEVICE_PROPERTIES) {
-        bSuccess = AddUartPage(request, addPage, addPageParam, params);
+        bSuccess = _InitUartBasicSettingsPage(request, addPage, addPageParam, params);
     } else {
         LocalFree(params);
     }

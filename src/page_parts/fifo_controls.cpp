@@ -1,6 +1,6 @@
-#include "fifo_controls/fifo_controls.h"
+#include "page_parts/fifo_controls.h"
 
-#include "fifo_controls/label_text.h"
+#include "page_parts/label_text.h"
 #include "reporting/trace.h"
 #include "resources/resource_ids.h"
 
@@ -85,8 +85,8 @@ void ShowFifoDefaults(HWND hDlg, const UartBasicInfo& uart, const FifoSliders& s
 void FifoEnableClicked(HWND hDlg, FifoSliders* sliders) {
     const bool checked = IsDlgButtonChecked(hDlg, IDC_LARGEFIFO) == BST_CHECKED;
     if (checked) {
-        TraceOut("%s - FifoEnable CHECKED, RxFifoPos:%d, TxFifoPosTranslate:%d\n", __func__, sliders->RxFifoPos,
-                 sliders->TxFifoPosTranslate);
+        TraceOut("%s - FifoEnable CHECKED, RxFifoPos:%d, TxFifoPosTranslate:%d\n", __func__,
+                 sliders->RxFifoPos, sliders->TxFifoPosTranslate);
         PutTransmitSlider(hDlg, sliders->TxFifoPosTranslate);
         sliders->RxFifoPosTranslate = RxStageOfPosition(sliders->RxFifo4Stage, sliders->RxFifoPos);
         PutReceiveSlider(hDlg, sliders->RxFifoPos, sliders->RxFifoPosTranslate);
@@ -103,8 +103,8 @@ void FifoSliderMoved(HWND hDlg, HWND slider, FifoSliders* sliders) {
     case IDC_RECEIVE_SLIDER:
         sliders->RxFifoPos = SliderPosition(hDlg, IDC_RECEIVE_SLIDER);
         sliders->RxFifoPosTranslate = RxStageOfPosition(sliders->RxFifo4Stage, sliders->RxFifoPos);
-        TraceOut("%s - IDC_RECEIVE_SLIDER, RxFifoPos:%d, RxFifoPosTranslate:%d\n", __func__, sliders->RxFifoPos,
-                 sliders->RxFifoPosTranslate);
+        TraceOut("%s - IDC_RECEIVE_SLIDER, RxFifoPos:%d, RxFifoPosTranslate:%d\n", __func__,
+                 sliders->RxFifoPos, sliders->RxFifoPosTranslate);
         ShowLabel(hDlg, IDC_RECEIVE_HIGH, IDS_HIGH, sliders->RxFifoPosTranslate);
         break;
     case IDC_TRANSMIT_SLIDER:

@@ -1,4 +1,4 @@
-#include "fifo_controls/label_text.h"
+#include "page_parts/label_text.h"
 
 #include "reporting/module_entry.h"
 #include "reporting/text_operations.h"
