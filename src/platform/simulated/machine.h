@@ -195,6 +195,8 @@ UINT BoxStyle(HWND window);
 // Half a surrogate pair passes as it is, in the three-byte form.
 std::string ToUtf8(std::u16string_view text);
 Text FromUtf8(std::string_view text);
+// The unit by which names are compared and ordered without regard to case.
+char16_t Upper(char16_t unit);
 bool EqualNoCase(std::u16string_view left, std::u16string_view right);
 
 } // namespace sim

@@ -61,17 +61,6 @@ char32_t TakeUtf8(std::string_view& utf8) {
     return character;
 }
 
-// Windows folds each unit by itself, by a table that does not depend on the user's language and keeps letters
-// outside ASCII apart from those within.
-char16_t Upper(char16_t unit) {
-    if (unit < 0x80) {
-        return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - 0x20) : unit;
-    }
-    static const locale_t unicode = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
-    const wint_t upper = unicode ? towupper_l(unit, unicode) : unit;
-    return upper < 0x80 || upper > 0xFFFF ? unit : static_cast<char16_t>(upper);
-}
-
 } // namespace
 
 std::string ToUtf8(std::u16string_view text) {
@@ -100,6 +89,17 @@ Text FromUtf8(std::string_view utf8) {
         }
     }
     return text;
+}
+
+// Windows folds each unit by itself, by a table that does not depend on the user's language and keeps letters
+// outside ASCII apart from those within.
+char16_t Upper(char16_t unit) {
+    if (unit < 0x80) {
+        return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - 0x20) : unit;
+    }
+    static const locale_t unicode = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+    const wint_t upper = unicode ? towupper_l(unit, unicode) : unit;
+    return upper < 0x80 || upper > 0xFFFF ? unit : static_cast<char16_t>(upper);
 }
 
 bool EqualNoCase(std::u16string_view left, std::u16string_view right) {
