@@ -1,0 +1,92 @@
+// Machines for the tests: makers of boards and ports, and readers of what the places hold that a port's
+// number is written to.
+//
+// A maker adds to a machine and gives the device's index. A UART and a mainboard port come with every place
+// in agreement: PortName, friendly name, DOS name, serial map, database, and a settings line of their own.
+// The target of a port, "\Device\Serial3", never changes and tells which port a DOS name or a value of the
+// serial map belongs to.
+#pragma once
+
+#include <initializer_list>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "device_model/board_params.h"
+#include "platform/simulated/machine.h"
+
+namespace machines {
+
+// What makes a board out of devices: two of one place are one board.
+struct BoardPlace {
+    u32 bus = 3;
+    u32 irq = 17;
+};
+
+GUID InterfaceClass(u32 channelClass);
+
+// The board's own device, with the values of a board of `nrController`.
+std::size_t AddBoard(sim::Machine& machine, BoardPlace place, u32 nrController);
+// A channel with readable values; of ClassUart for a port, as the next does.
+std::size_t AddChannel(sim::Machine& machine, BoardPlace place, u32 channelClass, u32 channel);
+// A UART with FIFOs of 128 bytes and every capability, in RS-232, on a COM number.
+std::size_t AddUart(sim::Machine& machine, BoardPlace place, u32 channel, u32 number);
+// A port that belongs to no board.
+std::size_t AddMainboardPort(sim::Machine& machine, u32 number);
+// A board at device 0 whose UARTs, the devices from 1 on, are the channels 1, 2, 3, ... on these numbers.
+sim::Machine BoardOn(const std::vector<u32>& numbers);
+
+sim::Text PortName(u32 number);
+// The settings line that a port is made with, different for each device.
+sim::Text LineOf(std::size_t device);
+void SetLine(sim::Machine& machine, u32 number, std::u16string_view line);
+// The line under "COM5:"; empty without one.
+sim::Text Line(sim::Machine& machine, u32 number);
+
+// What the places hold for one port.
+struct Places {
+    sim::Text port_name;
+    sim::Text friendly_name;
+    sim::Text dos_name;      // the names with the port's target, joined by a blank
+    sim::Text serial_map;    // what the map holds for the port's target
+    bool claimed = false;    // the number of `port_name`, in the database
+    sim::Text settings_line; // that of `port_name`
+    friend bool operator==(const Places&, const Places&) = default;
+};
+std::ostream& operator<<(std::ostream& out, const Places& places);
+
+Places PlacesOf(sim::Machine& machine, std::size_t device);
+// What they hold if all agree on a number.
+Places PlacesAt(const sim::Machine& machine, std::size_t device, u32 number);
+
+// "name detail" of what the journal has of some reaches.
+std::vector<std::string> Journal(const sim::Machine& machine, std::initializer_list<sim::Reach> reaches);
+// How often an operation stands in the journal.
+std::size_t Count(const sim::Machine& machine, std::string_view name);
+
+// The library at work on a machine: attached, with the trace of that gone. At its end all must be given back
+// and nothing misused.
+struct Session {
+    explicit Session(sim::Machine& machine);
+    ~Session();
+
+private:
+    sim::Machine& machine_;
+    sim::Scope scope_;
+};
+
+// A device of a machine as the device manager passes it, open while it lasts.
+struct OpenDevice {
+    explicit OpenDevice(std::size_t device) : set(sim::OpenDeviceSet(device, data)) {}
+    ~OpenDevice();
+    OpenDevice(const OpenDevice&) = delete;
+    OpenDevice& operator=(const OpenDevice&) = delete;
+
+    SP_DEVINFO_DATA data{};
+    HDEVINFO set;
+};
+
+// A fresh journal, no faults.
+void Forget(sim::Machine& machine);
+
+} // namespace machines
