@@ -2,10 +2,6 @@
 
 #include <algorithm>
 
-#include <gtest/gtest.h>
-
-#include "reporting/module_entry.h"
-
 namespace machines {
 namespace {
 
@@ -244,17 +240,6 @@ std::vector<std::string> Journal(const sim::Machine& machine, std::initializer_l
 
 std::size_t Count(const sim::Machine& machine, std::string_view name) {
     return static_cast<std::size_t>(std::ranges::count(machine.journal, name, &sim::JournalEntry::name));
-}
-
-Session::Session(sim::Machine& machine) : machine_(machine), scope_(machine) {
-    DllMain(sim::LibraryInstance(), DLL_PROCESS_ATTACH, nullptr);
-    Forget(machine);
-}
-
-Session::~Session() {
-    EXPECT_TRUE(machine_.open.empty())
-        << machine_.open.begin()->second << ' ' << machine_.open.begin()->first << " not given back";
-    EXPECT_TRUE(machine_.misuse.empty()) << machine_.misuse.front();
 }
 
 OpenDevice::~OpenDevice() {

@@ -64,17 +64,6 @@ std::vector<std::string> Journal(const sim::Machine& machine, std::initializer_l
 // How often an operation stands in the journal.
 std::size_t Count(const sim::Machine& machine, std::string_view name);
 
-// The library at work on a machine: attached, with the trace of that gone. At its end all must be given back
-// and nothing misused.
-struct Session {
-    explicit Session(sim::Machine& machine);
-    ~Session();
-
-private:
-    sim::Machine& machine_;
-    sim::Scope scope_;
-};
-
 // A device of a machine as the device manager passes it, open while it lasts.
 struct OpenDevice {
     explicit OpenDevice(std::size_t device) : set(sim::OpenDeviceSet(device, data)) {}
@@ -86,7 +75,7 @@ struct OpenDevice {
     HDEVINFO set;
 };
 
-// A fresh journal, no faults.
+// A fresh journal, no boxes, no faults.
 void Forget(sim::Machine& machine);
 
 } // namespace machines

@@ -1,0 +1,34 @@
+// The library at work on a machine, for a test.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "reporting/module_entry.h"
+#include "tests/machines.h"
+
+namespace machines {
+
+// Attached while it lasts, with the trace of that gone. At its end all must be given back and nothing
+// misused.
+struct Session {
+    explicit Session(sim::Machine& machine) : machine_(machine), scope_(machine) {
+        DllMain(sim::LibraryInstance(), DLL_PROCESS_ATTACH, nullptr);
+        Forget(machine);
+    }
+    ~Session() {
+        for (const auto& [kind, count] : machine_.open) {
+            ADD_FAILURE() << count << ' ' << kind << " not given back";
+        }
+        for (const std::string& line : machine_.misuse) {
+            ADD_FAILURE() << line;
+        }
+    }
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+private:
+    sim::Machine& machine_;
+    sim::Scope scope_;
+};
+
+} // namespace machines
