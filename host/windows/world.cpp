@@ -13,9 +13,6 @@
 namespace host {
 namespace {
 
-constexpr GUID ComPortInterface = {
-    0x86E0D1E0, 0x8089, 0x11D0, {0x9C, 0xE4, 0x08, 0x00, 0x3E, 0x30, 0x1F, 0x73}};
-
 // A device information set, destroyed at the end.
 class DeviceSet {
 public:
@@ -56,11 +53,11 @@ bool Before(const Text& left, const Text& right) {
     return CompareStringOrdinal(left.c_str(), -1, right.c_str(), -1, TRUE) == CSTR_LESS_THAN;
 }
 
-// The devices that have an interface of a serial port, present or not.
+// The devices that have an interface of any class; with DIGCF_PRESENT, a present one.
 std::vector<std::string> InterfaceOwners(DWORD flags) {
     std::vector<std::string> ids;
     const DeviceSet set(
-        SetupDiGetClassDevsW(&ComPortInterface, nullptr, nullptr, DIGCF_DEVICEINTERFACE | flags));
+        SetupDiGetClassDevsW(nullptr, nullptr, nullptr, DIGCF_ALLCLASSES | DIGCF_DEVICEINTERFACE | flags));
     SP_DEVINFO_DATA data = EmptyDevice();
     for (DWORD index = 0; SetupDiEnumDeviceInfo(set.Handle(), index, &data); ++index) {
         ids.push_back(InstanceId(set.Handle(), &data));
@@ -130,15 +127,12 @@ public:
             Device device;
             device.id = InstanceId(set.Handle(), &data);
             const RegistryKey key(HardwareKey(set.Handle(), data));
-            const bool has_interface = among(with_interface, device.id);
-            if (key.Has(TEXT("BoardPciBusNumber")) && key.Has(TEXT("BoardNrController"))) {
-                device.kind = DeviceKind::Board;
-            } else if (has_interface || Property(set.Handle(), data, SPDRP_CLASS) == TEXT("Ports")) {
+            if (Property(set.Handle(), data, SPDRP_CLASS) == TEXT("Ports") || key.Has(TEXT("PortName"))) {
                 device.kind = DeviceKind::Port;
-                device.present = !has_interface || among(present, device.id);
-            } else {
+            } else if (!key.Has(TEXT("BoardNrController"))) { // what only a board's own device says
                 continue;
             }
+            device.present = !among(with_interface, device.id) || among(present, device.id);
             device.description = Property(set.Handle(), data, SPDRP_DEVICEDESC);
             device.friendly_name = Property(set.Handle(), data, SPDRP_FRIENDLYNAME);
             devices.push_back(std::move(device));
@@ -209,7 +203,7 @@ public:
                                          &data};
         std::vector<HPROPSHEETPAGE> pages;
         if (provider(&request, &TakePage, reinterpret_cast<LPARAM>(&pages)) && !pages.empty()) {
-            ShowSheet(FromUtf8(NameOf(*device)), pages);
+            ShowSheet(FromUtf8(NameOf(*device)) + TEXT(" Properties"), pages);
         }
         return true;
     }

@@ -72,11 +72,10 @@ BOOL WINAPI StandInWriteProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR val
 }
 
 void TakeProfileFromRegistry() {
-    std::wstring section;
+    WriteProfileStringW(L"Ports", nullptr, nullptr);
     for (const auto& [key, line] : RegistryKey(HKEY_LOCAL_MACHINE, PortsKey, KEY_READ).Texts()) {
-        section += key + L'=' + line + L'\0';
+        WriteProfileStringW(L"Ports", key.c_str(), line.c_str());
     }
-    WriteProfileSectionW(L"Ports", (section + L'\0').c_str());
 }
 
 } // namespace
