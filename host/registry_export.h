@@ -1,0 +1,65 @@
+// The form of a registry export, "Windows Registry Editor Version 5.00": what regedit writes and takes,
+// without regard to what the keys mean. It is read in one pass; what is held of it is the value at hand.
+//
+// Taken are lines of UTF-16LE with a mark or of UTF-8, ended by CR LF or LF; blanks around the parts of a
+// line; comments behind ;, also behind a value and between the lines of one; a text in quotes over several
+// lines, whose ends are part of it. Any other line is an error, in keys of no interest as well.
+#pragma once
+
+#include <cstddef>
+#include <istream>
+#include <ostream>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "platform/platform.h"
+
+namespace host {
+
+inline constexpr std::basic_string_view<WCHAR> ExportFirstLine = TEXT("Windows Registry Editor Version 5.00");
+
+// What is wrong with a file: "file:line: expected ...".
+struct Problem {
+    std::string file;
+    std::size_t line = 0; // from 1
+    std::string expected;
+    std::string Text() const { return file + ':' + std::to_string(line) + ": expected " + expected; }
+};
+
+// Who takes what a file holds, in its order. Texts and data are valid during the call.
+class ExportReceiver {
+public:
+    virtual ~ExportReceiver() = default;
+
+    // The values that follow belong to this key, "HKEY_LOCAL_MACHINE\...". False if they mean nothing to the
+    // receiver: they are then checked and not handed on.
+    virtual bool Key(std::basic_string_view<WCHAR> path) = 0;
+    // Also what was read of the key before is to go, and of all below it.
+    virtual void DeleteKey(std::basic_string_view<WCHAR> path) = 0;
+    // The key's default value has no name. A text has its terminator.
+    virtual void SetValue(std::basic_string_view<WCHAR> name, DWORD type, std::span<const BYTE> data) = 0;
+    virtual void DeleteValue(std::basic_string_view<WCHAR> name) = 0;
+};
+
+// False if the file is malformed, with the first line that is wrong. The receiver then has what stood before
+// it.
+bool ReadExport(std::istream& in, const std::string& file, ExportReceiver& receiver, Problem& problem);
+
+// Writes UTF-16LE with a mark and CR LF, with long values wrapped as regedit does. Whether all went well, the
+// stream knows.
+class ExportWriter {
+public:
+    explicit ExportWriter(std::ostream& out);
+
+    void Key(std::basic_string_view<WCHAR> path);
+    // What can't stand as a text or a number goes out as bytes, so that any value comes back as it was.
+    void SetValue(std::basic_string_view<WCHAR> name, DWORD type, std::span<const BYTE> data);
+
+private:
+    void Write(std::basic_string_view<WCHAR> text);
+
+    std::ostream& out_;
+};
+
+} // namespace host

@@ -1,0 +1,111 @@
+#include <algorithm>
+#include <cstring>
+
+#include "host/registry_export.h"
+
+namespace host {
+namespace {
+
+using Text = std::basic_string<WCHAR>;
+using TextView = std::basic_string_view<WCHAR>;
+
+constexpr TextView line_end = TEXT("\r\n");
+
+// A text that stands in quotes as it is: one terminator, at its end, and no line end.
+bool IsQuotable(std::span<const BYTE> data) {
+    if (data.size() < sizeof(WCHAR) || data.size() % sizeof(WCHAR) != 0)
+        return false;
+    for (std::size_t at = 0; at < data.size(); at += sizeof(WCHAR)) {
+        WCHAR unit;
+        std::memcpy(&unit, data.data() + at, sizeof unit);
+        if (unit == '\r' || unit == '\n' || (unit == 0) != (at + sizeof unit == data.size()))
+            return false;
+    }
+    return true;
+}
+
+void AppendQuoted(Text& line, TextView text) {
+    line += '"';
+    for (const WCHAR unit : text) {
+        if (unit == '\n' || unit == '\r') {
+            line += unit == '\n' ? TEXT("\\n") : TEXT("\\r");
+            continue;
+        }
+        if (unit == '"' || unit == '\\')
+            line += '\\';
+        line += unit;
+    }
+    line += '"';
+}
+
+void AppendHex(Text& line, DWORD number, int digits) {
+    for (int shift = 4 * digits; (shift -= 4) >= 0;)
+        line += static_cast<WCHAR>("0123456789abcdef"[number >> shift & 0xF]);
+}
+
+// As regedit wraps them: no line is longer than 80 columns but one with a long name.
+void AppendBytes(Text& line, std::span<const BYTE> data) {
+    constexpr std::size_t last_column = 77;
+    std::size_t line_begin = 0;
+    for (std::size_t i = 0; i < data.size(); ++i) {
+        if (i != 0) {
+            line += ',';
+            if (line.size() - line_begin >= last_column) {
+                line += TEXT("\\\r\n");
+                line_begin = line.size();
+                line += TEXT("  ");
+            }
+        }
+        AppendHex(line, data[i], 2);
+    }
+}
+
+} // namespace
+
+ExportWriter::ExportWriter(std::ostream& out) : out_(out) {
+    Write(TEXT("\uFEFF"));
+    Write(ExportFirstLine);
+    Write(line_end);
+}
+
+void ExportWriter::Key(TextView path) {
+    Write(Text(line_end).append(TEXT("[")).append(path).append(TEXT("]")).append(line_end));
+}
+
+void ExportWriter::SetValue(TextView name, DWORD type, std::span<const BYTE> data) {
+    Text line;
+    if (name.empty())
+        line += '@';
+    else
+        AppendQuoted(line, name);
+    line += '=';
+    if (type == REG_SZ && IsQuotable(data)) {
+        Text text(data.size() / sizeof(WCHAR) - 1, 0);
+        std::memcpy(text.data(), data.data(), text.size() * sizeof(WCHAR));
+        AppendQuoted(line, text);
+    } else if (type == REG_DWORD && data.size() == sizeof(DWORD)) {
+        DWORD number;
+        std::memcpy(&number, data.data(), sizeof number);
+        line += TEXT("dword:");
+        AppendHex(line, number, 8);
+    } else {
+        line += TEXT("hex");
+        if (type != REG_BINARY) {
+            line += '(';
+            Text digits;
+            AppendHex(digits, type, 8);
+            line += digits.substr(std::min(digits.find_first_not_of('0'), digits.size() - 1));
+            line += ')';
+        }
+        line += ':';
+        AppendBytes(line, data);
+    }
+    Write(line.append(line_end));
+}
+
+void ExportWriter::Write(TextView text) {
+    out_.write(reinterpret_cast<const char*>(text.data()),
+               static_cast<std::streamsize>(text.size() * sizeof(WCHAR)));
+}
+
+} // namespace host

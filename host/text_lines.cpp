@@ -1,0 +1,158 @@
+#include "host/text_lines.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstring>
+
+namespace host {
+namespace {
+
+static_assert(std::endian::native == std::endian::little, "UTF-16LE is read as it lies in the file");
+
+constexpr std::size_t block = 0x10000; // units or bytes that are read at once
+
+struct Utf8Form {
+    std::size_t bytes;
+    BYTE mask, lead; // the bits that tell the form, and what they are
+    char32_t least;  // a smaller character has a shorter form
+};
+constexpr Utf8Form utf8_forms[] = {{2, 0xE0, 0xC0, 0x80}, {3, 0xF0, 0xE0, 0x800}, {4, 0xF8, 0xF0, 0x10000}};
+
+const Utf8Form* FormOf(BYTE lead) {
+    const auto* const form = std::ranges::find_if(
+        utf8_forms, [lead](const Utf8Form& each) { return (lead & each.mask) == each.lead; });
+    return form == std::end(utf8_forms) ? nullptr : form;
+}
+
+// False if the bytes don't go on as the form says, or stand for no character.
+bool Combine(const Utf8Form& form, const BYTE* bytes, char32_t& character) {
+    character = bytes[0] & static_cast<BYTE>(~form.mask);
+    for (std::size_t i = 1; i < form.bytes; ++i) {
+        if ((bytes[i] & 0xC0) != 0x80)
+            return false;
+        character = character << 6 | (bytes[i] & 0x3Fu);
+    }
+    return character >= form.least && character < 0x110000;
+}
+
+} // namespace
+
+TextLines::TextLines(std::istream& in) : in_(in), units_(block), bytes_(block) {
+    in_.read(reinterpret_cast<char*>(bytes_.data()), 3);
+    undecoded_ = static_cast<std::size_t>(in_.gcount());
+    constexpr BYTE utf16_mark[] = {0xFF, 0xFE}, utf8_mark[] = {0xEF, 0xBB, 0xBF};
+    if (undecoded_ >= 2 && std::equal(utf16_mark, std::end(utf16_mark), bytes_.data())) {
+        utf16_ = true;
+        // The third byte is half a unit, which FillUtf16 makes whole.
+        bytes_[0] = bytes_[2];
+        undecoded_ -= 2;
+    } else if (undecoded_ == 3 && std::equal(utf8_mark, std::end(utf8_mark), bytes_.data())) {
+        undecoded_ = 0;
+    }
+}
+
+bool TextLines::Next() {
+    line_ = next_;
+    while (!FindLineFeed()) {
+        if (at_end_) {
+            length_ = filled_ - line_;
+            next_ = filled_;
+            if (length_ == 0 || broken_ != nullptr)
+                return false;
+            ++number_;
+            return true;
+        }
+        Fill();
+    }
+    const bool after_return = searched_ > line_ && units_[searched_ - 1] == '\r';
+    length_ = searched_ - line_ - after_return;
+    next_ = ++searched_;
+    ++number_;
+    return true;
+}
+
+// The byte of a line feed is looked for, as that is many times faster than looking for the unit. It is rare
+// as half of another unit.
+bool TextLines::FindLineFeed() {
+    const char* const begin = reinterpret_cast<const char*>(units_.data());
+    const char* const end = begin + filled_ * sizeof(WCHAR);
+    for (const char* at = begin + searched_ * sizeof(WCHAR);
+         (at = static_cast<const char*>(std::memchr(at, '\n', static_cast<std::size_t>(end - at)))) !=
+         nullptr;
+         ++at) {
+        searched_ = static_cast<std::size_t>(at - begin) / sizeof(WCHAR);
+        if (units_[searched_] == '\n')
+            return true;
+    }
+    searched_ = filled_;
+    return false;
+}
+
+void TextLines::Fill() {
+    std::copy(units_.begin() + static_cast<std::ptrdiff_t>(line_),
+              units_.begin() + static_cast<std::ptrdiff_t>(filled_), units_.begin());
+    filled_ -= line_;
+    searched_ -= line_;
+    line_ = 0;
+    if (units_.size() < filled_ + block)
+        units_.resize(filled_ + block);
+    if (utf16_)
+        FillUtf16();
+    else
+        FillUtf8();
+    if (in_.bad())
+        broken_ = "a file that can be read";
+}
+
+void TextLines::FillUtf16() {
+    char* const to = reinterpret_cast<char*>(units_.data() + filled_);
+    std::copy_n(bytes_.begin(), undecoded_, to);
+    in_.read(to + undecoded_, static_cast<std::streamsize>(block * sizeof(WCHAR) - undecoded_));
+    const std::size_t count = undecoded_ + static_cast<std::size_t>(in_.gcount());
+    undecoded_ = 0;
+    filled_ += count / sizeof(WCHAR);
+    at_end_ = !in_;
+    if (count % sizeof(WCHAR) != 0)
+        broken_ = "the second byte of the last character";
+}
+
+void TextLines::FillUtf8() {
+    in_.read(reinterpret_cast<char*>(bytes_.data() + undecoded_),
+             static_cast<std::streamsize>(block - undecoded_));
+    const std::size_t count = undecoded_ + static_cast<std::size_t>(in_.gcount());
+    at_end_ = !in_;
+    const std::size_t decoded = Decode(bytes_.data(), count);
+    undecoded_ = count - decoded;
+    std::copy_n(bytes_.begin() + static_cast<std::ptrdiff_t>(decoded), undecoded_, bytes_.begin());
+    // A character's beginning can only wait for its other bytes.
+    if (undecoded_ != 0 &&
+        (at_end_ || FormOf(bytes_[0]) == nullptr || undecoded_ >= FormOf(bytes_[0])->bytes)) {
+        broken_ = "text in UTF-8";
+        at_end_ = true;
+    }
+}
+
+// Gives the number of bytes taken: up to the end, or a character that is not whole or none.
+std::size_t TextLines::Decode(const BYTE* bytes, std::size_t count) {
+    std::size_t at = 0;
+    while (at < count) {
+        if (bytes[at] < 0x80) {
+            units_[filled_++] = bytes[at++];
+            continue;
+        }
+        const Utf8Form* const form = FormOf(bytes[at]);
+        char32_t character = 0;
+        if (form == nullptr || count - at < form->bytes || !Combine(*form, bytes + at, character))
+            break;
+        if (character < 0x10000) {
+            units_[filled_++] = static_cast<WCHAR>(character);
+        } else {
+            units_[filled_++] = static_cast<WCHAR>(0xD7C0 + (character >> 10));
+            units_[filled_++] = static_cast<WCHAR>(0xDC00 + (character & 0x3FF));
+        }
+        at += form->bytes;
+    }
+    return at;
+}
+
+} // namespace host
