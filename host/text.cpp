@@ -154,7 +154,14 @@ std::string Folded(std::string_view text) {
 }
 
 std::string NameOf(std::string_view caption) {
-    std::string name = Folded(Shown(caption));
+    // "(&R)" behind a caption in letters that no key has.
+    const std::size_t key = caption.find("(&");
+    std::string name = key != std::string_view::npos && caption.substr(key).find(')') == 3
+                           ? Folded(Shown(caption.substr(0, key))) + Folded(Shown(caption.substr(key + 4)))
+                           : Folded(Shown(caption));
+    for (const std::string_view mark : {"\u200E", "\u200F", "\u202A", "\u202B", "\u202C"})
+        for (std::size_t at; (at = name.find(mark)) != std::string::npos;)
+            name.erase(at, mark.size());
     for (bool cut = true; cut;) {
         cut = false;
         for (std::string_view end : {" ", ":", ".", "…", "：", "\u00A0"})

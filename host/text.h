@@ -25,7 +25,8 @@ std::vector<std::string> BrokenAt(std::string_view text, int columns);
 std::string Shown(std::string_view caption);
 // In lower case, for the alphabets that have it.
 std::string Folded(std::string_view text);
-// What a caption is called by: as shown, folded, without the colon or the dots and blanks at its end.
+// What a caption is called by: folded, without the marks of keys and of writing direction, and without the
+// colon or the dots and blanks at its end.
 std::string NameOf(std::string_view caption);
 
 // On one line, in quotes, with line ends and other controls written as \r, \n, \x01.

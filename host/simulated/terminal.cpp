@@ -26,7 +26,7 @@ public:
         el_set(edit_, EL_PROMPT, &Terminal::PromptOf);
         el_set(edit_, EL_EDITOR, "emacs");
         el_set(edit_, EL_HIST, history, history_);
-        el_set(edit_, EL_ADDFN, "complete", "Completes the word", &Terminal::Complete);
+        el_wset(edit_, EL_ADDFN, L"complete", L"Completes the word", &Terminal::Complete);
         el_set(edit_, EL_BIND, "^I", "complete", nullptr);
         el_set(edit_, EL_SIGNAL, 1);
     }

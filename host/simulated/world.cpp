@@ -152,7 +152,7 @@ bool OpenMachine(const std::string& file, sim::Machine& machine, std::string& er
     Problem problem;
     if (LoadMachine(file.empty() ? static_cast<std::istream&>(sample) : from_file, file, machine, problem))
         return true;
-    error = problem.text;
+    error = problem.file + ':' + std::to_string(problem.line) + ": expected " + problem.expected;
     return false;
 }
 
