@@ -2,6 +2,10 @@
 
 #include <algorithm>
 
+#include "board_page/advanced_port_control.h"
+#include "device_model/board_discovery.h"
+#include "resources/resource_ids.h"
+
 namespace machines {
 namespace {
 
@@ -244,6 +248,30 @@ std::size_t Count(const sim::Machine& machine, std::string_view name) {
 
 OpenDevice::~OpenDevice() {
     SetupDiDestroyDeviceInfoList(set);
+}
+
+OpenBoard::OpenBoard(std::size_t index) : device(index) {
+    params.DeviceInfoSet = device.set;
+    params.DeviceInfoData = &device.data;
+    std::ranges::fill(params.InterfaceSet, INVALID_HANDLE_VALUE);
+    initiated = BoardInitiate(&params, &status);
+}
+
+OpenBoard::~OpenBoard() {
+    BoardDeinitiate(&params);
+}
+
+void SortInDialog(sim::Machine& machine, BPPCHL* channel) {
+    machine.user = [](HWND front) {
+        if (sim::BoxStyle(front) != 0) {
+            SendMessageW(front, WM_COMMAND, IDOK, 0);
+        } else {
+            SendMessageW(front, WM_COMMAND, IDC_SORT_COM, 0);
+            SendMessageW(front, WM_COMMAND, IDCANCEL, 0);
+        }
+    };
+    KvrBoardUartAdvancedDlgShow(nullptr, channel);
+    machine.user = nullptr;
 }
 
 void Forget(sim::Machine& machine) {

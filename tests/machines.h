@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "device_model/board_params.h"
+#include "device_model/channel_list.h"
 #include "platform/simulated/machine.h"
 
 namespace machines {
@@ -74,6 +74,23 @@ struct OpenDevice {
     SP_DEVINFO_DATA data{};
     HDEVINFO set;
 };
+
+// A board read by BoardInitiate, as its page has it, until it goes. `params` is zero before.
+struct OpenBoard {
+    explicit OpenBoard(std::size_t device = 0);
+    ~OpenBoard();
+    // The record of a channel number; null without one.
+    BPPCHL* Channel(u32 number) const { return BoardChlByNumber(&params, number); }
+
+    OpenDevice device;
+    BoardParams params{};
+    u32 status = 0;
+    bool initiated = false;
+};
+
+// Opens the Advanced Port Control dialog on a channel, clicks Sort UART and closes it by Cancel, and any box
+// by OK.
+void SortInDialog(sim::Machine& machine, BPPCHL* channel);
 
 // A fresh journal, no boxes, no faults.
 void Forget(sim::Machine& machine);
