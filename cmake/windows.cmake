@@ -1,6 +1,7 @@
 # The product, and the programs that try and measure it on a real or a stand-in Windows.
 
 enable_language(RC)
+set(CMAKE_RC_FLAGS "-c 65001") # the texts are UTF-8
 set(CMAKE_CXX_STANDARD_LIBRARIES "")
 add_compile_definitions(UNICODE _UNICODE WINVER=0x0601 _WIN32_WINNT=0x0601)
 # The same bytes from the same sources, wherever they lie.
@@ -10,7 +11,6 @@ add_link_options(-static -Wl,--no-insert-timestamp $<$<NOT:$<CONFIG:Debug>>:-s>)
 # One object a resource script and language; the linker merges them into the one resource section.
 function(add_resources target script)
   add_library(${target} OBJECT ${script})
-  set_target_properties(${target} PROPERTIES COMPILE_OPTIONS "-c;65001")
   target_include_directories(${target} PRIVATE src/resources)
   target_compile_definitions(${target} PRIVATE ${ARGN})
 endfunction()
@@ -66,3 +66,6 @@ target_link_libraries(host PUBLIC kernel32 user32 gdi32 comctl32 advapi32 setupa
 
 add_executable(kvrhost host/main.cpp)
 target_link_libraries(kvrhost PRIVATE host)
+
+add_executable(kvrfit host/windows/fit/main.cpp)
+target_link_libraries(kvrfit PRIVATE kernel32 user32 gdi32 comctl32)
