@@ -44,6 +44,23 @@ constexpr struct {
 } answers[] = {{"yes", IDYES}, {"no", IDNO}, {"ok", IDOK}},
   sheet_buttons[] = {{"ok", IDOK}, {"apply", apply_now}, {"cancel", IDCANCEL}};
 
+// Whether the command can be done to such a control.
+bool IsFor(const std::string& command, Kind kind) {
+    switch (kind) {
+    case Kind::Button:
+        return command == "click";
+    case Kind::Check:
+        return command == "click" || command == "check" || command == "uncheck";
+    case Kind::Combo:
+    case Kind::List:
+        return command == "pick";
+    case Kind::Slider:
+        return command == "slide";
+    default:
+        return false;
+    }
+}
+
 int IdOf(const auto& table, const std::string& word) {
     std::string words;
     for (const auto& entry : table) {
@@ -240,7 +257,7 @@ Interpreter::Words Interpreter::Continue(const Words& words) {
         } else if (argument == "CONTROL") {
             const Window front = Front();
             for (const Control& control : front.controls)
-                if (control.kind != Kind::Label && control.kind != Kind::Group) {
+                if (IsFor(words[0], control.kind)) {
                     if (const std::string name = CallName(front, control); !name.empty())
                         result.push_back(name);
                     result.push_back(std::to_string(control.id));
