@@ -24,6 +24,9 @@ pkg_check_modules(EDIT REQUIRED IMPORTED_TARGET libedit)
 
 file(GLOB HOST CONFIGURE_DEPENDS host/*.cpp host/simulated/*.cpp)
 list(FILTER HOST EXCLUDE REGEX "/main\\.cpp$")
+set(SAMPLE_MACHINE ${CMAKE_SOURCE_DIR}/host/machines/sample.reg)
+set_source_files_properties(host/simulated/sample_machine.cpp PROPERTIES
+                            OBJECT_DEPENDS ${SAMPLE_MACHINE} COMPILE_DEFINITIONS SAMPLE_MACHINE="${SAMPLE_MACHINE}")
 add_library(host OBJECT ${HOST})
 target_include_directories(host PUBLIC ${CMAKE_SOURCE_DIR})
 target_link_libraries(host PUBLIC CLI11::CLI11 utf8::cpp PkgConfig::EDIT)

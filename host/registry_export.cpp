@@ -24,6 +24,10 @@ bool IsBlank(WCHAR unit) {
     return unit == ' ' || unit == '\t';
 }
 
+WCHAR UpperLetter(WCHAR unit) {
+    return unit >= 'a' && unit <= 'z' ? static_cast<WCHAR>(unit - 'a' + 'A') : unit;
+}
+
 constexpr auto digit_values = [] {
     std::array<std::int8_t, 0x80> values{};
     values.fill(-1);
@@ -102,7 +106,7 @@ private:
         if (length == TextView::npos)
             Fail("] behind the key");
         const TextView path(at_, length);
-        if (!path.starts_with(root_prefix))
+        if (!std::ranges::equal(path.substr(0, root_prefix.size()), root_prefix, {}, UpperLetter))
             Fail("a key that begins with HKEY_");
         at_ += length + 1;
         EndLine("the end of the line behind ]");

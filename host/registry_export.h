@@ -24,7 +24,6 @@ struct Problem {
     std::string file;
     std::size_t line = 0; // from 1
     std::string expected;
-    std::string Text() const { return file + ':' + std::to_string(line) + ": expected " + expected; }
 };
 
 // Who takes what a file holds, in its order. Texts and data are valid during the call.
