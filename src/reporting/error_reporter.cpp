@@ -76,11 +76,14 @@ constexpr Failure Failures[] = {
     {FailureSortPortOpened, AnyStatus, Box::Plain,
      TEXT("COM%d check opened failure. [serr:%d]"), {FirstNumber, Serr}},
     {FailureSortToTemporary, AnyStatus, Box::Plain,
-     TEXT("KVR channle(%d), COM%d remap to temporary COM%d failure. [serr:%d]"), {Channel, FirstNumber, SecondNumber, Serr}},
+     TEXT("KVR channle(%d), COM%d remap to temporary COM%d failure. [serr:%d]"),
+     {Channel, FirstNumber, SecondNumber, Serr}},
     {FailureSortToFinal, AnyStatus, Box::Plain,
-     TEXT("KVR channle(%d), COM%d remap to COM%d failure. [serr:%d]"), {Channel, FirstNumber, SecondNumber, Serr}},
+     TEXT("KVR channle(%d), COM%d remap to COM%d failure. [serr:%d]"),
+     {Channel, FirstNumber, SecondNumber, Serr}},
     {FailureSortFromTemporary, AnyStatus, Box::Plain,
-     TEXT("KVR channle(%d), temporary COM%d remap to COM%d failure. [serr:%d]"), {Channel, FirstNumber, SecondNumber, Serr}},
+     TEXT("KVR channle(%d), temporary COM%d remap to COM%d failure. [serr:%d]"),
+     {Channel, FirstNumber, SecondNumber, Serr}},
 };
 // clang-format on
 
