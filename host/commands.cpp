@@ -76,7 +76,7 @@ int IdOf(const auto& table, const std::string& word) {
 void Interpreter::Execute(const std::string& line) {
     Words words;
     if (!SplitWords(line, words))
-        return Fail("a \" is open");
+        return Fail("a \" is not closed");
     const std::string name = Folded(words[0]);
     const auto command = std::find_if(std::begin(commands_), std::end(commands_),
                                       [&](const Command& entry) { return name == entry.name; });

@@ -3,8 +3,8 @@
 // project:
 //     # machine: host/machines/two_boards.reg
 //     # language: 1031
-// and one of this form anywhere makes the next call of an operation fail:
-//     # fail: DefineDosDeviceW
+// and one of this form anywhere makes a call of an operation fail, here the fifth one from then on:
+//     # fail: DefineDosDeviceW 5
 // With KEEP_TRANSCRIPTS set in the environment the transcripts are written anew instead.
 #include <algorithm>
 #include <cstdlib>
@@ -50,8 +50,11 @@ public:
         if (next_ == lines_.size())
             return {};
         const std::string& line = lines_[next_++];
-        if (const std::string operation = Said(line, "fail"); !operation.empty())
-            machine_.faults.at_call.emplace_back(operation, machine_.faults.count_by_name[operation] + 1);
+        std::istringstream said(Said(line, "fail"));
+        std::string operation;
+        std::size_t call = 0;
+        if (said >> operation >> call)
+            machine_.faults.at_call.emplace_back(operation, machine_.faults.count_by_name[operation] + call);
         return line;
     }
 
