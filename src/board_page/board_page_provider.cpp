@@ -14,27 +14,14 @@ void ReportFailure(u32 oerr, u32 serr) {
     ErrorBoxShow(oerr, serr, nullptr, 0, 0, 0, nullptr);
 }
 
-void ReleaseBoardParams(BoardParams* params) {
+void ReleaseBoardParams(LPARAM record) {
+    auto* params = reinterpret_cast<BoardParams*>(record);
     BoardDeinitiate(params);
     LocalFree(params);
 }
 
-// Releases the record once the page is gone, however it went.
 UINT CALLBACK BoardBasicDlgCallback(HWND, UINT message, LPPROPSHEETPAGEW page) {
-    TraceOut("----> %s( ), Message:%d\n", __func__, message);
-    UINT nReturn = 1;
-    switch (message) {
-    case PSPCB_CREATE:
-        TraceOut("%s - PSPCB_CREATE\n", __func__);
-        break;
-    case PSPCB_RELEASE:
-        TraceOut("%s - PSPCB_RELEASE\n", __func__);
-        ReleaseBoardParams(reinterpret_cast<BoardParams*>(page->lParam));
-        nReturn = 0;
-        break;
-    }
-    TraceOut("<---- %s, nReturn:%d\n", __func__, nReturn);
-    return nReturn;
+    return AnswerPageCallback(__func__, message, page, ReleaseBoardParams);
 }
 
 bool _InitBoardParams(BoardParams* params, const SP_PROPSHEETPAGE_REQUEST* request, u32* status) {
@@ -51,7 +38,7 @@ bool _InitBoardBasicSettingsPage(const SP_PROPSHEETPAGE_REQUEST* request, LPFNAD
     u32 sStatus = 0;
     if (!_InitBoardParams(params, request, &sStatus)) {
         ReportFailure(FailureInitBoard, sStatus);
-        ReleaseBoardParams(params);
+        ReleaseBoardParams(reinterpret_cast<LPARAM>(params));
         return false;
     }
     return AddPropertyPage(IDD_PORT_CONTROL, BoardBasicDlgProc, BoardBasicDlgCallback, params, addPage,

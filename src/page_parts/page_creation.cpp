@@ -2,6 +2,7 @@
 
 #include "reporting/error_reporter.h"
 #include "reporting/module_entry.h"
+#include "reporting/trace.h"
 
 bool AddPropertyPage(int dialog, DLGPROC procedure, LPFNPSPCALLBACKW callback, void* record,
                      LPFNADDPROPSHEETPAGE addPage, LPARAM addPageParam) {
@@ -26,4 +27,22 @@ bool AddPropertyPage(int dialog, DLGPROC procedure, LPFNPSPCALLBACKW callback, v
         return false;
     }
     return true;
+}
+
+UINT AnswerPageCallback(const char* function, UINT message, const PROPSHEETPAGEW* page,
+                        void (*release)(LPARAM record)) {
+    TraceOut("----> %s( ), Message:%d\n", function, message);
+    UINT nReturn = 1;
+    switch (message) {
+    case PSPCB_CREATE:
+        TraceOut("%s - PSPCB_CREATE\n", function);
+        break;
+    case PSPCB_RELEASE:
+        TraceOut("%s - PSPCB_RELEASE\n", function);
+        release(page->lParam);
+        nReturn = 0;
+        break;
+    }
+    TraceOut("<---- %s, nReturn:%d\n", function, nReturn);
+    return nReturn;
 }

@@ -17,27 +17,14 @@ void ReportFailure(u32 oerr, u32 serr, u32 channel) {
     ErrorBoxShow(oerr, serr, nullptr, channel, 0, 0, nullptr);
 }
 
-void ReleaseUartParams(UartPageParams* params) {
+void ReleaseUartParams(LPARAM record) {
+    auto* params = reinterpret_cast<UartPageParams*>(record);
     LocalFree(params->AdvancedParams);
     LocalFree(params);
 }
 
-// Releases the records once the page is gone, however it went.
 UINT CALLBACK UartBasicDlgCallback(HWND, UINT message, LPPROPSHEETPAGEW page) {
-    TraceOut("----> %s( ), Message:%d\n", __func__, message);
-    UINT nReturn = 1;
-    switch (message) {
-    case PSPCB_CREATE:
-        TraceOut("%s - PSPCB_CREATE\n", __func__);
-        break;
-    case PSPCB_RELEASE:
-        TraceOut("%s - PSPCB_RELEASE\n", __func__);
-        ReleaseUartParams(reinterpret_cast<UartPageParams*>(page->lParam));
-        nReturn = 0;
-        break;
-    }
-    TraceOut("<---- %s, nReturn:%d\n", __func__, nReturn);
-    return nReturn;
+    return AnswerPageCallback(__func__, message, page, ReleaseUartParams);
 }
 
 // A set that doesn't tell whose it is counts as local.
