@@ -107,7 +107,7 @@ std::optional<Text> TextOf(const sim::Value* value) {
     if (!value || value->type != REG_SZ)
         return std::nullopt;
     Text text(value->data.size() / sizeof(WCHAR), u'\0');
-    std::memcpy(text.data(), value->data.data(), text.size() * sizeof(WCHAR));
+    std::copy_n(value->data.begin(), text.size() * sizeof(WCHAR), reinterpret_cast<BYTE*>(text.data()));
     text.resize(std::min(text.size(), text.find(u'\0')));
     return text;
 }
