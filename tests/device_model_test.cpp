@@ -1,0 +1,490 @@
+// The device store as hostile input, and how a board finds its channels and gives everything back.
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+#include <functional>
+#include <memory>
+#include <span>
+
+#include "device_model/board_discovery.h"
+#include "device_model/device_store.h"
+#include "tests/session.h"
+
+namespace {
+
+using machines::BoardPlace;
+using machines::OpenBoard;
+using machines::OpenDevice;
+using machines::Session;
+using sim::Reach;
+
+// --- The device store -----------------------------------------------------------------------------------
+
+struct Field {
+    std::u16string name;
+    std::size_t offset;
+    std::size_t bytes;
+    bool IsText() const { return bytes > sizeof(u64); }
+};
+
+struct Reading {
+    const char* what;
+    std::size_t record_bytes;
+    std::function<u32(HDEVINFO, SP_DEVINFO_DATA*, void*)> read;
+    std::vector<Field> fields; // in the order of reading
+};
+
+template <auto Read, class Record> u32 Call(HDEVINFO set, SP_DEVINFO_DATA* data, void* record) {
+    return Read(set, data, static_cast<Record*>(record));
+}
+template <u32 Bytes> u32 CallName(HDEVINFO set, SP_DEVINFO_DATA* data, void* text) {
+    return Kavro_RegUartGetCOMName(set, data, static_cast<WCHAR*>(text), Bytes);
+}
+
+#define F(record, field)                                                                                     \
+    { u"" #field, offsetof(record, field), sizeof(record::field) }
+#define OF(operation, record) #operation, sizeof(record), Call < Kavro_Reg##operation, record>
+#define SPI_CAN(record, prefix)                                                                              \
+    F(record, prefix##SpiNrDevice), F(record, prefix##SpiClkRate), F(record, prefix##Name),                  \
+        F(record, prefix##Number), F(record, prefix##CS), F(record, prefix##GpioInputBits),                  \
+        F(record, prefix##GpioOutputBits)
+
+const Reading readings[] = {
+    {OF(BoardGetBasic, BoardBasicInfo), {F(BoardBasicInfo, BoardPciBusNumber), F(BoardBasicInfo, BoardIrq)}},
+    {OF(BoardGetOther, BoardOtherInfo),
+     {F(BoardOtherInfo, BoardMajorVersion), F(BoardOtherInfo, BoardMinorVersion),
+      F(BoardOtherInfo, BoardNrController), F(BoardOtherInfo, BoardModelName)}},
+    {OF(ChlGetBasic, ChlBasicInfo),
+     {F(ChlBasicInfo, ChlNumber), F(ChlBasicInfo, ChlType), F(ChlBasicInfo, ChlVersion),
+      F(ChlBasicInfo, ChlEventAddr), F(ChlBasicInfo, ChlEventLength), F(ChlBasicInfo, ChlMemAddr),
+      F(ChlBasicInfo, ChlMemLength), F(ChlBasicInfo, ChlPortAddr), F(ChlBasicInfo, ChlPortLength),
+      F(ChlBasicInfo, ChlOpened)}},
+    {OF(ConfigGetBasic, ConfigBasicInfo), {F(ConfigBasicInfo, ConfigModel), F(ConfigBasicInfo, ConfigBrand)}},
+    {OF(DioGetBasic, DioBasicInfo),
+     {F(DioBasicInfo, DioNrBank), F(DioBasicInfo, DioCapability), F(DioBasicInfo, DioDiSamplingFreq),
+      F(DioBasicInfo, DioDiFilterLowerBound)}},
+    {OF(Mcp251xGetBasic, Mcp251xBasicInfo), {SPI_CAN(Mcp251xBasicInfo, Mcp251x)}},
+    {OF(Mcp251xFdGetBasic, Mcp251xFdBasicInfo), {SPI_CAN(Mcp251xFdBasicInfo, Mcp251xFd)}},
+    {OF(CanGetBasic, CanBasicInfo),
+     {F(CanBasicInfo, KvrCanCapability), F(CanBasicInfo, KvrCanTxMsgQueueSize),
+      F(CanBasicInfo, KvrCanTxEventQueueSize), F(CanBasicInfo, KvrCanRxMsgQueueSize),
+      F(CanBasicInfo, KvrCanNrRxFilterGroup), F(CanBasicInfo, KvrCanSystemClkRate),
+      F(CanBasicInfo, KvrCanReferenceClkRate), F(CanBasicInfo, KvrCanFifoTXMMax),
+      F(CanBasicInfo, KvrCanFifoTXEMax), F(CanBasicInfo, KvrCanFifoRXMMax)}},
+    {OF(UartGetBasic, UartBasicInfo),
+     {F(UartBasicInfo, UartTxFifoSize), F(UartBasicInfo, UartRxFifoSize), F(UartBasicInfo, UartClkRate),
+      F(UartBasicInfo, UartCapability), F(UartBasicInfo, UartDefCntFifoSettings),
+      F(UartBasicInfo, UartDefCntAdvanceSettings), F(UartBasicInfo, UartFifoEnable),
+      F(UartBasicInfo, UartTxFifoLowHigh), F(UartBasicInfo, UartRxFifoLowHigh), F(UartBasicInfo, UartMode),
+      F(UartBasicInfo, UartAHDC), F(UartBasicInfo, UartCS), F(UartBasicInfo, UartAutoRS422485),
+      F(UartBasicInfo, UartRS422Termination), F(UartBasicInfo, UartRS485Termination)}},
+    {"the name for the board", 128, CallName<128>, {{u"PortName", 0, 128}}},
+    {"the name for the port", 40, CallName<40>, {{u"PortName", 0, 40}}},
+};
+
+std::vector<BYTE> Pattern(std::size_t length, std::size_t seed) {
+    std::vector<BYTE> bytes(length);
+    for (std::size_t i = 0; i < length; ++i) {
+        bytes[i] = static_cast<BYTE>(1 + (seed * 31 + i * 7) % 255);
+    }
+    return bytes;
+}
+
+// A device with all values of a reading, each filling its field to the last byte.
+sim::Machine MachineFor(const Reading& reading) {
+    sim::Machine machine;
+    machine.devices.emplace_back().instance_id = u"D";
+    for (const Field& field : reading.fields) {
+        machine.devices[0].key.Set(field.name, REG_BINARY, Pattern(field.bytes, field.offset));
+    }
+    return machine;
+}
+
+// What the record holds after the first `count` fields were read into a block that held 0xAA.
+std::vector<BYTE> ExpectedRecord(const Reading& reading, const sim::Machine& machine, std::size_t count) {
+    std::vector<BYTE> record(reading.record_bytes, 0xAA);
+    for (const Field& field : std::span(reading.fields).first(count)) {
+        const std::vector<BYTE>& stored = machine.devices[0].key.Find(field.name)->data;
+        std::ranges::copy(stored, record.begin() + static_cast<std::ptrdiff_t>(field.offset));
+        if (field.IsText()) {
+            const std::size_t end = 2 * std::min(stored.size() / 2, field.bytes / 2 - 1);
+            std::fill_n(record.begin() + static_cast<std::ptrdiff_t>(field.offset + end), 2, BYTE{0});
+        }
+    }
+    return record;
+}
+
+// Reads on a heap block of the record's very size, so that a byte behind it is found out.
+void ExpectReading(const Reading& reading, sim::Machine& machine, u32 status, std::size_t count,
+                   const std::string& what) {
+    const Session session(machine);
+    const auto record = std::make_unique<BYTE[]>(reading.record_bytes);
+    std::memset(record.get(), 0xAA, reading.record_bytes);
+    {
+        OpenDevice device(0);
+        EXPECT_EQ(reading.read(device.set, &device.data, record.get()), status) << what;
+    }
+    EXPECT_TRUE(std::ranges::equal(std::span(record.get(), reading.record_bytes),
+                                   ExpectedRecord(reading, machine, count)))
+        << what;
+    std::vector<std::string> expected;
+    for (std::size_t i = 0; status != StatusNoKey && i < std::min(count + 1, reading.fields.size()); ++i) {
+        expected.push_back("RegQueryValueExW D " + sim::ToUtf8(reading.fields[i].name));
+    }
+    std::vector<std::string> queries = machines::Journal(machine, {Reach::Read});
+    std::erase_if(queries, [](const std::string& line) { return !line.starts_with("RegQueryValueExW"); });
+    EXPECT_EQ(queries, expected) << what;
+}
+
+TEST(DeviceStore, EachReadingTakesItsValuesInOrderWhateverTheirTypeAndLength) {
+    for (const Reading& reading : readings) {
+        sim::Machine whole = MachineFor(reading);
+        ExpectReading(reading, whole, 0, reading.fields.size(), reading.what);
+        for (std::size_t i = 0; i < reading.fields.size(); ++i) {
+            const Field& field = reading.fields[i];
+            const std::string what = std::string(reading.what) + ", " + sim::ToUtf8(field.name);
+            sim::Machine missing = MachineFor(reading);
+            missing.devices[0].key.Erase(field.name);
+            ExpectReading(reading, missing, StatusReadFailed, i, what + " missing");
+            DWORD type = REG_NONE;
+            for (const std::size_t length :
+                 {0, 1, 2, 3, 4, 5, 7, 8, 9, 39, 40, 41, 126, 127, 128, 129, 200}) {
+                sim::Machine machine = MachineFor(reading);
+                machine.devices[0].key.Set(field.name, type++ % 12, Pattern(length, i));
+                const bool fits = length <= field.bytes;
+                ExpectReading(reading, machine, fits ? 0 : StatusReadFailed, fits ? reading.fields.size() : i,
+                              what + " of " + std::to_string(length) + " bytes");
+            }
+        }
+    }
+}
+
+TEST(DeviceStore, AKeyThatCantBeOpenedIsNoKeyForReadingToo) {
+    const struct {
+        const char* what;
+        std::function<void(sim::Machine&)> prepare;
+    } cases[] = {
+        {"no write access", [](sim::Machine& machine) { machine.devices[0].access_denied = true; }},
+        {"no key", [](sim::Machine& machine) { machine.devices[0].has_key = false; }},
+    };
+    for (const auto& each : cases) {
+        for (const Reading& reading : readings) {
+            sim::Machine machine = MachineFor(reading);
+            each.prepare(machine);
+            ExpectReading(reading, machine, StatusNoKey, 0, std::string(each.what) + ", " + reading.what);
+        }
+        sim::Machine machine = machines::BoardOn({5});
+        each.prepare(machine);
+        const Session session(machine);
+        OpenDevice device(0);
+        EXPECT_EQ(Kavro_RegUartSetFifoSettings(device.set, &device.data, 1, 2, 3), StatusNoKey);
+        EXPECT_EQ(Kavro_RegUartSetAdvanceSettings(device.set, &device.data, 1, 0, 0, 0, 0, 0), StatusNoKey);
+    }
+}
+
+TEST(DeviceStore, AFailingWriteLeavesThoseBeforeItAndTriesNoneAfter) {
+    const struct {
+        std::function<u32(HDEVINFO, SP_DEVINFO_DATA*)> write;
+        std::vector<std::string> lines;
+    } writings[] = {
+        {[](auto set, auto data) { return Kavro_RegUartSetFifoSettings(set, data, 1, 64, 0xFFFFFFFF); },
+         {"UartFifoEnable = 1", "UartTxFifoLowHigh = 64", "UartRxFifoLowHigh = 4294967295"}},
+        {[](auto set, auto data) { return Kavro_RegUartSetAdvanceSettings(set, data, 6, 1, 2, 3, 4, 5); },
+         {"UartMode = 6", "UartAHDC = 1", "UartCS = 2", "UartAutoRS422485 = 3", "UartRS422Termination = 4",
+          "UartRS485Termination = 5"}},
+    };
+    for (const auto& writing : writings) {
+        for (std::size_t failing = 0; failing <= writing.lines.size(); ++failing) {
+            sim::Machine machine;
+            machine.devices.emplace_back().instance_id = u"D";
+            const Session session(machine);
+            if (failing != 0) {
+                machine.faults.at_call = {{"RegSetValueExW", failing}};
+            }
+            OpenDevice device(0);
+            EXPECT_EQ(writing.write(device.set, &device.data), failing == 0 ? 0 : StatusWriteFailed);
+            std::vector<std::string> tried;
+            for (const std::string& line : writing.lines) {
+                tried.push_back("RegSetValueExW D " + line);
+            }
+            tried.resize(failing == 0 ? tried.size() : failing);
+            EXPECT_EQ(machines::Journal(machine, {Reach::Write}), tried);
+            const std::vector<sim::Value>& written = machine.devices[0].key.list;
+            EXPECT_EQ(written.size(), failing == 0 ? tried.size() : failing - 1);
+            EXPECT_TRUE(std::ranges::all_of(written, [](const auto& value) {
+                return value.type == REG_DWORD && value.data.size() == 4;
+            }));
+        }
+    }
+}
+
+// --- Discovery ------------------------------------------------------------------------------------------
+
+// Two lines: what is listed in the order of enumeration, and what the walk visits, as "class:number".
+std::string Channels(const BoardParams& params) {
+    std::string text;
+    const auto add = [&](const BPPCHL* chl) {
+        text += ' ' + std::to_string(chl->Class) + ':' + std::to_string(chl->CurrentInfo.ChlBasic.ChlNumber);
+    };
+    u32 count = 0;
+    for (const ChlListEntry* entry = params.ChlList.Next; entry != &params.ChlList; entry = entry->Next) {
+        EXPECT_EQ(entry->Next->Prev, entry);
+        add(static_cast<const BPPCHL*>(entry));
+        ++count;
+    }
+    EXPECT_EQ(params.ChlCount, count);
+    text += " |";
+    for (const BPPCHL* chl = params.WalkFirst; chl != nullptr; chl = chl->WalkNext) {
+        EXPECT_EQ(BoardChlByNumber(&params, chl->CurrentInfo.ChlBasic.ChlNumber), chl);
+        add(chl);
+    }
+    return text;
+}
+
+// The board is device 0; its channels 5 to 1 are the devices 1 to 5, one of each class, UART last in number.
+// Then a mainboard port.
+sim::Machine OneOfEach() {
+    sim::Machine machine;
+    machines::AddBoard(machine, {}, 6);
+    machines::AddUart(machine, {}, 5, 7);
+    for (u32 channelClass = ClassDio; channelClass <= ClassCan; ++channelClass) {
+        machines::AddChannel(machine, {}, channelClass, 6 - channelClass);
+    }
+    machines::AddMainboardPort(machine, 1);
+    std::ranges::reverse(machine.interfaces); // the classes decide the order, not the machine
+    return machine;
+}
+constexpr const char* all_of_each = " 1:5 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4 1:5";
+
+TEST(BoardDiscovery, ARecordIsMadeFromTheStoreAndTheClassOfItsInterface) {
+    sim::Machine machine = OneOfEach();
+    machine.devices[3].key.SetDword(u"ChlType", 1); // what the driver calls it has no influence
+    const Session session(machine);
+    const OpenBoard board;
+    EXPECT_TRUE(board.initiated);
+    EXPECT_EQ(board.status, 0u);
+    EXPECT_EQ(Channels(board.params), all_of_each);
+    for (BPPCHL* chl = board.params.WalkFirst; chl != nullptr; chl = chl->WalkNext) {
+        EXPECT_EQ(chl->Board, &board.params);
+        EXPECT_EQ(chl->ListIndex, NotListed);
+        EXPECT_EQ(chl->DeviceInfoSet, board.params.InterfaceSet[chl->Class - ClassUart]);
+        EXPECT_EQ(std::memcmp(&chl->SavedInfo, &chl->CurrentInfo, sizeof chl->SavedInfo), 0);
+        EXPECT_EQ(chl->CurrentInfo.BoardBasic.BoardIrq, BoardPlace().irq);
+        EXPECT_EQ(chl->Fifo.RxFifo4Stage[0], chl->Class == ClassUart ? 1u : 0u);
+        EXPECT_TRUE(sim::ToUtf8(chl->DevicePath).starts_with("\\\\?\\KVR\\Channel"));
+        EXPECT_EQ(BoardChlByListIndex(&board.params, static_cast<u32>(-1)), nullptr);
+    }
+    const ChannelInfo& uart = board.Channel(5)->CurrentInfo;
+    EXPECT_EQ(sim::ToUtf8(uart.Uart.PortName), "COM7");
+    EXPECT_EQ(uart.ChlBasic.ChlMemAddr, 0x1FEC05000u);
+    EXPECT_EQ(sim::ToUtf8(board.Channel(3)->CurrentInfo.Mcp251x.Mcp251xName), "Mcp251x 3");
+    EXPECT_EQ(sim::ToUtf8(board.Channel(2)->CurrentInfo.Mcp251xFd.Mcp251xFdName), "Mcp251xFd 2");
+}
+
+TEST(BoardDiscovery, AChannelIsKeptIfItCanBeReadAndBelongsToTheBoard) {
+    using Change = std::function<void(sim::Machine&)>;
+    const auto number = [](std::size_t device, const char16_t* name, u32 value) {
+        return [=](sim::Machine& machine) { machine.devices[device].key.SetDword(name, value); };
+    };
+    const auto without = [](std::size_t device, const char16_t* name) {
+        return [=](sim::Machine& machine) { machine.devices[device].key.Erase(name); };
+    };
+    // The path of the UART's interface such that the detail needs so many bytes.
+    const auto path_of = [](std::size_t needed) {
+        return [=](sim::Machine& machine) {
+            const std::size_t before = offsetof(SP_DEVICE_INTERFACE_DETAIL_DATA_W, DevicePath);
+            machine.interfaces.back().path = sim::Text((needed - before) / 2 - 1, u'p');
+        };
+    };
+    const auto denied = [](sim::Machine& machine) { machine.devices[2].access_denied = true; };
+    const struct {
+        const char* what;
+        Change change;
+        const char* channels;
+    } cases[] = {
+        {"a path that needs 1024 bytes", path_of(1024), all_of_each},
+        {"a path that needs 1026 bytes", path_of(1026), " 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
+        {"another bus", number(1, u"BoardPciBusNumber", 4), " 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
+        {"another IRQ", number(2, u"BoardIrq", 18), " 1:5 3:3 4:2 5:1 | 5:1 4:2 3:3 1:5"},
+        {"no board in the key", without(3, u"BoardIrq"), " 1:5 2:4 4:2 5:1 | 5:1 4:2 2:4 1:5"},
+        {"no channel version, which nothing uses", without(4, u"ChlVersion"),
+         " 1:5 2:4 3:3 5:1 | 5:1 3:3 2:4 1:5"},
+        {"no value of its class", without(5, u"KvrCanFifoRXMMax"), " 1:5 2:4 3:3 4:2 | 4:2 3:3 2:4 1:5"},
+        {"no port name", without(1, u"PortName"), " 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
+        {"no access", denied, " 1:5 3:3 4:2 5:1 | 5:1 4:2 3:3 1:5"},
+        {"not present", [](auto& machine) { machine.interfaces.back().linked = false; },
+         " 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
+        {"no interface at all", [](auto& machine) { machine.interfaces.clear(); }, " |"},
+        {"number 0 is held and not walked", number(1, u"ChlNumber", 0),
+         " 1:0 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
+        {"a number at the bound is held and not walked", number(1, u"ChlNumber", 6),
+         " 1:6 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
+        {"the highest number is held and not walked", number(1, u"ChlNumber", 0xFFFFFFFF),
+         " 1:4294967295 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
+        {"of one number twice the first is walked", number(2, u"ChlNumber", 5),
+         " 1:5 2:5 3:3 4:2 5:1 | 5:1 4:2 3:3 1:5"},
+        {"a board of no numbers", number(0, u"BoardNrController", 0), " 1:5 2:4 3:3 4:2 5:1 |"},
+        {"a board of number 0 alone", number(0, u"BoardNrController", 1), " 1:5 2:4 3:3 4:2 5:1 |"},
+        {"a board of two numbers", number(0, u"BoardNrController", 3), " 1:5 2:4 3:3 4:2 5:1 | 5:1 4:2"},
+        {"another board's UART",
+         [](auto& machine) {
+             machines::AddUart(machine, {3, 18}, 5, 9);
+         },
+         all_of_each},
+        {"a UART of a second board in the same place",
+         [](auto& machine) { machines::AddUart(machine, {}, 6, 9); },
+         " 1:5 1:6 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4 1:5"},
+    };
+    for (const auto& each : cases) {
+        sim::Machine machine = OneOfEach();
+        each.change(machine);
+        const Session session(machine);
+        const OpenBoard board;
+        EXPECT_TRUE(board.initiated) << each.what;
+        EXPECT_EQ(Channels(board.params), each.channels) << each.what;
+    }
+}
+
+TEST(BoardDiscovery, TheBoardsOwnValuesMustAllBeReadable) {
+    for (const Reading& reading : std::span(readings).first(4)) {
+        for (const Field& field : reading.fields) {
+            sim::Machine machine = OneOfEach();
+            ASSERT_TRUE(machine.devices[0].key.Erase(field.name));
+            const Session session(machine);
+            const OpenBoard board;
+            EXPECT_FALSE(board.initiated);
+            EXPECT_EQ(board.status, StatusReadFailed) << sim::ToUtf8(field.name);
+            EXPECT_EQ(Channels(board.params), " |");
+        }
+    }
+}
+
+// What is left of OneOfEach if the n-th call of an operation fails.
+struct Outcome {
+    u32 status = 0;
+    std::size_t fewest = 5;
+    std::size_t most = 5;
+    std::size_t without_path = 0;
+};
+Outcome OutcomeOf(std::string_view operation, std::size_t n) {
+    constexpr std::size_t keys_of_board = 4;
+    constexpr std::size_t values_of_board = 18;
+    if (operation == "SetupDiGetClassDevsW") {
+        return {StatusNoInterfaceSet, 0, 0};
+    }
+    if (operation == "LocalAlloc") {
+        // The buffer, then a record and its path for each channel.
+        return n == 1 ? Outcome{StatusNoMemory, 0, 0} : n % 2 == 0 ? Outcome{0, 4, 4} : Outcome{0, 5, 5, 1};
+    }
+    if (operation == "SetupDiOpenDevRegKey" && n <= keys_of_board) {
+        return {StatusNoKey, 0, 0};
+    }
+    if (operation == "RegQueryValueExW" && n <= values_of_board) {
+        return {StatusReadFailed, 0, 0};
+    }
+    // Any further read costs the interface at hand, which may be nobody's channel.
+    const bool reads = operation == "SetupDiOpenDevRegKey" || operation == "RegQueryValueExW" ||
+                       operation == "SetupDiGetDeviceInterfaceDetailW" ||
+                       operation == "SetupDiEnumDeviceInterfaces";
+    return reads ? Outcome{0, 4, 5} : Outcome{};
+}
+
+TEST(BoardDiscovery, EveryOperationMayFailOnceAndAllIsGivenBack) {
+    std::size_t at = 0;
+    for (bool hit = true; hit;) {
+        sim::Machine machine = OneOfEach();
+        const Session session(machine);
+        machine.faults.at = ++at;
+        u32 status = 0;
+        std::size_t channels = 0;
+        std::size_t without_path = 0;
+        {
+            const OpenBoard board;
+            status = board.status;
+            EXPECT_EQ(board.initiated, status == 0);
+            for (const BPPCHL* chl = board.params.WalkFirst; chl != nullptr; chl = chl->WalkNext) {
+                ++channels;
+                without_path += chl->DevicePath == nullptr;
+            }
+            EXPECT_EQ(channels, board.params.ChlCount);
+        }
+        hit = machine.faults.hits != 0;
+        const auto until = std::span(machine.journal).first(hit ? at : 0);
+        const std::string_view failed = hit ? until.back().name : "nothing";
+        const auto n = std::ranges::count(until, failed, &sim::JournalEntry::name);
+        const Outcome outcome = OutcomeOf(failed, static_cast<std::size_t>(n));
+        SCOPED_TRACE(testing::Message() << failed << ", call " << n);
+        EXPECT_EQ(status, outcome.status);
+        EXPECT_GE(channels, outcome.fewest);
+        EXPECT_LE(channels, outcome.most);
+        EXPECT_EQ(without_path, outcome.without_path);
+        EXPECT_EQ(machines::Count(machine, "SetupDiDestroyDeviceInfoList"), ChannelClassCount + 1);
+    }
+    EXPECT_GT(at, 150u);
+}
+
+TEST(BoardDiscovery, PromisedNumbersCostNothingAndManyChannelsAreAllWalked) {
+    const auto operations = [](u32 nrController) {
+        sim::Machine machine = machines::BoardOn({9, 8, 7, 6, 5, 4, 3, 2, 1});
+        machine.devices[0].key.SetDword(u"BoardNrController", nrController);
+        const Session session(machine);
+        const OpenBoard board;
+        machines::SortInDialog(machine, board.Channel(1));
+        EXPECT_EQ(machines::PlacesOf(machine, 9), machines::PlacesAt(machine, 9, 9));
+        return machine.faults.count;
+    };
+    EXPECT_EQ(operations(10), operations(0xFFFFFFFF));
+
+    sim::Machine machine;
+    machines::AddBoard(machine, {}, 301);
+    for (u32 channel = 300; channel != 0; --channel) {
+        machines::AddChannel(machine, {}, channel % 2 != 0 ? ClassDio : ClassCan, channel);
+    }
+    const Session session(machine);
+    const OpenBoard board;
+    EXPECT_EQ(board.params.ChlCount, 300u);
+    u32 walked = 0;
+    for (const BPPCHL* chl = board.params.WalkFirst; chl != nullptr; chl = chl->WalkNext) {
+        EXPECT_EQ(chl->CurrentInfo.ChlBasic.ChlNumber, ++walked);
+    }
+    EXPECT_EQ(walked, 300u);
+}
+
+TEST(FifoStages, AreSixteenthsOfTheFifo) {
+    const struct {
+        u32 bytes;
+        u32 stages[4];
+    } cases[] = {
+        {0, {1, 0, 0, 0}},
+        {15, {1, 0, 0, 0}},
+        {16, {1, 4, 8, 14}},
+        {40, {1, 8, 16, 28}},
+        {64, {1, 16, 32, 56}},
+        {128, {1, 32, 64, 112}},
+        {0xFFFFFFFF, {1, 0x3FFFFFFC, 0x7FFFFFF8, 0xDFFFFFF2}},
+    };
+    for (const auto& each : cases) {
+        u32 stages[RxFifoStageCount];
+        RxFifoStages(each.bytes, stages);
+        EXPECT_TRUE(std::ranges::equal(stages, each.stages)) << each.bytes;
+    }
+}
+
+TEST(ChannelList, ARecordIsAloneUntilItIsInsertedAndAfterItIsRemoved) {
+    ChlListEntry head, first, second;
+    for (ChlListEntry* entry : {&head, &first, &second}) {
+        ChlListInit(entry);
+        EXPECT_TRUE(ChlListIsEmpty(entry));
+    }
+    ChlListInsertTail(&head, &first);
+    ChlListInsertTail(&head, &second);
+    EXPECT_EQ(ChlListFirst(&head), &first);
+    EXPECT_EQ(head.Prev, &second);
+    ChlListRemove(&first);
+    EXPECT_TRUE(ChlListIsEmpty(&first));
+    EXPECT_EQ(ChlListFirst(&head), &second);
+    ChlListRemove(&second);
+    EXPECT_TRUE(ChlListIsEmpty(&head));
+}
+
+} // namespace
