@@ -1,9 +1,9 @@
 // Portuguese (Portugal).
 //
 // For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h.
-// Buffer stays as engineers write it: "memória intermédia" does not fit before the sliders. A text that needs
-// more room than the layout gives carries its own rectangle. The three buttons under the sliders fill their
-// row.
+// A buffer is a "memória intermédia", as in Windows. A text that needs more room than the layout gives
+// carries its own rectangle. The captions before the sliders stand in two lines, parted at a blank. The three
+// buttons under the sliders fill their row.
 
 #define LANGUAGE_PRIMARY 0x16
 #define LANGUAGE_SUB 0x02
@@ -29,20 +29,21 @@
 // the low and high ends up to three.
 #define ADVANCED_PORT_SETTINGS "Definições avançadas da porta"
 #define ADVANCED_PORT_SETTINGS_RECT INSTEAD(0, 0, 381, 145)
-#define ADVANCED_PORT_SETTINGS_LARGEFIFO "&Ativar buffers FIFO de %d bytes"
-#define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION "Buffer de &receção:"
-#define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION_RECT INSTEAD(23, 53, 86, 10)
-#define ADVANCED_PORT_SETTINGS_RECEIVE_LOW "Baixo (%d)"
-#define ADVANCED_PORT_SETTINGS_RECEIVE_LOW_RECT INSTEAD(113, 53, 44, 10)
-#define ADVANCED_PORT_SETTINGS_RECEIVE_SLIDER_RECT INSTEAD(157, 51, 91, 18)
-#define ADVANCED_PORT_SETTINGS_RECEIVE_HIGH "Alto (%d)"
+#define ADVANCED_PORT_SETTINGS_LARGEFIFO "&Usar memórias intermédias FIFO de %d bytes"
+#define ADVANCED_PORT_SETTINGS_LARGEFIFO_RECT INSTEAD(23, 23, 199, 10)
+#define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION "Memória intermédia de &receção:"
+#define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION_RECT INSTEAD(23, 50, 76, 17)
+#define ADVANCED_PORT_SETTINGS_RECEIVE_LOW "Baixa (%d)"
+#define ADVANCED_PORT_SETTINGS_RECEIVE_LOW_RECT INSTEAD(103, 53, 44, 10)
+#define ADVANCED_PORT_SETTINGS_RECEIVE_SLIDER_RECT INSTEAD(147, 51, 101, 18)
+#define ADVANCED_PORT_SETTINGS_RECEIVE_HIGH "Alta (%d)"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_HIGH_RECT INSTEAD(256, 53, 38, 10)
-#define ADVANCED_PORT_SETTINGS_TRANSMIT_CAPTION "Buffer de &transmissão:"
-#define ADVANCED_PORT_SETTINGS_TRANSMIT_CAPTION_RECT INSTEAD(23, 79, 86, 10)
-#define ADVANCED_PORT_SETTINGS_TRANSMIT_LOW "Baixo (%d)"
-#define ADVANCED_PORT_SETTINGS_TRANSMIT_LOW_RECT INSTEAD(113, 79, 44, 10)
-#define ADVANCED_PORT_SETTINGS_TRANSMIT_SLIDER_RECT INSTEAD(157, 76, 91, 20)
-#define ADVANCED_PORT_SETTINGS_TRANSMIT_HIGH "Alto (%d)"
+#define ADVANCED_PORT_SETTINGS_TRANSMIT_CAPTION "Memória intermédia de &transmissão:"
+#define ADVANCED_PORT_SETTINGS_TRANSMIT_CAPTION_RECT INSTEAD(23, 76, 76, 17)
+#define ADVANCED_PORT_SETTINGS_TRANSMIT_LOW "Baixa (%d)"
+#define ADVANCED_PORT_SETTINGS_TRANSMIT_LOW_RECT INSTEAD(103, 79, 44, 10)
+#define ADVANCED_PORT_SETTINGS_TRANSMIT_SLIDER_RECT INSTEAD(147, 76, 101, 20)
+#define ADVANCED_PORT_SETTINGS_TRANSMIT_HIGH "Alta (%d)"
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_HIGH_RECT INSTEAD(256, 79, 38, 10)
 #define ADVANCED_PORT_SETTINGS_PORT_NUMBER_CAPTION "Número da &porta COM:"
 #define ADVANCED_PORT_SETTINGS_PORT_NUMBER_CAPTION_RECT INSTEAD(13, 120, 88, 8)
@@ -54,24 +55,25 @@
 #define ADVANCED_PORT_SETTINGS_RESTORE "Pre&definições"
 #define ADVANCED_PORT_SETTINGS_RESTORE_RECT INSTEAD(311, 62, 59, 14)
 
-// The page of the board. The low and high ends are replaced at run time by strings 52 and 53.
+// The page of the board. STRING_LOW and STRING_HIGH replace the low and high ends at run time.
 #define PORT_CONTROL "Controlo de portas"
-#define PORT_CONTROL_LARGEFIFO "Ativar buffers FIFO &grandes"
-#define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 118, 12)
+#define PORT_CONTROL_LARGEFIFO "Usar memórias intermédias FIFO &grandes"
+#define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 170, 12)
 #define PORT_CONTROL_ADVANCED "A&vançadas..."
-#define PORT_CONTROL_RECEIVE_CAPTION "Buffer de &receção:"
-#define PORT_CONTROL_RECEIVE_CAPTION_RECT INSTEAD(16, 115, 86, 10)
-#define PORT_CONTROL_RECEIVE_LOW "Baixo"
-#define PORT_CONTROL_RECEIVE_LOW_RECT INSTEAD(106, 115, 35, 10)
-#define PORT_CONTROL_RECEIVE_SLIDER_RECT INSTEAD(145, 113, 58, 18)
-#define PORT_CONTROL_RECEIVE_HIGH "Alto"
+#define PORT_CONTROL_ADVANCED_RECT INSTEAD(188, 90, 57, 14)
+#define PORT_CONTROL_RECEIVE_CAPTION "Memória intermédia de &receção:"
+#define PORT_CONTROL_RECEIVE_CAPTION_RECT INSTEAD(16, 112, 76, 17)
+#define PORT_CONTROL_RECEIVE_LOW "Baixa"
+#define PORT_CONTROL_RECEIVE_LOW_RECT INSTEAD(96, 115, 35, 10)
+#define PORT_CONTROL_RECEIVE_SLIDER_RECT INSTEAD(135, 113, 68, 18)
+#define PORT_CONTROL_RECEIVE_HIGH "Alta"
 #define PORT_CONTROL_RECEIVE_HIGH_RECT INSTEAD(208, 115, 38, 10)
-#define PORT_CONTROL_TRANSMIT_CAPTION "Buffer de &transmissão:"
-#define PORT_CONTROL_TRANSMIT_CAPTION_RECT INSTEAD(16, 139, 86, 10)
-#define PORT_CONTROL_TRANSMIT_LOW "Baixo"
-#define PORT_CONTROL_TRANSMIT_LOW_RECT INSTEAD(106, 139, 35, 10)
-#define PORT_CONTROL_TRANSMIT_SLIDER_RECT INSTEAD(145, 136, 58, 18)
-#define PORT_CONTROL_TRANSMIT_HIGH "Alto"
+#define PORT_CONTROL_TRANSMIT_CAPTION "Memória intermédia de &transmissão:"
+#define PORT_CONTROL_TRANSMIT_CAPTION_RECT INSTEAD(16, 136, 76, 17)
+#define PORT_CONTROL_TRANSMIT_LOW "Baixa"
+#define PORT_CONTROL_TRANSMIT_LOW_RECT INSTEAD(96, 139, 35, 10)
+#define PORT_CONTROL_TRANSMIT_SLIDER_RECT INSTEAD(135, 136, 68, 18)
+#define PORT_CONTROL_TRANSMIT_HIGH "Alta"
 #define PORT_CONTROL_TRANSMIT_HIGH_RECT INSTEAD(208, 139, 38, 10)
 #define PORT_CONTROL_APPLY "&Aplicar"
 #define PORT_CONTROL_APPLY_RECT INSTEAD(14, 165, 60, 14)
@@ -89,7 +91,7 @@
 // The dialog behind "Avançadas..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Controlo avançado de portas"
 #define ADVANCED_PORT_CONTROL_RECT INSTEAD(0, 0, 292, 202)
-#define ADVANCED_PORT_CONTROL_UART_GROUP "Funções da UART"
+#define ADVANCED_PORT_CONTROL_UART_GROUP "Funções UART"
 #define ADVANCED_PORT_CONTROL_SORT_COM "Ordenar UART"
 #define ADVANCED_PORT_CONTROL_SORT_COM_RECT INSTEAD(24, 60, 62, 14)
 #define ADVANCED_PORT_CONTROL_TERMINATION_GROUP "Funções RS-422/485"
@@ -123,8 +125,8 @@
 
 // The suffix begins with a blank and stands behind a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "Definições avançadas de %s"
-#define STRING_LOW "Baixo (%d)"
-#define STRING_HIGH "Alto (%d)"
+#define STRING_LOW "Baixa (%d)"
+#define STRING_HIGH "Alta (%d)"
 #define STRING_IN_USE_SUFFIX " (em utilização)"
 
 // The list of a channel's resources.
