@@ -50,7 +50,7 @@
 #define ADVANCED_PORT_SETTINGS_CANCEL "Storno"
 #define ADVANCED_PORT_SETTINGS_RESTORE "&Výchozí"
 
-// The page of the board. The low and high ends are replaced at run time by strings 52 and 53.
+// The page of the board. STRING_LOW and STRING_HIGH replace the low and high ends at run time.
 #define PORT_CONTROL "Řízení portů"
 #define PORT_CONTROL_LARGEFIFO "Povolit &velké vyrovnávací paměti FIFO"
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 158, 12)
@@ -82,7 +82,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(149, 193, 72, 90)
 
 // The dialog behind "Upřesnit..." of the board. ACS is a function of the RS-485 driver.
-#define ADVANCED_PORT_CONTROL "Upřesnit řízení portů"
+#define ADVANCED_PORT_CONTROL "Upřesnit nastavení řízení portů"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "Funkce UART"
 #define ADVANCED_PORT_CONTROL_SORT_COM "Seřadit UART"
 #define ADVANCED_PORT_CONTROL_SORT_COM_RECT INSTEAD(24, 60, 58, 14)

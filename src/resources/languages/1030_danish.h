@@ -1,8 +1,9 @@
 // Danish.
 //
 // For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h.
-// The imperative of verbs in -ere bears an accent: "Aktivér", "Sortér". A text that needs more room than the
-// layout gives carries its own rectangle. The three buttons under the sliders fill their row.
+// The imperative of verbs in -ere bears an accent: "Aktivér", "Sortér"; "Annuller" alone has none, as in
+// Windows. A text that needs more room than the layout gives carries its own rectangle. The three buttons
+// under the sliders fill their row.
 
 #define LANGUAGE_PRIMARY 0x06
 #define LANGUAGE_SUB 0x01
@@ -49,7 +50,7 @@
 #define ADVANCED_PORT_SETTINGS_CANCEL "Annuller"
 #define ADVANCED_PORT_SETTINGS_RESTORE "&Standard"
 
-// The page of the board. The low and high ends are replaced at run time by strings 52 and 53.
+// The page of the board. STRING_LOW and STRING_HIGH replace the low and high ends at run time.
 #define PORT_CONTROL "Portstyring"
 #define PORT_CONTROL_LARGEFIFO "Aktivér store &FIFO-buffere"
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 112, 12)

@@ -49,7 +49,7 @@
 #define ADVANCED_PORT_SETTINGS_CANCEL "Annulla"
 #define ADVANCED_PORT_SETTINGS_RESTORE "Pre&definiti"
 
-// The page of the board. The low and high ends are replaced at run time by strings 52 and 53.
+// The page of the board. STRING_LOW and STRING_HIGH replace the low and high ends at run time.
 #define PORT_CONTROL "Controllo porte"
 #define PORT_CONTROL_LARGEFIFO "A&bilita buffer FIFO di grandi dimensioni"
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 162, 12)
@@ -103,7 +103,7 @@
     "Memoria insufficiente per questa operazione;\r\rchiudere una o più applicazioni di Windows per aumentare la memoria disponibile."
 #define STRING_OUT_OF_MEMORY_CAPTION "Porta di comunicazione"
 #define STRING_NAME_IN_USE_QUESTION \
-    "Il nome COM è già utilizzato da un'altra periferica (ad esempio un'altra porta COM o un modem). L'utilizzo di nomi duplicati può rendere inaccessibili le periferiche e modificarne le impostazioni. Continuare?"
+    "Questo nome COM è già utilizzato da un altro dispositivo (ad esempio un'altra porta COM o un modem). L'utilizzo di nomi duplicati può rendere inaccessibili i dispositivi e modificarne le impostazioni. Continuare?"
 #define STRING_BOX_CAPTION "Proprietà porta di comunicazione"
 #define STRING_RENAME_FAILED "Si è verificato un errore durante la ridenominazione della porta COM."
 

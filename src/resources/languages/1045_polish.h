@@ -26,7 +26,7 @@
 
 // The dialog behind "Zaawansowane..." of a COM port. The number of bytes in %d has up to five digits; those
 // of the low and high ends up to three.
-#define ADVANCED_PORT_SETTINGS "Zaawansowane ustawienia portu"
+#define ADVANCED_PORT_SETTINGS "Ustawienia zaawansowane portu"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "&Włącz bufory FIFO o rozmiarze %d bajtów"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO_RECT INSTEAD(23, 23, 182, 10)
 #define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION "Bufor &odbioru:"
@@ -50,7 +50,7 @@
 #define ADVANCED_PORT_SETTINGS_CANCEL "Anuluj"
 #define ADVANCED_PORT_SETTINGS_RESTORE "&Domyślne"
 
-// The page of the board. The low and high ends are replaced at run time by strings 52 and 53.
+// The page of the board. STRING_LOW and STRING_HIGH replace the low and high ends at run time.
 #define PORT_CONTROL "Sterowanie portami"
 #define PORT_CONTROL_LARGEFIFO "&Włącz duże bufory FIFO"
 #define PORT_CONTROL_ADVANCED "&Zaawansowane..."

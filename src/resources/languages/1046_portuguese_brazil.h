@@ -48,7 +48,7 @@
 #define ADVANCED_PORT_SETTINGS_CANCEL "Cancelar"
 #define ADVANCED_PORT_SETTINGS_RESTORE "Pa&drões"
 
-// The page of the board. The low and high ends are replaced at run time by strings 52 and 53.
+// The page of the board. STRING_LOW and STRING_HIGH replace the low and high ends at run time.
 #define PORT_CONTROL "Controle de portas"
 #define PORT_CONTROL_LARGEFIFO "&Habilitar buffers FIFO grandes"
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 128, 12)
@@ -82,7 +82,7 @@
 
 // The dialog behind "Avançado..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Controle avançado de portas"
-#define ADVANCED_PORT_CONTROL_UART_GROUP "Funções da UART"
+#define ADVANCED_PORT_CONTROL_UART_GROUP "Funções UART"
 #define ADVANCED_PORT_CONTROL_SORT_COM "Ordenar UARTs"
 #define ADVANCED_PORT_CONTROL_SORT_COM_RECT INSTEAD(24, 60, 66, 14)
 #define ADVANCED_PORT_CONTROL_TERMINATION_GROUP "Funções RS-422/485"

@@ -54,7 +54,7 @@
 #define ADVANCED_PORT_SETTINGS_RESTORE "По &умолчанию"
 #define ADVANCED_PORT_SETTINGS_RESTORE_RECT INSTEAD(311, 62, 64, 14)
 
-// The page of the board. The low and high ends are replaced at run time by strings 52 and 53.
+// The page of the board. STRING_LOW and STRING_HIGH replace the low and high ends at run time.
 #define PORT_CONTROL "Управление портами"
 #define PORT_CONTROL_LARGEFIFO "Включить &большие буферы FIFO"
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 140, 12)
@@ -88,7 +88,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(149, 193, 72, 90)
 
 // The dialog behind "Дополнительно..." of the board. ACS is a function of the RS-485 driver.
-#define ADVANCED_PORT_CONTROL "Дополнительное управление портами"
+#define ADVANCED_PORT_CONTROL "Дополнительные параметры управления портами"
 #define ADVANCED_PORT_CONTROL_RECT INSTEAD(0, 0, 297, 202)
 #define ADVANCED_PORT_CONTROL_UART_GROUP "Функции UART"
 #define ADVANCED_PORT_CONTROL_SORT_COM "Упорядочить UART"

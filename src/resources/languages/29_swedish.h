@@ -49,7 +49,7 @@
 #define ADVANCED_PORT_SETTINGS_CANCEL "Avbryt"
 #define ADVANCED_PORT_SETTINGS_RESTORE "&Standard"
 
-// The page of the board. The low and high ends are replaced at run time by strings 52 and 53.
+// The page of the board. STRING_LOW and STRING_HIGH replace the low and high ends at run time.
 #define PORT_CONTROL "Portstyrning"
 #define PORT_CONTROL_LARGEFIFO "Aktivera stora &FIFO-buffertar"
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 122, 12)
@@ -101,7 +101,7 @@
     "Det finns inte tillräckligt med minne för åtgärden.\r\rStäng ett eller flera Windows-program för att frigöra mer minne."
 #define STRING_OUT_OF_MEMORY_CAPTION "Kommunikationsport"
 #define STRING_NAME_IN_USE_QUESTION \
-    "COM-namnet används redan av en annan enhet (t.ex. en annan COM-port eller ett modem). Om samma namn används av flera enheter kan enheter bli oåtkomliga och inställningar ändras. Vill du fortsätta?"
+    "COM-namnet används redan av en annan enhet (t.ex. en annan COM-port eller ett modem). Om flera enheter har samma namn kan de bli oåtkomliga och deras inställningar ändras. Vill du fortsätta?"
 #define STRING_BOX_CAPTION "Egenskaper för kommunikationsport"
 #define STRING_RENAME_FAILED "Ett fel uppstod när namnet på COM-porten skulle ändras."
 
