@@ -50,7 +50,7 @@
 #define ADVANCED_PORT_SETTINGS_CANCEL "Annuler"
 #define ADVANCED_PORT_SETTINGS_RESTORE "Par &défaut"
 
-// The page of the board. The low and high ends are replaced at run time by strings 52 and 53.
+// The page of the board. STRING_LOW and STRING_HIGH replace the low and high ends at run time.
 #define PORT_CONTROL "Contrôle des ports"
 #define PORT_CONTROL_LARGEFIFO "Activer les &grands tampons FIFO"
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 137, 12)

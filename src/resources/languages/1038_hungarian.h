@@ -52,7 +52,7 @@
 #define ADVANCED_PORT_SETTINGS_RESTORE "&Alapértelmezés"
 #define ADVANCED_PORT_SETTINGS_RESTORE_RECT INSTEAD(311, 62, 66, 14)
 
-// The page of the board. The low and high ends are replaced at run time by strings 52 and 53.
+// The page of the board. STRING_LOW and STRING_HIGH replace the low and high ends at run time.
 #define PORT_CONTROL "Portvezérlés"
 #define PORT_CONTROL_LARGEFIFO "&Nagy FIFO-pufferek használata"
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 131, 12)

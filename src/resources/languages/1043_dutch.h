@@ -50,7 +50,7 @@
 #define ADVANCED_PORT_SETTINGS_CANCEL "Annuleren"
 #define ADVANCED_PORT_SETTINGS_RESTORE "&Standaard"
 
-// The page of the board. The low and high ends are replaced at run time by strings 52 and 53.
+// The page of the board. STRING_LOW and STRING_HIGH replace the low and high ends at run time.
 #define PORT_CONTROL "Poortbesturing"
 #define PORT_CONTROL_LARGEFIFO "Grote &FIFO-buffers inschakelen"
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 132, 12)

@@ -53,7 +53,7 @@
 #define ADVANCED_PORT_SETTINGS_RESTORE "&Varsayılanlar"
 #define ADVANCED_PORT_SETTINGS_RESTORE_RECT INSTEAD(311, 62, 57, 14)
 
-// The page of the board. The low and high ends are replaced at run time by strings 52 and 53.
+// The page of the board. STRING_LOW and STRING_HIGH replace the low and high ends at run time.
 #define PORT_CONTROL "Bağlantı Noktası Denetimi"
 #define PORT_CONTROL_LARGEFIFO "Büyük FIFO arabelleklerini &etkinleştir"
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 152, 12)

@@ -49,7 +49,7 @@
 #define ADVANCED_PORT_SETTINGS_CANCEL "Avbryt"
 #define ADVANCED_PORT_SETTINGS_RESTORE "&Standard"
 
-// The page of the board. The low and high ends are replaced at run time by strings 52 and 53.
+// The page of the board. STRING_LOW and STRING_HIGH replace the low and high ends at run time.
 #define PORT_CONTROL "Portstyring"
 #define PORT_CONTROL_LARGEFIFO "Aktiver store &FIFO-bufferar"
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 114, 12)
