@@ -6,7 +6,7 @@
 //
 // The dialogs are laid out from left to right, so captions have no colon: it would stand at the far end from
 // their control. Invisible marks keep a text in reading order. A text that ends in dots or a parenthesis has
-// U+200F (right-to-left mark) behind it; one that holds Latin letters or %s stands between U+202B
+// U+200F (right-to-left mark) behind it; one that mixes in Latin letters or %s stands between U+202B
 // (right-to-left embedding) and U+202C (its end). The texts of message boxes begin with U+200F twice: Windows
 // then shows the whole box from right to left. The suffix of string 62 has no mark: it follows a Latin name.
 
@@ -78,7 +78,7 @@
 #define PORT_CONTROL_TRANSMIT_HIGH_RECT INSTEAD(203, 139, 44, 10)
 #define PORT_CONTROL_APPLY "&تطبيق"
 #define PORT_CONTROL_APPLY_RECT INSTEAD(17, 165, 68, 14)
-#define PORT_CONTROL_SET_TO_ALL "تطبيق &على الكل"
+#define PORT_CONTROL_SET_TO_ALL "ت&عيين للكل"
 #define PORT_CONTROL_SET_TO_ALL_RECT INSTEAD(89, 165, 72, 14)
 #define PORT_CONTROL_RESTORE "استعادة الا&فتراضيات"
 #define PORT_CONTROL_RESTORE_RECT INSTEAD(165, 165, 80, 14)
@@ -112,7 +112,7 @@
     "‏‏الذاكرة غير كافية لإجراء هذه العملية؛\r\rأغلق تطبيقًا واحدًا أو أكثر من تطبيقات Windows لزيادة الذاكرة المتوفرة."
 #define STRING_OUT_OF_MEMORY_CAPTION "منفذ الاتصالات"
 #define STRING_NAME_IN_USE_QUESTION \
-    "‏‏اسم COM هذا قيد الاستخدام بواسطة جهاز آخر (مثل منفذ COM آخر أو مودم). قد يؤدي استخدام أسماء مكررة إلى تعذر الوصول إلى الأجهزة وتغيير الإعدادات. هل تريد المتابعة؟"
+    "‏‏اسم COM هذا قيد الاستخدام بواسطة جهاز آخر (مثل منفذ COM آخر أو مودم). قد يؤدي استخدام أسماء مكررة إلى تغيير الإعدادات وتعذر الوصول إلى الأجهزة. هل تريد المتابعة؟"
 #define STRING_BOX_CAPTION "خصائص منفذ الاتصالات"
 #define STRING_RENAME_FAILED "‏‏حدث خطأ أثناء إعادة تسمية منفذ COM."
 

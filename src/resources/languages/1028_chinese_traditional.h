@@ -3,8 +3,8 @@
 // For translators: the terms are those of the device manager (連接埠, 每秒傳輸位元, 同位檢查, 緩衝區). The
 // letter that reaches a control by the keyboard stands as (&X) behind the text, before a colon or dots: one
 // at most in a text, no letter twice in one dialog. %d is a number and %s a port name, put in at run time:
-// keep them. Commas in the lists are ASCII; sentences have Chinese punctuation. \r is a line end. The file is
-// UTF-8.
+// keep them. Commas in the lists are ASCII; sentences have Chinese punctuation but ASCII parentheses, with a
+// blank around them. \r is a line end. The file is UTF-8.
 
 #define LANGUAGE_PRIMARY 0x04
 #define LANGUAGE_SUB 0x01
@@ -57,7 +57,7 @@
 #define PORT_CONTROL_TRANSMIT_LOW "低"
 #define PORT_CONTROL_TRANSMIT_HIGH "高"
 #define PORT_CONTROL_APPLY "套用(&A)"
-#define PORT_CONTROL_SET_TO_ALL "套用到全部(&S)"
+#define PORT_CONTROL_SET_TO_ALL "設定至全部(&S)"
 #define PORT_CONTROL_RESTORE "還原預設值(&D)"
 #define PORT_CONTROL_PORT_NUMBER_CAPTION "連接埠號碼(&P):"
 #define PORT_CONTROL_PORT_NUMBER_CAPTION_RECT INSTEAD(16, 218, 62, 8)
@@ -84,10 +84,10 @@
 
 // Message boxes.
 #define STRING_OUT_OF_MEMORY \
-    "記憶體不足，無法完成這項操作；\r\r請關閉一個或多個 Windows 應用程式以增加可用的記憶體。"
+    "記憶體不足，無法完成此作業；\r\r請關閉一個或多個 Windows 應用程式以增加可用的記憶體。"
 #define STRING_OUT_OF_MEMORY_CAPTION "通訊連接埠"
 #define STRING_NAME_IN_USE_QUESTION \
-    "此 COM 名稱正由其他裝置 (例如其他的 COM 連接埠或數據機) 使用中。使用重複的名稱可能會導致裝置無法存取以及設定遭到變更。您要繼續嗎？"
+    "此 COM 名稱正由其他裝置 (例如另一個 COM 連接埠或數據機) 使用。使用重複的名稱可能會導致裝置無法存取以及設定遭到變更。您要繼續嗎？"
 #define STRING_BOX_CAPTION "通訊連接埠內容"
 #define STRING_RENAME_FAILED "重新命名 COM 連接埠時發生錯誤。"
 

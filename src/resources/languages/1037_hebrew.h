@@ -6,7 +6,7 @@
 //
 // The dialogs are laid out from left to right, so captions have no colon: it would stand at the far end from
 // their control. Invisible marks keep a text in reading order. A text that ends in dots or a parenthesis has
-// U+200F (right-to-left mark) behind it; one that holds Latin letters or %s stands between U+202B
+// U+200F (right-to-left mark) behind it; one that mixes in Latin letters or %s stands between U+202B
 // (right-to-left embedding) and U+202C (its end). The texts of message boxes begin with U+200F twice: Windows
 // then shows the whole box from right to left. The suffix of string 62 has no mark: it follows a Latin name.
 
@@ -70,7 +70,7 @@
 #define PORT_CONTROL_TRANSMIT_HIGH_RECT INSTEAD(204, 139, 42, 10)
 #define PORT_CONTROL_APPLY "&החל"
 #define PORT_CONTROL_APPLY_RECT INSTEAD(21, 165, 72, 14)
-#define PORT_CONTROL_SET_TO_ALL "החל &על הכול"
+#define PORT_CONTROL_SET_TO_ALL "ה&גדר לכל היציאות"
 #define PORT_CONTROL_SET_TO_ALL_RECT INSTEAD(97, 165, 72, 14)
 #define PORT_CONTROL_RESTORE "שחזר &ברירות מחדל"
 #define PORT_CONTROL_RESTORE_RECT INSTEAD(173, 165, 72, 14)

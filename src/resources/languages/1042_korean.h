@@ -68,7 +68,7 @@
 #define PORT_CONTROL_TRANSMIT_HIGH_RECT INSTEAD(206, 139, 40, 10)
 #define PORT_CONTROL_APPLY "적용(&A)"
 #define PORT_CONTROL_APPLY_RECT INSTEAD(35, 165, 66, 14)
-#define PORT_CONTROL_SET_TO_ALL "모두 적용(&S)"
+#define PORT_CONTROL_SET_TO_ALL "모두에 설정(&S)"
 #define PORT_CONTROL_SET_TO_ALL_RECT INSTEAD(107, 165, 66, 14)
 #define PORT_CONTROL_RESTORE "기본값 복원(&D)"
 #define PORT_CONTROL_RESTORE_RECT INSTEAD(179, 165, 66, 14)
@@ -111,7 +111,7 @@
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,하드웨어,없음"
 
 // The suffix begins with a blank and stands behind a port's name.
-#define STRING_ADVANCED_SETTINGS_TITLE "%s 고급 설정"
+#define STRING_ADVANCED_SETTINGS_TITLE "%s에 대한 고급 설정"
 #define STRING_LOW "낮음(%d)"
 #define STRING_HIGH "높음(%d)"
 #define STRING_IN_USE_SUFFIX " (사용 중)"

@@ -55,7 +55,7 @@
 #define PORT_CONTROL_TRANSMIT_LOW "ต่ำ"
 #define PORT_CONTROL_TRANSMIT_HIGH "สูง"
 #define PORT_CONTROL_APPLY "&นำไปใช้"
-#define PORT_CONTROL_SET_TO_ALL "ใช้&กับทั้งหมด"
+#define PORT_CONTROL_SET_TO_ALL "ตั้ง&ค่าให้ทั้งหมด"
 #define PORT_CONTROL_RESTORE "คืนค่าเริ่ม&ต้น"
 #define PORT_CONTROL_PORT_NUMBER_CAPTION "&หมายเลขพอร์ต:"
 #define PORT_CONTROL_PORT_NUMBER_CAPTION_RECT INSTEAD(16, 218, 64, 10)

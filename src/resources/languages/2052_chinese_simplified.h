@@ -50,7 +50,7 @@
 #define PORT_CONTROL_TRANSMIT_LOW "低"
 #define PORT_CONTROL_TRANSMIT_HIGH "高"
 #define PORT_CONTROL_APPLY "应用(&A)"
-#define PORT_CONTROL_SET_TO_ALL "应用到全部(&S)"
+#define PORT_CONTROL_SET_TO_ALL "设置到全部(&S)"
 #define PORT_CONTROL_RESTORE "还原默认值(&D)"
 #define PORT_CONTROL_PORT_NUMBER_CAPTION "端口号(&P):"
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION "LPT 轮询周期(秒):"
