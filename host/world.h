@@ -63,7 +63,8 @@ public:
     // is nothing left to do. False if there is no such device.
     virtual bool RunSheet(const std::string& id, const std::function<void(HWND front)>& attend) = 0;
 
-    // What the library has changed outside itself since the last call, a line an operation:
+    // What the library has changed outside itself since the last call, a line an operation, with
+    // "(failed)" behind it if it has been made to fail:
     //   RegSetValueExW <instance id> <value> = <data>      (numbers in decimal, texts in quotes)
     //   RegSetValueExW SERIALCOMM <value> = "COM5"
     //   DefineDosDeviceW COM5 -> <target>  /  DefineDosDeviceW remove COM5

@@ -3,6 +3,7 @@
 // project:
 //     # machine: host/machines/two_boards.reg
 //     # language: 1031
+//     # remote            (every device belongs to another machine)
 // and one of this form anywhere makes a call of an operation fail, here the fifth one from then on:
 //     # fail: DefineDosDeviceW 5
 // With KEEP_TRANSCRIPTS set in the environment the transcripts are written anew instead.
@@ -88,6 +89,8 @@ TEST_P(ScriptsTest, RunsAsItsTranscriptTells) {
     for (auto line = lines.begin(); line != top_end; ++line)
         if (const std::string said = Said(*line, "language"); !said.empty())
             machine.language = static_cast<LANGID>(std::stoi(said));
+        else if (*line == "# remote")
+            std::ranges::for_each(machine.devices, [](sim::Device& device) { device.remote = true; });
 
     std::ostringstream out;
     {

@@ -115,7 +115,7 @@ bool SimulatedWorld::RunSheet(const std::string& id, const std::function<void(HW
 std::vector<std::string> SimulatedWorld::Journal() {
     std::vector<std::string> lines;
     for (const sim::JournalEntry& entry : machine_.journal)
-        lines.push_back(std::string{entry.name} + ' ' + entry.detail);
+        lines.push_back(std::string{entry.name} + ' ' + entry.detail + (entry.failed ? " (failed)" : ""));
     machine_.journal.clear();
     return lines;
 }

@@ -87,6 +87,7 @@ struct JournalEntry {
     Reach reach = Reach::Memory;
     std::string_view name; // the operation, "RegSetValueExW"; a literal
     std::string detail;    // the arguments that matter, UTF-8, as `journal` shows them
+    bool failed = false;   // by the fault plan
 };
 
 // Decides whether the operation at hand fails. A rule may look at the machine and its windows by the

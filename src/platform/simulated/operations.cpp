@@ -64,10 +64,11 @@ bool Operation(Reach reach, std::string_view name, std::string detail) {
     Machine& machine = Current();
     bool fails = FailsByCount(machine.faults, name);
     if (DetailIsRead(reach)) {
-        JournalEntry entry{reach, name, std::move(detail)};
+        JournalEntry entry{reach, name, std::move(detail), fails};
         if (machine.faults.when) {
             const OperatorAtWork looking_around;
             fails = machine.faults.when(entry) || fails;
+            entry.failed = fails;
         }
         if (IsJournaled(reach)) {
             machine.journal.push_back(std::move(entry));

@@ -18,7 +18,7 @@
 #define PORT_SETTINGS_ADVANCED "&Advanced..."
 #define PORT_SETTINGS_RESTORE "&Restore Defaults"
 
-// The dialog behind "Advanced..." of a COM port. The title shows only where string 19 is missing. The number of
+// The dialog behind "Advanced..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is missing. The number of
 // bytes in %d has up to five digits; those of "Low" and "High" up to three.
 #define ADVANCED_PORT_SETTINGS "Advenced Port Settings"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "&Enable %d Byte FIFO buffers"
@@ -33,7 +33,7 @@
 #define ADVANCED_PORT_SETTINGS_CANCEL "Cancel"
 #define ADVANCED_PORT_SETTINGS_RESTORE "&Defaults"
 
-// The page of the board. "Low" and "High" are replaced at run time by strings 52 and 53.
+// The page of the board. STRING_LOW and STRING_HIGH replace "Low" and "High" at run time.
 #define PORT_CONTROL "Port Control"
 #define PORT_CONTROL_LARGEFIFO "&Enable large FIFO buffers"
 #define PORT_CONTROL_ADVANCED "Ad&vanced..."
