@@ -69,3 +69,9 @@ target_link_libraries(kvrhost PRIVATE host)
 
 add_executable(kvrfit host/windows/fit/main.cpp)
 target_link_libraries(kvrfit PRIVATE kernel32 user32 gdi32 comctl32)
+
+add_executable(kvrpictures host/windows/pictures/main.cpp)
+target_link_libraries(kvrpictures PRIVATE host)
+
+add_executable(kvrlifetime host/windows/lifetime/main.cpp)
+target_link_libraries(kvrlifetime PRIVATE host)

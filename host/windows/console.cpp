@@ -8,6 +8,7 @@
 
 #include "host/console.h"
 #include "host/windows/attendance.h"
+#include "host/windows/standins/faults.h"
 
 namespace host {
 namespace {
@@ -66,6 +67,22 @@ private:
     bool waiting_ = false; // a line has been asked for and not yet come
 };
 
+// A script's own line "# fail: DefineDosDeviceW" makes the next call of that operation fail.
+class Script : public LineSource {
+public:
+    std::optional<std::string> Next(const std::string& prompt) override {
+        std::optional<std::string> line = lines_->Next(prompt);
+        constexpr std::string_view fail = "# fail: ";
+        if (line && line->starts_with(fail) && !FailNext(line->substr(fail.size()))) {
+            std::cerr << "kvrhost: nothing makes " << line->substr(fail.size()) << " fail\n";
+        }
+        return line;
+    }
+
+private:
+    std::unique_ptr<LineSource> lines_ = LinesOf(std::cin);
+};
+
 } // namespace
 
 std::unique_ptr<LineSource> OpenConsole() {
@@ -75,7 +92,7 @@ std::unique_ptr<LineSource> OpenConsole() {
     // The lines end as they do everywhere else.
     _setmode(_fileno(stdin), _O_BINARY);
     _setmode(_fileno(stdout), _O_BINARY);
-    return LinesOf(std::cin);
+    return std::make_unique<Script>();
 }
 
 } // namespace host

@@ -8,6 +8,7 @@
 
 #include "host/text.h"
 #include "host/windows/import_table.h"
+#include "host/windows/standins/faults.h"
 #include "host/world.h"
 
 namespace host {
@@ -39,6 +40,18 @@ NEXT(WriteProfileStringW);
 NEXT(SendNotifyMessageW);
 NEXT(MessageBoxW);
 #undef NEXT
+
+// Writes the line down and makes the call.
+template <class Call> auto Journaled(std::string line, const Call& call) {
+    const std::size_t at = journal.size();
+    journal.push_back(std::move(line));
+    TakeFault(); // one of a call that is not written down
+    const auto result = call();
+    if (TakeFault()) {
+        journal[at] += " (failed)";
+    }
+    return result;
+}
 
 std::string Utf8(LPCWSTR text) {
     return text ? ToUtf8(text) : std::string{};
@@ -99,9 +112,9 @@ LSTATUS WINAPI ObservedRegCloseKey(HKEY key) {
 LSTATUS WINAPI ObservedRegSetValueExW(HKEY key, LPCWSTR name, DWORD reserved, DWORD type, const BYTE* data,
                                       DWORD bytes) {
     const auto found = keys.find(key);
-    journal.push_back("RegSetValueExW " + (found == keys.end() ? "?" : found->second) + ' ' + Utf8(name) +
-                      " = " + DataShown(type, data, bytes));
-    return NextRegSetValueExW(key, name, reserved, type, data, bytes);
+    return Journaled("RegSetValueExW " + (found == keys.end() ? "?" : found->second) + ' ' + Utf8(name) +
+                         " = " + DataShown(type, data, bytes),
+                     [&] { return NextRegSetValueExW(key, name, reserved, type, data, bytes); });
 }
 
 HKEY WINAPI ObservedSetupDiOpenDevRegKey(HDEVINFO set, SP_DEVINFO_DATA* data, DWORD scope, DWORD profile,
@@ -115,57 +128,58 @@ HKEY WINAPI ObservedSetupDiOpenDevRegKey(HDEVINFO set, SP_DEVINFO_DATA* data, DW
 
 BOOL WINAPI ObservedSetupDiSetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_DATA* data, DWORD property,
                                                       const BYTE* buffer, DWORD bytes) {
-    journal.push_back("SetupDiSetDeviceRegistryPropertyW " + InstanceId(set, data) + ' ' +
-                      PropertyShown(property) + " = " + Quoted(TextIn(buffer, bytes)));
-    return NextSetupDiSetDeviceRegistryPropertyW(set, data, property, buffer, bytes);
+    return Journaled(
+        "SetupDiSetDeviceRegistryPropertyW " + InstanceId(set, data) + ' ' + PropertyShown(property) + " = " +
+            Quoted(TextIn(buffer, bytes)),
+        [&] { return NextSetupDiSetDeviceRegistryPropertyW(set, data, property, buffer, bytes); });
 }
 
 BOOL WINAPI ObservedSetupDiSetDeviceInstallParamsW(HDEVINFO set, SP_DEVINFO_DATA* data,
                                                    SP_DEVINSTALL_PARAMS_W* params) {
-    journal.push_back("SetupDiSetDeviceInstallParamsW " + InstanceId(set, data) + " flags " +
-                      Hex("0x%08X", params->Flags));
-    return NextSetupDiSetDeviceInstallParamsW(set, data, params);
+    return Journaled("SetupDiSetDeviceInstallParamsW " + InstanceId(set, data) + " flags " +
+                         Hex("0x%08X", params->Flags),
+                     [&] { return NextSetupDiSetDeviceInstallParamsW(set, data, params); });
 }
 
 BOOL WINAPI ObservedSetupDiSetClassInstallParamsW(HDEVINFO set, SP_DEVINFO_DATA* data,
                                                   SP_CLASSINSTALL_HEADER* params, DWORD bytes) {
-    journal.push_back("SetupDiSetClassInstallParamsW " + InstanceId(set, data) + ' ' +
-                      FunctionShown(params->InstallFunction));
-    return NextSetupDiSetClassInstallParamsW(set, data, params, bytes);
+    return Journaled("SetupDiSetClassInstallParamsW " + InstanceId(set, data) + ' ' +
+                         FunctionShown(params->InstallFunction),
+                     [&] { return NextSetupDiSetClassInstallParamsW(set, data, params, bytes); });
 }
 
 BOOL WINAPI ObservedSetupDiCallClassInstaller(DI_FUNCTION function, HDEVINFO set, SP_DEVINFO_DATA* data) {
-    journal.push_back("SetupDiCallClassInstaller " + InstanceId(set, data) + ' ' + FunctionShown(function));
-    return NextSetupDiCallClassInstaller(function, set, data);
+    return Journaled("SetupDiCallClassInstaller " + InstanceId(set, data) + ' ' + FunctionShown(function),
+                     [&] { return NextSetupDiCallClassInstaller(function, set, data); });
 }
 
 BOOL WINAPI ObservedDefineDosDeviceW(DWORD flags, LPCWSTR name, LPCWSTR target) {
-    journal.push_back("DefineDosDeviceW " +
-                      (target ? Utf8(name) + " -> " + Utf8(target) : "remove " + Utf8(name)));
-    return NextDefineDosDeviceW(flags, name, target);
+    return Journaled("DefineDosDeviceW " +
+                         (target ? Utf8(name) + " -> " + Utf8(target) : "remove " + Utf8(name)),
+                     [&] { return NextDefineDosDeviceW(flags, name, target); });
 }
 
 LONG WINAPI ObservedComDBReleasePort(HCOMDB database, DWORD number) {
-    journal.push_back("ComDBReleasePort " + std::to_string(number));
-    return NextComDBReleasePort(database, number);
+    return Journaled("ComDBReleasePort " + std::to_string(number),
+                     [&] { return NextComDBReleasePort(database, number); });
 }
 
 LONG WINAPI ObservedComDBClaimPort(HCOMDB database, DWORD number, BOOL force, PBOOL forced) {
-    journal.push_back("ComDBClaimPort " + std::to_string(number) + (force ? " force" : ""));
-    return NextComDBClaimPort(database, number, force, forced);
+    return Journaled("ComDBClaimPort " + std::to_string(number) + (force ? " force" : ""),
+                     [&] { return NextComDBClaimPort(database, number, force, forced); });
 }
 
 BOOL WINAPI ObservedWriteProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR value) {
-    journal.push_back("WriteProfileStringW [" + Utf8(section) + "] " + Utf8(key) +
-                      (value ? " = " + Quoted(Utf8(value)) : " deleted"));
-    return NextWriteProfileStringW(section, key, value);
+    return Journaled("WriteProfileStringW [" + Utf8(section) + "] " + Utf8(key) +
+                         (value ? " = " + Quoted(Utf8(value)) : " deleted"),
+                     [&] { return NextWriteProfileStringW(section, key, value); });
 }
 
 BOOL WINAPI ObservedSendNotifyMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    journal.push_back(message == WM_WININICHANGE ? "SendNotifyMessageW WM_WININICHANGE " +
-                                                       Quoted(Utf8(reinterpret_cast<LPCWSTR>(lParam)))
-                                                 : "SendNotifyMessageW " + std::to_string(message));
-    return NextSendNotifyMessageW(window, message, wParam, lParam);
+    return Journaled(message == WM_WININICHANGE ? "SendNotifyMessageW WM_WININICHANGE " +
+                                                      Quoted(Utf8(reinterpret_cast<LPCWSTR>(lParam)))
+                                                : "SendNotifyMessageW " + std::to_string(message),
+                     [&] { return NextSendNotifyMessageW(window, message, wParam, lParam); });
 }
 
 // The first window that a message box creates is the box.

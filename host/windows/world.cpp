@@ -3,11 +3,13 @@
 #include "host/world.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "host/listing.h"
 #include "host/windows/attendance.h"
 #include "host/windows/observers.h"
 #include "host/windows/registry.h"
+#include "host/windows/standins/faults.h"
 #include "host/windows/standins/standins.h"
 
 namespace host {
@@ -43,6 +45,21 @@ Text Property(HDEVINFO set, SP_DEVINFO_DATA& data, DWORD property) {
 
 HKEY HardwareKey(HDEVINFO set, SP_DEVINFO_DATA& data) {
     return SetupDiOpenDevRegKey(set, &data, DICS_FLAG_GLOBAL, 0, DIREG_DEV, KEY_READ);
+}
+
+// The device as the host lists it, but for its presence; nothing if it has no provider.
+std::optional<Device> Describe(HDEVINFO set, SP_DEVINFO_DATA& data) {
+    Device device;
+    device.id = InstanceId(set, &data);
+    const RegistryKey key(HardwareKey(set, data));
+    if (Property(set, data, SPDRP_CLASS) == TEXT("Ports") || key.Has(TEXT("PortName"))) {
+        device.kind = DeviceKind::Port;
+    } else if (!key.Has(TEXT("BoardNrController"))) { // what only a board's own device says
+        return {};
+    }
+    device.description = Property(set, data, SPDRP_DEVICEDESC);
+    device.friendly_name = Property(set, data, SPDRP_FRIENDLYNAME);
+    return device;
 }
 
 bool SameText(const std::string& left, const std::string& right) {
@@ -101,6 +118,7 @@ void ShowSheet(const Text& title, std::vector<HPROPSHEETPAGE>& pages) {
             DispatchMessageW(&message);
         }
     }
+    RemoveWindowSubclass(sheet, &HideWhenEnded, 0);
     DestroyWindow(sheet);
 }
 
@@ -110,8 +128,10 @@ public:
         if (IsStandInSystem()) {
             UseStandIns(library);
         }
+        AllowFaults(library);
         Observe(library);
     }
+    ~System() override { FreeLibrary(library_); }
 
     std::vector<Device> Devices() override {
         std::vector<Device> devices;
@@ -124,18 +144,10 @@ public:
         const DeviceSet set(SetupDiGetClassDevsW(nullptr, nullptr, nullptr, DIGCF_ALLCLASSES));
         SP_DEVINFO_DATA data = EmptyDevice();
         for (DWORD index = 0; SetupDiEnumDeviceInfo(set.Handle(), index, &data); ++index) {
-            Device device;
-            device.id = InstanceId(set.Handle(), &data);
-            const RegistryKey key(HardwareKey(set.Handle(), data));
-            if (Property(set.Handle(), data, SPDRP_CLASS) == TEXT("Ports") || key.Has(TEXT("PortName"))) {
-                device.kind = DeviceKind::Port;
-            } else if (!key.Has(TEXT("BoardNrController"))) { // what only a board's own device says
-                continue;
+            if (std::optional<Device> device = Describe(set.Handle(), data)) {
+                device->present = !among(with_interface, device->id) || among(present, device->id);
+                devices.push_back(std::move(*device));
             }
-            device.present = !among(with_interface, device.id) || among(present, device.id);
-            device.description = Property(set.Handle(), data, SPDRP_DEVICEDESC);
-            device.friendly_name = Property(set.Handle(), data, SPDRP_FRIENDLYNAME);
-            devices.push_back(std::move(device));
         }
         std::sort(devices.begin(), devices.end(), [](const Device& left, const Device& right) {
             return left.kind != right.kind ? left.kind == DeviceKind::Board
@@ -181,13 +193,13 @@ public:
     }
 
     bool RunSheet(const std::string& id, const std::function<void(HWND front)>& attend) override {
-        const std::vector<Device> devices = Devices();
-        const auto device = std::find_if(devices.begin(), devices.end(),
-                                         [&](const Device& each) { return SameText(each.id, id); });
         const DeviceSet set(SetupDiCreateDeviceInfoList(nullptr, nullptr));
         SP_DEVINFO_DATA data = EmptyDevice();
-        if (device == devices.end() ||
-            !SetupDiOpenDeviceInfoW(set.Handle(), FromUtf8(id).c_str(), nullptr, 0, &data)) {
+        if (!SetupDiOpenDeviceInfoW(set.Handle(), FromUtf8(id).c_str(), nullptr, 0, &data)) {
+            return false;
+        }
+        const std::optional<Device> device = Describe(set.Handle(), data);
+        if (!device) {
             return false;
         }
         using Provider = BOOL(APIENTRY*)(SP_PROPSHEETPAGE_REQUEST*, LPFNADDPROPSHEETPAGE, LPARAM);

@@ -243,7 +243,9 @@ void CheckPlaces(const Dialog& dialog, const std::vector<Control>& controls) {
             tell(*one, "outside its dialog", 0);
         }
         for (auto other = one + 1; other != controls.end(); ++other) {
-            if (!IntersectRect(&common, &one->place, &other->place)) {
+            // Places that touch in dialog units may share a pixel, for place and size are rounded apart.
+            if (!IntersectRect(&common, &one->place, &other->place) || common.right - common.left <= 1 ||
+                common.bottom - common.top <= 1) {
                 continue;
             }
             // A group holds a control wholly or not at all.
@@ -331,12 +333,15 @@ int main(int argc, char** argv) {
         std::printf("kvrpagex64.dll can't be loaded\n");
         return 2;
     }
-    const LANGID only = argc > 1 ? static_cast<LANGID>(std::atoi(argv[1])) : 0;
+    std::vector<LANGID> languages;
+    for (int i = 1; i < argc; ++i) {
+        languages.push_back(static_cast<LANGID>(std::atoi(argv[i])));
+    }
+    if (languages.empty()) {
+        languages = Languages();
+    }
     int dialogs = 0;
-    for (const LANGID language : Languages()) {
-        if (only != 0 && language != only) {
-            continue;
-        }
+    for (const LANGID language : languages) {
         for (const WORD id : Dialogs) {
             if (MeasureDialog(language, id)) {
                 ++dialogs;

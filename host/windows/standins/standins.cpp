@@ -120,9 +120,17 @@ std::vector<std::pair<std::wstring, std::wstring>> SerialDosNames() {
 }
 
 bool UseLanguage(LANGID language) {
-    // The stand-in looks resources up by the thread's locale, Windows by the thread's language.
-    return IsStandInSystem() ? SetThreadLocale(MAKELCID(language, SORT_DEFAULT)) != FALSE
-                             : SetThreadUILanguage(language) == language;
+    if (!IsStandInSystem()) {
+        return SetThreadUILanguage(language) == language;
+    }
+    // The stand-in looks resources up by the thread's locale, and makes a language without a country one with
+    // its default country. So the locale goes to its place in the thread's block itself.
+    const LCID locale = MAKELCID(language, SORT_DEFAULT);
+    if (!IsValidLocale(locale, LCID_INSTALLED)) {
+        return false;
+    }
+    __asm__ volatile("movl %0, %%gs:0x108" : : "r"(locale) : "memory");
+    return true;
 }
 
 } // namespace host

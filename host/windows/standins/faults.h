@@ -1,0 +1,20 @@
+// Failures on demand: the next call of an operation fails as it can fail at any time, without being carried
+// out.
+#pragma once
+
+#include <string>
+
+#include "platform/platform.h"
+
+namespace host {
+
+// Makes the library's calls pass here, below whoever observes them. One library at a time.
+void AllowFaults(HMODULE library);
+
+// False if this operation can't be made to fail.
+bool FailNext(const std::string& operation);
+
+// Whether a call has been made to fail since the last time.
+bool TakeFault();
+
+} // namespace host
