@@ -1,10 +1,10 @@
 // The device store as hostile input, and how a board finds its channels and gives everything back.
 #include <algorithm>
-#include <cstddef>
 #include <cstring>
 #include <functional>
 #include <memory>
 #include <span>
+#include <sstream>
 
 #include "device_model/board_discovery.h"
 #include "device_model/device_store.h"
@@ -21,65 +21,70 @@ using sim::Reach;
 // --- The device store -----------------------------------------------------------------------------------
 
 struct Field {
-    std::u16string name;
-    std::size_t offset;
+    std::string name;
     std::size_t bytes;
+    std::size_t offset;
     bool IsText() const { return bytes > sizeof(u64); }
 };
 
 struct Reading {
     const char* what;
+    u32 (*read)(HDEVINFO, SP_DEVINFO_DATA*, void*);
     std::size_t record_bytes;
-    std::function<u32(HDEVINFO, SP_DEVINFO_DATA*, void*)> read;
-    std::vector<Field> fields; // in the order of reading
+    std::vector<Field> fields; // in the order of reading, which is that of the record
 };
 
-template <auto Read, class Record> u32 Call(HDEVINFO set, SP_DEVINFO_DATA* data, void* record) {
-    return Read(set, data, static_cast<Record*>(record));
-}
-template <u32 Bytes> u32 CallName(HDEVINFO set, SP_DEVINFO_DATA* data, void* text) {
-    return Kavro_RegUartGetCOMName(set, data, static_cast<WCHAR*>(text), Bytes);
+// Fields of 4 bytes, or of as many as stand behind a colon; the first one at `offset`.
+std::vector<Field> Fields(std::size_t offset, const std::string& names) {
+    std::vector<Field> fields;
+    std::istringstream words(names);
+    for (std::string word; words >> word;) {
+        const std::size_t colon = word.find(':');
+        const std::size_t bytes = colon == std::string::npos ? 4 : std::stoul(word.substr(colon + 1));
+        offset += bytes == 8 ? offset % 8 : 0;
+        fields.push_back({word.substr(0, colon), bytes, offset});
+        offset += bytes;
+    }
+    return fields;
 }
 
-#define F(record, field)                                                                                     \
-    { u"" #field, offsetof(record, field), sizeof(record::field) }
-#define OF(operation, record) #operation, sizeof(record), Call < Kavro_Reg##operation, record>
-#define SPI_CAN(record, prefix)                                                                              \
-    F(record, prefix##SpiNrDevice), F(record, prefix##SpiClkRate), F(record, prefix##Name),                  \
-        F(record, prefix##Number), F(record, prefix##CS), F(record, prefix##GpioInputBits),                  \
-        F(record, prefix##GpioOutputBits)
+#define OF(record, operation)                                                                                \
+#operation,                                                                                              \
+        [](HDEVINFO set, SP_DEVINFO_DATA * data,                                                             \
+           void* to) { return Kavro_Reg##operation(set, data, static_cast<record*>(to)); }, sizeof(record)
+#define NAME(bytes)                                                                                          \
+    "GetCOMName, " #bytes " bytes",                                                                          \
+        [](HDEVINFO set, SP_DEVINFO_DATA* data, void* to) {                                                  \
+            return Kavro_RegUartGetCOMName(set, data, static_cast<WCHAR*>(to), bytes);                       \
+        },                                                                                                   \
+        bytes
 
 const Reading readings[] = {
-    {OF(BoardGetBasic, BoardBasicInfo), {F(BoardBasicInfo, BoardPciBusNumber), F(BoardBasicInfo, BoardIrq)}},
-    {OF(BoardGetOther, BoardOtherInfo),
-     {F(BoardOtherInfo, BoardMajorVersion), F(BoardOtherInfo, BoardMinorVersion),
-      F(BoardOtherInfo, BoardNrController), F(BoardOtherInfo, BoardModelName)}},
-    {OF(ChlGetBasic, ChlBasicInfo),
-     {F(ChlBasicInfo, ChlNumber), F(ChlBasicInfo, ChlType), F(ChlBasicInfo, ChlVersion),
-      F(ChlBasicInfo, ChlEventAddr), F(ChlBasicInfo, ChlEventLength), F(ChlBasicInfo, ChlMemAddr),
-      F(ChlBasicInfo, ChlMemLength), F(ChlBasicInfo, ChlPortAddr), F(ChlBasicInfo, ChlPortLength),
-      F(ChlBasicInfo, ChlOpened)}},
-    {OF(ConfigGetBasic, ConfigBasicInfo), {F(ConfigBasicInfo, ConfigModel), F(ConfigBasicInfo, ConfigBrand)}},
-    {OF(DioGetBasic, DioBasicInfo),
-     {F(DioBasicInfo, DioNrBank), F(DioBasicInfo, DioCapability), F(DioBasicInfo, DioDiSamplingFreq),
-      F(DioBasicInfo, DioDiFilterLowerBound)}},
-    {OF(Mcp251xGetBasic, Mcp251xBasicInfo), {SPI_CAN(Mcp251xBasicInfo, Mcp251x)}},
-    {OF(Mcp251xFdGetBasic, Mcp251xFdBasicInfo), {SPI_CAN(Mcp251xFdBasicInfo, Mcp251xFd)}},
-    {OF(CanGetBasic, CanBasicInfo),
-     {F(CanBasicInfo, KvrCanCapability), F(CanBasicInfo, KvrCanTxMsgQueueSize),
-      F(CanBasicInfo, KvrCanTxEventQueueSize), F(CanBasicInfo, KvrCanRxMsgQueueSize),
-      F(CanBasicInfo, KvrCanNrRxFilterGroup), F(CanBasicInfo, KvrCanSystemClkRate),
-      F(CanBasicInfo, KvrCanReferenceClkRate), F(CanBasicInfo, KvrCanFifoTXMMax),
-      F(CanBasicInfo, KvrCanFifoTXEMax), F(CanBasicInfo, KvrCanFifoRXMMax)}},
-    {OF(UartGetBasic, UartBasicInfo),
-     {F(UartBasicInfo, UartTxFifoSize), F(UartBasicInfo, UartRxFifoSize), F(UartBasicInfo, UartClkRate),
-      F(UartBasicInfo, UartCapability), F(UartBasicInfo, UartDefCntFifoSettings),
-      F(UartBasicInfo, UartDefCntAdvanceSettings), F(UartBasicInfo, UartFifoEnable),
-      F(UartBasicInfo, UartTxFifoLowHigh), F(UartBasicInfo, UartRxFifoLowHigh), F(UartBasicInfo, UartMode),
-      F(UartBasicInfo, UartAHDC), F(UartBasicInfo, UartCS), F(UartBasicInfo, UartAutoRS422485),
-      F(UartBasicInfo, UartRS422Termination), F(UartBasicInfo, UartRS485Termination)}},
-    {"the name for the board", 128, CallName<128>, {{u"PortName", 0, 128}}},
-    {"the name for the port", 40, CallName<40>, {{u"PortName", 0, 40}}},
+    {OF(BoardBasicInfo, BoardGetBasic), Fields(0, "BoardPciBusNumber BoardIrq")},
+    {OF(BoardOtherInfo, BoardGetOther),
+     Fields(0, "BoardMajorVersion BoardMinorVersion BoardNrController BoardModelName:128")},
+    {OF(ChlBasicInfo, ChlGetBasic),
+     Fields(0, "ChlNumber ChlType ChlVersion ChlEventAddr:8 ChlEventLength ChlMemAddr:8 ChlMemLength "
+               "ChlPortAddr:8 ChlPortLength ChlOpened")},
+    {OF(ConfigBasicInfo, ConfigGetBasic), Fields(0, "ConfigModel ConfigBrand")},
+    {OF(DioBasicInfo, DioGetBasic),
+     Fields(0, "DioNrBank DioCapability DioDiSamplingFreq DioDiFilterLowerBound")},
+    {OF(Mcp251xBasicInfo, Mcp251xGetBasic),
+     Fields(0, "Mcp251xSpiNrDevice Mcp251xSpiClkRate Mcp251xName:128 Mcp251xNumber Mcp251xCS "
+               "Mcp251xGpioInputBits Mcp251xGpioOutputBits")},
+    {OF(Mcp251xFdBasicInfo, Mcp251xFdGetBasic),
+     Fields(0, "Mcp251xFdSpiNrDevice Mcp251xFdSpiClkRate Mcp251xFdName:128 Mcp251xFdNumber Mcp251xFdCS "
+               "Mcp251xFdGpioInputBits Mcp251xFdGpioOutputBits")},
+    {OF(CanBasicInfo, CanGetBasic),
+     Fields(0, "KvrCanCapability KvrCanTxMsgQueueSize KvrCanTxEventQueueSize KvrCanRxMsgQueueSize "
+               "KvrCanNrRxFilterGroup KvrCanSystemClkRate KvrCanReferenceClkRate KvrCanFifoTXMMax "
+               "KvrCanFifoTXEMax KvrCanFifoRXMMax")},
+    {OF(UartBasicInfo, UartGetBasic), // behind the name, which is read by itself
+     Fields(128, "UartTxFifoSize UartRxFifoSize UartClkRate UartCapability UartDefCntFifoSettings "
+                 "UartDefCntAdvanceSettings UartFifoEnable UartTxFifoLowHigh UartRxFifoLowHigh UartMode "
+                 "UartAHDC UartCS UartAutoRS422485 UartRS422Termination UartRS485Termination")},
+    {NAME(128), Fields(0, "PortName:128")},
+    {NAME(40), Fields(0, "PortName:40")},
 };
 
 std::vector<BYTE> Pattern(std::size_t length, std::size_t seed) {
@@ -95,7 +100,7 @@ sim::Machine MachineFor(const Reading& reading) {
     sim::Machine machine;
     machine.devices.emplace_back().instance_id = u"D";
     for (const Field& field : reading.fields) {
-        machine.devices[0].key.Set(field.name, REG_BINARY, Pattern(field.bytes, field.offset));
+        machine.devices[0].key.Set(sim::FromUtf8(field.name), REG_BINARY, Pattern(field.bytes, field.offset));
     }
     return machine;
 }
@@ -104,7 +109,7 @@ sim::Machine MachineFor(const Reading& reading) {
 std::vector<BYTE> ExpectedRecord(const Reading& reading, const sim::Machine& machine, std::size_t count) {
     std::vector<BYTE> record(reading.record_bytes, 0xAA);
     for (const Field& field : std::span(reading.fields).first(count)) {
-        const std::vector<BYTE>& stored = machine.devices[0].key.Find(field.name)->data;
+        const std::vector<BYTE>& stored = machine.devices[0].key.Find(sim::FromUtf8(field.name))->data;
         std::ranges::copy(stored, record.begin() + static_cast<std::ptrdiff_t>(field.offset));
         if (field.IsText()) {
             const std::size_t end = 2 * std::min(stored.size() / 2, field.bytes / 2 - 1);
@@ -129,7 +134,7 @@ void ExpectReading(const Reading& reading, sim::Machine& machine, u32 status, st
         << what;
     std::vector<std::string> expected;
     for (std::size_t i = 0; status != StatusNoKey && i < std::min(count + 1, reading.fields.size()); ++i) {
-        expected.push_back("RegQueryValueExW D " + sim::ToUtf8(reading.fields[i].name));
+        expected.push_back("RegQueryValueExW D " + reading.fields[i].name);
     }
     std::vector<std::string> queries = machines::Journal(machine, {Reach::Read});
     std::erase_if(queries, [](const std::string& line) { return !line.starts_with("RegQueryValueExW"); });
@@ -140,45 +145,26 @@ TEST(DeviceStore, EachReadingTakesItsValuesInOrderWhateverTheirTypeAndLength) {
     for (const Reading& reading : readings) {
         sim::Machine whole = MachineFor(reading);
         ExpectReading(reading, whole, 0, reading.fields.size(), reading.what);
+        whole.devices[0].access_denied = true;
+        ExpectReading(reading, whole, StatusNoKey, 0, std::string(reading.what) + " without write access");
+        whole.devices[0].has_key = false;
+        ExpectReading(reading, whole, StatusNoKey, 0, std::string(reading.what) + " without a key");
         for (std::size_t i = 0; i < reading.fields.size(); ++i) {
             const Field& field = reading.fields[i];
-            const std::string what = std::string(reading.what) + ", " + sim::ToUtf8(field.name);
+            const std::string what = std::string(reading.what) + ", " + field.name;
             sim::Machine missing = MachineFor(reading);
-            missing.devices[0].key.Erase(field.name);
+            missing.devices[0].key.Erase(sim::FromUtf8(field.name));
             ExpectReading(reading, missing, StatusReadFailed, i, what + " missing");
             DWORD type = REG_NONE;
             for (const std::size_t length :
                  {0, 1, 2, 3, 4, 5, 7, 8, 9, 39, 40, 41, 126, 127, 128, 129, 200}) {
                 sim::Machine machine = MachineFor(reading);
-                machine.devices[0].key.Set(field.name, type++ % 12, Pattern(length, i));
+                machine.devices[0].key.Set(sim::FromUtf8(field.name), type++ % 12, Pattern(length, i));
                 const bool fits = length <= field.bytes;
                 ExpectReading(reading, machine, fits ? 0 : StatusReadFailed, fits ? reading.fields.size() : i,
                               what + " of " + std::to_string(length) + " bytes");
             }
         }
-    }
-}
-
-TEST(DeviceStore, AKeyThatCantBeOpenedIsNoKeyForReadingToo) {
-    const struct {
-        const char* what;
-        std::function<void(sim::Machine&)> prepare;
-    } cases[] = {
-        {"no write access", [](sim::Machine& machine) { machine.devices[0].access_denied = true; }},
-        {"no key", [](sim::Machine& machine) { machine.devices[0].has_key = false; }},
-    };
-    for (const auto& each : cases) {
-        for (const Reading& reading : readings) {
-            sim::Machine machine = MachineFor(reading);
-            each.prepare(machine);
-            ExpectReading(reading, machine, StatusNoKey, 0, std::string(each.what) + ", " + reading.what);
-        }
-        sim::Machine machine = machines::BoardOn({5});
-        each.prepare(machine);
-        const Session session(machine);
-        OpenDevice device(0);
-        EXPECT_EQ(Kavro_RegUartSetFifoSettings(device.set, &device.data, 1, 2, 3), StatusNoKey);
-        EXPECT_EQ(Kavro_RegUartSetAdvanceSettings(device.set, &device.data, 1, 0, 0, 0, 0, 0), StatusNoKey);
     }
 }
 
@@ -202,6 +188,9 @@ TEST(DeviceStore, AFailingWriteLeavesThoseBeforeItAndTriesNoneAfter) {
                 machine.faults.at_call = {{"RegSetValueExW", failing}};
             }
             OpenDevice device(0);
+            machine.devices[0].access_denied = true;
+            EXPECT_EQ(writing.write(device.set, &device.data), StatusNoKey);
+            machine.devices[0].access_denied = false;
             EXPECT_EQ(writing.write(device.set, &device.data), failing == 0 ? 0 : StatusWriteFailed);
             std::vector<std::string> tried;
             for (const std::string& line : writing.lines) {
@@ -349,11 +338,11 @@ TEST(BoardDiscovery, TheBoardsOwnValuesMustAllBeReadable) {
     for (const Reading& reading : std::span(readings).first(4)) {
         for (const Field& field : reading.fields) {
             sim::Machine machine = OneOfEach();
-            ASSERT_TRUE(machine.devices[0].key.Erase(field.name));
+            ASSERT_TRUE(machine.devices[0].key.Erase(sim::FromUtf8(field.name)));
             const Session session(machine);
             const OpenBoard board;
             EXPECT_FALSE(board.initiated);
-            EXPECT_EQ(board.status, StatusReadFailed) << sim::ToUtf8(field.name);
+            EXPECT_EQ(board.status, StatusReadFailed) << field.name;
             EXPECT_EQ(Channels(board.params), " |");
         }
     }
@@ -468,23 +457,6 @@ TEST(FifoStages, AreSixteenthsOfTheFifo) {
         RxFifoStages(each.bytes, stages);
         EXPECT_TRUE(std::ranges::equal(stages, each.stages)) << each.bytes;
     }
-}
-
-TEST(ChannelList, ARecordIsAloneUntilItIsInsertedAndAfterItIsRemoved) {
-    ChlListEntry head, first, second;
-    for (ChlListEntry* entry : {&head, &first, &second}) {
-        ChlListInit(entry);
-        EXPECT_TRUE(ChlListIsEmpty(entry));
-    }
-    ChlListInsertTail(&head, &first);
-    ChlListInsertTail(&head, &second);
-    EXPECT_EQ(ChlListFirst(&head), &first);
-    EXPECT_EQ(head.Prev, &second);
-    ChlListRemove(&first);
-    EXPECT_TRUE(ChlListIsEmpty(&first));
-    EXPECT_EQ(ChlListFirst(&head), &second);
-    ChlListRemove(&second);
-    EXPECT_TRUE(ChlListIsEmpty(&head));
 }
 
 } // namespace

@@ -1,0 +1,392 @@
+// The COM port database, the rename in its five places, and what stands around it.
+#include <algorithm>
+#include <functional>
+#include <span>
+
+#include "com_numbers/com_port_database.h"
+#include "com_numbers/com_remap.h"
+#include "com_numbers/port_rename.h"
+#include "com_numbers/port_settings_migration.h"
+#include "device_model/device_store.h"
+#include "reporting/error_reporter.h"
+#include "resources/resource_ids.h"
+#include "tests/session.h"
+
+namespace {
+
+using machines::OpenDevice;
+using machines::Session;
+using sim::Reach;
+using Change = std::function<void(sim::Machine&)>;
+
+constexpr std::size_t port = 1; // the device of BoardOn's first UART
+
+// --- The database ---------------------------------------------------------------------------------------
+
+TEST(ComPortDatabase, NumbersAreBitsAndTheHighestFreeOneWins) {
+    const struct {
+        const char* what;
+        u32 first, last, exception; // claimed, but for one
+        u32 status, number;
+    } cases[] = {
+        {"an empty database", 1, 0, 0, 0, 256},        {"the highest claimed", 256, 256, 0, 0, 255},
+        {"only the highest free", 1, 255, 0, 0, 256},  {"only the lowest free", 2, 256, 0, 0, 1},
+        {"the last of a byte free", 1, 256, 8, 0, 8},  {"the first of a byte free", 1, 256, 9, 0, 9},
+        {"all claimed", 1, 256, 0, StatusNoneFree, 0},
+    };
+    for (const auto& each : cases) {
+        sim::Machine machine;
+        for (u32 number = each.first; number <= each.last; ++number) {
+            const BYTE bit = static_cast<BYTE>(number % 8 == 0 ? 0x80 : 1 << (number % 8 - 1));
+            machine.port_usage[(number - 1) / 8] |= number == each.exception ? BYTE{0} : bit;
+        }
+        const Session session(machine);
+        u32 number = 77;
+        EXPECT_EQ(Kavro_COMPortGetMaxNumberAvailable(&number), each.status) << each.what;
+        EXPECT_EQ(number, each.number) << each.what;
+        for (u32 n = 1; n <= 256; ++n) {
+            const bool claimed = n >= each.first && n <= each.last && n != each.exception;
+            EXPECT_EQ(Kavro_COMPortCheckNumberInUse(n), claimed ? StatusNumberClaimed : 0) << each.what << n;
+        }
+    }
+}
+
+// Runs some work on the Port Control dialog once it stands there.
+INT_PTR CALLBACK Work(HWND dialog, UINT message, WPARAM, LPARAM work) {
+    if (message == WM_INITDIALOG) {
+        (*reinterpret_cast<const std::function<void(HWND)>*>(work))(dialog);
+        EndDialog(dialog, 0);
+    }
+    return FALSE;
+}
+void OnDialog(const std::function<void(HWND)>& work) {
+    DialogBoxParamW(sim::LibraryInstance(), MAKEINTRESOURCEW(IDD_PORT_CONTROL), nullptr, Work,
+                    reinterpret_cast<LPARAM>(&work));
+}
+
+TEST(ComPortDatabase, TheComboHasAllNumbersAndSparesItsOwn) {
+    const struct {
+        const char* what;
+        const WCHAR* name;
+        Change change;
+        u32 status;
+        int selected; // -1: the combo stays empty and disabled
+        const char* third;
+    } cases[] = {
+        {"its own is not marked", u"COM3", nullptr, 0, 2, "COM3"},
+        {"others' are", u"COM2", nullptr, 0, 1, "COM3 (in use)"},
+        {"number 0 stands at the first", u"COM0", nullptr, 0, 0, "COM3 (in use)"},
+        {"no digits too", u"COMX", nullptr, 0, 0, "COM3 (in use)"},
+        {"a short name too", u"C", nullptr, 0, 0, "COM3 (in use)"},
+        {"above the range stands at the last", u"COM300", nullptr, 0, 255, "COM3 (in use)"},
+        {"above the signed range stands at the first", u"COM4294967295", nullptr, 0, 0, "COM3 (in use)"},
+        {"no name", u"", nullptr, StatusNoCombo, -1, ""},
+        {"no combo", u"COM3", [](auto& machine) { machine.missing_controls = {IDC_PORT_NUMBER}; },
+         StatusNoCombo, -1, ""},
+        {"no suffix", u"COM2", [](auto& machine) { machine.missing_strings = {IDS_IN_USE_SUFFIX}; }, 0, 1,
+         "COM3 (in use)"},
+        {"no database", u"COM3",
+         [](auto& machine) {
+             machine.faults.at_call = {{"ComDBOpen", 1}};
+         },
+         StatusNoDatabase, -1, ""},
+        {"no usage", u"COM3",
+         [](auto& machine) {
+             machine.faults.at_call = {{"ComDBGetCurrentPortUsage", 1}};
+         },
+         StatusNoUsage, -1, ""},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.what);
+        sim::Machine machine;
+        for (const u32 number : {1, 3, 4, 255, 256}) {
+            sim::SetClaimed(machine.port_usage, number, true);
+        }
+        const Session session(machine);
+        if (each.change) {
+            each.change(machine);
+        }
+        OnDialog([&](HWND dialog) {
+            EXPECT_EQ(Kavro_COMPortFillPortNameCombox(dialog, each.name), each.status);
+            const HWND combo = GetDlgItem(dialog, IDC_PORT_NUMBER);
+            const bool filled = each.selected >= 0;
+            EXPECT_EQ(IsWindowEnabled(combo) != FALSE, filled);
+            EXPECT_EQ(IsWindowEnabled(GetDlgItem(dialog, IDC_PORT_NUMBER_CAPTION)) != FALSE, filled);
+            if (combo != nullptr) {
+                EXPECT_EQ(SendMessageW(combo, CB_GETCOUNT, 0, 0), filled ? 256 : 0);
+                EXPECT_EQ(SendMessageW(combo, CB_GETCURSEL, 0, 0), each.selected);
+                WCHAR text[40] = {};
+                SendMessageW(combo, CB_GETLBTEXT, 2, reinterpret_cast<LPARAM>(text));
+                EXPECT_EQ(sim::ToUtf8(text), each.third);
+            }
+        });
+    }
+}
+
+// --- The rename -----------------------------------------------------------------------------------------
+
+// A user's rename of a UART from COM5 to COM7 on a board page, with the move of its line.
+bool RenameFrom5To7() {
+    OpenDevice device(port);
+    WCHAR name[PortNameCapacity] = u"COM5";
+    constexpr RenameFailureCodes codes = {FailurePortNumberInUse, FailurePortOpened, FailurePortRemap};
+    const bool renamed =
+        RenamePortForUser(nullptr, codes, device.set, &device.data, 5, 7, name, PortNameCapacity);
+    EXPECT_EQ(sim::ToUtf8(name), renamed ? "COM7" : "COM5");
+    if (renamed) {
+        Kavro_COMPortMigratePortSettings(u"COM5", name);
+    }
+    return renamed;
+}
+
+TEST(PortRename, TouchesTheOutsideInThisOrder) {
+    sim::Machine machine = machines::BoardOn({5, 6});
+    machine.devices[port].install_flags = 0x10;
+    const Session session(machine);
+    ASSERT_TRUE(RenameFrom5To7());
+    const std::string device = "KVR\\Channel\\1";
+    const std::vector<std::string> expected = {
+        // The number is free.
+        "ComDBOpen", "ComDBGetCurrentPortUsage", "ComDBClose",
+        // The port is closed.
+        "SetupDiOpenDevRegKey " + device, "RegQueryValueExW " + device + " ChlOpened", "RegCloseKey",
+        // The rename.
+        "SetupDiOpenDevRegKey " + device, "ComDBOpen", "QueryDosDeviceW COM5", "QueryDosDeviceW COM5",
+        "DefineDosDeviceW remove COM5", "DefineDosDeviceW COM7 -> \\Device\\Serial1",
+        "RegOpenKeyExW Hardware\\DeviceMap\\SerialComm", "RegEnumValueW SERIALCOMM 0",
+        "RegSetValueExW SERIALCOMM \\Device\\Serial1 = \"COM7\"", "RegCloseKey", "ComDBReleasePort 5",
+        "ComDBClaimPort 7 force", "SetupDiGetDeviceRegistryPropertyW " + device + " description",
+        "SetupDiSetDeviceRegistryPropertyW " + device + " friendly name = \"Board channel (COM7)\"",
+        "RegSetValueExW " + device + " PortName = \"COM7\"", "ComDBClose", "RegCloseKey",
+        // The device is told.
+        "SetupDiGetDeviceInstallParamsW " + device,
+        "SetupDiSetDeviceInstallParamsW " + device + " flags 0x00004010",
+        "SetupDiSetClassInstallParamsW " + device + " DIF_PROPERTYCHANGE",
+        "SetupDiCallClassInstaller " + device + " DIF_PROPERTYCHANGE",
+        // The settings move.
+        "GetProfileStringW [Ports] COM5:", "WriteProfileStringW [Ports] COM7: = \"1201,e,7,1\"",
+        "SendNotifyMessageW WM_WININICHANGE \"Ports\"", "WriteProfileStringW [Ports] COM5: deleted",
+        // The test's own set.
+        "SetupDiDestroyDeviceInfoList"};
+    EXPECT_EQ(machines::Journal(machine, {Reach::Read, Reach::Write}), expected);
+    EXPECT_EQ(machines::PlacesOf(machine, port), machines::PlacesAt(machine, port, 7));
+    EXPECT_EQ(machines::PlacesOf(machine, 2), machines::PlacesAt(machine, 2, 6));
+}
+
+// The places of the port: PortName, friendly name, DOS names, serial map, database, line; "5d": the default
+// line.
+std::string State(sim::Machine& machine) {
+    const machines::Places places = machines::PlacesOf(machine, port);
+    sim::Text names;
+    for (const auto& [name, target] : machine.dos_names) {
+        names += name == u"COM6" ? u"" : names.empty() ? name : u' ' + name;
+    }
+    std::string claimed;
+    std::string lines;
+    for (const u32 number : {5, 7}) {
+        const std::string digit = std::to_string(number);
+        claimed += sim::IsClaimed(machine.port_usage, number) ? digit : "";
+        const sim::Text line = machines::Line(machine, number);
+        lines += line.empty() ? "" : line == machines::LineOf(port) ? digit : digit + "d";
+    }
+    std::string state = sim::ToUtf8(places.port_name + u" | " + places.friendly_name + u" | " + names +
+                                    u" | " + places.serial_map) +
+                        " | " + claimed + " | " + lines;
+    for (const std::string_view part : {"Board channel ", "COM"}) {
+        for (std::size_t at; (at = state.find(part)) != std::string::npos;) {
+            state.erase(at, part.size());
+        }
+    }
+    return state;
+}
+constexpr const char* untouched = "5 | (5) | 5 | 5 | 5 | 5";
+constexpr const char* renamed = "7 | (7) | 7 | 7 | 7 | 7";
+
+TEST(PortRename, EveryOperationMayFailOnceAndLeavesTheStateOfItsStep) {
+    const struct {
+        const char* operation;
+        std::size_t call;
+        const char* state;
+        const char* box;
+    } rows[] = {
+        {"ComDBOpen", 1, untouched, "Check COM port in use failure. [serr:200]"},
+        {"ComDBGetCurrentPortUsage", 1, untouched, "Check COM port in use failure. [serr:201]"},
+        {"SetupDiOpenDevRegKey", 1, untouched, "Check COM port opened failure. [serr:100]"},
+        {"RegQueryValueExW", 1, untouched, "Check COM port opened failure. [serr:101]"},
+        {"LocalAlloc", 1, untouched, "There was an error renaming the COM port."},
+        {"SetupDiOpenDevRegKey", 2, untouched, "There was an error renaming the COM port."},
+        {"ComDBOpen", 2, untouched, "There was an error renaming the COM port."},
+        {"QueryDosDeviceW", 1, "7 | (7) | 5 | 7 | 7 | 7", nullptr},
+        {"QueryDosDeviceW", 2, untouched, "There was an error renaming the COM port."},
+        {"DefineDosDeviceW", 1, "7 | (7) | 5 7 | 7 | 7 | 7", nullptr},
+        {"DefineDosDeviceW", 2, untouched, "There was an error renaming the COM port."},
+        {"RegOpenKeyExW", 1, "7 | (7) | 7 | 5 | 7 | 7", nullptr},
+        {"RegEnumValueW", 1, "7 | (7) | 7 | 5 | 7 | 7", nullptr},
+        {"RegSetValueExW", 1, "7 | (7) | 7 | 5 | 7 | 7", nullptr},
+        {"ComDBReleasePort", 1, "7 | (7) | 7 | 7 | 57 | 7", nullptr},
+        {"ComDBClaimPort", 1, "7 | (7) | 7 | 7 |  | 7", nullptr},
+        {"SetupDiGetDeviceRegistryPropertyW", 1, "7 | 7 | 7 | 7 | 7 | 7", nullptr},
+        {"SetupDiSetDeviceRegistryPropertyW", 1, "7 | (5) | 7 | 7 | 7 | 7", nullptr},
+        {"RegSetValueExW", 2, "5 | (7) | 7 | 7 | 7 | 7", nullptr},
+        {"LocalAlloc", 2, "7 | (7) | 7 | 7 | 7 | 5", nullptr},
+        {"LocalAlloc", 3, "7 | (7) | 7 | 7 | 7 | 5", nullptr},
+        {"GetProfileStringW", 1, "7 | (7) | 7 | 7 | 7 | 7d", nullptr},
+        {"WriteProfileStringW", 1, "7 | (7) | 7 | 7 | 7 | ", nullptr},
+        {"WriteProfileStringW", 2, "7 | (7) | 7 | 7 | 7 | 57", nullptr},
+    };
+    std::size_t rows_seen = 0;
+    std::size_t at = 0;
+    for (bool hit = true; hit;) {
+        sim::Machine machine = machines::BoardOn({5, 6});
+        const Session session(machine);
+        machine.faults.at = ++at;
+        const bool done = RenameFrom5To7();
+        hit = machine.faults.hits != 0;
+        const auto until = std::span(machine.journal).first(hit ? at : 0);
+        const std::string_view failed = hit ? until.back().name : "nothing";
+        const auto call = std::ranges::count(until, failed, &sim::JournalEntry::name);
+        SCOPED_TRACE(testing::Message() << failed << ", call " << call);
+        const auto row = std::ranges::find_if(rows, [&](const auto& each) {
+            return each.operation == failed && each.call == static_cast<std::size_t>(call);
+        });
+        const bool listed = row != std::end(rows);
+        rows_seen += listed;
+        const char* box = listed ? row->box : nullptr;
+        EXPECT_EQ(done, box == nullptr);
+        EXPECT_EQ(State(machine), listed ? row->state : renamed);
+        EXPECT_EQ(machines::Count(machine, "SetupDiCallClassInstaller"), done ? 1u : 0u);
+        ASSERT_EQ(machine.boxes.size(), box == nullptr ? 0u : 1u);
+        EXPECT_TRUE(box == nullptr || sim::ToUtf8(machine.boxes[0].text) == box);
+        EXPECT_EQ(machines::PlacesOf(machine, 2), machines::PlacesAt(machine, 2, 6));
+    }
+    EXPECT_EQ(rows_seen, std::size(rows));
+}
+
+TEST(PortRename, TakesTheMachineAsItFindsIt) {
+    const auto map_first = [](const sim::Text& name, DWORD type, const sim::Text& text) {
+        return [=](sim::Machine& machine) {
+            sim::Values before = std::exchange(machine.serial_map, {});
+            machine.serial_map.SetText(name, text);
+            machine.serial_map.list[0].type = type;
+            std::ranges::copy(before.list, std::back_inserter(machine.serial_map.list));
+        };
+    };
+    const auto target = [](std::size_t length) {
+        return [=](sim::Machine& machine) { machine.dos_names[0].second = sim::Text(length, u't'); };
+    };
+    const auto description = [](const std::optional<sim::Text>& text) {
+        return [=](sim::Machine& machine) { machine.devices[port].description = text; };
+    };
+    const auto answer = [](WPARAM button) {
+        return [=](sim::Machine& machine) {
+            sim::SetClaimed(machine.port_usage, 7, true);
+            machine.user = [=](HWND box) { SendMessageW(box, WM_COMMAND, button, 0); };
+        };
+    };
+    const std::string a71(71, 'a'), a80(80, 'a');
+    const auto wide = [](std::size_t count) { return sim::Text(count, u'a'); };
+    const struct {
+        const char* what;
+        Change change;
+        std::string state;
+    } cases[] = {
+        {"no DOS name", [](auto& machine) { machine.dos_names.clear(); }, "7 | (7) |  | 7 | 7 | 7"},
+        {"a target that fits its buffer", target(78), renamed},
+        {"a target that doesn't is no DOS name", target(79), "7 | (7) | 5 | 7 | 7 | 7"},
+        {"no serial map", [](auto& machine) { machine.serial_map_exists = false; },
+         "7 | (7) | 7 | 5 | 7 | 7"},
+        {"of two in the map the first", map_first(u"Other", REG_SZ, u"COM5"), "7 | (7) | 7 | 5 | 7 | 7"},
+        {"a lower case name in the map is another", map_first(u"Other", REG_SZ, u"com5"), renamed},
+        {"a longer name in the map is another", map_first(u"Other", REG_SZ, u"COM55"), renamed},
+        {"a shorter name in the map is another", map_first(u"Other", REG_SZ, u"COM"), renamed},
+        {"another type in the map is passed over", map_first(u"Other", REG_MULTI_SZ, u"COM5"), renamed},
+        {"a name that fits the buffer", map_first(wide(80), REG_SZ, u"x"), renamed},
+        {"a name that doesn't ends the scan", map_first(wide(81), REG_SZ, u"x"), "7 | (7) | 7 | 5 | 7 | 7"},
+        {"a text that fits the buffer", map_first(u"Other", REG_SZ, wide(80)), renamed},
+        {"a text that doesn't ends the scan", map_first(u"Other", REG_SZ, wide(81)),
+         "7 | (7) | 7 | 5 | 7 | 7"},
+        {"a text in the map without terminator",
+         [](auto& machine) { machine.serial_map.list[0].data.resize(8); }, renamed},
+        {"no description", description(std::nullopt), "7 | 7 | 7 | 7 | 7 | 7"},
+        {"an empty description", description(u""), "7 |  (7) | 7 | 7 | 7 | 7"},
+        {"a description with just enough room", description(wide(71)), "7 | " + a71 + " (7) | 7 | 7 | 7 | 7"},
+        {"a description that cuts into the number", description(wide(77)),
+         "7 | " + std::string(77, 'a') + " (C | 7 | 7 | 7 | 7"},
+        {"a description of its buffer's length", description(wide(255)), "7 | " + a80 + " | 7 | 7 | 7 | 7"},
+        {"a description beyond its buffer", description(wide(256)), "7 | 7 | 7 | 7 | 7 | 7"},
+        {"a port without a line", [](auto& machine) { machine.profile.clear(); }, "7 | (7) | 7 | 7 | 7 | 7d"},
+        {"an empty line", [](auto& machine) { machines::SetLine(machine, 5, u""); },
+         "7 | (7) | 7 | 7 | 7 | 7d"},
+        {"a claimed number by the user's yes", answer(IDYES), renamed},
+        {"a claimed number and the user's no", answer(IDNO), "5 | (5) | 5 | 5 | 57 | 5"},
+        {"an open port", [](auto& machine) { machine.devices[port].key.SetDword(u"ChlOpened", 1); },
+         untouched},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.what);
+        sim::Machine machine = machines::BoardOn({5, 6});
+        each.change(machine);
+        const Session session(machine);
+        RenameFrom5To7();
+        EXPECT_EQ(State(machine), each.state);
+    }
+}
+
+// --- What stands around it ------------------------------------------------------------------------------
+
+TEST(PortSettingsMigration, MovesALineAsItIsWithBothKeysThereAtTheNotice) {
+    const sim::Text longest(80, u'9');
+    const struct {
+        sim::Text line;
+        sim::Text moved;
+    } cases[] = {
+        {u"115200,n,8,1", u"115200,n,8,1"},
+        {u" ,,garbage,\x0665", u" ,,garbage,\x0665"},
+        {longest, longest},
+        {longest + u"9", longest},
+    };
+    for (const auto& each : cases) {
+        sim::Machine machine;
+        machines::SetLine(machine, 5, each.line);
+        const Session session(machine);
+        std::size_t notices = 0;
+        machine.faults.when = [&](const sim::JournalEntry& entry) {
+            if (entry.name == "SendNotifyMessageW") {
+                ++notices;
+                EXPECT_EQ(machines::Line(machine, 5), each.line);
+                EXPECT_EQ(machines::Line(machine, 256), each.moved);
+            }
+            return false;
+        };
+        Kavro_COMPortMigratePortSettings(u"COM5", u"COM256");
+        EXPECT_EQ(notices, 1u);
+        EXPECT_EQ(machines::Line(machine, 5), u"");
+        EXPECT_EQ(machines::Line(machine, 256), each.moved);
+    }
+}
+
+TEST(PortOpenCheck, AnyNumberButZeroIsOpen) {
+    const struct {
+        std::vector<BYTE> value;
+        u32 status;
+    } cases[] = {
+        {{0, 0, 0, 0}, 0},
+        {{1, 0, 0, 0}, StatusPortOpened},
+        {{0xFF, 0xFF, 0xFF, 0xFF}, StatusPortOpened},
+        {{0, 0, 0, 0x80}, StatusPortOpened},
+        {{}, 0},
+        {{2}, StatusPortOpened},
+        {{0, 0, 1}, StatusPortOpened},
+        {{0, 0, 0, 0, 0}, StatusReadFailed},
+    };
+    for (const auto& each : cases) {
+        sim::Machine machine = machines::BoardOn({5});
+        machine.devices[port].key.Set(u"ChlOpened", REG_BINARY, each.value);
+        const Session session(machine);
+        OpenDevice device(port);
+        EXPECT_EQ(Kavro_COMPortCheckOpened(device.set, &device.data), each.status)
+            << testing::PrintToString(each.value);
+    }
+}
+
+} // namespace
