@@ -8,7 +8,7 @@
 // their control. Invisible marks keep a text in reading order. A text that ends in dots or a parenthesis has
 // U+200F (right-to-left mark) behind it; one that mixes in Latin letters or %s stands between U+202B
 // (right-to-left embedding) and U+202C (its end). The texts of message boxes begin with U+200F twice: Windows
-// then shows the whole box from right to left. The suffix of string 62 has no mark: it follows a Latin name.
+// then shows the whole box from right to left. STRING_IN_USE_SUFFIX has no mark: it follows a Latin name.
 
 #define LANGUAGE_PRIMARY 0x01
 #define LANGUAGE_SUB 0x01
@@ -30,8 +30,9 @@
 #define PORT_SETTINGS_RESTORE "ا&ستعادة الافتراضيات"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(170, 130, 80, 14)
 
-// The dialog behind "خيارات متقدمة..." of a COM port. The title shows only where string 19 is missing. The
-// number of bytes in %d has up to five digits; those of "منخفض" and "مرتفع" up to three.
+// The dialog behind "خيارات متقدمة..." of a COM port. The title shows only where
+// STRING_ADVANCED_SETTINGS_TITLE is missing. The number of bytes in %d has up to five digits; those of
+// "منخفض" and "مرتفع" up to three.
 #define ADVANCED_PORT_SETTINGS "إعدادات المنفذ المتقدمة"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "‫تم&كين مخازن FIFO المؤقتة بسعة %d بايت‬"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO_RECT INSTEAD(23, 22, 240, 12)
@@ -56,7 +57,7 @@
 #define ADVANCED_PORT_SETTINGS_CANCEL "إلغاء الأمر"
 #define ADVANCED_PORT_SETTINGS_RESTORE "الا&فتراضيات"
 
-// The page of the board. "منخفض" and "مرتفع" are replaced at run time by strings 52 and 53.
+// The page of the board. "منخفض" and "مرتفع" are replaced at run time by STRING_LOW and STRING_HIGH.
 #define PORT_CONTROL "التحكم في المنفذ"
 #define PORT_CONTROL_LARGEFIFO "‫تم&كين مخازن FIFO المؤقتة الكبيرة‬"
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 147, 12)

@@ -24,8 +24,8 @@
 #define PORT_SETTINGS_ADVANCED "進階(&A)..."
 #define PORT_SETTINGS_RESTORE "還原預設值(&R)"
 
-// The dialog behind "進階..." of a COM port. The title shows only where string 19 is missing. The number of
-// bytes in %d has up to five digits; those of "低" and "高" up to three.
+// The dialog behind "進階..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
+// missing. The number of bytes in %d has up to five digits; those of "低" and "高" up to three.
 #define ADVANCED_PORT_SETTINGS "進階連接埠設定"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "啟用 %d 位元組 FIFO 緩衝區(&E)"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION "接收緩衝區(&R):"
@@ -43,7 +43,7 @@
 #define ADVANCED_PORT_SETTINGS_CANCEL "取消"
 #define ADVANCED_PORT_SETTINGS_RESTORE "預設值(&D)"
 
-// The page of the board. "低" and "高" are replaced at run time by strings 52 and 53.
+// The page of the board. "低" and "高" are replaced at run time by STRING_LOW and STRING_HIGH.
 #define PORT_CONTROL "連接埠控制"
 #define PORT_CONTROL_LARGEFIFO "啟用大容量 FIFO 緩衝區(&E)"
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 150, 12)

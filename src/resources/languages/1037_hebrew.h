@@ -8,7 +8,7 @@
 // their control. Invisible marks keep a text in reading order. A text that ends in dots or a parenthesis has
 // U+200F (right-to-left mark) behind it; one that mixes in Latin letters or %s stands between U+202B
 // (right-to-left embedding) and U+202C (its end). The texts of message boxes begin with U+200F twice: Windows
-// then shows the whole box from right to left. The suffix of string 62 has no mark: it follows a Latin name.
+// then shows the whole box from right to left. STRING_IN_USE_SUFFIX has no mark: it follows a Latin name.
 
 #define LANGUAGE_PRIMARY 0x0D
 #define LANGUAGE_SUB 0x01
@@ -30,8 +30,8 @@
 #define PORT_SETTINGS_RESTORE "ש&חזר ברירות מחדל"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(178, 130, 72, 14)
 
-// The dialog behind "מתקדם..." of a COM port. The title shows only where string 19 is missing. The number of
-// bytes in %d has up to five digits; those of "נמוך" and "גבוה" up to three.
+// The dialog behind "מתקדם..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
+// missing. The number of bytes in %d has up to five digits; those of "נמוך" and "גבוה" up to three.
 #define ADVANCED_PORT_SETTINGS "הגדרות יציאה מתקדמות"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "‫&אפשר מאגרי FIFO של %d בתים‬"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION "מאגר &קבלה"
@@ -51,7 +51,7 @@
 #define ADVANCED_PORT_SETTINGS_CANCEL "ביטול"
 #define ADVANCED_PORT_SETTINGS_RESTORE "&ברירות מחדל"
 
-// The page of the board. "נמוך" and "גבוה" are replaced at run time by strings 52 and 53.
+// The page of the board. "נמוך" and "גבוה" are replaced at run time by STRING_LOW and STRING_HIGH.
 #define PORT_CONTROL "בקרת יציאה"
 #define PORT_CONTROL_LARGEFIFO "‫&אפשר מאגרי FIFO גדולים‬"
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 150, 12)

@@ -26,8 +26,8 @@
 #define PORT_SETTINGS_RESTORE "既定値に戻す(&R)"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(183, 130, 67, 14)
 
-// The dialog behind "詳細設定..." of a COM port. The title shows only where string 19 is missing. The number
-// of bytes in %d has up to five digits; those of "低" and "高" up to three.
+// The dialog behind "詳細設定..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
+// missing. The number of bytes in %d has up to five digits; those of "低" and "高" up to three.
 #define ADVANCED_PORT_SETTINGS "ポートの詳細設定"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "%d バイトの FIFO バッファーを有効にする(&E)"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO_RECT INSTEAD(23, 23, 240, 10)
@@ -46,7 +46,7 @@
 #define ADVANCED_PORT_SETTINGS_CANCEL "キャンセル"
 #define ADVANCED_PORT_SETTINGS_RESTORE "既定値(&D)"
 
-// The page of the board. "低" and "高" are replaced at run time by strings 52 and 53.
+// The page of the board. "低" and "高" are replaced at run time by STRING_LOW and STRING_HIGH.
 #define PORT_CONTROL "ポート制御"
 #define PORT_CONTROL_LARGEFIFO "大容量 FIFO バッファーを有効にする(&E)"
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 165, 12)

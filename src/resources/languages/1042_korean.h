@@ -26,8 +26,8 @@
 #define PORT_SETTINGS_RESTORE "기본값 복원(&R)"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(181, 130, 69, 14)
 
-// The dialog behind "고급..." of a COM port. The title shows only where string 19 is missing. The number of
-// bytes in %d has up to five digits; those of "낮음" and "높음" up to three.
+// The dialog behind "고급..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
+// missing. The number of bytes in %d has up to five digits; those of "낮음" and "높음" up to three.
 #define ADVANCED_PORT_SETTINGS "고급 포트 설정"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "%d바이트 FIFO 버퍼 사용(&E)"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION "수신 버퍼(&R):"
@@ -49,7 +49,7 @@
 #define ADVANCED_PORT_SETTINGS_CANCEL "취소"
 #define ADVANCED_PORT_SETTINGS_RESTORE "기본값(&D)"
 
-// The page of the board. "낮음" and "높음" are replaced at run time by strings 52 and 53.
+// The page of the board. "낮음" and "높음" are replaced at run time by STRING_LOW and STRING_HIGH.
 #define PORT_CONTROL "포트 제어"
 #define PORT_CONTROL_LARGEFIFO "대용량 FIFO 버퍼 사용(&E)"
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 150, 12)

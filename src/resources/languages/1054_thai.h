@@ -23,8 +23,8 @@
 #define PORT_SETTINGS_ADVANCED "ขั้น&สูง..."
 #define PORT_SETTINGS_RESTORE "คืนค่าเริ่ม&ต้น"
 
-// The dialog behind "ขั้นสูง..." of a COM port. The title shows only where string 19 is missing. The number
-// of bytes in %d has up to five digits; those of "ต่ำ" and "สูง" up to three.
+// The dialog behind "ขั้นสูง..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
+// missing. The number of bytes in %d has up to five digits; those of "ต่ำ" and "สูง" up to three.
 #define ADVANCED_PORT_SETTINGS "การตั้งค่าพอร์ตขั้นสูง"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "เ&ปิดใช้งานบัฟเฟอร์ FIFO ขนาด %d ไบต์"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO_RECT INSTEAD(23, 22, 240, 12)
@@ -43,7 +43,7 @@
 #define ADVANCED_PORT_SETTINGS_CANCEL "ยกเลิก"
 #define ADVANCED_PORT_SETTINGS_RESTORE "ค่าเริ่ม&ต้น"
 
-// The page of the board. "ต่ำ" and "สูง" are replaced at run time by strings 52 and 53.
+// The page of the board. "ต่ำ" and "สูง" are replaced at run time by STRING_LOW and STRING_HIGH.
 #define PORT_CONTROL "การควบคุมพอร์ต"
 #define PORT_CONTROL_LARGEFIFO "เ&ปิดใช้งานบัฟเฟอร์ FIFO ขนาดใหญ่"
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 164, 12)

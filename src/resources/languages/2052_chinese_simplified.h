@@ -18,8 +18,8 @@
 #define PORT_SETTINGS_ADVANCED "高级(&A)..."
 #define PORT_SETTINGS_RESTORE "还原默认值(&R)"
 
-// The dialog behind "高级..." of a COM port. The title shows only where string 19 is missing. The number of
-// bytes in %d has up to five digits; those of "低" and "高" up to three.
+// The dialog behind "高级..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
+// missing. The number of bytes in %d has up to five digits; those of "低" and "高" up to three.
 #define ADVANCED_PORT_SETTINGS "高级端口设置"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "启用 %d 字节 FIFO 缓冲区(&E)"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION "接收缓冲区(&R):"
@@ -36,7 +36,7 @@
 #define ADVANCED_PORT_SETTINGS_CANCEL "取消"
 #define ADVANCED_PORT_SETTINGS_RESTORE "默认值(&D)"
 
-// The page of the board. "低" and "高" are replaced at run time by strings 52 and 53.
+// The page of the board. "低" and "高" are replaced at run time by STRING_LOW and STRING_HIGH.
 #define PORT_CONTROL "端口控制"
 #define PORT_CONTROL_LARGEFIFO "启用大容量 FIFO 缓冲区(&E)"
 #define PORT_CONTROL_LARGEFIFO_RECT INSTEAD(16, 93, 150, 12)
