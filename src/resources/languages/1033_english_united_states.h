@@ -18,8 +18,8 @@
 #define PORT_SETTINGS_ADVANCED "&Advanced..."
 #define PORT_SETTINGS_RESTORE "&Restore Defaults"
 
-// The dialog behind "Advanced..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is missing. The number of
-// bytes in %d has up to five digits; those of "Low" and "High" up to three.
+// The dialog behind "Advanced..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
+// missing. The number of bytes in %d has up to five digits; those of "Low" and "High" up to three.
 #define ADVANCED_PORT_SETTINGS "Advenced Port Settings"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "&Enable %d Byte FIFO buffers"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION "&Receive Buffer:"
