@@ -2,8 +2,7 @@
 //
 // For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h.
 // "Standard", "Standardwerte" and "Standardwerte wiederherstellen" say the same, each as long as its button
-// has room. A text that needs more room than the layout gives carries its own rectangle. The three buttons
-// under the sliders fill their row.
+// has room. A text that needs more room than the layout gives carries its own rectangle.
 
 #define LANGUAGE_PRIMARY 0x07
 #define LANGUAGE_SUB 0x01
@@ -70,9 +69,9 @@
 #define PORT_CONTROL_TRANSMIT_HIGH "Hoch"
 #define PORT_CONTROL_TRANSMIT_HIGH_RECT INSTEAD(204, 139, 42, 10)
 #define PORT_CONTROL_APPLY "Ü&bernehmen"
-#define PORT_CONTROL_APPLY_RECT INSTEAD(17, 165, 60, 14)
-#define PORT_CONTROL_SET_TO_ALL "Für &alle übernehmen"
-#define PORT_CONTROL_SET_TO_ALL_RECT INSTEAD(87, 165, 86, 14)
+#define PORT_CONTROL_APPLY_RECT INSTEAD(29, 165, 60, 14)
+#define PORT_CONTROL_SET_TO_ALL "Für &alle festlegen"
+#define PORT_CONTROL_SET_TO_ALL_RECT INSTEAD(99, 165, 74, 14)
 #define PORT_CONTROL_RESTORE "&Standardwerte"
 #define PORT_CONTROL_RESTORE_RECT INSTEAD(183, 165, 62, 14)
 #define PORT_CONTROL_PORT_NUMBER_CAPTION "Anschluss&nummer:"

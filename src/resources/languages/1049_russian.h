@@ -3,7 +3,7 @@
 // For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h.
 // The letters behind & are Cyrillic, those of ОК too. The letter ё is written е, as Windows does. A text that
 // needs more room than the layout gives carries its own rectangle. On the board's page a caption before a
-// slider stands in two lines, parted at a blank. The three buttons under the sliders fill their row.
+// slider stands in two lines, parted at a blank.
 
 #define LANGUAGE_PRIMARY 0x19
 #define LANGUAGE_SUB 0x01
@@ -75,9 +75,9 @@
 #define PORT_CONTROL_TRANSMIT_HIGH "Высокий"
 #define PORT_CONTROL_TRANSMIT_HIGH_RECT INSTEAD(190, 139, 56, 10)
 #define PORT_CONTROL_APPLY "При&менить"
-#define PORT_CONTROL_APPLY_RECT INSTEAD(19, 165, 60, 14)
-#define PORT_CONTROL_SET_TO_ALL "Применить ко &всем"
-#define PORT_CONTROL_SET_TO_ALL_RECT INSTEAD(89, 165, 82, 14)
+#define PORT_CONTROL_APPLY_RECT INSTEAD(31, 165, 60, 14)
+#define PORT_CONTROL_SET_TO_ALL "Задать для &всех"
+#define PORT_CONTROL_SET_TO_ALL_RECT INSTEAD(101, 165, 70, 14)
 #define PORT_CONTROL_RESTORE "По &умолчанию"
 #define PORT_CONTROL_RESTORE_RECT INSTEAD(181, 165, 64, 14)
 #define PORT_CONTROL_PORT_NUMBER_CAPTION "&Номер порта:"
