@@ -94,8 +94,7 @@ void Interpreter::Execute(const std::string& line) {
     }
 }
 
-// --- The commands
-// --------------------------------------------------------------------------------------------
+// --- The commands ---
 
 void Interpreter::Write(const std::vector<std::string>& lines, const char* before) {
     for (const std::string& line : lines)

@@ -24,8 +24,7 @@ Interpreter::Interpreter(World& world, LineSource& lines, std::ostream& out)
     lines_.CompleteBy([this](const Words& words) { return Continue(words); });
 }
 
-// --- The loop
-// ------------------------------------------------------------------------------------------------
+// --- The loop ---
 
 int Interpreter::Run() {
     while (!ending_)
@@ -115,8 +114,7 @@ std::string Interpreter::Prompt() const {
     return windows_.empty() ? "> " : windows_.back().told.substr(0, windows_.back().told.find(':')) + "> ";
 }
 
-// --- What a command works on
-// ---------------------------------------------------------------------------------
+// --- What a command works on ---
 
 Window Interpreter::Read(HWND window) {
     return ReadWindow(window, world_.BoxStyle(window) != 0);

@@ -15,8 +15,7 @@ namespace {
 using sim::Text;
 using TextView = std::u16string_view;
 
-// --- What is kept of the file
-// -------------------------------------------------------------------------------------
+// --- What is kept of the file ---
 
 // The keys that mean something, and which of their values; all of them where none is named. An asterisk
 // stands for any one name.
@@ -99,8 +98,7 @@ private:
     TreeKey* key_ = nullptr;
 };
 
-// --- What it says of the machine
-// ----------------------------------------------------------------------------------
+// --- What it says of the machine ---
 
 // What a text holds up to its terminator; none if the value is missing or no text.
 std::optional<Text> TextOf(const sim::Value* value) {
