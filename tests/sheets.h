@@ -1,0 +1,65 @@
+// A page on its sheet: calls a provider as the device manager does, runs the sheet with a user made of
+// lambdas, and reads the controls back. Texts are UTF-8.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "resources/resource_ids.h"
+#include "tests/session.h"
+
+namespace sheets {
+
+enum class Page { Board, Port };
+
+// What the device manager says and does; as it is in daily life without more.
+struct Request {
+    DWORD page_requested = SPPSR_ENUM_ADV_DEVICE_PROPERTIES;
+    BOOL add_page = TRUE; // what the add-page function gives
+};
+
+// Who sits in front. Each part is called once a window, on a window that is there and in front.
+struct User {
+    std::function<void(HWND page)> at_page = {};
+    std::function<void(HWND dialog)> at_dialog = {}; // the advanced dialog; cancelled if it then still stands
+    WPARAM leaves_by = PSBTN_CANCEL;                 // the sheet
+    int answers = IDNO;                              // a question
+};
+
+// On the current machine, with the library attached. The sheet's title ends with the port's name at the
+// opening. "ok" or "left" is how the sheet ended; "no page", "no page, refused" and "not taken, refused" how
+// it never began.
+std::string Open(Page page, std::size_t device, const User& user, const Request& request = {});
+
+// The user's hand, in words: "tx9 rx2" moves the sliders, "select1" a list's selection (-1 for none), "com20"
+// and "mode2" choose in the combos of numbers and modes, "fifo", "termination" and "acs" click the boxes,
+// "all", "apply", "defaults", "advanced", "sort", "ok" and "cancel" the buttons, "sheet-apply" that of the
+// sheet. A control that is disabled or missing is not touched.
+void Do(HWND dialog, std::string_view words);
+void Choose(HWND dialog, int id, int index);
+
+// What the controls show.
+std::string Shown(HWND window);
+std::string Shown(HWND dialog, int id); // of a list, the selected item
+std::vector<std::string> Items(HWND dialog, int id);
+std::vector<std::string> Rows(HWND dialog); // of the resource list, "label: setting"
+int Selection(HWND dialog, int id);
+bool IsOn(HWND dialog, int id);
+bool IsEnabled(HWND dialog, int id);
+// "on tx 5/128 High (5) rx 2 High (32) live", where "dead" is for eight disabled controls.
+std::string Fifo(HWND dialog);
+
+// The boxes shown since the last call.
+std::vector<std::string> Boxes();
+// What the logic has changed outside since the last call, "name detail" each, the device's place left out.
+std::vector<std::string> Changes();
+
+// A device's values joined by blanks; "-" for one that is missing.
+std::string Stored(std::size_t device, std::initializer_list<const char16_t*> names);
+std::string StoredFifo(std::size_t device);
+std::string StoredMode(std::size_t device); // six digits, in the order of writing
+
+using Lines = std::vector<std::string>;
+
+} // namespace sheets
