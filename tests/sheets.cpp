@@ -142,6 +142,7 @@ void Do(HWND dialog, std::string_view words) {
         {"all", [](HWND on, int) { Click(on, IDC_SET_TO_ALL); }},
         {"apply", [](HWND on, int) { Click(on, IDC_APPLY); }},
         {"defaults", [](HWND on, int) { Click(on, IDC_RESTORE); }},
+        {"restore", [](HWND on, int) { Click(on, IDC_RESTORE_PORT); }},
         {"advanced", [](HWND on, int) { Click(on, IDC_ADVANCED); }},
         {"sort", [](HWND on, int) { Click(on, IDC_SORT_COM); }},
         {"ok", [](HWND on, int) { Click(on, IDOK); }},

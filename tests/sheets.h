@@ -11,7 +11,12 @@
 
 namespace sheets {
 
+using Lines = std::vector<std::string>;
+
 enum class Page { Board, Port };
+
+// The language that a test makes up; no real one has this number.
+constexpr LANGID made_up_language = 0x03F0;
 
 // What the device manager says and does; as it is in daily life without more.
 struct Request {
@@ -34,8 +39,8 @@ std::string Open(Page page, std::size_t device, const User& user, const Request&
 
 // The user's hand, in words: "tx9 rx2" moves the sliders, "select1" a list's selection (-1 for none), "com20"
 // and "mode2" choose in the combos of numbers and modes, "fifo", "termination" and "acs" click the boxes,
-// "all", "apply", "defaults", "advanced", "sort", "ok" and "cancel" the buttons, "sheet-apply" that of the
-// sheet. A control that is disabled or missing is not touched.
+// "all", "apply", "defaults", "restore", "advanced", "sort", "ok" and "cancel" the buttons, "sheet-apply"
+// that of the sheet. A control that is disabled or missing is not touched.
 void Do(HWND dialog, std::string_view words);
 void Choose(HWND dialog, int id, int index);
 
@@ -59,7 +64,5 @@ std::vector<std::string> Changes();
 std::string Stored(std::size_t device, std::initializer_list<const char16_t*> names);
 std::string StoredFifo(std::size_t device);
 std::string StoredMode(std::size_t device); // six digits, in the order of writing
-
-using Lines = std::vector<std::string>;
 
 } // namespace sheets

@@ -1,0 +1,322 @@
+// The Port Settings page: its provider, its five combos, the settings line through them, and what OK writes.
+#include "platform/simulated/catalogue.h"
+#include "tests/sheets.h"
+#include "uart_page/settings_line.h"
+
+namespace {
+
+using machines::Session;
+using sheets::Do;
+using sheets::Lines;
+using sheets::Page;
+
+constexpr WPARAM ok = PSBTN_OK;
+constexpr WPARAM cancel = PSBTN_CANCEL;
+constexpr int combos[] = {IDC_BAUD_RATE, IDC_PARITY, IDC_DATA_BITS, IDC_STOP_BITS, IDC_FLOW_CONTROL};
+constexpr std::size_t port = 1; // the device of the UART on COM3
+
+// One UART, on COM3, with a settings line; none for a null pointer.
+sim::Machine UartWithLine(const char16_t* line) {
+    sim::Machine machine = machines::BoardOn({3});
+    if (line) {
+        machines::SetLine(machine, 3, line);
+    } else {
+        machine.profile.clear();
+    }
+    return machine;
+}
+
+std::string Line() {
+    return sim::ToUtf8(machines::Line(sim::Current(), 3));
+}
+
+// The five selections as shown, joined by bars.
+std::string Selected(HWND page) {
+    std::string texts;
+    for (const int combo : combos) {
+        texts += (texts.empty() ? "" : "|") + sheets::Shown(page, combo);
+    }
+    return texts;
+}
+
+Lines Writing(const char* line, const char* key = "COM3:") {
+    return {std::string("WriteProfileStringW [Ports] ") + key + " = \"" + line + '"',
+            "SendNotifyMessageW WM_WININICHANGE \"Ports\"", "SetupDiCallClassInstaller 1 DIF_PROPERTYCHANGE"};
+}
+
+// How many of the combos, and whether the two buttons, are enabled.
+std::string Enabled(HWND page) {
+    int live = 0;
+    for (const int combo : combos) {
+        live += sheets::IsEnabled(page, combo);
+    }
+    return std::to_string(live) + (sheets::IsEnabled(page, IDC_ADVANCED) ? " advanced" : "") +
+           (sheets::IsEnabled(page, IDC_RESTORE_PORT) ? " restore" : "");
+}
+
+// clang-format off
+TEST(UartPageProvider, EachFailureHasItsBoxAndLeavesNothing) {
+    const char* no_memory = "Insufficient memory for this operation;\r\rclose one or more Windows applications to "
+                            "increase available memory.";
+    const char* no_port = "KVR channle(1) not COM port type.";
+    const auto fail = [](const char* operation, std::size_t call) {
+        return [=](sim::Machine& machine) { machine.faults.at_call = {{operation, call}}; };
+    };
+    const auto retype = [](sim::Machine& machine) { machine.devices[port].key.SetDword(u"ChlType", 2); };
+    const auto nothing = [](sim::Machine&) {};
+    constexpr DWORD sheet = SPPSR_ENUM_ADV_DEVICE_PROPERTIES;
+    const struct {
+        const char* name;
+        std::function<void(sim::Machine&)> fault;
+        sheets::Request request;
+        const char* outcome;
+        Lines boxes;
+    } cases[] = {
+        {"as it should be", nothing, {}, "left", {}},
+        {"another request adds nothing", nothing, {1, TRUE}, "no page", {}},
+        {"no key", [](sim::Machine& machine) { machine.devices[port].access_denied = true; }, {}, "no page, refused",
+         {"Get channel basic information failure. [serr:100]"}},
+        {"another request, a value missing", [](sim::Machine& machine) { machine.devices[port].key.Erase(u"ChlOpened"); },
+         {1, TRUE}, "no page, refused", {"Get channel basic information failure. [serr:101]"}},
+        {"no UART", retype, {}, "no page, refused", {no_port}},
+        {"another request, no UART", retype, {1, TRUE}, "no page, refused", {no_port}},
+        {"no memory for the record", fail("LocalAlloc", 1), {}, "no page, refused", {no_memory}},
+        {"no memory for the dialog's record", fail("LocalAlloc", 2), {}, "no page, refused",
+         {"Initiate COM port parameter failure."}},
+        {"no page", fail("CreatePropertySheetPageW", 0), {}, "no page, refused", {"Create property page failure."}},
+        {"not taken", nothing, {sheet, 0}, "not taken, refused", {"Add property page failure."}},
+        {"only 1 means taken", nothing, {sheet, 2}, "not taken, refused", {"Add property page failure."}},
+    };
+    for (const auto& one : cases) {
+        SCOPED_TRACE(one.name);
+        sim::Machine machine = UartWithLine(u"9600,n,8,1");
+        const Session session(machine);
+        one.fault(machine);
+        EXPECT_EQ(sheets::Open(Page::Port, port, {}, one.request), one.outcome);
+        EXPECT_EQ(sheets::Boxes(), one.boxes);
+        EXPECT_EQ(sheets::Changes(), Lines{});
+    }
+}
+
+TEST(UartPage, AnInitialisationThatFailsLeavesAPageThatSavesNothing) {
+    const struct {
+        const char* name;
+        std::function<void(sim::Machine&)> fault;
+        const char* box;
+    } cases[] = {
+        {"no parities", [](sim::Machine& machine) { machine.missing_strings = {IDS_PARITY_LIST}; },
+         "Initiate \"Parity\" combox failure."},
+        {"no stop bits", [](sim::Machine& machine) { machine.missing_strings = {IDS_STOP_BITS_LIST}; },
+         "Initiate \"Stop bits\" combox failure."},
+        {"no flow controls", [](sim::Machine& machine) { machine.missing_strings = {IDS_FLOW_CONTROL_LIST}; },
+         "Initiate \"Flow control\" combox failure."},
+        {"no name", [](sim::Machine& machine) { machine.devices[port].key.Erase(u"PortName"); },
+         "Get COM port name failure. [serr:101]"},
+        {"a name of 20 characters",
+         [](sim::Machine& machine) { machine.devices[port].key.SetText(u"PortName", u"COM34567890123456789"); },
+         "Get COM port name failure. [serr:101]"},
+    };
+    for (const auto& one : cases) {
+        SCOPED_TRACE(one.name);
+        sim::Machine machine = UartWithLine(u"75,e,4,2,x");
+        one.fault(machine);
+        const Session session(machine);
+        const auto at_page = [](HWND page) {
+            EXPECT_EQ(Enabled(page), "5");
+            sheets::Choose(page, IDC_BAUD_RATE, 5);
+        };
+        EXPECT_EQ(sheets::Open(Page::Port, port, {.at_page = at_page, .leaves_by = ok}), "ok");
+        EXPECT_EQ(sheets::Boxes(), Lines{one.box});
+        EXPECT_EQ(sheets::Changes(), Lines{});
+    }
+}
+
+TEST(UartPage, CombosHaveTheirItemsUnderAnySeparators) {
+    // A made-up language whose lists are separated by other characters, one of them with an empty item.
+    static const std::vector<sim::CatalogueString> strings = [] {
+        const auto english = sim::CatalogueFor(1033).strings;
+        std::vector<sim::CatalogueString> made_up(english.begin(), english.end());
+        for (sim::CatalogueString& string : made_up) {
+            string.text = string.id == IDS_PARITY_LIST      ? u";a,b;c;;d;e"
+                          : string.id == IDS_STOP_BITS_LIST ? u".1.1,5.2.5."
+                          : string.id == IDS_FLOW_CONTROL_LIST ? u"xaxbxc"
+                                                               : string.text;
+        }
+        return made_up;
+    }();
+    static const sim::Catalogue catalogue = {sheets::made_up_language, sim::CatalogueFor(1033).dialogs, strings};
+    static const bool entered = sim::EnterCatalogue(catalogue);
+    ASSERT_TRUE(entered);
+    const Lines parities = {"Even", "Odd", "None", "Mark", "Space"};
+    const struct {
+        LANGID language;
+        const char16_t* decimal;
+        Lines parity, stop_bits;
+    } cases[] = {
+        {1033, u".", parities, {"1", "1.5", "2"}},
+        {1033, u",", parities, {"1", "1,5", "2"}},
+        {1033, u"\u066B", parities, {"1", "1\u066B5", "2"}},
+        {1033, u"::", parities, {"1", "1.5", "2"}},
+        {1033, u"", parities, {"1", "1.5", "2"}},
+        {sheets::made_up_language, u"x", {"a,b", "c", "", "d", "e"}, {"1", "1,5", "2", "5", ""}},
+    };
+    for (const auto& one : cases) {
+        SCOPED_TRACE(sim::ToUtf8(one.decimal));
+        sim::Machine machine = UartWithLine(u"9600,n,8,1.5");
+        machine.language = one.language;
+        machine.decimal_separator = one.decimal;
+        const Session session(machine);
+        const auto at_page = [&](HWND page) {
+            EXPECT_EQ(sheets::Items(page, IDC_BAUD_RATE),
+                      (Lines{"75", "110", "134", "150", "300", "600", "1200", "1800", "2400", "4800", "7200", "9600",
+                             "14400", "19200", "38400", "57600", "115200", "128000", "230400", "460800", "921600"}));
+            EXPECT_EQ(sheets::Items(page, IDC_DATA_BITS), (Lines{"4", "5", "6", "7", "8"}));
+            EXPECT_EQ(sheets::Items(page, IDC_PARITY), one.parity);
+            EXPECT_EQ(sheets::Items(page, IDC_STOP_BITS), one.stop_bits);
+            EXPECT_EQ(sheets::Shown(page, IDC_STOP_BITS), one.stop_bits[1]);
+            EXPECT_EQ(Enabled(page), "5 advanced restore");
+            sheets::Choose(page, IDC_FLOW_CONTROL, 0);
+        };
+        sheets::Open(Page::Port, port, {.at_page = at_page, .leaves_by = ok});
+        EXPECT_EQ(Line(), "9600,n,8,1.5,x"); // whatever the display
+    }
+}
+
+TEST(UartPage, ALineIsReadAndWrittenOnlyIfItDiffers) {
+    const char* defaults = "9600|None|8|1|None";
+    const std::u16string long_line = u"9600," + std::u16string(70, u' ') + u"e,7,1.5,x"; // the read ends at ",1"
+    const struct {
+        const char16_t* line; // null for a port without one
+        const char* selected;
+        const char* after_ok; // null if nothing is written at OK
+    } cases[] = {
+        {u"9600,n,8,1", defaults, nullptr},
+        {u"9600,n,8,1 ", defaults, nullptr},
+        {u"  9600,n,8,1", defaults, nullptr},
+        {u"9600", defaults, nullptr},
+        {u"9600,N,8,1", defaults, nullptr},
+        {u"9600,even,80,3,on", "9600|Even|8|1|None", nullptr},
+        {u"115200,e,7,1.5,x", "115200|Even|7|1.5|Xon / Xoff", nullptr},
+        {u"19200, n , 8 ,2 ,p,x", "19200|None|8|2|Hardware", nullptr},
+        {u"75,m,4,2", "75|Mark|4|2|None", nullptr},
+        // The speed is searched by how an item begins, and compared as a number.
+        {u"19,n,8,1", "19200|None|8|1|None", "19200,n,8,1 "},
+        {u"1,s,8,1", "110|Space|8|1|None", "110,s,8,1 "},
+        {u"0,o,8,1", "75|Odd|8|1|None", "75,o,8,1 "},
+        {u"1000000,n,8,1", "75|None|8|1|None", "75,n,8,1 "},
+        {u"9600 ,n,8,1", "75|None|8|1|None", "75,n,8,1 "},
+        {u"\t9600,n,8,1,p", "75|None|8|1|Hardware", "75,n,8,1,p"},
+        {u",n,8,1", "75|None|8|1|None", "75,n,8,1 "},
+        {u",,,,,,", "75|None|8|1|None", "75,n,8,1 "},
+        {u"4294967371,e,8,1", "75|Even|8|1|None", nullptr}, // 75 modulo 2 to the power 32
+        {long_line.c_str(), "9600|Even|7|1|None", nullptr},
+    };
+    for (const auto& one : cases) {
+        SCOPED_TRACE(sim::ToUtf8(one.line));
+        sim::Machine machine = UartWithLine(one.line);
+        const Session session(machine);
+        const auto at_page = [&](HWND page) {
+            EXPECT_EQ(Selected(page), one.selected);
+            EXPECT_EQ(sheets::Changes(), Lines{});
+        };
+        EXPECT_EQ(sheets::Open(Page::Port, port, {.at_page = at_page, .leaves_by = ok}), "ok");
+        EXPECT_EQ(sheets::Changes(), one.after_ok ? Writing(one.after_ok) : Lines{});
+        EXPECT_EQ(Line(), one.after_ok ? one.after_ok : sim::ToUtf8(one.line));
+    }
+    for (const char16_t* none : {static_cast<const char16_t*>(nullptr), u"", u"    "}) {
+        for (const WPARAM leaves_by : {ok, cancel}) {
+            sim::Machine machine = UartWithLine(none);
+            machine.devices[port].remote = leaves_by == cancel;
+            const Session session(machine);
+            const auto at_page = [&](HWND page) { EXPECT_EQ(Selected(page), defaults); };
+            sheets::Open(Page::Port, port, {.at_page = at_page, .leaves_by = leaves_by});
+            EXPECT_EQ(sheets::Changes(), Lines{"WriteProfileStringW [Ports] COM3: = \"9600,n,8,1\""});
+        }
+    }
+}
+// clang-format on
+
+// Each sheet finds what the one before it has written, saves it again without a write, and writes the next.
+TEST(UartPage, EverySelectionReadsBackToItself) {
+    sim::Machine machine = UartWithLine(u"75,e,4,1,x");
+    machine.journal_reads = false;
+    const Session session(machine);
+    constexpr int counts[] = {21, 5, 5, 3, 3};
+    int selection[] = {0, 0, 0, 0, 0};
+    bool done = false;
+    int sheets_run = 0;
+    while (!done && !testing::Test::HasFailure()) {
+        const auto at_page = [&](HWND page) {
+            for (std::size_t i = 0; i < std::size(combos); ++i) {
+                EXPECT_EQ(sheets::Selection(page, combos[i]), selection[i]) << Line() << " at " << combos[i];
+            }
+            Do(page, "sheet-apply");
+            EXPECT_EQ(sheets::Changes(), Lines{});
+            std::size_t place = 0;
+            while (place < std::size(combos) && ++selection[place] == counts[place]) {
+                selection[place++] = 0;
+            }
+            done = place == std::size(combos);
+            for (std::size_t i = 0; i < std::size(combos); ++i) {
+                sheets::Choose(page, combos[i], selection[i]);
+            }
+        };
+        sheets::Open(Page::Port, port, {.at_page = at_page, .leaves_by = ok});
+        EXPECT_EQ(sheets::Changes().size(), 3u);
+        ++sheets_run;
+    }
+    EXPECT_EQ(sheets_run, 21 * 5 * 5 * 3 * 3);
+}
+
+TEST(UartPage, EveryChangeIsToldToTheSheetAndComparedWithWhatWasRead) {
+    sim::Machine machine = UartWithLine(u"19200,e,7,1.5,x");
+    const Session session(machine);
+    const auto at_page = [](HWND page) {
+        const auto is_told = [=] {
+            const bool told = sheets::IsEnabled(GetParent(page), ID_APPLY_NOW);
+            Do(page, "sheet-apply");
+            return told;
+        };
+        EXPECT_FALSE(is_told());
+        for (const int combo : combos) {
+            const int before = sheets::Selection(page, combo);
+            sheets::Choose(page, combo, 2);
+            EXPECT_TRUE(is_told());
+            EXPECT_EQ(sheets::Changes().size(), 3u) << combo;
+            EXPECT_TRUE(before != 2 && !is_told());
+            EXPECT_EQ(sheets::Changes().size(), 3u) << "it still differs from what was read";
+            sheets::Choose(page, combo, before);
+            EXPECT_TRUE(is_told());
+            EXPECT_EQ(sheets::Changes(), Lines{}) << "what was read is not written back";
+        }
+        EXPECT_EQ(Line(), "19200,e,7,1.5 ");
+        Do(page, "restore");
+        EXPECT_EQ(Selected(page), "9600|None|8|1|None");
+        EXPECT_EQ(sheets::Changes(), Lines{});
+        EXPECT_TRUE(is_told());
+        EXPECT_EQ(sheets::Changes(), Writing("9600,n,8,1 "));
+        Do(page, "advanced");
+        EXPECT_FALSE(is_told());
+        sheets::Choose(page, IDC_DATA_BITS, -1); // no selection: nothing is written, nothing said
+    };
+    EXPECT_EQ(sheets::Open(Page::Port, port, {.at_page = at_page, .leaves_by = ok}), "ok");
+    EXPECT_EQ(Line(), "9600,n,8,1 ");
+    EXPECT_EQ(sheets::Boxes(), Lines{});
+}
+
+TEST(UartPage, ARemoteMachineIsShownAndItsLineSavedAllTheSame) {
+    for (const bool detail_fails : {false, true}) { // a set that doesn't tell counts as local
+        sim::Machine machine = UartWithLine(u"19,n,8,1");
+        machine.devices[port].remote = true;
+        const Session session(machine);
+        machine.faults.at_call = {{"SetupDiGetDeviceInfoListDetailW", detail_fails ? 0 : 99}};
+        const auto at_page = [=](HWND page) {
+            EXPECT_EQ(Enabled(page), detail_fails ? "5 advanced restore" : "0");
+            EXPECT_EQ(Selected(page), "19200|None|8|1|None");
+        };
+        EXPECT_EQ(sheets::Open(Page::Port, port, {.at_page = at_page, .leaves_by = ok}), "ok");
+        EXPECT_EQ(Line(), "19200,n,8,1 ");
+    }
+}
+
+} // namespace
