@@ -1,0 +1,228 @@
+// The Advanced Port Settings dialog: the FIFO settings of one port, its COM number, and what goes back to the
+// page.
+#include "tests/sheets.h"
+
+namespace {
+
+using machines::Session;
+using sheets::Do;
+using sheets::Lines;
+using sheets::Page;
+
+constexpr std::size_t port = 1; // the device of the UART on COM3; COM4 is taken by another
+
+const char* question =
+    "This COM name is being used by another device (such as another com port or modem).  Using "
+    "duplicate names can lead to inaccessible devices and changed settings.  Do you want to "
+    "continue?";
+const char* notified = "SetupDiCallClassInstaller 1 DIF_PROPERTYCHANGE";
+
+// Opens the dialog once from its page, which is then closed by OK.
+void AtDialog(std::function<void(HWND)> user, int answers = IDNO) {
+    const auto at_page = [](HWND page) { Do(page, "advanced"); };
+    const sheets::User hand = {
+        .at_page = at_page, .at_dialog = std::move(user), .leaves_by = PSBTN_OK, .answers = answers};
+    EXPECT_EQ(sheets::Open(Page::Port, port, hand), "ok");
+}
+
+// clang-format off
+TEST(AdvancedPortSettings, FifoSettingsGoFromTheStoreToTheControlsAndBack) {
+    const struct {
+        const char* name;
+        u32 sizes[2], stored[3];
+        const char *user, *shown, *after_ok;
+    } cases[] = {
+        {"as stored", {128, 128}, {1, 9, 32}, "", "on tx 9/128 High (9) rx 2 High (32) live", "1 9 32"},
+        {"between stages", {128, 128}, {1, 9, 63}, "", "on tx 9/128 High (9) rx 2 High (32) live", "1 9 32"},
+        {"above the FIFO", {128, 128}, {1, 300, 300}, "", "on tx 128/128 High (300) rx 4 High (112) live", "1 128 112"},
+        {"off", {128, 128}, {0, 9, 32}, "", "off tx 1/128 High (1) rx 1 High (1) dead", "0 1 1"},
+        {"off as it should be", {128, 128}, {0, 1, 1}, "", "off tx 1/128 High (1) rx 1 High (1) dead", "0 1 1"},
+        {"turned on, at where the sliders stand", {128, 128}, {0, 9, 32}, "fifo",
+         "on tx 1/128 High (1) rx 1 High (1) live", "1 1 1"},
+        {"slid", {128, 128}, {1, 9, 32}, "tx77 rx3", "on tx 77/128 High (77) rx 3 High (64) live", "1 77 64"},
+        {"unchecked", {128, 128}, {1, 9, 32}, "tx77 fifo", "off tx 1/128 High (1) rx 1 High (1) dead", "0 1 1"},
+        {"unchecked and checked", {128, 128}, {1, 9, 32}, "tx77 rx3 fifo fifo",
+         "on tx 77/128 High (77) rx 3 High (64) live", "1 77 64"},
+        {"defaults", {128, 128}, {0, 9, 32}, "defaults", "on tx 128/128 High (128) rx 4 High (112) live", "1 128 112"},
+        {"the box remembers defaults", {128, 128}, {1, 9, 32}, "defaults fifo fifo",
+         "on tx 128/128 High (128) rx 4 High (112) live", "1 128 112"},
+        {"under 16 bytes", {8, 15}, {1, 8, 1}, "", "on tx 8/8 High (8) rx 4 High (0) live", "1 8 0"},
+        {"a deep one", {4096, 4096}, {1, 4000, 3583}, "", "on tx 4000/4096 High (4000) rx 3 High (2048) live",
+         "1 4000 2048"},
+    };
+    for (const auto& one : cases) {
+        SCOPED_TRACE(one.name);
+        sim::Machine machine = machines::BoardOn({3, 4});
+        sim::Values& key = machine.devices[port].key;
+        key.SetDword(u"UartTxFifoSize", one.sizes[0]);
+        key.SetDword(u"UartRxFifoSize", one.sizes[1]);
+        key.SetDword(u"UartFifoEnable", one.stored[0]);
+        key.SetDword(u"UartTxFifoLowHigh", one.stored[1]);
+        key.SetDword(u"UartRxFifoLowHigh", one.stored[2]);
+        const Session session(machine);
+        sheets::Open(Page::Port, port, {.leaves_by = PSBTN_OK}); // the made-up speed of the line is gone
+        sheets::Changes();
+        const std::string before = sheets::StoredFifo(port);
+        AtDialog([&](HWND dialog) {
+            EXPECT_EQ(sheets::Shown(dialog), "Advanced Settings for COM3");
+            EXPECT_EQ(sheets::Shown(dialog, IDC_LARGEFIFO),
+                      "&Enable " + std::to_string(one.sizes[1]) + " Byte FIFO buffers");
+            EXPECT_EQ(sheets::Shown(dialog, IDC_TRANSMIT_LOW) + sheets::Shown(dialog, IDC_RECEIVE_LOW), "Low (1)Low (1)");
+            EXPECT_TRUE(sheets::IsEnabled(dialog, IDC_LARGEFIFO) && sheets::IsEnabled(dialog, IDC_PORT_NUMBER));
+            Do(dialog, one.user);
+            EXPECT_EQ(sheets::Fifo(dialog), one.shown);
+            Do(dialog, "cancel");
+        });
+        EXPECT_EQ(sheets::Changes(), Lines{});
+        AtDialog([&](HWND dialog) {
+            Do(dialog, one.user);
+            Do(dialog, "ok");
+            EXPECT_FALSE(IsWindowVisible(dialog));
+        });
+        EXPECT_EQ(sheets::StoredFifo(port), one.after_ok);
+        const Lines changes = sheets::Changes();
+        EXPECT_EQ(changes.size(), before == one.after_ok ? 1u : 4u);
+        EXPECT_EQ(changes.back(), notified); // at every OK
+        EXPECT_EQ(sheets::Boxes(), Lines{});
+    }
+}
+
+TEST(AdvancedPortSettings, OkRenamesThePortOrStaysOpen) {
+    const auto fail = [](const char* operation, std::size_t call) {
+        return [=](sim::Machine& machine) {
+            machine.faults = {}; // counted from here
+            machine.faults.at_call = {{operation, call}};
+        };
+    };
+    const auto nothing = [](sim::Machine&) {};
+    const char* notice = "There was an error renaming the COM port.";
+    const struct {
+        const char* name;
+        const char* user;
+        int answers;
+        std::function<void(sim::Machine&)> fault; // before OK
+        Lines boxes;
+        u32 number; // afterwards
+        bool closed;
+        const char* fifo = "1 50 112"; // stored before the number is looked at
+    } cases[] = {
+        {"a free number", "com20", IDNO, nothing, {}, 20, true},
+        {"the present number", "com20 com3", IDNO, nothing, {}, 3, true},
+        {"no selection", "com0", IDNO, nothing, {}, 3, true},
+        {"defaults go back to the present number", "com20 defaults tx50", IDNO, nothing, {}, 3, true},
+        {"a taken number, and no", "com4", IDNO, nothing, {question}, 3, false},
+        {"a taken number, and yes", "com4", IDYES, nothing, {question}, 4, true},
+        {"no memory for the question counts as no", "com4", IDYES, fail("LocalAlloc", 1),
+         {"Insufficient memory for this operation;\r\rclose one or more Windows applications to increase available "
+          "memory."}, 3, false},
+        {"a question that can't be shown counts as no", "com4", IDYES, fail("MessageBoxW", 1), {}, 3, false},
+        {"an open port, after the question", "com4", IDYES,
+         [](sim::Machine& machine) { machine.devices[port].key.SetDword(u"ChlOpened", 1); },
+         {question, "The port has been opened by another application. Close and try again."}, 3, false},
+        {"whether it is open can't be read", "com20", IDYES,
+         [](sim::Machine& machine) { machine.devices[port].key.Erase(u"ChlOpened"); },
+         {"Check COM port opened failure. [serr:101]"}, 3, false},
+        {"no database is no question", "com20", IDYES, fail("ComDBOpen", 0),
+         {"Check COM port in use failure. [serr:200]"}, 3, false},
+        {"no usage", "com20", IDYES, fail("ComDBGetCurrentPortUsage", 0),
+         {"Check COM port in use failure. [serr:201]"}, 3, false},
+        {"no DOS name", "com20", IDNO, fail("DefineDosDeviceW", 2), {notice}, 3, false},
+        {"no memory for the rename", "com20", IDNO, fail("LocalAlloc", 1), {notice}, 3, false},
+        {"a FIFO write fails", "com20", IDNO, fail("RegSetValueExW", 2),
+         {"Set COM port fifo settings failure. [serr:102]"}, 3, false, "1 128 112"},
+        {"the device can't be told", "com20", IDNO, fail("SetupDiCallClassInstaller", 0), {}, 20, true},
+    };
+    for (const auto& one : cases) {
+        SCOPED_TRACE(one.name);
+        sim::Machine machine = machines::BoardOn({3, 4});
+        const Session session(machine);
+        AtDialog([&](HWND dialog) {
+            const HWND sheet = GetWindow(dialog, GW_OWNER);
+            Do(dialog, "tx50");
+            Do(dialog, one.user);
+            one.fault(machine);
+            Do(dialog, "ok");
+            EXPECT_EQ(!IsWindowVisible(dialog), one.closed);
+            EXPECT_EQ(sheets::Shown(sheet), "Properties of COM" + std::to_string(one.number));
+            machine.faults = {};
+            sheets::Changes();
+        }, one.answers);
+        EXPECT_EQ(sheets::Boxes(), one.boxes);
+        EXPECT_EQ(sheets::StoredFifo(port), one.fifo);
+        // The page's own OK writes the line, whose speed is in no list, under the name that the port has now.
+        EXPECT_EQ(sheets::Changes().front(),
+                  "WriteProfileStringW [Ports] COM" + std::to_string(one.number) + ": = \"75,e,7,1 \"");
+        machines::Places places = machines::PlacesAt(machine, port, one.number);
+        places.settings_line = u"75,e,7,1 ";
+        EXPECT_EQ(machines::PlacesOf(machine, port), places);
+    }
+}
+
+TEST(AdvancedPortSettings, WhatCantBeReadHasItsBoxAtTheOpening) {
+    const struct {
+        const char* name;
+        std::function<void(sim::Machine&)> fault;
+        const char* box;
+        const char* title; // null if no dialog opens
+    } cases[] = {
+        {"no key", [](sim::Machine& machine) { machine.devices[port].access_denied = true; },
+         "Get COM port name failure. [serr:100]", nullptr},
+        {"no name", [](sim::Machine& machine) { machine.devices[port].key.Erase(u"PortName"); },
+         "Get COM port name failure. [serr:101]", nullptr},
+        {"a value missing", [](sim::Machine& machine) { machine.devices[port].key.Erase(u"UartCS"); },
+         "Get COM port basic information failure. [serr:101]", nullptr},
+        {"no database", [](sim::Machine& machine) { machine.faults.at_call = {{"ComDBOpen", 1}}; },
+         "Initiate \"COM Port Number\" combox failure. [serr:200]", "Advenced Port Settings"},
+        {"an empty name", [](sim::Machine& machine) { machine.devices[port].key.SetText(u"PortName", u""); },
+         "Initiate \"COM Port Number\" combox failure. [serr:301]", "Advenced Port Settings"},
+        {"no string for the title", [](sim::Machine& machine) { machine.missing_strings = {IDS_ADVANCED_SETTINGS_TITLE}; },
+         nullptr, "Advenced Port Settings"},
+    };
+    for (const auto& one : cases) {
+        SCOPED_TRACE(one.name);
+        sim::Machine machine = machines::BoardOn({3, 4});
+        const Session session(machine);
+        bool opened = false;
+        const auto at_page = [&](HWND page) {
+            one.fault(machine);
+            Do(page, "advanced");
+        };
+        const auto at_dialog = [&](HWND dialog) {
+            opened = true;
+            EXPECT_EQ(sheets::Shown(dialog), one.title);
+            EXPECT_EQ(sheets::IsEnabled(dialog, IDC_PORT_NUMBER), one.box == nullptr);
+            Do(dialog, "tx50 ok"); // works as far as it came
+            EXPECT_FALSE(IsWindowVisible(dialog));
+        };
+        EXPECT_EQ(sheets::Open(Page::Port, port, {.at_page = at_page, .at_dialog = at_dialog}), "left");
+        EXPECT_EQ(opened, one.title != nullptr);
+        EXPECT_EQ(sheets::Boxes(), one.box ? Lines{one.box} : Lines{});
+        EXPECT_EQ(sheets::StoredFifo(port), opened ? "1 50 112" : "1 128 112");
+    }
+}
+// clang-format on
+
+TEST(AdvancedPortSettings, AFailedOkWritesTheFifoAgainAndANewOpeningReadsAfresh) {
+    sim::Machine machine = machines::BoardOn({3, 4});
+    const Session session(machine);
+    int opened = 0;
+    const auto at_page = [](HWND page) { Do(page, "advanced advanced"); };
+    const auto at_dialog = [&](HWND dialog) {
+        if (opened++ == 0) {
+            Do(dialog, "tx50 com4 ok ok com256 ok");
+            EXPECT_EQ(machines::Count(machine, "RegSetValueExW"), 3u * 3 + 2);
+        } else {
+            EXPECT_EQ(sheets::Shown(dialog), "Advanced Settings for COM256");
+            EXPECT_EQ(sheets::Shown(dialog, IDC_PORT_NUMBER), "COM256");
+            EXPECT_EQ(sheets::Items(dialog, IDC_PORT_NUMBER)[2], "COM3");
+            EXPECT_EQ(sheets::Fifo(dialog), "on tx 50/128 High (50) rx 4 High (112) live");
+            Do(dialog, "com3 ok");
+            EXPECT_EQ(sheets::Shown(GetWindow(dialog, GW_OWNER)), "Properties of COM3");
+        }
+    };
+    EXPECT_EQ(sheets::Open(Page::Port, port, {.at_page = at_page, .at_dialog = at_dialog}), "left");
+    EXPECT_EQ(sheets::Boxes(), Lines(2, question));
+    EXPECT_EQ(machines::PlacesOf(machine, port), machines::PlacesAt(machine, port, 3));
+}
+
+} // namespace
