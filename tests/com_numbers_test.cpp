@@ -319,17 +319,32 @@ TEST(PortRename, TakesTheMachineAsItFindsIt) {
          "7 | (7) | 7 | 7 | 7 | 7d"},
         {"a claimed number by the user's yes", answer(IDYES), renamed},
         {"a claimed number and the user's no", answer(IDNO), "5 | (5) | 5 | 5 | 57 | 5"},
+        {"a claimed number and no box to ask",
+         [](auto& machine) {
+             sim::SetClaimed(machine.port_usage, 7, true);
+             machine.faults.at_call = {{"MessageBoxW", 1}};
+         },
+         "5 | (5) | 5 | 5 | 57 | 5"},
         {"an open port", [](auto& machine) { machine.devices[port].key.SetDword(u"ChlOpened", 1); },
          untouched},
     };
     for (const auto& each : cases) {
         SCOPED_TRACE(each.what);
         sim::Machine machine = machines::BoardOn({5, 6});
-        each.change(machine);
         const Session session(machine);
+        each.change(machine);
         RenameFrom5To7();
         EXPECT_EQ(State(machine), each.state);
     }
+}
+
+TEST(PortRename, ADosNameThatStayedIsNotDefinedAgain) {
+    sim::Machine machine = machines::BoardOn({5, 6});
+    const Session session(machine);
+    machine.faults.at_call = {{"DefineDosDeviceW", 1}, {"DefineDosDeviceW", 2}};
+    EXPECT_FALSE(RenameFrom5To7());
+    EXPECT_EQ(State(machine), untouched);
+    EXPECT_EQ(machines::Count(machine, "DefineDosDeviceW"), 2u);
 }
 
 // --- What stands around it ------------------------------------------------------------------------------

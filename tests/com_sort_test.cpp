@@ -211,7 +211,6 @@ TEST(ComSort, AFailureLeavesWhatTheMovesBeforeItDid) {
 TEST(ComSort, PortsInTheirPlaceAreNotEvenAsked) {
     sim::Machine machine = machines::BoardOn({4, 2, 3, 1});
     machine.devices[2].key.SetDword(u"ChlOpened", 1);
-    machine.devices[3].access_denied = false;
     const Session session(machine);
     OpenBoard board;
     machines::Forget(machine);
@@ -227,30 +226,37 @@ TEST(ComSort, ABoardThatBreaksTheAssumptionsEndsWithoutHarm) {
     const auto name = [](std::size_t device, const char16_t* text) {
         return [=](sim::Machine& machine) { machine.devices[device].key.SetText(u"PortName", text); };
     };
+    const auto unclaimed = [](sim::Machine& machine) { machine.port_usage = {}; };
+    const auto unwalked = [](sim::Machine& machine) { machine.devices[1].key.SetDword(u"ChlNumber", 2); };
     const struct {
         const char* what;
         Numbers numbers;
         std::function<void(sim::Machine&)> change;
+        const char* names;
     } cases[] = {
-        {"two UARTs on one number", {9, 5, 5, 3}, [](auto&) {}},
-        {"all UARTs on one number", {5, 5, 5}, [](auto&) {}},
-        {"a name without digits", {9, 5, 3}, name(2, u"COM")},
-        {"a name of nothing", {9, 5, 3}, name(3, u"")},
-        {"a number above the range", {9, 5, 3}, name(1, u"COM257")},
-        {"a number beyond 32 bits", {9, 5, 3}, name(1, u"COM99999999999")},
-        {"numbers that nobody claimed", {256, 255, 254}, [](auto& machine) { machine.port_usage = {}; }},
-        {"no UART", {5}, [](auto& machine) { machine.devices[1].key.SetDword(u"ChlNumber", 2); }},
+        {"two UARTs on one number", {9, 5, 5, 3}, [](auto&) {}, "COM3 COM5 COM5 COM9 "},
+        {"all UARTs on one number", {5, 5, 5}, [](auto&) {}, "COM5 COM5 COM5 "},
+        {"a name without digits takes no part", {9, 5, 3}, name(2, u"COM"), "COM3 COM COM9 "},
+        {"nor a name of nothing", {9, 5, 3}, name(3, u""), "COM5 COM9  "},
+        {"nor a number above the range", {9, 5, 3}, name(1, u"COM257"), "COM257 COM3 COM5 "},
+        {"nor one beyond 32 bits", {9, 5, 3}, name(1, u"COM99999999999"), "COM99999999999 COM3 COM5 "},
+        {"numbers that nobody claimed", {256, 255, 254}, unclaimed, "COM254 COM255 COM256 "},
+        {"no UART with a place in the walk", {5}, unwalked, "COM5 "},
     };
     for (const auto& each : cases) {
         SCOPED_TRACE(each.what);
         sim::Machine machine = machines::BoardOn(each.numbers);
         each.change(machine);
         const Session session(machine);
-        OpenBoard board;
-        BPPCHL* first = board.Channel(1);
+        const OpenBoard board;
         for (int click = 0; click < 3; ++click) {
-            machines::SortInDialog(machine, first != nullptr ? first : board.Channel(2));
+            _SortCOMClicked(nullptr, static_cast<BPPCHL*>(ChlListFirst(&board.params.ChlList)));
         }
+        std::string names;
+        for (std::size_t device = 1; device <= each.numbers.size(); ++device) {
+            names += sim::ToUtf8(machines::PlacesOf(machine, device).port_name) + ' ';
+        }
+        EXPECT_EQ(names, each.names);
         EXPECT_FALSE(_SortCOMClicked(nullptr, nullptr));
     }
     Numbers many(300);

@@ -247,7 +247,8 @@ constexpr const char* all_of_each = " 1:5 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4 1:5"
 
 TEST(BoardDiscovery, ARecordIsMadeFromTheStoreAndTheClassOfItsInterface) {
     sim::Machine machine = OneOfEach();
-    machine.devices[3].key.SetDword(u"ChlType", 1); // what the driver calls it has no influence
+    machine.devices[3].key.SetDword(u"ChlType", 1);           // what the driver calls it has no influence
+    machine.devices[2].key.Set(u"DioNrBank", REG_BINARY, {}); // nothing stays of the channel before
     const Session session(machine);
     const OpenBoard board;
     EXPECT_TRUE(board.initiated);
@@ -265,6 +266,7 @@ TEST(BoardDiscovery, ARecordIsMadeFromTheStoreAndTheClassOfItsInterface) {
     }
     const ChannelInfo& uart = board.Channel(5)->CurrentInfo;
     EXPECT_EQ(sim::ToUtf8(uart.Uart.PortName), "COM7");
+    EXPECT_EQ(board.Channel(4)->CurrentInfo.Dio.DioNrBank, 0u);
     EXPECT_EQ(uart.ChlBasic.ChlMemAddr, 0x1FEC05000u);
     EXPECT_EQ(sim::ToUtf8(board.Channel(3)->CurrentInfo.Mcp251x.Mcp251xName), "Mcp251x 3");
     EXPECT_EQ(sim::ToUtf8(board.Channel(2)->CurrentInfo.Mcp251xFd.Mcp251xFdName), "Mcp251xFd 2");
