@@ -42,6 +42,12 @@ target_compile_definitions(kvr_tests PRIVATE SOURCE_DIR="${CMAKE_SOURCE_DIR}")
 include(GoogleTest)
 gtest_discover_tests(kvr_tests)
 
+# The fuzzer comes with clang.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+  add_executable(settings_line_fuzz tests/fuzz/settings_line_fuzz.cpp ${KVRPAGE})
+  target_link_options(settings_line_fuzz PRIVATE -fsanitize=fuzzer)
+endif()
+
 find_package(benchmark REQUIRED)
 add_executable(kvr_bench bench/kvr_bench.cpp tests/machines.cpp ${KVRPAGE})
 target_include_directories(kvr_bench PRIVATE ${CMAKE_SOURCE_DIR})
