@@ -217,30 +217,32 @@ void MovePorts(HWND dialog, BoardParams* board, const char* function) {
     }
 }
 
-} // namespace
-
-bool _SortCOMClicked(HWND dialog, BPPCHL* channel) {
-    TraceOut("----> %s( )\n", __func__);
-    const bool bSuccess = false;
-    BoardParams* board = channel != nullptr ? channel->Board : nullptr;
-    if (board == nullptr) {
-        return bSuccess;
-    }
+void SortBoard(HWND dialog, BoardParams* board, const char* function) {
     SortPair* table = static_cast<SortPair*>(LocalAlloc(LPTR, SortPairTableBytes));
     if (table == nullptr) {
         ErrorBoxShow(FailureNoMemory, 0, nullptr, 0, 0, 0, nullptr);
-        return bSuccess;
+        return;
     }
     const u32 count = GatherPairs(board, table);
     TraceNumbers(board, "----------------------------------------, BEFORE\n");
     SortComColumn(table, count);
     AssignNewNumbers(board, table, count);
     TraceNumbers(board, "----------------------------------------, AFTER\n");
-    if (AnyNeedsMove(board, __func__)) {
-        MovePorts(dialog, board, __func__);
+    if (AnyNeedsMove(board, function)) {
+        MovePorts(dialog, board, function);
         board->ChlListChanged = true;
     }
     LocalFree(table);
+}
+
+} // namespace
+
+bool _SortCOMClicked(HWND dialog, BPPCHL* channel) {
+    TraceOut("----> %s( )\n", __func__);
+    const bool bSuccess = false;
+    if (channel != nullptr && channel->Board != nullptr) {
+        SortBoard(dialog, channel->Board, __func__);
+    }
     TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
     return bSuccess;
 }

@@ -112,34 +112,45 @@ void AddChannel(BoardParams* board, HDEVINFO set, const SP_DEVINFO_DATA& data, u
              channelClass);
 }
 
-} // namespace
-
-bool BoardInitiate(BoardParams* board, u32* status) {
-    TraceOut("----> %s( )\n", __func__);
-    *status = 0;
-    board->ChlCount = 0;
-    ChlListInit(&board->ChlList);
+// A set is kept at once, so that BoardDeinitiate releases as many as were opened. 0 or StatusNoInterfaceSet.
+u32 OpenInterfaceSets(BoardParams* board) {
     for (u32 i = 0; i < ChannelClassCount; ++i) {
         board->InterfaceSet[i] = SetupDiGetClassDevsW(&InterfaceClasses[i], nullptr, nullptr,
                                                       DIGCF_PRESENT | DIGCF_DEVICEINTERFACE);
         if (board->InterfaceSet[i] == INVALID_HANDLE_VALUE) {
-            *status = StatusNoInterfaceSet;
-            return false;
+            return StatusNoInterfaceSet;
         }
     }
+    return 0;
+}
+
+// With the sets open: the board's own values, then its channels.
+u32 ReadBoardAndChannels(BoardParams* board) {
     BYTE* buffer = static_cast<BYTE*>(LocalAlloc(LPTR, DetailBufferBytes));
     if (buffer == nullptr) {
-        *status = StatusNoMemory;
-        return false;
+        return StatusNoMemory;
     }
-    *status = ReadBoard(board);
-    if (*status == 0) {
+    const u32 sStatus = ReadBoard(board);
+    if (sStatus == 0) {
         for (u32 i = 0; i < ChannelClassCount; ++i) {
             BoardEnumClass(board, buffer, DetailBufferBytes, board->InterfaceSet[i], &InterfaceClasses[i],
                            ClassUart + i);
         }
     }
     LocalFree(buffer);
+    return sStatus;
+}
+
+} // namespace
+
+bool BoardInitiate(BoardParams* board, u32* status) {
+    TraceOut("----> %s( )\n", __func__);
+    board->ChlCount = 0;
+    ChlListInit(&board->ChlList);
+    *status = OpenInterfaceSets(board);
+    if (*status == 0) {
+        *status = ReadBoardAndChannels(board);
+    }
     TraceOut("<---- %s, sStatus:%d\n", __func__, *status);
     return *status == 0;
 }

@@ -123,8 +123,8 @@ struct CanBasicInfo {
 
 // All values of one channel. `Class` of the record says which of the last five is valid.
 struct ChannelInfo {
-    ::BoardBasicInfo BoardBasic;
-    ::ChlBasicInfo ChlBasic;
+    BoardBasicInfo BoardBasic;
+    ChlBasicInfo ChlBasic;
     union {
         UartBasicInfo Uart;
         DioBasicInfo Dio;
