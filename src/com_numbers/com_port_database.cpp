@@ -11,6 +11,9 @@ namespace {
 // One bit per COM number: number n is bit (n - 1) % 8, from the least significant, of byte (n - 1) / 8.
 using PortUsageBitmap = BYTE[ComNumberMax / 8];
 
+// Units of the text of one number in the combo, and of its suffix alone.
+constexpr u32 EntryCapacity = 40;
+
 bool IsClaimed(const PortUsageBitmap& usage, u32 number) {
     return (usage[(number - 1) / 8] & (1u << ((number - 1) % 8))) != 0;
 }
@@ -39,23 +42,22 @@ u32 ClampComNumber(u32 number) {
     return value < 1 ? 1 : value > static_cast<INT>(ComNumberMax) ? ComNumberMax : number;
 }
 
-void LoadInUseSuffix(WCHAR* suffix, u32 capacity) {
-    if (LoadStringW(ModuleInstance, IDS_IN_USE_SUFFIX, suffix, static_cast<int>(capacity)) == 0) {
-        CopyText(suffix, capacity, TEXT(" (in use)"));
+void LoadInUseSuffix(WCHAR (&suffix)[EntryCapacity]) {
+    if (LoadStringW(ModuleInstance, IDS_IN_USE_SUFFIX, suffix, EntryCapacity) == 0) {
+        CopyText(suffix, EntryCapacity, TEXT(" (in use)"));
     }
 }
 
-void AddAllNumbers(HWND combo, const PortUsageBitmap& usage, u32 currentNumber) {
-    WCHAR entry[40];
-    WCHAR suffix[40];
-    LoadInUseSuffix(suffix, ARRAYSIZE(suffix));
+void AddAllNumbers(HWND combo, const PortUsageBitmap& usage, u32 currentNumber, const WCHAR* suffix,
+                   const char* function) {
+    WCHAR entry[EntryCapacity];
     for (u32 number = 1; number <= ComNumberMax; ++number) {
         FormatText(entry, ARRAYSIZE(entry), TEXT("COM%d"), number);
         if (IsClaimed(usage, number)) {
             if (number == currentNumber) {
-                TraceOut("%s COM%d -> used, is current port number, don't in use\n", __func__, number);
+                TraceOut("%s COM%d -> used, is current port number, don't in use\n", function, number);
             } else {
-                TraceOut("%s COM%d -> used\n", __func__, number);
+                TraceOut("%s COM%d -> used\n", function, number);
                 AppendText(entry, ARRAYSIZE(entry), suffix);
             }
         }
@@ -103,10 +105,15 @@ u32 Kavro_COMPortGetMaxNumberAvailable(u32* MaxAvlComNumber) {
 u32 Kavro_COMPortFillPortNameCombox(HWND dialog, const WCHAR* portName) {
     TraceOut("----> %s( )\n", __func__);
     const HWND combo = GetDlgItem(dialog, IDC_PORT_NUMBER);
-    PortUsageBitmap usage = {};
-    const u32 sStatus = combo == nullptr || portName[0] == 0 ? StatusNoCombo : ReadPortUsage(__func__, usage);
-    if (sStatus == 0) {
-        AddAllNumbers(combo, usage, ClampComNumber(ComNumberFromName(portName)));
+    u32 sStatus = StatusNoCombo;
+    if (combo != nullptr && portName[0] != 0) {
+        WCHAR suffix[EntryCapacity];
+        LoadInUseSuffix(suffix);
+        PortUsageBitmap usage = {};
+        sStatus = ReadPortUsage(__func__, usage);
+        if (sStatus == 0) {
+            AddAllNumbers(combo, usage, ClampComNumber(ComNumberFromName(portName)), suffix, __func__);
+        }
     }
     EnableWindow(combo, sStatus == 0);
     EnableWindow(GetDlgItem(dialog, IDC_PORT_NUMBER_CAPTION), sStatus == 0);
