@@ -100,8 +100,8 @@ void RenameInDatabase(Remap* remap) {
 }
 
 void WriteFriendlyName(Remap* remap, const char* function) {
-    WCHAR description[DescriptionBytes / sizeof(WCHAR) + 1] =
-        {}; // one more than is asked for: it stays terminated
+    // One unit more than is asked for: a description without its terminator gets one.
+    WCHAR description[DescriptionBytes / sizeof(WCHAR) + 1] = {};
     if (SetupDiGetDeviceRegistryPropertyW(remap->DeviceInfoSet, remap->DeviceInfoData, SPDRP_DEVICEDESC,
                                           nullptr, reinterpret_cast<BYTE*>(description), DescriptionBytes,
                                           nullptr) == 1) {
