@@ -3,7 +3,9 @@
 #include <fcntl.h>
 #include <io.h>
 
+#include <algorithm>
 #include <iostream>
+#include <sstream>
 #include <thread>
 
 #include "host/console.h"
@@ -67,14 +69,22 @@ private:
     bool waiting_ = false; // a line has been asked for and not yet come
 };
 
-// A script's own line "# fail: DefineDosDeviceW" makes the next call of that operation fail.
+// A script can say what trouble it wants: "# fail: DefineDosDeviceW 2" makes the second call of that
+// operation from there on fail, "# remote" puts its devices on another machine.
 class Script : public LineSource {
 public:
     std::optional<std::string> Next(const std::string& prompt) override {
         std::optional<std::string> line = lines_->Next(prompt);
-        constexpr std::string_view fail = "# fail: ";
-        if (line && line->starts_with(fail) && !FailNext(line->substr(fail.size()))) {
-            std::cerr << "kvrhost: nothing makes " << line->substr(fail.size()) << " fail\n";
+        if (line && line->starts_with("# fail: ")) {
+            std::istringstream words(line->substr(8));
+            std::string operation;
+            int count = 1;
+            words >> operation >> count;
+            if (!FailCall(operation, std::max(count, 1))) {
+                std::cerr << "kvrhost: nothing makes " << operation << " fail\n";
+            }
+        } else if (line == "# remote") {
+            PretendRemote();
         }
         return line;
     }

@@ -173,15 +173,8 @@ public:
         PortRecords records;
         records.dos_names = SerialDosNames();
         records.serial_map = RegistryKey(HKEY_LOCAL_MACHINE, SerialMapKey, KEY_READ).Texts();
-        std::vector<WCHAR> section(0x8000);
-        GetProfileSectionW(TEXT("Ports"), section.data(), static_cast<DWORD>(section.size()));
-        for (const WCHAR* entry = section.data(); *entry; entry += lstrlenW(entry) + 1) {
-            const Text line(entry);
-            const std::size_t equals = line.find(TEXT('='));
-            if (equals != Text::npos) {
-                records.settings_lines.emplace_back(line.substr(0, equals), line.substr(equals + 1));
-            }
-        }
+        // The section [Ports] of the profile lies there.
+        records.settings_lines = RegistryKey(HKEY_LOCAL_MACHINE, PortsKey, KEY_READ).Texts();
         HCOMDB database = nullptr;
         if (ComDBOpen(&database) == ERROR_SUCCESS) {
             DWORD ports = 0;

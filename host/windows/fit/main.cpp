@@ -11,6 +11,7 @@
 #include <iterator>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "resources/resource_ids.h"
@@ -333,12 +334,15 @@ int main(int argc, char** argv) {
         std::printf("kvrpagex64.dll can't be loaded\n");
         return 2;
     }
+    if (argc > 1 && std::string_view(argv[1]) == "list") {
+        for (const LANGID language : Languages()) {
+            std::printf("%u\n", language);
+        }
+        return 0;
+    }
     std::vector<LANGID> languages;
     for (int i = 1; i < argc; ++i) {
         languages.push_back(static_cast<LANGID>(std::atoi(argv[i])));
-    }
-    if (languages.empty()) {
-        languages = Languages();
     }
     int dialogs = 0;
     for (const LANGID language : languages) {

@@ -11,8 +11,11 @@ namespace host {
 // Makes the library's calls pass here, below whoever observes them. One library at a time.
 void AllowFaults(HMODULE library);
 
-// False if this operation can't be made to fail.
-bool FailNext(const std::string& operation);
+// Makes the `count`-th call from now on fail, from 1. False if this operation can't be made to fail.
+bool FailCall(const std::string& operation, int count);
+
+// Lets every device pass for one of another machine.
+void PretendRemote();
 
 // Whether a call has been made to fail since the last time.
 bool TakeFault();

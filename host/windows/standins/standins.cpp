@@ -57,25 +57,47 @@ BOOL WINAPI StandInSetupDiCallClassInstaller(DI_FUNCTION, HDEVINFO, SP_DEVINFO_D
     return TRUE;
 }
 
-// Windows keeps the section in the registry. Here it lies in a file, and the registry follows it.
-BOOL WINAPI StandInWriteProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR value) {
-    if (_wcsicmp(section, L"Ports") == 0) {
-        const RegistryKey ports(HKEY_LOCAL_MACHINE, PortsKey, KEY_READ | KEY_WRITE);
-        if (value) {
-            const DWORD bytes = static_cast<DWORD>((std::wcslen(value) + 1) * sizeof(WCHAR));
-            RegSetValueExW(ports.Handle(), key, 0, REG_SZ, reinterpret_cast<const BYTE*>(value), bytes);
-        } else {
-            RegDeleteValueW(ports.Handle(), key);
-        }
-    }
-    return WriteProfileStringW(section, key, value);
+// Windows keeps the section [Ports] of the profile in the registry. The stand-in has a file for it, which
+// knows nothing of what the registry brings and loses the blank at the end of a line.
+bool IsMapped(LPCWSTR section) {
+    return section && _wcsicmp(section, L"Ports") == 0;
 }
 
-void TakeProfileFromRegistry() {
-    WriteProfileStringW(L"Ports", nullptr, nullptr);
-    for (const auto& [key, line] : RegistryKey(HKEY_LOCAL_MACHINE, PortsKey, KEY_READ).Texts()) {
-        WriteProfileStringW(L"Ports", key.c_str(), line.c_str());
+DWORD WINAPI StandInGetProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR fallback, LPWSTR buffer,
+                                      DWORD capacity) {
+    if (!IsMapped(section) || !key || capacity == 0) {
+        return GetProfileStringW(section, key, fallback, buffer, capacity);
     }
+    std::wstring line = fallback ? fallback : L"";
+    for (const auto& [name, text] : RegistryKey(HKEY_LOCAL_MACHINE, PortsKey, KEY_READ).Texts()) {
+        if (_wcsicmp(name.c_str(), key) == 0) {
+            // One pair of quotation marks around a value is not part of it.
+            const bool quoted = text.size() >= 2 && (text.front() == L'"' || text.front() == L'\'') &&
+                                text.front() == text.back();
+            line = quoted ? text.substr(1, text.size() - 2) : text;
+        }
+    }
+    const std::size_t length = std::min<std::size_t>(line.size(), capacity - 1);
+    line.copy(buffer, length);
+    buffer[length] = 0;
+    return static_cast<DWORD>(length);
+}
+
+BOOL WINAPI StandInWriteProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR value) {
+    if (!IsMapped(section) || !key) {
+        return WriteProfileStringW(section, key, value);
+    }
+    HKEY ports = nullptr;
+    if (RegCreateKeyExW(HKEY_LOCAL_MACHINE, PortsKey, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_WRITE, nullptr,
+                        &ports, nullptr) != ERROR_SUCCESS) {
+        return FALSE;
+    }
+    const LSTATUS status = value
+                               ? RegSetValueExW(ports, key, 0, REG_SZ, reinterpret_cast<const BYTE*>(value),
+                                                static_cast<DWORD>((std::wcslen(value) + 1) * sizeof(WCHAR)))
+                               : RegDeleteValueW(ports, key);
+    RegCloseKey(ports);
+    return status == ERROR_SUCCESS || !value;
 }
 
 } // namespace
@@ -91,12 +113,12 @@ void UseStandIns(HMODULE library) {
             dos_names.emplace_back(port, device);
         }
     }
-    TakeProfileFromRegistry();
     const std::pair<const char*, void*> replacements[] = {
         {"QueryDosDeviceW", reinterpret_cast<void*>(&StandInQueryDosDeviceW)},
         {"DefineDosDeviceW", reinterpret_cast<void*>(&StandInDefineDosDeviceW)},
         {"SetupDiSetClassInstallParamsW", reinterpret_cast<void*>(&StandInSetupDiSetClassInstallParamsW)},
         {"SetupDiCallClassInstaller", reinterpret_cast<void*>(&StandInSetupDiCallClassInstaller)},
+        {"GetProfileStringW", reinterpret_cast<void*>(&StandInGetProfileStringW)},
         {"WriteProfileStringW", reinterpret_cast<void*>(&StandInWriteProfileStringW)},
     };
     for (const auto& [name, function] : replacements) {

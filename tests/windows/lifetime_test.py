@@ -1,0 +1,19 @@
+#!/usr/bin/env python3
+"""Loading and unloading the library and opening its pages a thousand times leaves nothing behind.
+
+    lifetime_test.py [TIMES]"""
+import sys
+
+from wine import ROOT, Prefix
+
+
+def main(times):
+    with Prefix() as prefix:
+        prefix.import_machine(ROOT / "host/machines/sample.reg")
+        output, code = prefix.run("kvrlifetime.exe", times, timeout=900)
+    print(output.decode(), end="")
+    return code
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1] if len(sys.argv) > 1 else 1000))

@@ -1,0 +1,20 @@
+#!/usr/bin/env python3
+"""Shows the sheets of a machine's devices on the display at hand, or on one without a face where there is none, with
+the commands of the host at this terminal.
+
+    run.py [MACHINE.reg]"""
+import os
+import subprocess
+import sys
+
+from wine import ROOT, Prefix
+
+
+def main(machine):
+    with Prefix(display=os.environ.get("DISPLAY")) as prefix:
+        prefix.import_machine(machine)
+        return subprocess.run(["wine", "C:\\kvr\\kvrhost.exe"], env=prefix.environment()).returncode
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1] if len(sys.argv) > 1 else ROOT / "host/machines/sample.reg"))

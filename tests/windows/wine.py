@@ -1,0 +1,148 @@
+"""A stand-in Windows for the tests: a prefix of its own for each, made from one that is kept fresh as it was
+installed, with a screen of its own."""
+import atexit
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import tempfile
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+BUILD = pathlib.Path(os.environ.get("KVR_WINDOWS_BUILD", ROOT / "build" / "windows"))
+PROGRAMS = ["kvrpagex64.dll", "kvrhost.exe", "kvrfit.exe", "kvrpictures.exe", "kvrlifetime.exe", "standins/msports.dll"]
+
+# "MS Shell Dlg" is Microsoft Sans Serif on Windows, which has every script. Here each script has its own font; of
+# those that are small, the ones that come nearest.
+DEFAULT_FONT = "Liberation Sans"
+FONTS = {"DejaVu Sans": [1025, 1037], "Loma": [1054], "WenQuanYi Micro Hei": [1028, 1041, 1042, 2052]}
+
+SUBSTITUTES = r"HKLM\Software\Microsoft\Windows NT\CurrentVersion\FontSubstitutes"
+SETTINGS = [
+    # No window manager: the windows draw their own frames, and no one is waited for when they close.
+    ["add", r"HKCU\Software\Wine\X11 Driver", "/v", "Managed", "/d", "N"],
+    # The serial ports of the machine at hand are none of the simulated one's.
+    ["add", r"HKLM\System\CurrentControlSet\Services\MountMgr", "/v", "Start", "/t", "REG_DWORD", "/d", "4"],
+    ["delete", r"HKLM\Software\Microsoft\Windows NT\CurrentVersion\Ports"],
+]
+
+
+def font_settings(font):
+    return [["add", SUBSTITUTES, "/v", name, "/d", font] for name in ("MS Shell Dlg", "MS Shell Dlg 2", "Tahoma")]
+
+
+class Screen:
+    """The display at hand if `visible` and there is one, else one of its own without a face."""
+    display = None
+
+    @classmethod
+    def name(cls):
+        if cls.display is None:
+            read, write = os.pipe()
+            cls.server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x1024x24"],
+                                          pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            os.close(write)
+            with os.fdopen(read) as answer:
+                cls.display = ":" + answer.readline().strip()
+            atexit.register(cls.close)
+        return cls.display
+
+    @classmethod
+    def close(cls):
+        cls.server.terminate()
+        cls.server.wait()
+
+
+class Prefix:
+    """A fresh Windows, gone at the end of the with block."""
+
+    def __init__(self, place=None, display=None):
+        self.place = pathlib.Path(place) if place else None
+        self.own = place is None
+        self.display = display
+
+    def __enter__(self):
+        if self.own:
+            self.place = pathlib.Path(tempfile.mkdtemp(prefix="kvr-windows-"))
+            self._copy_of(template(), self.place)
+        # What lies in the registry's volatile part lives as long as the server does.
+        subprocess.run(["wineserver", "-p"], env=self.environment(), check=True)
+        self.programs = self.place / "drive_c" / "kvr"
+        self.programs.mkdir(parents=True, exist_ok=True)
+        for program in PROGRAMS:
+            if (BUILD / program).exists():
+                shutil.copy(BUILD / program, self.programs)
+        return self
+
+    def __exit__(self, *_):
+        subprocess.run(["wineserver", "-k"], env=self.environment(), stderr=subprocess.DEVNULL)
+        subprocess.run(["wineserver", "-w"], env=self.environment(), stderr=subprocess.DEVNULL, timeout=30)
+        if self.own:
+            shutil.rmtree(self.place, ignore_errors=True)
+
+    @staticmethod
+    def _copy_of(origin, place):
+        """Registry, drive letters and the Windows folder of its own; what no one writes to is only linked."""
+        for file in origin.glob("*.reg"):
+            shutil.copy(file, place)
+        shutil.copy(origin / ".update-timestamp", place)
+        (place / "dosdevices").mkdir()
+        (place / "dosdevices" / "c:").symlink_to("../drive_c")
+        (place / "dosdevices" / "z:").symlink_to("/")
+        for folder, own in (("drive_c", {"windows", "kvr"}), ("drive_c/windows", {"win.ini", "temp"})):
+            (place / folder).mkdir()
+            for entry in (origin / folder).iterdir():
+                if entry.name not in own:
+                    (place / folder / entry.name).symlink_to(entry)
+
+    def environment(self):
+        return {**os.environ, "WINEPREFIX": str(self.place), "WINEDEBUG": "-all", "LC_ALL": "C.UTF-8",
+                "WINEDLLOVERRIDES": "msports=n,b;mscoree,mshtml=d", "DISPLAY": self.display or Screen.name()}
+
+    def run(self, *command, input=b"", timeout=300):
+        """Runs a program of the system or one of C:\\kvr; the bytes that it writes, and its exit code."""
+        program = command[0]
+        if (self.programs / program).exists():
+            program = "C:\\kvr\\" + program
+        done = subprocess.run(["wine", program, *map(str, command[1:])], env=self.environment(), input=input,
+                              stdout=subprocess.PIPE, timeout=timeout)
+        return done.stdout, done.returncode
+
+    def reg(self, *arguments):
+        _, code = self.run("reg", *arguments, "/f")
+        if code:
+            raise RuntimeError("reg " + " ".join(arguments))
+
+    def use_font(self, font):
+        for setting in font_settings(font):
+            self.reg(*setting)
+
+    def import_machine(self, file):
+        _, code = self.run("regedit", "/S", "Z:" + str(pathlib.Path(file).resolve()).replace("/", "\\"))
+        if code:
+            raise RuntimeError(f"regedit can't import {file}")
+
+
+def template():
+    """The prefix that all others are made from: installed once for each version of the system."""
+    version = subprocess.run(["wine", "--version"], capture_output=True, text=True).stdout.strip()
+    place = BUILD / "wine" / re.sub(r"[^\w.]+", "-", version).strip("-")
+    if place.exists():
+        return place
+    making = place.with_name("making")
+    shutil.rmtree(making, ignore_errors=True)
+    making.mkdir(parents=True)
+    with Prefix(making) as prefix:
+        subprocess.run(["wineboot", "-i"], env=prefix.environment(), check=True, stdin=subprocess.DEVNULL,
+                       stderr=subprocess.DEVNULL)
+        for setting in SETTINGS + font_settings(DEFAULT_FONT):
+            prefix.reg(*setting)
+        # The signs on the title bars' buttons are letters of this font.
+        for font in pathlib.Path("/usr/share/wine/fonts").glob("marlett.ttf"):
+            shutil.copy(font, making / "drive_c" / "windows" / "Fonts")
+    shutil.rmtree(making / "drive_c" / "kvr")
+    # The system makes this key anew at each start, and then nothing can be imported into it, but for one that is kept.
+    with open(making / "system.reg", "a") as registry:
+        registry.write("\n[Hardware\\\\Devicemap\\\\Serialcomm]\n")
+    making.rename(place)
+    return place
