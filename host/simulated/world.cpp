@@ -71,6 +71,7 @@ std::vector<StoreValue> SimulatedWorld::Store(const std::string& id) {
         if (ToUtf8(device.instance_id) == id)
             for (const sim::Value& value : device.key.list)
                 values.push_back({value.name, value.type, value.data});
+    std::ranges::sort(values, {}, [](const StoreValue& value) { return Folded(ToUtf8(value.name)); });
     return values;
 }
 
