@@ -1,22 +1,18 @@
 #include "com_numbers/port_settings_migration.h"
 
+#include "com_numbers/ports_section.h"
 #include "device_model/device_store.h"
 #include "reporting/error_reporter.h"
-#include "reporting/text_operations.h"
 #include "reporting/trace.h"
 
 namespace {
 
-// Units of a settings line, terminator included.
-constexpr u32 SettingsLineCapacity = 81;
-
-// The key of a port's line: its name and a colon. The caller frees it; null without memory.
-WCHAR* MakeSettingsKey(const WCHAR* portName) {
+// The caller frees the key; null without memory.
+WCHAR* AllocateSettingsKey(const WCHAR* portName) {
     const u32 capacity = static_cast<u32>(lstrlenW(portName)) + 2;
     WCHAR* key = static_cast<WCHAR*>(LocalAlloc(LPTR, capacity * sizeof(WCHAR)));
     if (key != nullptr) {
-        CopyText(key, capacity, portName);
-        AppendText(key, capacity, TEXT(":"));
+        MakeSettingsKey(key, capacity, portName);
     }
     return key;
 }
@@ -25,35 +21,41 @@ WCHAR* MakeSettingsKey(const WCHAR* portName) {
 void MoveSettingsLine(const WCHAR* oldKey, const WCHAR* newKey) {
     WCHAR value[SettingsLineCapacity];
     value[0] = 0;
-    GetProfileStringW(TEXT("Ports"), oldKey, TEXT(""), value, ARRAYSIZE(value));
-    WriteProfileStringW(TEXT("Ports"), newKey, value[0] != 0 ? value : TEXT("9600,n,8,1"));
-    SendNotifyMessageW(HWND_BROADCAST, WM_WININICHANGE, 0, reinterpret_cast<LPARAM>(TEXT("Ports")));
-    WriteProfileStringW(TEXT("Ports"), oldKey, nullptr);
+    GetProfileStringW(PortsSection, oldKey, TEXT(""), value, ARRAYSIZE(value));
+    WriteProfileStringW(PortsSection, newKey, value[0] != 0 ? value : DefaultSettingsLine);
+    SendNotifyMessageW(HWND_BROADCAST, WM_WININICHANGE, 0, reinterpret_cast<LPARAM>(PortsSection));
+    WriteProfileStringW(PortsSection, oldKey, nullptr);
+}
+
+// 0, StatusPortOpened or StatusReadFailed.
+u32 ReadOpened(const char* function, HKEY key) {
+    u32 nChlOpened = 0;
+    DWORD bytes = sizeof(nChlOpened);
+    const LSTATUS lStatus = RegQueryValueExW(key, TEXT("ChlOpened"), nullptr, nullptr,
+                                             reinterpret_cast<BYTE*>(&nChlOpened), &bytes);
+    TraceOut("%s - lStatus:%d, nChlOpened:%d\n", function, lStatus, nChlOpened);
+    if (lStatus != ERROR_SUCCESS) {
+        TraceOut("%s - RegQueryValueEx() fail, lStatus:%d, GetLastError:%d\n", function, lStatus,
+                 GetLastError());
+        return StatusReadFailed;
+    }
+    if (nChlOpened != 0) {
+        TraceOut("%s - Chl opened\n", function);
+        return StatusPortOpened;
+    }
+    return 0;
 }
 
 } // namespace
 
 u32 Kavro_COMPortCheckOpened(HDEVINFO DeviceInfoSet, SP_DEVINFO_DATA* DeviceInfoData) {
     TraceOut("----> %s( )\n", __func__);
+    u32 sStatus = StatusNoKey;
     const HKEY key = OpenDeviceKey(__func__, DeviceInfoSet, DeviceInfoData);
-    if (key == INVALID_HANDLE_VALUE) {
-        return StatusNoKey;
+    if (key != INVALID_HANDLE_VALUE) {
+        sStatus = ReadOpened(__func__, key);
+        RegCloseKey(key);
     }
-    u32 nChlOpened = 0;
-    u32 sStatus = 0;
-    DWORD bytes = sizeof(nChlOpened);
-    const LSTATUS lStatus = RegQueryValueExW(key, TEXT("ChlOpened"), nullptr, nullptr,
-                                             reinterpret_cast<BYTE*>(&nChlOpened), &bytes);
-    TraceOut("%s - lStatus:%d, nChlOpened:%d\n", __func__, lStatus, nChlOpened);
-    if (lStatus != ERROR_SUCCESS) {
-        TraceOut("%s - RegQueryValueEx() fail, lStatus:%d, GetLastError:%d\n", __func__, lStatus,
-                 GetLastError());
-        sStatus = StatusReadFailed;
-    } else if (nChlOpened != 0) {
-        TraceOut("%s - Chl opened\n", __func__);
-        sStatus = StatusPortOpened;
-    }
-    RegCloseKey(key);
     TraceOut("<---- %s, sStatus:%d\n", __func__, sStatus);
     return sStatus;
 }
@@ -84,9 +86,9 @@ void Kavro_COMPortBroadcastRemap(HDEVINFO DeviceInfoSet, SP_DEVINFO_DATA* Device
 
 void Kavro_COMPortMigratePortSettings(const WCHAR* oldName, const WCHAR* newName) {
     TraceOut("----> %s( )\n", __func__);
-    WCHAR* oldKey = MakeSettingsKey(oldName);
+    WCHAR* oldKey = AllocateSettingsKey(oldName);
     if (oldKey != nullptr) {
-        WCHAR* newKey = MakeSettingsKey(newName);
+        WCHAR* newKey = AllocateSettingsKey(newName);
         if (newKey != nullptr) {
             MoveSettingsLine(oldKey, newKey);
         }

@@ -59,6 +59,15 @@ u32 IndexOfStopBits(const WCHAR* field) {
     return DefaultStopBitsIndex;
 }
 
+template <u32 Count>
+bool AppendSuffix(WCHAR* line, u32 capacity, const WCHAR* const (&suffixes)[Count], u32 index) {
+    if (index >= Count) {
+        return false;
+    }
+    AppendText(line, capacity, suffixes[index]);
+    return true;
+}
+
 } // namespace
 
 void TrimBlanks(WCHAR* text) {
@@ -102,11 +111,11 @@ PortSettings ParseSettingsLine(WCHAR* line, const WCHAR*& baudText) {
     return settings;
 }
 
-void ComposeSettingsLine(WCHAR* line, u32 capacity, const PortSettings& settings) {
-    AppendText(line, capacity, ParitySuffixes[settings.ParityIndex]);
-    AppendText(line, capacity, DataBitsSuffixes[settings.DataBitsIndex]);
-    AppendText(line, capacity, StopBitsSuffixes[settings.StopBitsIndex]);
-    AppendText(line, capacity, FlowControlSuffixes[settings.FlowControlIndex]);
+bool ComposeSettingsLine(WCHAR* line, u32 capacity, const PortSettings& settings) {
+    return AppendSuffix(line, capacity, ParitySuffixes, settings.ParityIndex) &&
+           AppendSuffix(line, capacity, DataBitsSuffixes, settings.DataBitsIndex) &&
+           AppendSuffix(line, capacity, StopBitsSuffixes, settings.StopBitsIndex) &&
+           AppendSuffix(line, capacity, FlowControlSuffixes, settings.FlowControlIndex);
 }
 
 bool SamePortSettings(const PortSettings& left, const PortSettings& right) {

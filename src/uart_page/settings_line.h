@@ -5,13 +5,8 @@
 // some parts carry a blank that other programs' lines have too, and reading trims it away again.
 #pragma once
 
-#include "platform/platform.h"
+#include "com_numbers/ports_section.h"
 
-// Units of a line as the profile gives it and of a key, terminator included.
-constexpr u32 SettingsLineCapacity = 81;
-constexpr u32 SettingsKeyCapacity = 81;
-
-constexpr const WCHAR* DefaultSettingsLine = TEXT("9600,n,8,1");
 constexpr const WCHAR* DefaultBaudText = TEXT("9600");
 
 // Both end with a 0. The index of a data bit count n is n - 4.
@@ -42,8 +37,8 @@ WCHAR* ScanComma(WCHAR* text, const WCHAR* sep);
 // Takes a line apart. The line is cut at its commas; `baudText` is its first field, untrimmed, within `line`.
 PortSettings ParseSettingsLine(WCHAR* line, const WCHAR*& baudText);
 
-// Puts a line together behind the baud rate's text that `line` holds, from the four selections. Each index
-// must be in range. A line that does not fit `capacity` units is cut.
-void ComposeSettingsLine(WCHAR* line, u32 capacity, const PortSettings& settings);
+// Puts a line together behind the baud rate's text that `line` holds, from the four selections. False if an
+// index is none of the line's. A line that does not fit `capacity` units is cut.
+bool ComposeSettingsLine(WCHAR* line, u32 capacity, const PortSettings& settings);
 
 bool SamePortSettings(const PortSettings& left, const PortSettings& right);

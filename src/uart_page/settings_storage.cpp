@@ -7,6 +7,7 @@
 namespace {
 
 constexpr u32 ComposedLineCapacity = 260;
+constexpr u32 SettingsKeyCapacity = 81;
 constexpr WPARAM BaudTextCapacity = 18;
 
 // The four combos whose index is what the line keeps.
@@ -20,11 +21,6 @@ constexpr IndexCombo IndexCombos[] = {
     {IDC_STOP_BITS, &PortSettings::StopBitsIndex},
     {IDC_FLOW_CONTROL, &PortSettings::FlowControlIndex},
 };
-
-void MakeSettingsKey(WCHAR (&key)[SettingsKeyCapacity], const WCHAR* comName) {
-    CopyText(key, SettingsKeyCapacity, comName);
-    AppendText(key, SettingsKeyCapacity, TEXT(":"));
-}
 
 // The selections of the four combos; false if one has none.
 bool ReadSelections(HWND dialog, PortSettings& settings) {
@@ -56,16 +52,16 @@ void SelectSettings(HWND dialog, const PortSettings& settings) {
 
 void _GetSettingsFromRegistryAndApplyToUI(HWND dialog, UartPageParams* params) {
     WCHAR key[SettingsKeyCapacity];
-    MakeSettingsKey(key, params->ComName);
+    MakeSettingsKey(key, ARRAYSIZE(key), params->ComName);
     WCHAR szParms[SettingsLineCapacity] = {};
-    GetProfileStringW(TEXT("Ports"), key, TEXT(""), szParms, ARRAYSIZE(szParms));
+    GetProfileStringW(PortsSection, key, TEXT(""), szParms, ARRAYSIZE(szParms));
     TraceOut("%s - A, szParms:%ws, lstrlen(szParms):%d\n", __func__, szParms, lstrlenW(szParms));
     TrimBlanks(szParms);
     if (szParms[0] == 0) {
         CopyText(szParms, ARRAYSIZE(szParms), DefaultSettingsLine);
-        WriteProfileStringW(TEXT("Ports"), key, szParms);
+        WriteProfileStringW(PortsSection, key, szParms);
     }
-    TraceOut("%s - B, szParms:%ws, m_szPorts:%ws, ComName:%ws\n", __func__, szParms, TEXT("Ports"),
+    TraceOut("%s - B, szParms:%ws, m_szPorts:%ws, ComName:%ws\n", __func__, szParms, PortsSection,
              params->ComName);
     const WCHAR* baudText = nullptr;
     params->Saved = ParseSettingsLine(szParms, baudText);
@@ -83,18 +79,17 @@ bool _SaveSettings(HWND dialog, const UartPageParams* params) {
         return false;
     }
     settings.BaudRate = ParseDecimal(szParms);
-    if (!ReadSelections(dialog, settings)) {
+    if (!ReadSelections(dialog, settings) || !ComposeSettingsLine(szParms, ARRAYSIZE(szParms), settings)) {
         return false;
     }
     if (SamePortSettings(settings, params->Saved)) {
         return true;
     }
-    ComposeSettingsLine(szParms, ARRAYSIZE(szParms), settings);
     TraceOut("%s - ComName:%ws, szParms:%ws\n", __func__, params->ComName, szParms);
     WCHAR key[SettingsKeyCapacity];
-    MakeSettingsKey(key, params->ComName);
-    WriteProfileStringW(TEXT("Ports"), key, szParms);
-    SendNotifyMessageW(HWND_BROADCAST, WM_WININICHANGE, 0, reinterpret_cast<LPARAM>(TEXT("Ports")));
+    MakeSettingsKey(key, ARRAYSIZE(key), params->ComName);
+    WriteProfileStringW(PortsSection, key, szParms);
+    SendNotifyMessageW(HWND_BROADCAST, WM_WININICHANGE, 0, reinterpret_cast<LPARAM>(PortsSection));
     SetupDiCallClassInstaller(DIF_PROPERTYCHANGE, params->DeviceInfoSet, params->DeviceInfoData);
     return true;
 }

@@ -8,7 +8,8 @@
 void _GetSettingsFromRegistryAndApplyToUI(HWND dialog, UartPageParams* params);
 
 // Composes the line from the combos, and if one of the five selections differs from `params->Saved` writes
-// it, tells the applications and the device. False, with nothing written, if a combo has no selection.
+// it, tells the applications and the device. False, with nothing written, if a combo has no selection, or one
+// that the line has no part for.
 bool _SaveSettings(HWND dialog, const UartPageParams* params);
 
 // Selects the item of the baud rate combo that begins with a text; the first item if none does.

@@ -1,0 +1,16 @@
+// The section of the system profile in which every serial port of the machine keeps its settings, one line
+// under the port's name and a colon. Other programs read and write it too.
+#pragma once
+
+#include "platform/platform.h"
+
+constexpr const WCHAR* PortsSection = TEXT("Ports");
+
+// Units of a line as it is read, terminator included.
+constexpr u32 SettingsLineCapacity = 81;
+
+// What a port without a line gets.
+constexpr const WCHAR* DefaultSettingsLine = TEXT("9600,n,8,1");
+
+// The key of a port's line: "COM3:" for the name COM3. Cut at `capacity` units.
+void MakeSettingsKey(WCHAR* key, u32 capacity, const WCHAR* portName);
