@@ -10,7 +10,7 @@
 #include <string>
 #include <utility>
 
-#include "host/world.h"
+#include "host/windows/first_device.h"
 
 namespace {
 
@@ -103,16 +103,15 @@ int main(int argc, char** argv) {
         library = program.substr(0, program.rfind(L'\\') + 1) + L"kvrpagex64.dll";
     bool steady = Repeat("loaded and unloaded", times, [&] { FreeLibrary(LoadLibraryW(library.c_str())); });
     const std::unique_ptr<host::World> world = host::OpenWorld({}, 0, error);
-    bool done[2] = {};
-    for (const host::Device& device : world->Devices()) {
-        const bool board = device.kind == host::DeviceKind::Board;
-        if (std::exchange(done[board], true)) {
-            continue;
+    for (const auto& [kind, what] : {std::pair{host::DeviceKind::Board, "the board's page opened and closed"},
+                                     std::pair{host::DeviceKind::Port, "a port's page opened and closed"}}) {
+        const std::optional<host::Device> device = host::FirstDevice(*world, kind);
+        if (!device) {
+            std::printf("no device for: %s\n", what);
+            return 2;
         }
         const auto cancel = [](HWND front) { SendMessageW(GetDlgItem(front, IDCANCEL), BM_CLICK, 0, 0); };
-        steady = Repeat(board ? "the board's page opened and closed" : "a port's page opened and closed",
-                        times, [&] { world->RunSheet(device.id, cancel); }) &&
-                 steady;
+        steady = Repeat(what, times, [&] { world->RunSheet(device->id, cancel); }) && steady;
     }
-    return steady && done[0] && done[1] ? 0 : 1;
+    return steady ? 0 : 1;
 }

@@ -11,7 +11,7 @@
 #include <set>
 #include <string>
 
-#include "host/world.h"
+#include "host/windows/first_device.h"
 #include "resources/resource_ids.h"
 
 namespace {
@@ -94,6 +94,12 @@ void TakePictures(host::World& world, const host::Device& device, int page_dialo
     });
 }
 
+constexpr struct {
+    host::DeviceKind kind;
+    int page, advanced;
+} sheets[] = {{host::DeviceKind::Board, IDD_PORT_CONTROL, IDD_ADVANCED_PORT_CONTROL},
+              {host::DeviceKind::Port, IDD_PORT_SETTINGS, IDD_ADVANCED_PORT_SETTINGS}};
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -106,14 +112,9 @@ int main(int argc, char** argv) {
             std::printf("%s\n", error.c_str());
             return 2;
         }
-        bool board = false, port = false;
-        for (const host::Device& device : world->Devices()) {
-            bool& done = device.kind == host::DeviceKind::Board ? board : port;
-            if (!done) {
-                done = true;
-                device.kind == host::DeviceKind::Board
-                    ? TakePictures(*world, device, IDD_PORT_CONTROL, IDD_ADVANCED_PORT_CONTROL)
-                    : TakePictures(*world, device, IDD_PORT_SETTINGS, IDD_ADVANCED_PORT_SETTINGS);
+        for (const auto& [kind, page, advanced] : sheets) {
+            if (const std::optional<host::Device> device = host::FirstDevice(*world, kind)) {
+                TakePictures(*world, *device, page, advanced);
             }
         }
     }

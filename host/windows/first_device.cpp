@@ -1,0 +1,16 @@
+#include "host/windows/first_device.h"
+
+#include "host/listing.h"
+
+namespace host {
+
+std::optional<Device> FirstDevice(World& world, DeviceKind kind) {
+    for (const Device& device : world.Devices()) {
+        if (device.kind == kind && FindValue(world.Store(device.id), "BoardPciBusNumber")) {
+            return device;
+        }
+    }
+    return {};
+}
+
+} // namespace host
