@@ -28,7 +28,7 @@ FifoValues ReadPage(HWND hDlg, const BPPCHL* chl) {
     return _ReadFifoSliders(hDlg, chl->CurrentInfo.Uart, chl->Fifo);
 }
 
-// The status of the failing write, 0 if none failed, with the COM number of the failing port.
+// False at the first write that fails, with its status and the COM number of its port.
 bool _SetEachUartUiFifoSettingsIfChange(BoardParams* params, u32* status, u32* comNumber) {
     *status = 0;
     *comNumber = 0;
@@ -69,8 +69,7 @@ void _RefreshFifoControls(HWND hDlg, BPPCHL* channel) {
     } else {
         CheckDlgButton(hDlg, IDC_LARGEFIFO, BST_UNCHECKED);
         EnableWindow(GetDlgItem(hDlg, IDC_LARGEFIFO), FALSE);
-        ShowFifoHighLabelsAtOne(hDlg);
-        ShowFifoLowLabels(hDlg);
+        ShowFifoLabelsAtOne(hDlg);
         _EnableFifoControls(hDlg, FALSE);
     }
     for (const int button : UartButtons) {

@@ -52,9 +52,11 @@ void ShowFifoLowLabels(HWND hDlg) {
     ShowLabel(hDlg, IDC_RECEIVE_LOW, IDS_LOW, 1);
 }
 
-void ShowFifoHighLabelsAtOne(HWND hDlg) {
+void ShowFifoLabelsAtOne(HWND hDlg) {
     ShowLabel(hDlg, IDC_TRANSMIT_HIGH, IDS_HIGH, 1);
+    ShowLabel(hDlg, IDC_TRANSMIT_LOW, IDS_LOW, 1);
     ShowLabel(hDlg, IDC_RECEIVE_HIGH, IDS_HIGH, 1);
+    ShowLabel(hDlg, IDC_RECEIVE_LOW, IDS_LOW, 1);
 }
 
 void ShowFifoSettings(HWND hDlg, const UartBasicInfo& uart, FifoSliders* sliders) {
@@ -118,8 +120,8 @@ void FifoSliderMoved(HWND hDlg, HWND slider, FifoSliders* sliders) {
 FifoValues _ReadFifoSliders(HWND hDlg, const UartBasicInfo& uart, const FifoSliders& sliders) {
     FifoValues values = {0, 1, 1};
     if (IsDlgButtonChecked(hDlg, IDC_LARGEFIFO) == BST_CHECKED) {
-        const u32* stages = sliders.RxFifo4Stage;
-        const u32 stage = RxStageOfPosition(sliders.RxFifo4Stage, SliderPosition(hDlg, IDC_RECEIVE_SLIDER));
+        const auto& stages = sliders.RxFifo4Stage;
+        const u32 stage = RxStageOfPosition(stages, SliderPosition(hDlg, IDC_RECEIVE_SLIDER));
         values.UartFifoEnable = 1;
         values.UartTxFifoLowHigh =
             AtLeastOneAtMost(SliderPosition(hDlg, IDC_TRANSMIT_SLIDER), uart.UartTxFifoSize);

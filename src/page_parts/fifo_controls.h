@@ -20,8 +20,8 @@ void _EnableFifoControls(HWND hDlg, BOOL enable);
 
 // The two low labels, which always show 1.
 void ShowFifoLowLabels(HWND hDlg);
-// The two high labels at 1, with the sliders left alone.
-void ShowFifoHighLabelsAtOne(HWND hDlg);
+// All four labels at 1, with the sliders left alone.
+void ShowFifoLabelsAtOne(HWND hDlg);
 
 // Shows a UART's stored or pending settings: the check box enabled and checked, ranges, positions and high
 // labels, the sliders enabled with the box. `sliders` takes the positions; its stages must be set.
