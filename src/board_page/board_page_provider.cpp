@@ -33,9 +33,23 @@ bool _InitBoardParams(BoardParams* params, const SP_PROPSHEETPAGE_REQUEST* reque
     return BoardInitiate(params, status);
 }
 
-bool _InitBoardBasicSettingsPage(const SP_PROPSHEETPAGE_REQUEST* request, LPFNADDPROPSHEETPAGE addPage,
-                                 LPARAM addPageParam, BoardParams* params) {
-    u32 sStatus = 0;
+// The values read first tell only that the device is a board; the record reads them anew.
+bool ProvidePage(const SP_PROPSHEETPAGE_REQUEST* request, LPFNADDPROPSHEETPAGE addPage, LPARAM addPageParam) {
+    BoardBasicInfo basic = {};
+    u32 sStatus = Kavro_RegBoardGetBasic(request->DeviceInfoSet, request->DeviceInfoData, &basic);
+    if (sStatus != 0) {
+        ReportFailure(FailureBoardBasic, sStatus);
+        return false;
+    }
+    auto* params = static_cast<BoardParams*>(LocalAlloc(LPTR, sizeof(BoardParams)));
+    if (params == nullptr) {
+        ReportFailure(FailureNoMemory, 0);
+        return false;
+    }
+    if (request->PageRequested != SPPSR_ENUM_ADV_DEVICE_PROPERTIES) {
+        LocalFree(params);
+        return true;
+    }
     if (!_InitBoardParams(params, request, &sStatus)) {
         ReportFailure(FailureInitBoard, sStatus);
         ReleaseBoardParams(reinterpret_cast<LPARAM>(params));
@@ -50,23 +64,7 @@ bool _InitBoardBasicSettingsPage(const SP_PROPSHEETPAGE_REQUEST* request, LPFNAD
 extern "C" BOOL WINAPI KvrBoardPropPageProvider(PSP_PROPSHEETPAGE_REQUEST request,
                                                 LPFNADDPROPSHEETPAGE addPage, LPARAM addPageParam) {
     TraceOut("----> %s( )\n", __func__);
-    BoardBasicInfo basic = {};
-    const u32 sStatus = Kavro_RegBoardGetBasic(request->DeviceInfoSet, request->DeviceInfoData, &basic);
-    if (sStatus != 0) {
-        ReportFailure(FailureBoardBasic, sStatus);
-        return FALSE;
-    }
-    auto* params = static_cast<BoardParams*>(LocalAlloc(LPTR, sizeof(BoardParams)));
-    if (params == nullptr) {
-        ReportFailure(FailureNoMemory, 0);
-        return FALSE;
-    }
-    bool bSuccess = true;
-    if (request->PageRequested == SPPSR_ENUM_ADV_DEVICE_PROPERTIES) {
-        bSuccess = _InitBoardBasicSettingsPage(request, addPage, addPageParam, params);
-    } else {
-        LocalFree(params);
-    }
+    const bool bSuccess = ProvidePage(request, addPage, addPageParam);
     TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
     return bSuccess;
 }

@@ -49,8 +49,26 @@ bool _InitUartParams(UartPageParams* params, const SP_PROPSHEETPAGE_REQUEST* req
     return true;
 }
 
-bool _InitUartBasicSettingsPage(const SP_PROPSHEETPAGE_REQUEST* request, LPFNADDPROPSHEETPAGE addPage,
-                                LPARAM addPageParam, UartPageParams* params) {
+bool ProvidePage(const SP_PROPSHEETPAGE_REQUEST* request, LPFNADDPROPSHEETPAGE addPage, LPARAM addPageParam) {
+    ChlBasicInfo basic = {};
+    const u32 sStatus = Kavro_RegChlGetBasic(request->DeviceInfoSet, request->DeviceInfoData, &basic);
+    if (sStatus != 0) {
+        ReportFailure(FailureChannelBasic, sStatus, 0);
+        return false;
+    }
+    if (basic.ChlType != ChlTypeUart) {
+        ReportFailure(FailureNotComPort, 0, basic.ChlNumber);
+        return false;
+    }
+    auto* params = static_cast<UartPageParams*>(LocalAlloc(LPTR, sizeof(UartPageParams)));
+    if (params == nullptr) {
+        ReportFailure(FailureNoMemory, 0, 0);
+        return false;
+    }
+    if (request->PageRequested != SPPSR_ENUM_ADV_DEVICE_PROPERTIES) {
+        LocalFree(params);
+        return true;
+    }
     if (!_InitUartParams(params, request)) {
         ReportFailure(FailureInitPort, 0, 0);
         LocalFree(params);
@@ -65,27 +83,7 @@ bool _InitUartBasicSettingsPage(const SP_PROPSHEETPAGE_REQUEST* request, LPFNADD
 extern "C" BOOL WINAPI KvrUartPropPageProvider(PSP_PROPSHEETPAGE_REQUEST request,
                                                LPFNADDPROPSHEETPAGE addPage, LPARAM addPageParam) {
     TraceOut("----> %s( )\n", __func__);
-    ChlBasicInfo basic = {};
-    const u32 sStatus = Kavro_RegChlGetBasic(request->DeviceInfoSet, request->DeviceInfoData, &basic);
-    if (sStatus != 0) {
-        ReportFailure(FailureChannelBasic, sStatus, 0);
-        return FALSE;
-    }
-    if (basic.ChlType != ChlTypeUart) {
-        ReportFailure(FailureNotComPort, 0, basic.ChlNumber);
-        return FALSE;
-    }
-    auto* params = static_cast<UartPageParams*>(LocalAlloc(LPTR, sizeof(UartPageParams)));
-    if (params == nullptr) {
-        ReportFailure(FailureNoMemory, 0, 0);
-        return FALSE;
-    }
-    bool bSuccess = true;
-    if (request->PageRequested == SPPSR_ENUM_ADV_DEVICE_PROPERTIES) {
-        bSuccess = _InitUartBasicSettingsPage(request, addPage, addPageParam, params);
-    } else {
-        LocalFree(params);
-    }
+    const bool bSuccess = ProvidePage(request, addPage, addPageParam);
     TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
     return bSuccess;
 }
