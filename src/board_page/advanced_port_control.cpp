@@ -225,6 +225,8 @@ INT_PTR CALLBACK BoardUartAdvancedDlgProc(HWND hDlg, UINT message, WPARAM wParam
 } // namespace
 
 void KvrBoardUartAdvancedDlgShow(HWND hParent, BPPCHL* channel) {
+    TraceOut("----> %s( )\n", __func__);
     DialogBoxParamW(ModuleInstance, MAKEINTRESOURCEW(IDD_ADVANCED_PORT_CONTROL), hParent,
                     BoardUartAdvancedDlgProc, reinterpret_cast<LPARAM>(channel));
+    TraceOut("<---- %s\n", __func__);
 }

@@ -24,12 +24,15 @@ BoardParams* PageParams(HWND hDlg) {
 
 bool _OnInitDialog(HWND hDlg, LPARAM page) {
     auto* params = reinterpret_cast<BoardParams*>(reinterpret_cast<const PROPSHEETPAGEW*>(page)->lParam);
+    TraceOut("----> %s( ), [pci:%d,irq:%d]\n", __func__, params->BoardBasic.BoardPciBusNumber,
+             params->BoardBasic.BoardIrq);
     SetWindowLongPtrW(hDlg, DWLP_USER, reinterpret_cast<LONG_PTR>(params));
     AddResourceColumns(hDlg);
     ShowFifoLowLabels(hDlg);
     _FillChannelList(hDlg, params);
     _ChlListSelectChange(hDlg, params, 0);
     params->BasicSettingsDlgInitiateOK = true;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, true);
     return true;
 }
 

@@ -126,6 +126,7 @@ bool RenameIfChosen(HWND hDlg, UartAdvancedParams* params) {
         TraceOut("%s - COM number not change\n", __func__);
         return true;
     }
+    TraceOut("%s - COM number change\n", __func__);
     TraceOut("%s - COM number [old:%d, new:%d]\n", __func__, oldNumber, newNumber);
     if (!RenamePortForUser(hDlg, RenameCodes, params->DeviceInfoSet, params->DeviceInfoData, oldNumber,
                            newNumber, params->NewComName, ComNameCapacity)) {
@@ -206,9 +207,8 @@ INT_PTR CALLBACK UartAdvancedDlgProc(HWND hDlg, UINT message, WPARAM wParam, LPA
     }
 }
 
-} // namespace
-
-bool KvrUartAdvancedDlgShow(HWND hParent, UartAdvancedParams* params) {
+// The port's name and values from the store; false, after a box, if they can't be read.
+bool ReadPort(HWND hParent, UartAdvancedParams* params) {
     u32 sStatus = Kavro_RegUartGetCOMName(params->DeviceInfoSet, params->DeviceInfoData, params->ComName,
                                           sizeof(params->ComName));
     if (sStatus != 0) {
@@ -221,7 +221,18 @@ bool KvrUartAdvancedDlgShow(HWND hParent, UartAdvancedParams* params) {
         ErrorBoxShow(FailureUartBasic, sStatus, hParent, 0, 0, 0, nullptr);
         return false;
     }
-    DialogBoxParamW(ModuleInstance, MAKEINTRESOURCEW(IDD_ADVANCED_PORT_SETTINGS), hParent,
-                    UartAdvancedDlgProc, reinterpret_cast<LPARAM>(params));
     return true;
+}
+
+} // namespace
+
+bool KvrUartAdvancedDlgShow(HWND hParent, UartAdvancedParams* params) {
+    TraceOut("----> %s( )\n", __func__);
+    const bool bSuccess = ReadPort(hParent, params);
+    if (bSuccess) {
+        DialogBoxParamW(ModuleInstance, MAKEINTRESOURCEW(IDD_ADVANCED_PORT_SETTINGS), hParent,
+                        UartAdvancedDlgProc, reinterpret_cast<LPARAM>(params));
+    }
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }

@@ -72,33 +72,39 @@ void _RestoreDefaultClicked(HWND hDlg) {
     NotifySheetOfChange(hDlg);
 }
 
-bool _OnCommand(HWND hDlg, int id, int notifyCode) {
-    auto* params = reinterpret_cast<UartPageParams*>(GetWindowLongPtrW(hDlg, DWLP_USER));
-    TraceOut("----> %s( ), NotifyCode:%d\n", __func__, notifyCode);
-    if (params == nullptr) {
-        return false;
-    }
-    if (notifyCode == CBN_SELCHANGE) {
-        NotifySheetOfChange(hDlg);
-        return true;
-    }
+bool ButtonClicked(HWND hDlg, UartPageParams* params, int id, const char* function) {
     switch (id) {
     case IDCANCEL:
-        TraceOut("%s - IDCANCEL\n", __func__);
+        TraceOut("%s - IDCANCEL\n", function);
         EndDialog(hDlg, 0);
         return true;
     case IDC_ADVANCED:
-        TraceOut("%s - IDC_ADVANCED\n", __func__);
+        TraceOut("%s - IDC_ADVANCED\n", function);
         _AdvancedClicked(hDlg, params);
         return true;
     case IDC_RESTORE_PORT:
-        TraceOut("%s - IDC_RESTORE_PORT\n", __func__);
+        TraceOut("%s - IDC_RESTORE_PORT\n", function);
         _RestoreDefaultClicked(hDlg);
         return true;
     default:
-        TraceOut("%s - DEFAULT:%d\n", __func__, id);
+        TraceOut("%s - DEFAULT:%d\n", function, id);
         return false;
     }
+}
+
+bool _OnCommand(HWND hDlg, int id, int notifyCode) {
+    TraceOut("----> %s( ), NotifyCode:%d\n", __func__, notifyCode);
+    auto* params = reinterpret_cast<UartPageParams*>(GetWindowLongPtrW(hDlg, DWLP_USER));
+    bool bSuccess = true;
+    if (params == nullptr) {
+        bSuccess = false;
+    } else if (notifyCode == CBN_SELCHANGE) {
+        NotifySheetOfChange(hDlg);
+    } else {
+        bSuccess = ButtonClicked(hDlg, params, id, __func__);
+    }
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
 bool _OnNotify(HWND hDlg, LPARAM lParam) {
