@@ -4,7 +4,7 @@
 
 namespace {
 
-using machines::Session;
+using machines::AtWork;
 using sheets::Do;
 using sheets::Lines;
 using sheets::Page;
@@ -91,7 +91,7 @@ TEST(AdvancedPortControl, OffersWhatTheUartCanAndStoresNothingElse) {
             SCOPED_TRACE(testing::Message() << std::hex << "capability 0x" << one.capability << ", mode " << mode);
             const int column = mode == 1 ? 0 : mode == 2 ? 1 : mode == 4 ? 2 : mode == 6 ? 3 : 4;
             sim::Machine machine = UartWith(one.capability, mode, 1);
-            const Session session(machine);
+            const AtWork at_work(machine);
             const std::string before = sheets::StoredMode(1);
             AtDialog([&](HWND dialog) {
                 EXPECT_EQ(sheets::Items(dialog, IDC_INTERFACE_SELECT), column == 4 ? Lines{"Unknow"} : one.offered);
@@ -137,7 +137,7 @@ TEST(AdvancedPortControl, TheUsersChoiceIsStoredByOk) {
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
         sim::Machine machine = UartWith(one.capability, one.mode, one.others);
-        const Session session(machine);
+        const AtWork at_work(machine);
         const std::string before = sheets::StoredMode(1);
         AtDialog([&](HWND dialog) {
             Do(dialog, one.user);
@@ -152,7 +152,7 @@ TEST(AdvancedPortControl, TheUsersChoiceIsStoredByOk) {
 
 TEST(AdvancedPortControl, AFailedWriteKeepsTheDialogAndIsMadeUpForByTheNextOk) {
     sim::Machine machine = UartWith(0xFF, 1, 0);
-    const Session session(machine);
+    const AtWork at_work(machine);
     const auto at_page = [](HWND page) { Do(page, "advanced advanced"); };
     int opened = 0;
     const auto at_dialog = [&](HWND dialog) {

@@ -4,7 +4,7 @@
 
 namespace {
 
-using machines::Session;
+using machines::AtWork;
 using sheets::Do;
 using sheets::Lines;
 using sheets::Page;
@@ -59,7 +59,7 @@ TEST(AdvancedPortSettings, FifoSettingsGoFromTheStoreToTheControlsAndBack) {
         key.SetDword(u"UartFifoEnable", one.stored[0]);
         key.SetDword(u"UartTxFifoLowHigh", one.stored[1]);
         key.SetDword(u"UartRxFifoLowHigh", one.stored[2]);
-        const Session session(machine);
+        const AtWork at_work(machine);
         sheets::Open(Page::Port, port, {.leaves_by = PSBTN_OK}); // the made-up speed of the line is gone
         sheets::Changes();
         const std::string before = sheets::StoredFifo(port);
@@ -135,7 +135,7 @@ TEST(AdvancedPortSettings, OkRenamesThePortOrStaysOpen) {
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
         sim::Machine machine = machines::BoardOn({3, 4});
-        const Session session(machine);
+        const AtWork at_work(machine);
         AtDialog([&](HWND dialog) {
             const HWND sheet = GetWindow(dialog, GW_OWNER);
             Do(dialog, "tx50");
@@ -181,7 +181,7 @@ TEST(AdvancedPortSettings, WhatCantBeReadHasItsBoxAtTheOpening) {
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
         sim::Machine machine = machines::BoardOn({3, 4});
-        const Session session(machine);
+        const AtWork at_work(machine);
         bool opened = false;
         const auto at_page = [&](HWND page) {
             one.fault(machine);
@@ -204,7 +204,7 @@ TEST(AdvancedPortSettings, WhatCantBeReadHasItsBoxAtTheOpening) {
 
 TEST(AdvancedPortSettings, AFailedOkWritesTheFifoAgainAndANewOpeningReadsAfresh) {
     sim::Machine machine = machines::BoardOn({3, 4});
-    const Session session(machine);
+    const AtWork at_work(machine);
     int opened = 0;
     const auto at_page = [](HWND page) { Do(page, "advanced advanced"); };
     const auto at_dialog = [&](HWND dialog) {

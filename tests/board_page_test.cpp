@@ -8,7 +8,7 @@ namespace {
 using machines::AddBoard;
 using machines::AddChannel;
 using machines::AddUart;
-using machines::Session;
+using machines::AtWork;
 using sheets::Do;
 using sheets::Lines;
 using sheets::Open;
@@ -77,7 +77,7 @@ TEST(BoardPageProvider, EachFailureHasItsBoxAndLeavesNothing) {
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
         sim::Machine machine = TwoUartsAndADio();
-        const Session session(machine);
+        const AtWork at_work(machine);
         one.fault(machine);
         EXPECT_EQ(Open(Page::Board, 0, {}, one.request), one.outcome);
         EXPECT_EQ(sheets::Boxes(), one.boxes);
@@ -105,7 +105,7 @@ TEST(BoardPage, ChannelsStandByTheirNumberWithTheirResources) {
     key.SetQword(u"ChlPortAddr", 0xD000);
     machine.devices[dio].key.SetQword(u"ChlPortAddr", 0);
     machine.devices[dio].key.SetDword(u"ChlEventLength", 0);
-    const Session session(machine);
+    const AtWork at_work(machine);
     const auto at_page = [](HWND page) {
         EXPECT_EQ(sheets::Items(page, IDC_PORT_LIST),
                   (Lines{"DIO (port1)", "Mcp251x 2 (port2)", "Mcp251xFd 3 (port3)", "COM12 (port4)",
@@ -146,7 +146,7 @@ TEST(BoardPage, ABoardWithoutListedChannelsIsEmptyAndWorks) {
         sim::Machine machine = TwoUartsAndADio();
         machine.devices[0].key.SetDword(u"BoardNrController", nrController);
         machine.devices[0].key.SetDword(u"BoardIrq", 17);
-        const Session session(machine);
+        const AtWork at_work(machine);
         const auto at_page = [](HWND page) {
             EXPECT_EQ(sheets::Items(page, IDC_PORT_LIST), Lines{});
             EXPECT_EQ(sheets::Rows(page), Lines{});
@@ -164,7 +164,7 @@ TEST(BoardPage, ABoardWithoutListedChannelsIsEmptyAndWorks) {
 TEST(BoardPage, MissingStringsCostTheirColumnOrRow) {
     sim::Machine machine = TwoUartsAndADio();
     machine.missing_strings = {IDS_HIGH, IDS_LOW, IDS_IN_USE_SUFFIX, IDS_IO_RANGE};
-    const Session session(machine);
+    const AtWork at_work(machine);
     const auto at_page = [](HWND page) {
         EXPECT_EQ(sheets::Fifo(page), "on tx 128/128 (128) rx 4 (112) live");
         EXPECT_EQ(sheets::Shown(page, IDC_RECEIVE_LOW), "(1)");
@@ -236,7 +236,7 @@ TEST(BoardPage, FifoSettingsGoFromTheStoreToTheControlsAndBack) {
         SCOPED_TRACE(one.name);
         sim::Machine machine = TwoUartsAndADio();
         SetFifo(machine, 1, one.stored);
-        const Session session(machine);
+        const AtWork at_work(machine);
         const std::string before = sheets::StoredFifo(1);
         const auto at_page = [&](HWND page) {
             Do(page, one.user);
@@ -272,7 +272,7 @@ TEST(BoardPage, FifosOfOtherDepthsBoundWhatIsRead) {
             machine.devices[1].key.SetDword(u"UartTxFifoSize", one.tx_size);
             machine.devices[1].key.SetDword(u"UartRxFifoSize", one.rx_size);
             SetFifo(machine, 1, one.stored);
-            const Session session(machine);
+            const AtWork at_work(machine);
             const auto at_page = [&](HWND page) {
                 EXPECT_EQ(sheets::Fifo(page), one.shown);
                 Do(page, user);
@@ -298,7 +298,7 @@ TEST(BoardPage, AFailedWriteKeepsTheRestPendingForTheNextApply) {
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
         sim::Machine machine = TwoUartsAndADio();
-        const Session session(machine);
+        const AtWork at_work(machine);
         const auto at_page = [&](HWND page) {
             machine.faults.at_call = {{"RegSetValueExW", one.failing}};
             Do(page, "fifo all apply");
@@ -323,7 +323,7 @@ TEST(BoardPage, SetToAllCopiesToSmallerFifosAsItIs) {
         sim::Machine machine = TwoUartsAndADio();
         machine.devices[2].key.SetDword(u"UartTxFifoSize", 16);
         machine.devices[2].key.SetDword(u"UartRxFifoSize", 16);
-        const Session session(machine);
+        const AtWork at_work(machine);
         const auto at_page = [&](HWND page) {
             Do(page, "rx3 all select1");
             EXPECT_EQ(sheets::Fifo(page), "on tx 16/16 High (128) rx 4 High (14) live");
@@ -372,7 +372,7 @@ TEST(BoardPage, OkRenamesTheSelectedPortOrSaysWhyNot) {
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
         sim::Machine machine = TwoUartsAndADio();
-        const Session session(machine);
+        const AtWork at_work(machine);
         const auto at_page = [&](HWND page) {
             Do(page, "tx50");
             Do(page, one.user);
@@ -391,7 +391,7 @@ TEST(BoardPage, OkRenamesTheSelectedPortOrSaysWhyNot) {
 
 TEST(BoardPage, TheSheetsApplyRenamesFromTheNewNumberOn) {
     sim::Machine machine = TwoUartsAndADio();
-    const Session session(machine);
+    const AtWork at_work(machine);
     const auto at_page = [&](HWND page) {
         Do(page, "com20 sheet-apply com21 sheet-apply select0");
         EXPECT_EQ(sheets::Shown(page, IDC_PORT_NUMBER), "COM21");
@@ -405,7 +405,7 @@ TEST(BoardPage, TheSheetsApplyRenamesFromTheNewNumberOn) {
 TEST(BoardPage, AComboOfNumbersThatCantBeFilledIsDisabledWithoutABox) {
     for (const char* operation : {"ComDBOpen", "ComDBGetCurrentPortUsage"}) {
         sim::Machine machine = TwoUartsAndADio();
-        const Session session(machine);
+        const AtWork at_work(machine);
         machine.faults.at_call = {{operation, 1}};
         const auto at_page = [&](HWND page) {
             EXPECT_EQ(sheets::Items(page, IDC_PORT_NUMBER), Lines{});
@@ -421,7 +421,7 @@ TEST(BoardPage, AComboOfNumbersThatCantBeFilledIsDisabledWithoutABox) {
 
 TEST(BoardPage, ASortShowsInTheListAndTheComboOnceTheDialogHasClosed) {
     sim::Machine machine = machines::BoardOn({7, 5});
-    const Session session(machine);
+    const AtWork at_work(machine);
     const auto at_dialog = [](HWND dialog) { Do(dialog, "sort"); };
     const auto at_page = [](HWND page) {
         Do(page, "select1 advanced");

@@ -10,12 +10,12 @@
 #include "device_model/device_store.h"
 #include "reporting/error_reporter.h"
 #include "resources/resource_ids.h"
-#include "tests/session.h"
+#include "tests/at_work.h"
 
 namespace {
 
+using machines::AtWork;
 using machines::OpenDevice;
-using machines::Session;
 using sim::Reach;
 using Change = std::function<void(sim::Machine&)>;
 
@@ -40,7 +40,7 @@ TEST(ComPortDatabase, NumbersAreBitsAndTheHighestFreeOneWins) {
             const BYTE bit = static_cast<BYTE>(number % 8 == 0 ? 0x80 : 1 << (number % 8 - 1));
             machine.port_usage[(number - 1) / 8] |= number == each.exception ? BYTE{0} : bit;
         }
-        const Session session(machine);
+        const AtWork at_work(machine);
         u32 number = 77;
         EXPECT_EQ(Kavro_COMPortGetMaxNumberAvailable(&number), each.status) << each.what;
         EXPECT_EQ(number, each.number) << each.what;
@@ -102,7 +102,7 @@ TEST(ComPortDatabase, TheComboHasAllNumbersAndSparesItsOwn) {
         for (const u32 number : {1, 3, 4, 255, 256}) {
             sim::SetClaimed(machine.port_usage, number, true);
         }
-        const Session session(machine);
+        const AtWork at_work(machine);
         if (each.change) {
             each.change(machine);
         }
@@ -142,7 +142,7 @@ bool RenameFrom5To7() {
 TEST(PortRename, TouchesTheOutsideInThisOrder) {
     sim::Machine machine = machines::BoardOn({5, 6});
     machine.devices[port].install_flags = 0x10;
-    const Session session(machine);
+    const AtWork at_work(machine);
     ASSERT_TRUE(RenameFrom5To7());
     const std::string device = "KVR\\Channel\\1";
     const std::vector<std::string> expected = {
@@ -238,7 +238,7 @@ TEST(PortRename, EveryOperationMayFailOnceAndLeavesTheStateOfItsStep) {
     std::size_t at = 0;
     for (bool hit = true; hit;) {
         sim::Machine machine = machines::BoardOn({5, 6});
-        const Session session(machine);
+        const AtWork at_work(machine);
         machine.faults.at = ++at;
         const bool done = RenameFrom5To7();
         hit = machine.faults.hits != 0;
@@ -331,7 +331,7 @@ TEST(PortRename, TakesTheMachineAsItFindsIt) {
     for (const auto& each : cases) {
         SCOPED_TRACE(each.what);
         sim::Machine machine = machines::BoardOn({5, 6});
-        const Session session(machine);
+        const AtWork at_work(machine);
         each.change(machine);
         RenameFrom5To7();
         EXPECT_EQ(State(machine), each.state);
@@ -340,7 +340,7 @@ TEST(PortRename, TakesTheMachineAsItFindsIt) {
 
 TEST(PortRename, ADosNameThatStayedIsNotDefinedAgain) {
     sim::Machine machine = machines::BoardOn({5, 6});
-    const Session session(machine);
+    const AtWork at_work(machine);
     machine.faults.at_call = {{"DefineDosDeviceW", 1}, {"DefineDosDeviceW", 2}};
     EXPECT_FALSE(RenameFrom5To7());
     EXPECT_EQ(State(machine), untouched);
@@ -363,7 +363,7 @@ TEST(PortSettingsMigration, MovesALineAsItIsWithBothKeysThereAtTheNotice) {
     for (const auto& each : cases) {
         sim::Machine machine;
         machines::SetLine(machine, 5, each.line);
-        const Session session(machine);
+        const AtWork at_work(machine);
         std::size_t notices = 0;
         machine.faults.when = [&](const sim::JournalEntry& entry) {
             if (entry.name == "SendNotifyMessageW") {
@@ -397,7 +397,7 @@ TEST(PortOpenCheck, AnyNumberButZeroIsOpen) {
     for (const auto& each : cases) {
         sim::Machine machine = machines::BoardOn({5});
         machine.devices[port].key.Set(u"ChlOpened", REG_BINARY, each.value);
-        const Session session(machine);
+        const AtWork at_work(machine);
         OpenDevice device(port);
         EXPECT_EQ(Kavro_COMPortCheckOpened(device.set, &device.data), each.status)
             << testing::PrintToString(each.value);

@@ -8,12 +8,12 @@
 
 #include "com_numbers/com_sort.h"
 #include "resources/resource_ids.h"
-#include "tests/session.h"
+#include "tests/at_work.h"
 
 namespace {
 
+using machines::AtWork;
 using machines::OpenBoard;
-using machines::Session;
 using Numbers = std::vector<u32>;
 
 constexpr std::size_t renames_in_exchange = 3;
@@ -61,7 +61,7 @@ TEST(ComSort, MakesTheExchangesInThisOrder) {
     for (const auto& each : cases) {
         SCOPED_TRACE(each.what);
         sim::Machine machine = machines::BoardOn(each.before);
-        const Session session(machine);
+        const AtWork at_work(machine);
         OpenBoard board;
         machines::Forget(machine);
         machines::SortInDialog(machine, board.Channel(1));
@@ -87,7 +87,7 @@ TEST(ComSort, ManyPortsInReverseTakeHalfAsManyExchanges) {
     Numbers numbers(255);
     std::iota(numbers.rbegin(), numbers.rend(), 1);
     sim::Machine machine = machines::BoardOn(numbers);
-    const Session session(machine);
+    const AtWork at_work(machine);
     machine.journal_reads = false;
     const OpenBoard board;
     _SortCOMClicked(nullptr, board.Channel(1));
@@ -177,7 +177,7 @@ TEST(ComSort, AFailureLeavesWhatTheMovesBeforeItDid) {
     for (const auto& each : cases) {
         SCOPED_TRACE(each.what);
         sim::Machine machine = machines::BoardOn({7, 5, 8, 6});
-        const Session session(machine);
+        const AtWork at_work(machine);
         OpenBoard board;
         machines::Forget(machine);
         each.change(machine);
@@ -211,7 +211,7 @@ TEST(ComSort, AFailureLeavesWhatTheMovesBeforeItDid) {
 TEST(ComSort, PortsInTheirPlaceAreNotEvenAsked) {
     sim::Machine machine = machines::BoardOn({4, 2, 3, 1});
     machine.devices[2].key.SetDword(u"ChlOpened", 1);
-    const Session session(machine);
+    const AtWork at_work(machine);
     OpenBoard board;
     machines::Forget(machine);
     _SortCOMClicked(nullptr, board.Channel(2));
@@ -247,7 +247,7 @@ TEST(ComSort, ABoardThatBreaksTheAssumptionsEndsWithoutHarm) {
         SCOPED_TRACE(each.what);
         sim::Machine machine = machines::BoardOn(each.numbers);
         each.change(machine);
-        const Session session(machine);
+        const AtWork at_work(machine);
         const OpenBoard board;
         for (int click = 0; click < 3; ++click) {
             _SortCOMClicked(nullptr, static_cast<BPPCHL*>(ChlListFirst(&board.params.ChlList)));
@@ -265,7 +265,7 @@ TEST(ComSort, ABoardThatBreaksTheAssumptionsEndsWithoutHarm) {
     }
     sim::Machine machine = machines::BoardOn(many);
     sim::SetClaimed(machine.port_usage, 200, false);
-    const Session session(machine);
+    const AtWork at_work(machine);
     machine.journal_reads = false;
     const OpenBoard board;
     EXPECT_EQ(board.params.ChlCount, 300u);
@@ -378,7 +378,7 @@ void SortsAnyMachine() {
     RandomMachine made = AnyMachine();
     sim::Machine& machine = made.machine;
     const sim::Machine before = machine;
-    const Session session(machine);
+    const AtWork at_work(machine);
     machine.journal_reads = false;
     const OpenBoard board;
     Click(board);
@@ -425,7 +425,7 @@ void LeaveOut(const sim::JournalEntry& failed, machines::Places& places) {
 bool SurvivesFailureAt(std::size_t at, RandomMachine made) {
     sim::Machine& machine = made.machine;
     machine.journal_reads = false;
-    const Session session(machine);
+    const AtWork at_work(machine);
     sim::JournalEntry failed;
     {
         const OpenBoard board;

@@ -8,14 +8,14 @@
 
 #include "device_model/board_discovery.h"
 #include "device_model/device_store.h"
-#include "tests/session.h"
+#include "tests/at_work.h"
 
 namespace {
 
+using machines::AtWork;
 using machines::BoardPlace;
 using machines::OpenBoard;
 using machines::OpenDevice;
-using machines::Session;
 using sim::Reach;
 
 // --- The device store -----------------------------------------------------------------------------------
@@ -122,7 +122,7 @@ std::vector<BYTE> ExpectedRecord(const Reading& reading, const sim::Machine& mac
 // Reads on a heap block of the record's very size, so that a byte behind it is found out.
 void ExpectReading(const Reading& reading, sim::Machine& machine, u32 status, std::size_t count,
                    const std::string& what) {
-    const Session session(machine);
+    const AtWork at_work(machine);
     const auto record = std::make_unique<BYTE[]>(reading.record_bytes);
     std::memset(record.get(), 0xAA, reading.record_bytes);
     {
@@ -183,7 +183,7 @@ TEST(DeviceStore, AFailingWriteLeavesThoseBeforeItAndTriesNoneAfter) {
         for (std::size_t failing = 0; failing <= writing.lines.size(); ++failing) {
             sim::Machine machine;
             machine.devices.emplace_back().instance_id = u"D";
-            const Session session(machine);
+            const AtWork at_work(machine);
             if (failing != 0) {
                 machine.faults.at_call = {{"RegSetValueExW", failing}};
             }
@@ -249,7 +249,7 @@ TEST(BoardDiscovery, ARecordIsMadeFromTheStoreAndTheClassOfItsInterface) {
     sim::Machine machine = OneOfEach();
     machine.devices[3].key.SetDword(u"ChlType", 1);           // what the driver calls it has no influence
     machine.devices[2].key.Set(u"DioNrBank", REG_BINARY, {}); // nothing stays of the channel before
-    const Session session(machine);
+    const AtWork at_work(machine);
     const OpenBoard board;
     EXPECT_TRUE(board.initiated);
     EXPECT_EQ(board.status, 0u);
@@ -329,7 +329,7 @@ TEST(BoardDiscovery, AChannelIsKeptIfItCanBeReadAndBelongsToTheBoard) {
     for (const auto& each : cases) {
         sim::Machine machine = OneOfEach();
         each.change(machine);
-        const Session session(machine);
+        const AtWork at_work(machine);
         const OpenBoard board;
         EXPECT_TRUE(board.initiated) << each.what;
         EXPECT_EQ(Channels(board.params), each.channels) << each.what;
@@ -341,7 +341,7 @@ TEST(BoardDiscovery, TheBoardsOwnValuesMustAllBeReadable) {
         for (const Field& field : reading.fields) {
             sim::Machine machine = OneOfEach();
             ASSERT_TRUE(machine.devices[0].key.Erase(sim::FromUtf8(field.name)));
-            const Session session(machine);
+            const AtWork at_work(machine);
             const OpenBoard board;
             EXPECT_FALSE(board.initiated);
             EXPECT_EQ(board.status, StatusReadFailed) << field.name;
@@ -384,7 +384,7 @@ TEST(BoardDiscovery, EveryOperationMayFailOnceAndAllIsGivenBack) {
     std::size_t at = 0;
     for (bool hit = true; hit;) {
         sim::Machine machine = OneOfEach();
-        const Session session(machine);
+        const AtWork at_work(machine);
         machine.faults.at = ++at;
         u32 status = 0;
         std::size_t channels = 0;
@@ -418,7 +418,7 @@ TEST(BoardDiscovery, PromisedNumbersCostNothingAndManyChannelsAreAllWalked) {
     const auto operations = [](u32 nrController) {
         sim::Machine machine = machines::BoardOn({9, 8, 7, 6, 5, 4, 3, 2, 1});
         machine.devices[0].key.SetDword(u"BoardNrController", nrController);
-        const Session session(machine);
+        const AtWork at_work(machine);
         const OpenBoard board;
         machines::SortInDialog(machine, board.Channel(1));
         EXPECT_EQ(machines::PlacesOf(machine, 9), machines::PlacesAt(machine, 9, 9));
@@ -431,7 +431,7 @@ TEST(BoardDiscovery, PromisedNumbersCostNothingAndManyChannelsAreAllWalked) {
     for (u32 channel = 300; channel != 0; --channel) {
         machines::AddChannel(machine, {}, channel % 2 != 0 ? ClassDio : ClassCan, channel);
     }
-    const Session session(machine);
+    const AtWork at_work(machine);
     const OpenBoard board;
     EXPECT_EQ(board.params.ChlCount, 300u);
     u32 walked = 0;

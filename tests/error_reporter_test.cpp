@@ -1,7 +1,7 @@
 // Every failure code with its box, and the boxes without memory or strings.
 #include "reporting/error_reporter.h"
 #include "resources/resource_ids.h"
-#include "tests/session.h"
+#include "tests/at_work.h"
 
 namespace {
 
@@ -86,14 +86,14 @@ void ExpectBox(const sim::Machine& machine, const Expected& expected, u32 choice
 TEST(ErrorReporter, EveryCodeHasItsBox) {
     for (const Expected& expected : all_codes) {
         sim::Machine machine;
-        const machines::Session session(machine);
+        const machines::AtWork at_work(machine);
         ExpectBox(machine, expected, Show(expected.oerr, expected.serr));
     }
     const u32 undefined[] = {0,   5,   99,  104, 149, 153, 199,    206,        249,
                              251, 299, 306, 399, 407, 500, 202000, 0x7FFFFFFF, 0xFFFFFFFF};
     for (const u32 oerr : undefined) {
         sim::Machine machine;
-        const machines::Session session(machine);
+        const machines::AtWork at_work(machine);
         const std::string text =
             "Undefine error. [oerr:" + std::to_string(static_cast<int>(oerr)) + ", serr:202]";
         ExpectBox(machine, {oerr, 202, text.c_str()}, Show(oerr, 202));
@@ -104,7 +104,7 @@ TEST(ErrorReporter, WithoutMemoryEveryCodeSaysSoAndAnswersNo) {
     for (const Expected& code : all_codes) {
         for (const std::size_t failing : {1, 2}) {
             sim::Machine machine;
-            const machines::Session session(machine);
+            const machines::AtWork at_work(machine);
             machine.faults.at_call = {{"LocalAlloc", failing}};
             ExpectBox(machine, {code.oerr, code.serr, out_of_memory, plain, "Communications Port"},
                       Show(code.oerr, code.serr));
@@ -128,7 +128,7 @@ TEST(ErrorReporter, AnAnswerIsTheUsersAndAMissingStringIsAnEmptyText) {
     };
     for (const auto& each : cases) {
         sim::Machine machine;
-        const machines::Session session(machine);
+        const machines::AtWork at_work(machine);
         machine.missing_strings = each.missing;
         machine.user = [&](HWND box) { SendMessageW(box, WM_COMMAND, static_cast<WPARAM>(each.answer), 0); };
         SCOPED_TRACE(each.what);
@@ -138,7 +138,7 @@ TEST(ErrorReporter, AnAnswerIsTheUsersAndAMissingStringIsAnEmptyText) {
 
 TEST(ErrorReporter, ABoxThatCantBeShownAndACallerWithoutInterestDoNoHarm) {
     sim::Machine machine;
-    const machines::Session session(machine);
+    const machines::AtWork at_work(machine);
     ErrorBoxShow(204, 3, nullptr, 0, 0, 0, nullptr);
     EXPECT_FALSE(machine.boxes.front().owned);
     machine.faults.at_call = {{"MessageBoxW", 0}};

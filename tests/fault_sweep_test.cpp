@@ -33,7 +33,7 @@ std::set<std::string> Sweep(const std::function<sim::Machine()>& fresh, Page pag
         SCOPED_TRACE(testing::Message() << "operation " << at);
         sim::Machine machine = fresh();
         machine.journal_reads = false;
-        const machines::Session session(machine);
+        const machines::AtWork at_work(machine);
         machine.faults.at = at;
         sheets::Open(page, device, user);
         if (machine.faults.hits == 0) {

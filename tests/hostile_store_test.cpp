@@ -115,7 +115,7 @@ TEST(HostileStores, NothingBreaksThePages) {
         Hostility by{std::mt19937(seed)};
         sim::Machine machine = HostileMachine(by);
         machine.journal_reads = false;
-        const machines::Session session(machine);
+        const machines::AtWork at_work(machine);
         sheets::User user;
         user.at_page = [&](HWND page) {
             ++pages;

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "resources/resource_ids.h"
-#include "tests/session.h"
+#include "tests/at_work.h"
 
 namespace sheets {
 

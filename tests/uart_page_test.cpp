@@ -5,7 +5,7 @@
 
 namespace {
 
-using machines::Session;
+using machines::AtWork;
 using sheets::Do;
 using sheets::Lines;
 using sheets::Page;
@@ -90,7 +90,7 @@ TEST(UartPageProvider, EachFailureHasItsBoxAndLeavesNothing) {
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
         sim::Machine machine = UartWithLine(u"9600,n,8,1");
-        const Session session(machine);
+        const AtWork at_work(machine);
         one.fault(machine);
         EXPECT_EQ(sheets::Open(Page::Port, port, {}, one.request), one.outcome);
         EXPECT_EQ(sheets::Boxes(), one.boxes);
@@ -120,7 +120,7 @@ TEST(UartPage, AnInitialisationThatFailsLeavesAPageThatSavesNothing) {
         SCOPED_TRACE(one.name);
         sim::Machine machine = UartWithLine(u"75,e,4,2,x");
         one.fault(machine);
-        const Session session(machine);
+        const AtWork at_work(machine);
         const auto at_page = [](HWND page) {
             EXPECT_EQ(Enabled(page), "5");
             sheets::Choose(page, IDC_BAUD_RATE, 5);
@@ -165,7 +165,7 @@ TEST(UartPage, CombosHaveTheirItemsUnderAnySeparators) {
         sim::Machine machine = UartWithLine(u"9600,n,8,1.5");
         machine.language = one.language;
         machine.decimal_separator = one.decimal;
-        const Session session(machine);
+        const AtWork at_work(machine);
         const auto at_page = [&](HWND page) {
             EXPECT_EQ(sheets::Items(page, IDC_BAUD_RATE),
                       (Lines{"75", "110", "134", "150", "300", "600", "1200", "1800", "2400", "4800", "7200", "9600",
@@ -214,7 +214,7 @@ TEST(UartPage, ALineIsReadAndWrittenOnlyIfItDiffers) {
     for (const auto& one : cases) {
         SCOPED_TRACE(sim::ToUtf8(one.line));
         sim::Machine machine = UartWithLine(one.line);
-        const Session session(machine);
+        const AtWork at_work(machine);
         const auto at_page = [&](HWND page) {
             EXPECT_EQ(Selected(page), one.selected);
             EXPECT_EQ(sheets::Changes(), Lines{});
@@ -227,7 +227,7 @@ TEST(UartPage, ALineIsReadAndWrittenOnlyIfItDiffers) {
         for (const WPARAM leaves_by : {ok, cancel}) {
             sim::Machine machine = UartWithLine(none);
             machine.devices[port].remote = leaves_by == cancel;
-            const Session session(machine);
+            const AtWork at_work(machine);
             const auto at_page = [&](HWND page) { EXPECT_EQ(Selected(page), defaults); };
             sheets::Open(Page::Port, port, {.at_page = at_page, .leaves_by = leaves_by});
             EXPECT_EQ(sheets::Changes(), Lines{"WriteProfileStringW [Ports] COM3: = \"9600,n,8,1\""});
@@ -240,7 +240,7 @@ TEST(UartPage, ALineIsReadAndWrittenOnlyIfItDiffers) {
 TEST(UartPage, EverySelectionReadsBackToItself) {
     sim::Machine machine = UartWithLine(u"75,e,4,1,x");
     machine.journal_reads = false;
-    const Session session(machine);
+    const AtWork at_work(machine);
     constexpr int counts[] = {21, 5, 5, 3, 3};
     int selection[] = {0, 0, 0, 0, 0};
     bool done = false;
@@ -270,7 +270,7 @@ TEST(UartPage, EverySelectionReadsBackToItself) {
 
 TEST(UartPage, EveryChangeIsToldToTheSheetAndComparedWithWhatWasRead) {
     sim::Machine machine = UartWithLine(u"19200,e,7,1.5,x");
-    const Session session(machine);
+    const AtWork at_work(machine);
     const auto at_page = [](HWND page) {
         const auto is_told = [=] {
             const bool told = sheets::IsEnabled(GetParent(page), ID_APPLY_NOW);
@@ -308,7 +308,7 @@ TEST(UartPage, ARemoteMachineIsShownAndItsLineSavedAllTheSame) {
     for (const bool detail_fails : {false, true}) { // a set that doesn't tell counts as local
         sim::Machine machine = UartWithLine(u"19,n,8,1");
         machine.devices[port].remote = true;
-        const Session session(machine);
+        const AtWork at_work(machine);
         machine.faults.at_call = {{"SetupDiGetDeviceInfoListDetailW", detail_fails ? 0 : 99}};
         const auto at_page = [=](HWND page) {
             EXPECT_EQ(Enabled(page), detail_fails ? "5 advanced restore" : "0");

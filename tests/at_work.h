@@ -10,12 +10,12 @@ namespace machines {
 
 // Attached while it lasts, with the trace of that gone. At its end all must be given back and nothing
 // misused.
-struct Session {
-    explicit Session(sim::Machine& machine) : machine_(machine), scope_(machine) {
+struct AtWork {
+    explicit AtWork(sim::Machine& machine) : machine_(machine), scope_(machine) {
         DllMain(sim::LibraryInstance(), DLL_PROCESS_ATTACH, nullptr);
         Forget(machine);
     }
-    ~Session() {
+    ~AtWork() {
         for (const auto& [kind, count] : machine_.open) {
             ADD_FAILURE() << count << ' ' << kind << " not given back";
         }
@@ -23,8 +23,8 @@ struct Session {
             ADD_FAILURE() << line;
         }
     }
-    Session(const Session&) = delete;
-    Session& operator=(const Session&) = delete;
+    AtWork(const AtWork&) = delete;
+    AtWork& operator=(const AtWork&) = delete;
 
 private:
     sim::Machine& machine_;
