@@ -17,7 +17,9 @@ def main():
             prefix.use_font(font)
             output, code = prefix.run("kvrfit.exe", *[language for language in group if language in languages])
             lines = output.decode().splitlines()
-            print(*(line for line in lines[:-1] if not line.startswith("known:")), sep="\n", end="")
+            for line in lines[:-1]:
+                if not line.startswith("known:"):
+                    print(line)
             counts = [int(number) for number in re.findall(r"\d+", lines[-1])]
             dialogs, texts, failures = dialogs + counts[0], texts + counts[1], failures + counts[2]
             failed = failed or code != 0

@@ -34,9 +34,14 @@ def take(folder, wanted):
         for dialog in DIALOGS:
             taken = [pathlib.Path(place) / f"{dialog}-{language}.bmp" for language in languages]
             if wanted == "all":
-                labelled = [word for picture in taken for word in ("-label", picture.stem[4:], str(picture))]
+                labelled = []
+                for picture in taken:
+                    labelled.append(str(picture.with_suffix(".png")))
+                    subprocess.run(["convert", str(picture), "-gravity", "south", "-background", "white", "-splice",
+                                    "0x20", "-annotate", "+0+3", picture.stem[4:], labelled[-1]], check=True)
                 made = folder / f"{dialog}-all.png"
-                command = ["montage", *labelled, "-tile", "6x", "-geometry", "+6+6", "-strip", str(made)]
+                command = ["montage", *labelled, "-tile", "6x", "-geometry", "+6+6", "-gravity", "north", "-strip",
+                           str(made)]
             else:
                 made = folder / (f"{dialog}.png" if languages == [ENGLISH] else f"{dialog}-{languages[0]}.png")
                 command = ["convert", str(taken[0]), "-strip", str(made)]

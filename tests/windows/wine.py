@@ -69,9 +69,8 @@ class Prefix:
         subprocess.run(["wineserver", "-p"], env=self.environment(), check=True)
         self.programs = self.place / "drive_c" / "kvr"
         self.programs.mkdir(parents=True, exist_ok=True)
-        for program in PROGRAMS:
-            if (BUILD / program).exists():
-                shutil.copy(BUILD / program, self.programs)
+        for program in PROGRAMS if self.own else []:
+            shutil.copy(BUILD / program, self.programs)
         return self
 
     def __exit__(self, *_):

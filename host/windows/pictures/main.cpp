@@ -37,6 +37,7 @@ void Save(HWND window, int dialog) {
     RECT place;
     SetWindowPos(window, HWND_TOPMOST, 20, 20, 0, 0, SWP_NOSIZE);
     SetForegroundWindow(window);
+    SendMessageW(window, WM_NCACTIVATE, TRUE, 0);
     Settle();
     GetWindowRect(window, &place);
     const LONG width = place.right - place.left, height = place.bottom - place.top;
