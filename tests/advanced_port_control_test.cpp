@@ -153,7 +153,7 @@ TEST(AdvancedPortControl, TheUsersChoiceIsStoredByOk) {
 TEST(AdvancedPortControl, AFailedWriteKeepsTheDialogAndIsMadeUpForByTheNextOk) {
     sim::Machine machine = UartWith(0xFF, 1, 0);
     const AtWork at_work(machine);
-    const auto at_page = [](HWND page) { Do(page, "advanced advanced"); };
+    const auto at_page = [](HWND page) { Do(page, "advanced advanced advanced"); };
     int opened = 0;
     const auto at_dialog = [&](HWND dialog) {
         if (opened++ == 0) {
@@ -162,6 +162,9 @@ TEST(AdvancedPortControl, AFailedWriteKeepsTheDialogAndIsMadeUpForByTheNextOk) {
             Do(dialog, "ok ok");
             EXPECT_TRUE(IsWindowVisible(dialog));
             EXPECT_EQ(sheets::StoredMode(1), "410000"); // as far as it came
+        } else if (opened == 3) {
+            Do(dialog, "ok"); // all is stored by now
+            EXPECT_EQ(sheets::Changes(), Lines{});
         } else {
             EXPECT_EQ(State(dialog), "2ta"); // what is not stored yet
             sheets::Changes();
@@ -174,7 +177,7 @@ TEST(AdvancedPortControl, AFailedWriteKeepsTheDialogAndIsMadeUpForByTheNextOk) {
         }
     };
     EXPECT_EQ(sheets::Open(Page::Board, 0, {.at_page = at_page, .at_dialog = at_dialog}), "left");
-    EXPECT_EQ(opened, 2);
+    EXPECT_EQ(opened, 3);
     EXPECT_EQ(sheets::Boxes(), Lines(2, "Set COM port advance settings failure. [serr:102]"));
 }
 

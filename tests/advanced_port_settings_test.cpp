@@ -6,7 +6,9 @@ namespace {
 
 using machines::AtWork;
 using sheets::Do;
+using sheets::Fail;
 using sheets::Lines;
+using sheets::no_fault;
 using sheets::Page;
 
 constexpr std::size_t port = 1; // the device of the UART on COM3; COM4 is taken by another
@@ -88,49 +90,41 @@ TEST(AdvancedPortSettings, FifoSettingsGoFromTheStoreToTheControlsAndBack) {
 }
 
 TEST(AdvancedPortSettings, OkRenamesThePortOrStaysOpen) {
-    const auto fail = [](const char* operation, std::size_t call) {
-        return [=](sim::Machine& machine) {
-            machine.faults = {}; // counted from here
-            machine.faults.at_call = {{operation, call}};
-        };
-    };
-    const auto nothing = [](sim::Machine&) {};
     const char* notice = "There was an error renaming the COM port.";
     const struct {
         const char* name;
         const char* user;
         int answers;
-        std::function<void(sim::Machine&)> fault; // before OK
+        sheets::Fault fault; // before OK
         Lines boxes;
         u32 number; // afterwards
         bool closed;
         const char* fifo = "1 50 112"; // stored before the number is looked at
     } cases[] = {
-        {"a free number", "com20", IDNO, nothing, {}, 20, true},
-        {"the present number", "com20 com3", IDNO, nothing, {}, 3, true},
-        {"no selection", "com0", IDNO, nothing, {}, 3, true},
-        {"defaults go back to the present number", "com20 defaults tx50", IDNO, nothing, {}, 3, true},
-        {"a taken number, and no", "com4", IDNO, nothing, {question}, 3, false},
-        {"a taken number, and yes", "com4", IDYES, nothing, {question}, 4, true},
-        {"no memory for the question counts as no", "com4", IDYES, fail("LocalAlloc", 1),
-         {"Insufficient memory for this operation;\r\rclose one or more Windows applications to increase available "
-          "memory."}, 3, false},
-        {"a question that can't be shown counts as no", "com4", IDYES, fail("MessageBoxW", 1), {}, 3, false},
+        {"a free number", "com20", IDNO, no_fault, {}, 20, true},
+        {"the present number", "com20 com3", IDNO, no_fault, {}, 3, true},
+        {"no selection", "com0", IDNO, no_fault, {}, 3, true},
+        {"defaults go back to the present number", "com20 defaults tx50", IDNO, no_fault, {}, 3, true},
+        {"a taken number, and no", "com4", IDNO, no_fault, {question}, 3, false},
+        {"a taken number, and yes", "com4", IDYES, no_fault, {question}, 4, true},
+        {"no memory for the question counts as no", "com4", IDYES, Fail("LocalAlloc", 1),
+         {sheets::no_memory}, 3, false},
+        {"a question that can't be shown counts as no", "com4", IDYES, Fail("MessageBoxW", 1), {}, 3, false},
         {"an open port, after the question", "com4", IDYES,
          [](sim::Machine& machine) { machine.devices[port].key.SetDword(u"ChlOpened", 1); },
          {question, "The port has been opened by another application. Close and try again."}, 3, false},
         {"whether it is open can't be read", "com20", IDYES,
-         [](sim::Machine& machine) { machine.devices[port].key.Erase(u"ChlOpened"); },
+         sheets::Erase(port, u"ChlOpened"),
          {"Check COM port opened failure. [serr:101]"}, 3, false},
-        {"no database is no question", "com20", IDYES, fail("ComDBOpen", 0),
+        {"no database is no question", "com20", IDYES, Fail("ComDBOpen", 0),
          {"Check COM port in use failure. [serr:200]"}, 3, false},
-        {"no usage", "com20", IDYES, fail("ComDBGetCurrentPortUsage", 0),
+        {"no usage", "com20", IDYES, Fail("ComDBGetCurrentPortUsage", 0),
          {"Check COM port in use failure. [serr:201]"}, 3, false},
-        {"no DOS name", "com20", IDNO, fail("DefineDosDeviceW", 2), {notice}, 3, false},
-        {"no memory for the rename", "com20", IDNO, fail("LocalAlloc", 1), {notice}, 3, false},
-        {"a FIFO write fails", "com20", IDNO, fail("RegSetValueExW", 2),
+        {"no DOS name", "com20", IDNO, Fail("DefineDosDeviceW", 2), {notice}, 3, false},
+        {"no memory for the rename", "com20", IDNO, Fail("LocalAlloc", 1), {notice}, 3, false},
+        {"a FIFO write fails", "com20", IDNO, Fail("RegSetValueExW", 2),
          {"Set COM port fifo settings failure. [serr:102]"}, 3, false, "1 128 112"},
-        {"the device can't be told", "com20", IDNO, fail("SetupDiCallClassInstaller", 0), {}, 20, true},
+        {"the device can't be told", "com20", IDNO, Fail("SetupDiCallClassInstaller", 0), {}, 20, true},
     };
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
@@ -143,6 +137,7 @@ TEST(AdvancedPortSettings, OkRenamesThePortOrStaysOpen) {
             one.fault(machine);
             Do(dialog, "ok");
             EXPECT_EQ(!IsWindowVisible(dialog), one.closed);
+            EXPECT_EQ(machines::PlacesOf(machine, port), machines::PlacesAt(machine, port, one.number));
             EXPECT_EQ(sheets::Shown(sheet), "Properties of COM" + std::to_string(one.number));
             machine.faults = {};
             sheets::Changes();
@@ -152,26 +147,23 @@ TEST(AdvancedPortSettings, OkRenamesThePortOrStaysOpen) {
         // The page's own OK writes the line, whose speed is in no list, under the name that the port has now.
         EXPECT_EQ(sheets::Changes().front(),
                   "WriteProfileStringW [Ports] COM" + std::to_string(one.number) + ": = \"75,e,7,1 \"");
-        machines::Places places = machines::PlacesAt(machine, port, one.number);
-        places.settings_line = u"75,e,7,1 ";
-        EXPECT_EQ(machines::PlacesOf(machine, port), places);
     }
 }
 
 TEST(AdvancedPortSettings, WhatCantBeReadHasItsBoxAtTheOpening) {
     const struct {
         const char* name;
-        std::function<void(sim::Machine&)> fault;
+        sheets::Fault fault;
         const char* box;
         const char* title; // null if no dialog opens
     } cases[] = {
-        {"no key", [](sim::Machine& machine) { machine.devices[port].access_denied = true; },
+        {"no key", sheets::Lock(port),
          "Get COM port name failure. [serr:100]", nullptr},
-        {"no name", [](sim::Machine& machine) { machine.devices[port].key.Erase(u"PortName"); },
+        {"no name", sheets::Erase(port, u"PortName"),
          "Get COM port name failure. [serr:101]", nullptr},
-        {"a value missing", [](sim::Machine& machine) { machine.devices[port].key.Erase(u"UartCS"); },
+        {"a value missing", sheets::Erase(port, u"UartCS"),
          "Get COM port basic information failure. [serr:101]", nullptr},
-        {"no database", [](sim::Machine& machine) { machine.faults.at_call = {{"ComDBOpen", 1}}; },
+        {"no database", Fail("ComDBOpen", 1),
          "Initiate \"COM Port Number\" combox failure. [serr:200]", "Advenced Port Settings"},
         {"an empty name", [](sim::Machine& machine) { machine.devices[port].key.SetText(u"PortName", u""); },
          "Initiate \"COM Port Number\" combox failure. [serr:301]", "Advenced Port Settings"},

@@ -1,5 +1,5 @@
-// The Port Control page: its provider, the channels and their resources, the FIFO settings from the controls
-// to the store, and the rename at OK.
+// The Port Control page: the channels and their resources, the FIFO settings from the controls to the store,
+// and the rename at OK.
 #include "device_model/board_params.h"
 #include "tests/sheets.h"
 
@@ -10,14 +10,14 @@ using machines::AddChannel;
 using machines::AddUart;
 using machines::AtWork;
 using sheets::Do;
+using sheets::Fail;
 using sheets::Lines;
+using sheets::no_fault;
 using sheets::Open;
 using sheets::Page;
 
 constexpr WPARAM ok = PSBTN_OK;
 constexpr WPARAM cancel = PSBTN_CANCEL;
-constexpr const char* refused = "no page, refused";
-constexpr const char* not_taken = "not taken, refused";
 
 // Channels 1 and 2 are UARTs on COM3 and COM4, the devices 1 and 2; channel 3 is a digital one. The receive
 // stages are 1, 32, 64 and 112.
@@ -36,55 +36,6 @@ void SetFifo(sim::Machine& machine, std::size_t device, const u32 (&stored)[3]) 
     key.SetDword(u"UartTxFifoLowHigh", stored[1]);
     key.SetDword(u"UartRxFifoLowHigh", stored[2]);
 }
-
-// clang-format off
-TEST(BoardPageProvider, EachFailureHasItsBoxAndLeavesNothing) {
-    const char* no_memory = "Insufficient memory for this operation;\r\rclose one or more Windows applications to "
-                            "increase available memory.";
-    const auto erase = [](const char16_t* value) {
-        return [=](sim::Machine& machine) { machine.devices[0].key.Erase(value); };
-    };
-    const auto fail = [](const char* operation, std::size_t call) {
-        return [=](sim::Machine& machine) { machine.faults.at_call = {{operation, call}}; };
-    };
-    const auto lock = [](sim::Machine& machine) { machine.devices[0].access_denied = true; };
-    constexpr DWORD sheet = SPPSR_ENUM_ADV_DEVICE_PROPERTIES;
-    const struct {
-        const char* name;
-        std::function<void(sim::Machine&)> fault;
-        sheets::Request request;
-        const char* outcome;
-        Lines boxes;
-    } cases[] = {
-        {"as it should be", [](sim::Machine&) {}, {}, "left", {}},
-        {"another request adds nothing", [](sim::Machine&) {}, {1, TRUE}, "no page", {}},
-        {"no key", lock, {}, refused, {"Get BOARD basic information failure. [serr:100]"}},
-        {"another request, no bus number", erase(u"BoardPciBusNumber"), {1, TRUE}, refused,
-         {"Get BOARD basic information failure. [serr:101]"}},
-        {"no memory for the record", fail("LocalAlloc", 1), {}, refused, {no_memory}},
-        {"no memory for another request's record", fail("LocalAlloc", 1), {1, TRUE}, refused, {no_memory}},
-        {"no memory at all", fail("LocalAlloc", 0), {}, refused, {no_memory}},
-        {"no third interface set", fail("SetupDiGetClassDevsW", 3), {}, refused,
-         {"Initiate BOARD parameter failure. [serr:2]"}},
-        {"no memory for the discovery", fail("LocalAlloc", 2), {}, refused,
-         {"Initiate BOARD parameter failure. [serr:1]"}},
-        {"a value that nobody uses is missing", erase(u"ConfigBrand"), {}, refused,
-         {"Initiate BOARD parameter failure. [serr:101]"}},
-        {"no page", fail("CreatePropertySheetPageW", 0), {}, refused, {"Create property page failure."}},
-        {"not taken", [](sim::Machine&) {}, {sheet, 0}, not_taken, {"Add property page failure."}},
-        {"only 1 means taken", [](sim::Machine&) {}, {sheet, 2}, not_taken, {"Add property page failure."}},
-    };
-    for (const auto& one : cases) {
-        SCOPED_TRACE(one.name);
-        sim::Machine machine = TwoUartsAndADio();
-        const AtWork at_work(machine);
-        one.fault(machine);
-        EXPECT_EQ(Open(Page::Board, 0, {}, one.request), one.outcome);
-        EXPECT_EQ(sheets::Boxes(), one.boxes);
-        EXPECT_EQ(sheets::Changes(), Lines{});
-    }
-}
-// clang-format on
 
 TEST(BoardPage, ChannelsStandByTheirNumberWithTheirResources) {
     sim::Machine machine;
@@ -336,37 +287,33 @@ TEST(BoardPage, SetToAllCopiesToSmallerFifosAsItIs) {
 }
 
 TEST(BoardPage, OkRenamesTheSelectedPortOrSaysWhyNot) {
-    const auto fail = [](const char* operation, std::size_t call) {
-        return [=](sim::Machine& machine) { machine.faults.at_call = {{operation, call}}; };
-    };
-    const auto nothing = [](sim::Machine&) {};
     const struct {
         const char* name;
         const char* user;
-        std::function<void(sim::Machine&)> fault;
+        sheets::Fault fault;
         Lines boxes;
         u32 number;              // of the first UART afterwards
         const char* fifo = "1 50 112"; // stored before the number is looked at
     } cases[] = {
-        {"a free number", "com20", nothing, {}, 20},
-        {"the last number", "com256", nothing, {}, 256},
-        {"the present number is no change", "com3", nothing, {}, 3},
-        {"no selection is no change", "com0", nothing, {}, 3},
-        {"Apply drops the choice", "com20 apply", nothing, {}, 3},
-        {"Set to All drops the choice", "com20 all", nothing, {}, 3},
-        {"another selection drops the choice", "com20 apply select1 select0", nothing, {}, 3},
-        {"a taken number is refused without a question", "com4", nothing,
+        {"a free number", "com20", no_fault, {}, 20},
+        {"the last number", "com256", no_fault, {}, 256},
+        {"the present number is no change", "com3", no_fault, {}, 3},
+        {"no selection is no change", "com0", no_fault, {}, 3},
+        {"Apply drops the choice", "com20 apply", no_fault, {}, 3},
+        {"Set to All drops the choice", "com20 all", no_fault, {}, 3},
+        {"another selection drops the choice", "com20 apply select1 select0", no_fault, {}, 3},
+        {"a taken number is refused without a question", "com4", no_fault,
          {"This COM name is being used by another device. Try another."}, 3},
         {"an open port", "com20",
          [](sim::Machine& machine) { machine.devices[1].key.SetDword(u"ChlOpened", 2); },
          {"The port has been opened by another application. Close and try again."}, 3},
         {"whether it is open can't be read", "com20",
-         [](sim::Machine& machine) { machine.devices[1].key.Erase(u"ChlOpened"); },
+         sheets::Erase(1, u"ChlOpened"),
          {"Check COM port opened failure. [serr:101]"}, 3},
-        {"no database", "com20", fail("ComDBOpen", 0), {"Check COM port in use failure. [serr:200]"}, 3},
-        {"no usage", "com20", fail("ComDBGetCurrentPortUsage", 0), {"Check COM port in use failure. [serr:201]"}, 3},
-        {"no DOS name", "com20", fail("DefineDosDeviceW", 2), {"There was an error renaming the COM port."}, 3},
-        {"a FIFO write that fails stops the rename", "com20", fail("RegSetValueExW", 1),
+        {"no database", "com20", Fail("ComDBOpen", 0), {"Check COM port in use failure. [serr:200]"}, 3},
+        {"no usage", "com20", Fail("ComDBGetCurrentPortUsage", 0), {"Check COM port in use failure. [serr:201]"}, 3},
+        {"no DOS name", "com20", Fail("DefineDosDeviceW", 2), {"There was an error renaming the COM port."}, 3},
+        {"a FIFO write that fails stops the rename", "com20", Fail("RegSetValueExW", 1),
          {"Set COM3 fifo settings failure. [serr:102]"}, 3, "1 128 112"},
     };
     for (const auto& one : cases) {

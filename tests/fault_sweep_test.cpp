@@ -52,10 +52,6 @@ std::set<std::string> Sweep(const std::function<sim::Machine()>& fresh, Page pag
     }
 }
 
-const char* no_memory =
-    "Insufficient memory for this operation;\r\rclose one or more Windows applications to "
-    "increase available memory.";
-
 TEST(FaultSweep, TheBoardsPage) {
     const auto at_page = [](HWND page) { Do(page, "tx50 rx2 apply fifo all advanced select0 com20"); };
     const auto at_dialog = [](HWND dialog) { Do(dialog, "sort mode2 termination ok ok"); };
@@ -63,7 +59,7 @@ TEST(FaultSweep, TheBoardsPage) {
     const auto fresh = [] { return machines::BoardOn({7, 5}); };
     // clang-format off
     const std::set<std::string> expected = {
-        no_memory, "Create property page failure.", "There was an error renaming the COM port.",
+        sheets::no_memory, "Create property page failure.", "There was an error renaming the COM port.",
         "Get BOARD basic information failure. [serr:#]", "Initiate BOARD parameter failure. [serr:#]",
         "Set COM# fifo settings failure. [serr:#]", "Set COM port advance settings failure. [serr:#]",
         "Check COM port in use failure. [serr:#]", "Check COM port opened failure. [serr:#]",
@@ -86,7 +82,7 @@ TEST(FaultSweep, ThePortsPage) {
     const auto fresh = [] { return machines::BoardOn({7, 5}); };
     // clang-format off
     const std::set<std::string> expected = {
-        no_memory, "Create property page failure.", "There was an error renaming the COM port.",
+        sheets::no_memory, "Create property page failure.", "There was an error renaming the COM port.",
         "Get channel basic information failure. [serr:#]", "Get COM port name failure. [serr:#]",
         "Get COM port basic information failure. [serr:#]", "Initiate COM port parameter failure.",
         "Initiate \"COM Port Number\" combox failure. [serr:#]", "Initiate \"Flow control\" combox failure.",

@@ -63,7 +63,16 @@ TEST(SettingsLine, EveryFieldHasItsFallback) {
     }
 }
 
-TEST(SettingsLine, AComposedLineIsCutAtItsCapacity) {
+TEST(SettingsLine, IsComposedWithItsBlanksAndCutAtItsCapacity) {
+    const std::pair<PortSettings, const char16_t*> cases[] = {{{0, 2, 4, 0, 2}, u"9600,n,8,1 "},
+                                                              {{0, 0, 3, 1, 0}, u"9600,e,7,1.5,x"},
+                                                              {{0, 3, 0, 2, 1}, u"9600,m,4,2 ,p"},
+                                                              {{0, 1, 4, 2, 2}, u"9600,o,8,2  "}};
+    for (const auto& [settings, composed] : cases) {
+        WCHAR line[SettingsLineCapacity] = u"9600";
+        ComposeSettingsLine(line, SettingsLineCapacity, settings);
+        EXPECT_EQ(sim::Text(line), composed);
+    }
     for (u32 capacity = 5; capacity < 20; ++capacity) {
         WCHAR line[20] = u"9600";
         ComposeSettingsLine(line, capacity, {9600, 0, 3, 1, 1});

@@ -86,6 +86,21 @@ sim::Text TitleOf(std::size_t device) {
 
 } // namespace
 
+Fault Fail(const char* operation, std::size_t call) {
+    return [=](sim::Machine& machine) {
+        machine.faults = {};
+        machine.faults.at_call = {{operation, call}};
+    };
+}
+
+Fault Erase(std::size_t device, const char16_t* value) {
+    return [=](sim::Machine& machine) { machine.devices[device].key.Erase(value); };
+}
+
+Fault Lock(std::size_t device) {
+    return [=](sim::Machine& machine) { machine.devices[device].access_denied = true; };
+}
+
 std::string Open(Page page, std::size_t device, const User& user, const Request& request) {
     sim::Machine& machine = sim::Current();
     std::vector<HWND> met; // no handle is given twice

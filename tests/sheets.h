@@ -13,6 +13,17 @@ namespace sheets {
 
 using Lines = std::vector<std::string>;
 
+// What is done to the machine before it meets the user: an operation that fails from then on (0: each call),
+// a value that is missing.
+using Fault = std::function<void(sim::Machine&)>;
+Fault Fail(const char* operation, std::size_t call);
+Fault Erase(std::size_t device, const char16_t* value);
+Fault Lock(std::size_t device);
+inline const Fault no_fault = [](sim::Machine&) {};
+
+inline constexpr const char* no_memory = "Insufficient memory for this operation;\r\rclose one or more "
+                                         "Windows applications to increase available memory.";
+
 enum class Page { Board, Port };
 
 // The language that a test makes up; no real one has this number.

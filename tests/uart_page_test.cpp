@@ -1,4 +1,4 @@
-// The Port Settings page: its provider, its five combos, the settings line through them, and what OK writes.
+// The Port Settings page: its five combos, the settings line through them, and what OK writes.
 #include "platform/simulated/catalogue.h"
 #include "tests/sheets.h"
 #include "uart_page/settings_line.h"
@@ -55,53 +55,10 @@ std::string Enabled(HWND page) {
 }
 
 // clang-format off
-TEST(UartPageProvider, EachFailureHasItsBoxAndLeavesNothing) {
-    const char* no_memory = "Insufficient memory for this operation;\r\rclose one or more Windows applications to "
-                            "increase available memory.";
-    const char* no_port = "KVR channle(1) not COM port type.";
-    const auto fail = [](const char* operation, std::size_t call) {
-        return [=](sim::Machine& machine) { machine.faults.at_call = {{operation, call}}; };
-    };
-    const auto retype = [](sim::Machine& machine) { machine.devices[port].key.SetDword(u"ChlType", 2); };
-    const auto nothing = [](sim::Machine&) {};
-    constexpr DWORD sheet = SPPSR_ENUM_ADV_DEVICE_PROPERTIES;
-    const struct {
-        const char* name;
-        std::function<void(sim::Machine&)> fault;
-        sheets::Request request;
-        const char* outcome;
-        Lines boxes;
-    } cases[] = {
-        {"as it should be", nothing, {}, "left", {}},
-        {"another request adds nothing", nothing, {1, TRUE}, "no page", {}},
-        {"no key", [](sim::Machine& machine) { machine.devices[port].access_denied = true; }, {}, "no page, refused",
-         {"Get channel basic information failure. [serr:100]"}},
-        {"another request, a value missing", [](sim::Machine& machine) { machine.devices[port].key.Erase(u"ChlOpened"); },
-         {1, TRUE}, "no page, refused", {"Get channel basic information failure. [serr:101]"}},
-        {"no UART", retype, {}, "no page, refused", {no_port}},
-        {"another request, no UART", retype, {1, TRUE}, "no page, refused", {no_port}},
-        {"no memory for the record", fail("LocalAlloc", 1), {}, "no page, refused", {no_memory}},
-        {"no memory for the dialog's record", fail("LocalAlloc", 2), {}, "no page, refused",
-         {"Initiate COM port parameter failure."}},
-        {"no page", fail("CreatePropertySheetPageW", 0), {}, "no page, refused", {"Create property page failure."}},
-        {"not taken", nothing, {sheet, 0}, "not taken, refused", {"Add property page failure."}},
-        {"only 1 means taken", nothing, {sheet, 2}, "not taken, refused", {"Add property page failure."}},
-    };
-    for (const auto& one : cases) {
-        SCOPED_TRACE(one.name);
-        sim::Machine machine = UartWithLine(u"9600,n,8,1");
-        const AtWork at_work(machine);
-        one.fault(machine);
-        EXPECT_EQ(sheets::Open(Page::Port, port, {}, one.request), one.outcome);
-        EXPECT_EQ(sheets::Boxes(), one.boxes);
-        EXPECT_EQ(sheets::Changes(), Lines{});
-    }
-}
-
 TEST(UartPage, AnInitialisationThatFailsLeavesAPageThatSavesNothing) {
     const struct {
         const char* name;
-        std::function<void(sim::Machine&)> fault;
+        sheets::Fault fault;
         const char* box;
     } cases[] = {
         {"no parities", [](sim::Machine& machine) { machine.missing_strings = {IDS_PARITY_LIST}; },
@@ -110,7 +67,7 @@ TEST(UartPage, AnInitialisationThatFailsLeavesAPageThatSavesNothing) {
          "Initiate \"Stop bits\" combox failure."},
         {"no flow controls", [](sim::Machine& machine) { machine.missing_strings = {IDS_FLOW_CONTROL_LIST}; },
          "Initiate \"Flow control\" combox failure."},
-        {"no name", [](sim::Machine& machine) { machine.devices[port].key.Erase(u"PortName"); },
+        {"no name", sheets::Erase(port, u"PortName"),
          "Get COM port name failure. [serr:101]"},
         {"a name of 20 characters",
          [](sim::Machine& machine) { machine.devices[port].key.SetText(u"PortName", u"COM34567890123456789"); },
@@ -132,13 +89,13 @@ TEST(UartPage, AnInitialisationThatFailsLeavesAPageThatSavesNothing) {
 }
 
 TEST(UartPage, CombosHaveTheirItemsUnderAnySeparators) {
-    // A made-up language whose lists are separated by other characters, one of them with an empty item.
+    // A made-up language whose lists are separated by other characters, one of them with empty items.
     static const std::vector<sim::CatalogueString> strings = [] {
         const auto english = sim::CatalogueFor(1033).strings;
         std::vector<sim::CatalogueString> made_up(english.begin(), english.end());
         for (sim::CatalogueString& string : made_up) {
             string.text = string.id == IDS_PARITY_LIST      ? u";a,b;c;;d;e"
-                          : string.id == IDS_STOP_BITS_LIST ? u".1.1,5.2.5."
+                          : string.id == IDS_STOP_BITS_LIST ? u"|1|1.5.0|2|"
                           : string.id == IDS_FLOW_CONTROL_LIST ? u"xaxbxc"
                                                                : string.text;
         }
@@ -158,7 +115,7 @@ TEST(UartPage, CombosHaveTheirItemsUnderAnySeparators) {
         {1033, u"\u066B", parities, {"1", "1\u066B5", "2"}},
         {1033, u"::", parities, {"1", "1.5", "2"}},
         {1033, u"", parities, {"1", "1.5", "2"}},
-        {sheets::made_up_language, u"x", {"a,b", "c", "", "d", "e"}, {"1", "1,5", "2", "5", ""}},
+        {sheets::made_up_language, u"x", {"a,b", "c", "", "d", "e"}, {"1", "1x5.0", "2", ""}},
     };
     for (const auto& one : cases) {
         SCOPED_TRACE(sim::ToUtf8(one.decimal));

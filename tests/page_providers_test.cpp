@@ -1,0 +1,80 @@
+// The providers of both pages, as the device manager calls them: every failure with its box, nothing left
+// over.
+#include <span>
+
+#include "tests/sheets.h"
+
+namespace {
+
+using sheets::Erase;
+using sheets::Fail;
+using sheets::Lines;
+using sheets::Lock;
+using sheets::no_fault;
+using sheets::Page;
+
+constexpr DWORD sheet = SPPSR_ENUM_ADV_DEVICE_PROPERTIES;
+constexpr const char* refused = "no page, refused";
+constexpr const char* not_taken = "not taken, refused";
+
+struct Case {
+    const char* name;
+    sheets::Fault fault;
+    sheets::Request request;
+    const char* outcome;
+    Lines boxes;
+};
+
+// clang-format off
+const Case both[] = {
+    {"as it should be", no_fault, {}, "left", {}},
+    {"another request adds nothing", no_fault, {1, TRUE}, "no page", {}},
+    {"no memory for the record", Fail("LocalAlloc", 1), {}, refused, {sheets::no_memory}},
+    {"no memory for another request's record", Fail("LocalAlloc", 1), {1, TRUE}, refused, {sheets::no_memory}},
+    {"no memory at all", Fail("LocalAlloc", 0), {}, refused, {sheets::no_memory}},
+    {"no page", Fail("CreatePropertySheetPageW", 0), {}, refused, {"Create property page failure."}},
+    {"not taken", no_fault, {sheet, 0}, not_taken, {"Add property page failure."}},
+    {"only 1 means taken", no_fault, {sheet, 2}, not_taken, {"Add property page failure."}},
+};
+const Case of_the_board[] = {
+    {"no key", Lock(0), {}, refused, {"Get BOARD basic information failure. [serr:100]"}},
+    {"another request, no bus number", Erase(0, u"BoardPciBusNumber"), {1, TRUE}, refused,
+     {"Get BOARD basic information failure. [serr:101]"}},
+    {"no third interface set", Fail("SetupDiGetClassDevsW", 3), {}, refused,
+     {"Initiate BOARD parameter failure. [serr:2]"}},
+    {"no memory for the discovery", Fail("LocalAlloc", 2), {}, refused, {"Initiate BOARD parameter failure. [serr:1]"}},
+    {"a value that nobody uses is missing", Erase(0, u"ConfigBrand"), {}, refused,
+     {"Initiate BOARD parameter failure. [serr:101]"}},
+};
+const sheets::Fault no_uart = [](sim::Machine& machine) { machine.devices[1].key.SetDword(u"ChlType", 2); };
+const Case of_the_port[] = {
+    {"no key", Lock(1), {}, refused, {"Get channel basic information failure. [serr:100]"}},
+    {"another request, a value missing", Erase(1, u"ChlOpened"), {1, TRUE}, refused,
+     {"Get channel basic information failure. [serr:101]"}},
+    {"no UART", no_uart, {}, refused, {"KVR channle(1) not COM port type."}},
+    {"another request, no UART", no_uart, {1, TRUE}, refused, {"KVR channle(1) not COM port type."}},
+    {"no memory for the dialog's record", Fail("LocalAlloc", 2), {}, refused, {"Initiate COM port parameter failure."}},
+};
+// clang-format on
+
+void Try(Page page, std::size_t device, std::span<const Case> cases) {
+    for (const Case& one : cases) {
+        SCOPED_TRACE(testing::Message() << (page == Page::Board ? "board: " : "port: ") << one.name);
+        sim::Machine machine = machines::BoardOn({3});
+        machines::SetLine(machine, 3, u"9600,n,8,1");
+        const machines::AtWork at_work(machine);
+        one.fault(machine);
+        EXPECT_EQ(sheets::Open(page, device, {}, one.request), one.outcome);
+        EXPECT_EQ(sheets::Boxes(), one.boxes);
+        EXPECT_EQ(sheets::Changes(), Lines{});
+    }
+}
+
+TEST(PageProviders, EachFailureHasItsBoxAndLeavesNothing) {
+    Try(Page::Board, 0, both);
+    Try(Page::Board, 0, of_the_board);
+    Try(Page::Port, 1, both);
+    Try(Page::Port, 1, of_the_port);
+}
+
+} // namespace
