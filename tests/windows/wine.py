@@ -5,7 +5,9 @@ import os
 import pathlib
 import re
 import shutil
+import signal
 import subprocess
+import sys
 import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
@@ -27,12 +29,16 @@ SETTINGS = [
 ]
 
 
+# Whoever stops a test lets it clear up.
+signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
+
+
 def font_settings(font):
     return [["add", SUBSTITUTES, "/v", name, "/d", font] for name in ("MS Shell Dlg", "MS Shell Dlg 2", "Tahoma")]
 
 
 class Screen:
-    """The display at hand if `visible` and there is one, else one of its own without a face."""
+    """A display without a face, one for all prefixes."""
     display = None
 
     @classmethod
@@ -65,8 +71,9 @@ class Prefix:
         if self.own:
             self.place = pathlib.Path(tempfile.mkdtemp(prefix="kvr-windows-"))
             self._copy_of(template(), self.place)
-        # What lies in the registry's volatile part lives as long as the server does.
-        subprocess.run(["wineserver", "-p"], env=self.environment(), check=True)
+        # What lies in the registry's volatile part lives as long as the server does: longer than between two programs,
+        # but not for ever if this process is killed.
+        subprocess.run(["wineserver", "-p60"], env=self.environment(), check=True)
         self.programs = self.place / "drive_c" / "kvr"
         self.programs.mkdir(parents=True, exist_ok=True)
         for program in PROGRAMS if self.own else []:
