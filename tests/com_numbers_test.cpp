@@ -128,10 +128,10 @@ TEST(ComPortDatabase, TheComboHasAllNumbersAndSparesItsOwn) {
 // A user's rename of a UART from COM5 to COM7 on a board page, with the move of its line.
 bool RenameFrom5To7() {
     OpenDevice device(port);
-    WCHAR name[PortNameCapacity] = u"COM5";
+    WCHAR name[StoreTextCapacity] = u"COM5";
     constexpr RenameFailureCodes codes = {FailurePortNumberInUse, FailurePortOpened, FailurePortRemap};
     const bool renamed =
-        RenamePortForUser(nullptr, codes, device.set, &device.data, 5, 7, name, PortNameCapacity);
+        RenamePortForUser(nullptr, codes, device.set, &device.data, 5, 7, name, StoreTextCapacity);
     EXPECT_EQ(sim::ToUtf8(name), renamed ? "COM7" : "COM5");
     if (renamed) {
         Kavro_COMPortMigratePortSettings(u"COM5", name);

@@ -29,7 +29,6 @@ constexpr u32 ChannelClassCount = 5;
 
 // Units of a text field; a stored text has at most twice as many bytes, terminator included.
 constexpr u32 StoreTextCapacity = 64;
-static_assert(StoreTextCapacity == PortNameCapacity);
 
 // The identity of a board: a channel belongs to the board whose two values equal its own.
 struct BoardBasicInfo {

@@ -8,7 +8,7 @@ constexpr u32 RxFifoStageCount = 4;
 // What the two sliders of a UART stand at, on whichever dialog shows them; no part of the store.
 struct FifoSliders {
     u32 RxFifo4Stage[RxFifoStageCount]; // the receive trigger levels, in bytes; all zero for a channel
-                                        // without FIFO
+                                        // that is no UART
     u32 RxFifoPos;                      // position of the receive slider, a stage number, 1 to 4
     u32 RxFifoPosTranslate;             // the trigger level of that position, in bytes
     u32 TxFifoPosTranslate; // position of the transmit slider, which is the trigger level in bytes

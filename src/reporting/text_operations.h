@@ -11,9 +11,6 @@ constexpr u32 TextInvalid = 0x80070057; // the capacity or the destination
 constexpr u32 TextCut = 0x8007007A;     // the destination is full and terminated
 constexpr u32 TextMaxCapacity = 0x7FFFFFFF;
 
-// Units that hold a name such as "COM256".
-constexpr u32 PortNameCapacity = 64;
-
 // One value for FormatText, with its kind: a format text can come from a resource, so a conversion is carried
 // out only on a value of its own kind.
 struct FormatArgument {
