@@ -4,5 +4,4 @@
 
 // `format` is narrow, "%s" stands for a narrow name and "%ws" for UTF-16 text; every line ends in a line
 // feed.
-template <typename... Arguments>
-void TraceOut(const char* /*format*/, const Arguments&... /*arguments*/) {}
+template <typename... Arguments> void TraceOut(const char* /*format*/, const Arguments&... /*arguments*/) {}
