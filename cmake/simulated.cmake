@@ -42,6 +42,12 @@ target_compile_definitions(kvr_tests PRIVATE SOURCE_DIR="${CMAKE_SOURCE_DIR}")
 include(GoogleTest)
 gtest_discover_tests(kvr_tests)
 
+# The product itself, and the fuzzer, as their own presets have built them.
+foreach(test hardening_test resources_test compare_worlds fit_test lifetime_test)
+  add_test(NAME windows/${test} COMMAND python3 ${CMAKE_SOURCE_DIR}/tests/windows/${test}.py)
+endforeach()
+add_test(NAME fuzz/settings_line COMMAND ${CMAKE_SOURCE_DIR}/build/fuzz/settings_line_fuzz -runs=500000 -max_len=400)
+
 # The fuzzer comes with clang.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
   add_executable(settings_line_fuzz tests/fuzz/settings_line_fuzz.cpp ${KVRPAGE})
