@@ -21,10 +21,15 @@ constexpr const char* lines[] = {
     "sheet ok",
     "# Each number now ascends with its channel, in every place that holds it.",
     "ports",
-    "# The sheet of a port: its settings line.",
-    "open 2",
-    "pick \"Bits per second\" 115200",
+    "# The sheet of a port: its settings line, and the dialog that gives it another number.",
+    "open COM3",
+    "pick \"Bits per second\" 19200",
+    "click Advanced",
+    "show",
+    "pick \"COM Port Number\" COM14",
+    "click OK",
     "sheet ok",
+    "# The settings line has moved with the port, and the sheet's OK has written it under the new name.",
     "ports",
 };
 

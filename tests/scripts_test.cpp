@@ -17,6 +17,7 @@
 
 #include "host/interpreter.h"
 #include "host/simulated/world.h"
+#include "host/tour.h"
 
 namespace {
 
@@ -112,6 +113,15 @@ TEST_P(ScriptsTest, RunsAsItsTranscriptTells) {
         << kept.string() << ':' << left - expected.begin() + 1
         << "\n  kept: " << (left == expected.end() ? "(end)" : *left)
         << "\n  now:  " << (right == got.end() ? "(end)" : *right);
+}
+
+TEST(Tour, NoneOfItsCommandsFails) {
+    sim::Machine machine;
+    std::string error;
+    ASSERT_TRUE(host::OpenMachine({}, machine, error)) << error;
+    host::SimulatedWorld world(machine);
+    std::ostringstream out;
+    EXPECT_EQ(host::Interpreter(world, *host::TourLines(), out).Run(), 0) << out.str();
 }
 
 INSTANTIATE_TEST_SUITE_P(Scripts, ScriptsTest, testing::ValuesIn(Names()),
