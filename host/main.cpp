@@ -14,7 +14,7 @@ int main(int argc, char** argv) {
     std::string file;
     LANGID language = 0;
     app.add_option("machine", file, "registry export of the machine; without it, the sample machine");
-    app.add_option("--language", language, "language id of the user, such as 1031");
+    app.add_option("--language", language, "language id of the user, such as 1031; without it, that of the locale");
     CLI11_PARSE(app, argc, argv);
 
     std::string error;

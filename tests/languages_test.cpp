@@ -3,6 +3,7 @@
 #include <map>
 #include <set>
 
+#include "host/simulated/user_language.h"
 #include "platform/simulated/catalogue.h"
 #include "tests/sheets.h"
 
@@ -158,6 +159,27 @@ TEST(Languages, StringsFitTheirBuffersAndListsKeepTheirItems) {
             }
             EXPECT_TRUE(english.id != IDS_STOP_BITS_LIST || text == u",1,1.5,2");
         }
+    }
+}
+
+TEST(UserLanguage, IsThatOfTheLocaleByCountryBeforeLanguage) {
+    const std::pair<const char*, LANGID> locales[] = {
+        {"de_DE.UTF-8", 1031},
+        {"de_AT", 1031},
+        {"en_GB.UTF-8", 2057},
+        {"en_AU", 1033},
+        {"pt_BR", 1046},
+        {"pt_PT@euro", 2070},
+        {"zh_CN.GBK", 2052},
+        {"zh_TW", 1028},
+        {"sv_FI", 29},
+        {"nn_NO", 2068},
+        {"C.UTF-8", 1033},
+        {"tlh_XX.UTF-8", 1033},
+        {"", 1033},
+    };
+    for (const auto& [locale, language] : locales) {
+        EXPECT_EQ(host::LanguageOfLocale(locale), language) << locale;
     }
 }
 

@@ -8,6 +8,7 @@
 #include "host/listing.h"
 #include "host/registry_export.h"
 #include "host/simulated/machine_file.h"
+#include "host/simulated/user_language.h"
 #include "host/text.h"
 #include "reporting/module_entry.h"
 #include "uart_page/uart_page_provider.h"
@@ -161,8 +162,7 @@ std::unique_ptr<World> OpenWorld(const std::string& file, LANGID language, std::
     sim::Machine machine;
     if (!OpenMachine(file, machine, error))
         return nullptr;
-    if (language != 0)
-        machine.language = language;
+    machine.language = language != 0 ? language : UserLanguage();
     return std::make_unique<OwnWorld>(std::move(machine));
 }
 
