@@ -59,6 +59,7 @@ struct Device {
     bool remote = false;        // its set belongs to another machine
     Values key;                 // the hardware key, the device store
     DWORD install_flags = 0;    // SP_DEVINSTALL_PARAMS_W.Flags
+    friend bool operator==(const Device&, const Device&) = default;
 };
 
 // An interface of a device. The enumeration order of a class is the order in `Machine::interfaces`.
@@ -67,6 +68,7 @@ struct Interface {
     Text path;              // the symbolic link, "\\?\..."
     std::size_t device = 0; // index in `Machine::devices`
     bool linked = true;     // present
+    friend bool operator==(const Interface&, const Interface&) = default;
 };
 
 // The usage of the COM numbers as the database keeps it: number n is bit (n - 1) % 8 of byte (n - 1) / 8.

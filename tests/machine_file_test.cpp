@@ -1,0 +1,228 @@
+// What a registry export says of a machine, and that a machine written is the machine that is read again.
+#include <algorithm>
+#include <fstream>
+
+#include <rapidcheck.h>
+
+#include "tests/machine_files.h"
+
+namespace {
+
+using namespace machine_files;
+using sim::Text;
+
+std::string Saved(const sim::Machine& machine) {
+    const std::string file = testing::TempDir() + "machine_file_test.reg";
+    std::string error;
+    EXPECT_TRUE(host::SaveMachine(machine, file, error)) << error;
+    std::ostringstream content;
+    content << std::ifstream(file, std::ios::binary).rdbuf();
+    return content.str();
+}
+
+// All that a file holds of a machine.
+auto Contents(const sim::Machine& machine) {
+    return std::tuple(machine.devices, machine.interfaces, machine.dos_names, machine.serial_map,
+                      machine.serial_map_exists, machine.port_usage, machine.profile);
+}
+
+TEST(MachineFile, GathersAMachineFromTheWholeFile) {
+    std::string lines = R"(Windows Registry Editor Version 5.00
+[HKEY_LOCAL_MACHINE\HARDWARE\DEVICEMAP\SERIALCOMM]
+"\\Device\\B"="COM9"
+"\\Device\\A"="COM5"
+"\\Device\\C"=hex(1):
+"\\Device\\D"="com5"
+[HKEY_LOCAL_MACHINE\Software\Microsoft\Windows NT\CurrentVersion\Ports]
+"COM5:"="9600,n,8,1"
+[$PORTS\##?#z]
+"DeviceInstance"="x\\y\\Z"
+[$PORTS\##?#z\#]
+"SymbolicLink"="\\\\?\\own"
+[$PORTS\##?#Y_]
+"DeviceInstance"="X\\Y\\2"
+[$PORTS\##?#Y_\#]
+[$PORTS\##?#Y_\#\Control]
+"Linked"=dword:1
+[$PORTS\##?#yA]
+"DeviceInstance"="X\\Y\\2"
+[$PORTS\##?#yA\#one]
+[$PORTS\##?#yA\#Two]
+[$PORTS\##?#yA\Control]
+"Linked"=dword:1
+[$PORTS\##?#lost]
+"DeviceInstance"="no\\such\\device"
+[$PORTS\##?#none\#]
+[$SET\Enum\X\Y\Z]
+"DeviceDesc"="@x.inf,%a;b%;A Port; new;Port"
+"Class"="Ports"
+"Mfg"="x"
+[$SET\Enum\X\Y\2]
+"DeviceDesc"="@x"
+"ClassGUID"="{86e0d1e0-8089-11D0-9CE4-08003E301F73}"
+"FriendlyName"="F"
+[$SET\Control\Class\{86E0D1E0-8089-11D0-9CE4-08003E301F73}]
+"Class"="Named"
+[$SET\Enum\x\y\z\Device Parameters]
+"PortName"="COM5"
+[$SET\Enum\x\y\z\Device Parameters\Below]
+"PortName"="COM6"
+[$SET\Enum\x\y]
+"DeviceDesc"="none"
+[$SET\Control\COM Name Arbiter]
+"ComDB"=hex:11,01
+)";
+    const std::pair<std::string, std::string> short_forms[] = {
+        {"$PORTS", "$SET\\Control\\DeviceClasses\\{86E0D1E0-8089-11D0-9CE4-08003E301F73}"},
+        {"$SET", "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet"}};
+    for (const auto& [short_form, path] : short_forms)
+        for (std::size_t at = 0; (at = lines.find(short_form, at)) != std::string::npos;)
+            lines.replace(at, short_form.size(), path);
+    const sim::Machine machine = Loaded(lines);
+    const GUID port_class{0x86E0D1E0, 0x8089, 0x11D0, {0x9C, 0xE4, 0x08, 0x00, 0x3E, 0x30, 0x1F, 0x73}};
+    ASSERT_EQ(machine.devices.size(), 2u);
+    EXPECT_EQ(machine.devices[0].instance_id, u"X\\Y\\Z");
+    EXPECT_EQ(machine.devices[0].description, u"Port");
+    EXPECT_EQ(machine.devices[0].class_name, u"Ports");
+    EXPECT_EQ(machine.devices[0].key, (sim::Values{{{u"PortName", REG_SZ, BytesOf(u"COM5")}}}));
+    EXPECT_EQ(machine.devices[1].description, u"@x");
+    EXPECT_EQ(machine.devices[1].friendly_name, u"F");
+    EXPECT_EQ(machine.devices[1].class_guid, port_class);
+    EXPECT_EQ(machine.devices[1].class_name, u"Named");
+    EXPECT_FALSE(machine.devices[1].has_key);
+    EXPECT_EQ(machine.interfaces, (std::vector<sim::Interface>{{port_class, u"\\\\?\\yA\\one", 1, true},
+                                                               {port_class, u"\\\\?\\yA\\Two", 1, true},
+                                                               {port_class, u"\\\\?\\Y_", 1, true},
+                                                               {port_class, u"\\\\?\\own", 0, false}}));
+    EXPECT_EQ(machine.serial_map.list.size(), 4u);
+    EXPECT_EQ(machine.dos_names,
+              (std::vector<std::pair<Text, Text>>{{u"COM9", u"\\Device\\B"}, {u"COM5", u"\\Device\\A"}}));
+    EXPECT_EQ(machine.port_usage, (sim::PortUsage{0x11, 0x01}));
+    EXPECT_EQ(machine.profile.at(0).second.Find(u"com5:")->data, BytesOf(u"9600,n,8,1"));
+}
+
+TEST(MachineFile, ChoosesTheControlSetAndHeedsDeletions) {
+    const auto device = [](const std::string& control_set) {
+        return "[HKEY_LOCAL_MACHINE\\SYSTEM\\" + control_set + "\\Enum\\A\\B\\" + control_set + "]\n";
+    };
+    const std::string all = device("ControlSet001") + device("CurrentControlSet") + device("ControlSet003");
+    const std::string system = "HKEY_LOCAL_MACHINE\\SYSTEM";
+    const std::string third = "[" + system + "\\Select]\n\"Current\"=dword:3\n";
+    const struct {
+        std::string lines;
+        Text found; // the one device, if any
+    } cases[] = {
+        {all + third, u"CurrentControlSet"},
+        {third + device("ControlSet001") + device("ControlSet003"), u"ControlSet003"},
+        {device("ControlSet001") + device("ControlSet003"), u"ControlSet001"},
+        {device("ControlSet001") + third + "\"current\"=-\n", u"ControlSet001"},
+        {device("ControlSet001") + third, u""},
+        {device("ControlSet001") + "[" + system + "\\CurrentControlSet\\Services\\X]\n", u"ControlSet001"},
+        {all + third + "[-" + system + "\\CurrentControlSet]\n", u"ControlSet003"},
+        {all + "[-" + system + "\\currentcontrolset\\enum\\a]\n", u""},
+        {all + "[-" + system + "\\CurrentControlSet\\Enum\\A\\B\\C]\n", u"CurrentControlSet"},
+        {all + "[-" + system + "]\n" + device("ControlSet001"), u"ControlSet001"},
+        {all + "[-HKEY_USERS\\SYSTEM]\n", u"CurrentControlSet"},
+    };
+    for (const auto& each : cases) {
+        const sim::Machine machine = Loaded(first_line + each.lines);
+        const Text found = machine.devices.empty() ? u"" : machine.devices[0].instance_id.substr(4);
+        EXPECT_EQ(found, each.found) << each.lines;
+        EXPECT_LE(machine.devices.size(), 1u);
+        EXPECT_FALSE(machine.serial_map_exists);
+    }
+}
+
+TEST(MachineFile, SaysWhyItCannotBeWritten) {
+    for (const std::string file : {"/no/such/folder/x.reg", "/dev/full"}) {
+        std::string error;
+        EXPECT_FALSE(host::SaveMachine(Loaded(std::string(host::SampleMachine())), file, error));
+        EXPECT_TRUE(error.starts_with("can't write " + file + ": ")) << error;
+    }
+}
+
+// Every place that holds a port's number agrees, so that a rename begins on sound ground.
+TEST(MachineFile, BringsASampleThatAgreesWithItself) {
+    const sim::Machine machine = Loaded(std::string(host::SampleMachine()));
+    EXPECT_EQ(machine.devices.size(), 19u);
+    EXPECT_EQ(machine.interfaces.size(), 17u);
+    std::size_t ports = 0;
+    for (const sim::Device& device : machine.devices)
+        if (const sim::Value* const port = device.key.Find(u"PortName")) {
+            ++ports;
+            const Text name(reinterpret_cast<const WCHAR*>(port->data.data()));
+            EXPECT_EQ(device.friendly_name, *device.description + u" (" + name + u")");
+            EXPECT_TRUE(std::ranges::find(machine.dos_names, name, &std::pair<Text, Text>::first) !=
+                        machine.dos_names.end());
+            EXPECT_TRUE(sim::IsClaimed(machine.port_usage,
+                                       static_cast<unsigned>(std::stoul(sim::ToUtf8(name.substr(3))))));
+        }
+    EXPECT_EQ(ports, machine.serial_map.list.size());
+    EXPECT_EQ(Contents(Loaded(Saved(machine))), Contents(machine));
+}
+
+// Texts of all that has a meaning in a file, and of half surrogates.
+rc::Gen<Text> AnyText() {
+    return rc::gen::container<Text>(rc::gen::element<char16_t>(u'a', u'Z', u' ', u'"', u'\\', u'\n', u'\r',
+                                                               u';', u'=', u']', u'-', u'@', u'\t', 0xD800,
+                                                               0xDC00, 0xFEFF, 0x0A0A));
+}
+
+bool Either() {
+    return *rc::gen::arbitrary<bool>();
+}
+
+sim::Values AnyValues() {
+    sim::Values values;
+    const int count = *rc::gen::inRange(0, 5);
+    for (int i = 0; i < count; ++i) {
+        // Names differ by their number; without it, one is the default value.
+        const Text name = i == 0 && Either() ? u"" : sim::FromUtf8(std::to_string(i)) + *AnyText();
+        if (Either())
+            values.SetText(name, *AnyText());
+        else
+            values.Set(name, *rc::gen::element<DWORD>(0, 1, 2, 3, 4, 7, 11, 0xFFFF0012),
+                       *rc::gen::arbitrary<Bytes>());
+    }
+    return values;
+}
+
+sim::Machine AnyMachine() {
+    sim::Machine machine;
+    const GUID classes[] = {{0x10, 2, 3, {4, 5, 6, 7, 8, 9, 10, 11}}, {0xF0000000, 0xFFFF, 0, {}}};
+    const int devices = *rc::gen::inRange(1, 4);
+    for (int i = 0; i < devices; ++i) {
+        sim::Device& device = machine.devices.emplace_back();
+        device.instance_id = u"PCI\\VEN_1&DEV_2\\" + sim::FromUtf8(std::to_string(9 - i));
+        device.class_name = *AnyText();
+        device.class_guid = Either() ? std::optional(classes[i % 2]) : std::nullopt;
+        device.description = Either() ? std::optional(u"x" + *AnyText()) : std::nullopt;
+        device.friendly_name = Either() ? std::optional(*AnyText()) : std::nullopt;
+        device.has_key = Either();
+        device.key = device.has_key ? AnyValues() : sim::Values();
+    }
+    const int interfaces = *rc::gen::inRange(0, 4);
+    for (const GUID& each : classes)
+        for (int i = 0; i < interfaces; ++i)
+            machine.interfaces.push_back(
+                {each, u"\\\\?\\dev#" + sim::FromUtf8(std::to_string(i)) + (i % 2 ? u"" : u"\\ref"),
+                 *rc::gen::inRange<std::size_t>(0, machine.devices.size()), Either()});
+    for (BYTE& byte : machine.port_usage)
+        byte = *rc::gen::arbitrary<BYTE>();
+    machine.serial_map_exists = Either();
+    machine.serial_map = machine.serial_map_exists ? AnyValues() : sim::Values();
+    if (Either())
+        machine.profile.emplace_back(u"Ports", AnyValues());
+    return machine;
+}
+
+TEST(MachineFile, GivesAnyMachineBackAsItWas) {
+    EXPECT_TRUE(rc::check([] {
+        const sim::Machine machine = AnyMachine();
+        sim::Machine read = Loaded(Saved(machine));
+        read.dos_names.clear(); // which the file holds as the serial map alone
+        RC_ASSERT(Contents(read) == Contents(machine));
+    }));
+}
+
+} // namespace

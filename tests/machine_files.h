@@ -1,0 +1,36 @@
+// Machine files for the tests: reads one that must be right, and makes what stands in it.
+#pragma once
+
+#include <cstring>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "host/simulated/machine_file.h"
+
+namespace machine_files {
+
+using Bytes = std::vector<BYTE>;
+
+inline const std::string first_line = "Windows Registry Editor Version 5.00\n";
+
+inline sim::Machine Loaded(const std::string& bytes) {
+    std::istringstream in(bytes);
+    sim::Machine machine;
+    host::Problem problem;
+    EXPECT_TRUE(host::LoadMachine(in, "some.reg", machine, problem))
+        << problem.line << ": expected " << problem.expected << "\n"
+        << bytes;
+    return machine;
+}
+
+// A text with its terminator.
+inline Bytes BytesOf(const sim::Text& text) {
+    Bytes bytes((text.size() + 1) * sizeof(WCHAR));
+    std::memcpy(bytes.data(), text.data(), text.size() * sizeof(WCHAR));
+    return bytes;
+}
+
+} // namespace machine_files
