@@ -4,10 +4,8 @@
 
 namespace {
 
-using machines::AtWork;
-using sheets::Do;
-using sheets::Lines;
-using sheets::Page;
+using namespace machines;
+using namespace sheets;
 
 const char* no_capability = "Check COM port advance settings with capability failure.";
 
@@ -16,14 +14,14 @@ const char* no_capability = "Check COM port advance settings with capability fai
 // combo.
 std::string State(HWND dialog) {
     const auto box = [=](int id, char on) {
-        const bool enabled = sheets::IsEnabled(dialog, id);
-        return sheets::IsOn(dialog, id) ? (enabled ? on : '!') : (enabled ? 'o' : '.');
+        const bool enabled = IsEnabled(dialog, id);
+        return IsOn(dialog, id) ? (enabled ? on : '!') : (enabled ? 'o' : '.');
     };
-    const int entry = sheets::Selection(dialog, IDC_INTERFACE_SELECT);
-    const bool enabled = sheets::IsEnabled(dialog, IDC_INTERFACE_SELECT);
-    EXPECT_EQ(sheets::IsEnabled(dialog, IDC_INTERFACE_CAPTION), enabled);
-    EXPECT_TRUE(sheets::IsEnabled(dialog, IDC_SORT_COM));
-    const bool unknown = sheets::Items(dialog, IDC_INTERFACE_SELECT) == Lines{"Unknow"};
+    const int entry = Selection(dialog, IDC_INTERFACE_SELECT);
+    const bool enabled = IsEnabled(dialog, IDC_INTERFACE_SELECT);
+    EXPECT_EQ(IsEnabled(dialog, IDC_INTERFACE_CAPTION), enabled);
+    EXPECT_TRUE(IsEnabled(dialog, IDC_SORT_COM));
+    const bool unknown = Items(dialog, IDC_INTERFACE_SELECT) == Lines{"Unknow"};
     return std::string(1, entry < 0 ? '-'
                           : unknown ? '?'
                                     : static_cast<char>('0' + entry)) +
@@ -32,7 +30,7 @@ std::string State(HWND dialog) {
 
 // A board with one UART on COM3, device 1, with a stored mode and the other five values alike.
 sim::Machine UartWith(u32 capability, u32 mode, u32 others) {
-    sim::Machine machine = machines::BoardOn({3});
+    sim::Machine machine = BoardOn({3});
     sim::Values& key = machine.devices[1].key;
     key.SetDword(u"UartCapability", capability);
     key.SetDword(u"UartMode", mode);
@@ -46,7 +44,7 @@ sim::Machine UartWith(u32 capability, u32 mode, u32 others) {
 // Opens the dialog from its page, which is cancelled afterwards.
 void AtDialog(std::function<void(HWND)> user) {
     const auto advanced = [](HWND page) { Do(page, "advanced"); };
-    EXPECT_EQ(sheets::Open(Page::Board, 0, {.at_page = advanced, .at_dialog = std::move(user)}), "left");
+    EXPECT_EQ(Open(Page::Board, 0, {.at_page = advanced, .at_dialog = std::move(user)}), "left");
 }
 
 // clang-format off
@@ -92,9 +90,9 @@ TEST(AdvancedPortControl, OffersWhatTheUartCanAndStoresNothingElse) {
             const int column = mode == 1 ? 0 : mode == 2 ? 1 : mode == 4 ? 2 : mode == 6 ? 3 : 4;
             sim::Machine machine = UartWith(one.capability, mode, 1);
             const AtWork at_work(machine);
-            const std::string before = sheets::StoredMode(1);
+            const std::string before = StoredMode(1);
             AtDialog([&](HWND dialog) {
-                EXPECT_EQ(sheets::Items(dialog, IDC_INTERFACE_SELECT), column == 4 ? Lines{"Unknow"} : one.offered);
+                EXPECT_EQ(Items(dialog, IDC_INTERFACE_SELECT), column == 4 ? Lines{"Unknow"} : one.offered);
                 EXPECT_EQ(State(dialog), column == 4 ? "?..#" : one.opened[column]);
                 if (column >= 3) {
                     Do(dialog, "defaults");
@@ -102,15 +100,15 @@ TEST(AdvancedPortControl, OffersWhatTheUartCanAndStoresNothingElse) {
                 }
                 Do(dialog, "cancel");
             });
-            EXPECT_EQ(sheets::Changes(), Lines{});
+            EXPECT_EQ(Changes(), Lines{});
             AtDialog([&](HWND dialog) {
                 Do(dialog, "ok");
                 EXPECT_EQ(IsWindowVisible(dialog) != FALSE, *one.after_ok[column] == 0);
             });
             const std::string after = *one.after_ok[column] ? one.after_ok[column] : before;
-            EXPECT_EQ(sheets::StoredMode(1), after);
-            EXPECT_EQ(sheets::Changes().size(), after == before ? 0u : 6u); // the six values, and nothing else
-            EXPECT_EQ(sheets::Boxes(), *one.after_ok[column] ? Lines{} : Lines{no_capability});
+            EXPECT_EQ(StoredMode(1), after);
+            EXPECT_EQ(Changes().size(), after == before ? 0u : 6u); // the six values, and nothing else
+            EXPECT_EQ(Boxes(), *one.after_ok[column] ? Lines{} : Lines{no_capability});
         }
     }
 }
@@ -138,14 +136,14 @@ TEST(AdvancedPortControl, TheUsersChoiceIsStoredByOk) {
         SCOPED_TRACE(one.name);
         sim::Machine machine = UartWith(one.capability, one.mode, one.others);
         const AtWork at_work(machine);
-        const std::string before = sheets::StoredMode(1);
+        const std::string before = StoredMode(1);
         AtDialog([&](HWND dialog) {
             Do(dialog, one.user);
             EXPECT_EQ(State(dialog), one.shown);
             Do(dialog, "ok");
         });
-        EXPECT_EQ(sheets::StoredMode(1), *one.after_ok ? one.after_ok : before);
-        EXPECT_EQ(sheets::Boxes(), *one.after_ok ? Lines{} : Lines{no_capability});
+        EXPECT_EQ(StoredMode(1), *one.after_ok ? one.after_ok : before);
+        EXPECT_EQ(Boxes(), *one.after_ok ? Lines{} : Lines{no_capability});
     }
 }
 // clang-format on
@@ -161,24 +159,24 @@ TEST(AdvancedPortControl, AFailedWriteKeepsTheDialogAndIsMadeUpForByTheNextOk) {
             machine.faults.at_call = {{"RegSetValueExW", 3}, {"RegSetValueExW", 4}};
             Do(dialog, "ok ok");
             EXPECT_TRUE(IsWindowVisible(dialog));
-            EXPECT_EQ(sheets::StoredMode(1), "410000"); // as far as it came
+            EXPECT_EQ(StoredMode(1), "410000"); // as far as it came
         } else if (opened == 3) {
             Do(dialog, "ok"); // all is stored by now
-            EXPECT_EQ(sheets::Changes(), Lines{});
+            EXPECT_EQ(Changes(), Lines{});
         } else {
             EXPECT_EQ(State(dialog), "2ta"); // what is not stored yet
-            sheets::Changes();
+            Changes();
             Do(dialog, "ok");
-            EXPECT_EQ(sheets::Changes(),
+            EXPECT_EQ(Changes(),
                       (Lines{"RegSetValueExW 1 UartMode = 4", "RegSetValueExW 1 UartAHDC = 1",
                              "RegSetValueExW 1 UartCS = 1", "RegSetValueExW 1 UartAutoRS422485 = 0",
                              "RegSetValueExW 1 UartRS422Termination = 0",
                              "RegSetValueExW 1 UartRS485Termination = 1"}));
         }
     };
-    EXPECT_EQ(sheets::Open(Page::Board, 0, {.at_page = at_page, .at_dialog = at_dialog}), "left");
+    EXPECT_EQ(Open(Page::Board, 0, {.at_page = at_page, .at_dialog = at_dialog}), "left");
     EXPECT_EQ(opened, 3);
-    EXPECT_EQ(sheets::Boxes(), Lines(2, "Set COM port advance settings failure. [serr:102]"));
+    EXPECT_EQ(Boxes(), Lines(2, "Set COM port advance settings failure. [serr:102]"));
 }
 
 } // namespace

@@ -4,27 +4,18 @@
 
 namespace {
 
-using machines::AtWork;
-using sheets::Do;
-using sheets::Fail;
-using sheets::Lines;
-using sheets::no_fault;
-using sheets::Page;
+using namespace machines;
+using namespace sheets;
 
 constexpr std::size_t port = 1; // the device of the UART on COM3; COM4 is taken by another
 
-const char* question =
-    "This COM name is being used by another device (such as another com port or modem).  Using "
-    "duplicate names can lead to inaccessible devices and changed settings.  Do you want to "
-    "continue?";
 const char* notified = "SetupDiCallClassInstaller 1 DIF_PROPERTYCHANGE";
 
 // Opens the dialog once from its page, which is then closed by OK.
 void AtDialog(std::function<void(HWND)> user, int answers = IDNO) {
     const auto at_page = [](HWND page) { Do(page, "advanced"); };
-    const sheets::User hand = {
-        .at_page = at_page, .at_dialog = std::move(user), .leaves_by = PSBTN_OK, .answers = answers};
-    EXPECT_EQ(sheets::Open(Page::Port, port, hand), "ok");
+    const User hand = {.at_page = at_page, .at_dialog = std::move(user), .leaves_by = ok, .answers = answers};
+    EXPECT_EQ(Open(Page::Port, port, hand), "ok");
 }
 
 // clang-format off
@@ -34,11 +25,9 @@ TEST(AdvancedPortSettings, FifoSettingsGoFromTheStoreToTheControlsAndBack) {
         u32 sizes[2], stored[3];
         const char *user, *shown, *after_ok;
     } cases[] = {
-        {"as stored", {128, 128}, {1, 9, 32}, "", "on tx 9/128 High (9) rx 2 High (32) live", "1 9 32"},
         {"between stages", {128, 128}, {1, 9, 63}, "", "on tx 9/128 High (9) rx 2 High (32) live", "1 9 32"},
         {"above the FIFO", {128, 128}, {1, 300, 300}, "", "on tx 128/128 High (300) rx 4 High (112) live", "1 128 112"},
         {"off", {128, 128}, {0, 9, 32}, "", "off tx 1/128 High (1) rx 1 High (1) dead", "0 1 1"},
-        {"off as it should be", {128, 128}, {0, 1, 1}, "", "off tx 1/128 High (1) rx 1 High (1) dead", "0 1 1"},
         {"turned on, at where the sliders stand", {128, 128}, {0, 9, 32}, "fifo",
          "on tx 1/128 High (1) rx 1 High (1) live", "1 1 1"},
         {"slid", {128, 128}, {1, 9, 32}, "tx77 rx3", "on tx 77/128 High (77) rx 3 High (64) live", "1 77 64"},
@@ -54,38 +43,36 @@ TEST(AdvancedPortSettings, FifoSettingsGoFromTheStoreToTheControlsAndBack) {
     };
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
-        sim::Machine machine = machines::BoardOn({3, 4});
+        sim::Machine machine = BoardOn({3, 4});
         sim::Values& key = machine.devices[port].key;
         key.SetDword(u"UartTxFifoSize", one.sizes[0]);
         key.SetDword(u"UartRxFifoSize", one.sizes[1]);
-        key.SetDword(u"UartFifoEnable", one.stored[0]);
-        key.SetDword(u"UartTxFifoLowHigh", one.stored[1]);
-        key.SetDword(u"UartRxFifoLowHigh", one.stored[2]);
         const AtWork at_work(machine);
-        sheets::Open(Page::Port, port, {.leaves_by = PSBTN_OK}); // the made-up speed of the line is gone
-        sheets::Changes();
-        const std::string before = sheets::StoredFifo(port);
+        StoreFifo(port, one.stored);
+        Open(Page::Port, port, {.leaves_by = ok}); // the made-up speed of the line is gone
+        Changes();
+        const std::string before = StoredFifo(port);
         AtDialog([&](HWND dialog) {
-            EXPECT_EQ(sheets::Shown(dialog), "Advanced Settings for COM3");
-            EXPECT_EQ(sheets::Shown(dialog, IDC_LARGEFIFO),
+            EXPECT_EQ(Shown(dialog), "Advanced Settings for COM3");
+            EXPECT_EQ(Shown(dialog, IDC_LARGEFIFO),
                       "&Enable " + std::to_string(one.sizes[1]) + " Byte FIFO buffers");
-            EXPECT_EQ(sheets::Shown(dialog, IDC_TRANSMIT_LOW) + sheets::Shown(dialog, IDC_RECEIVE_LOW), "Low (1)Low (1)");
-            EXPECT_TRUE(sheets::IsEnabled(dialog, IDC_LARGEFIFO) && sheets::IsEnabled(dialog, IDC_PORT_NUMBER));
+            EXPECT_EQ(Shown(dialog, IDC_TRANSMIT_LOW) + Shown(dialog, IDC_RECEIVE_LOW), "Low (1)Low (1)");
+            EXPECT_TRUE(IsEnabled(dialog, IDC_LARGEFIFO) && IsEnabled(dialog, IDC_PORT_NUMBER));
             Do(dialog, one.user);
-            EXPECT_EQ(sheets::Fifo(dialog), one.shown);
+            EXPECT_EQ(Fifo(dialog), one.shown);
             Do(dialog, "cancel");
         });
-        EXPECT_EQ(sheets::Changes(), Lines{});
+        EXPECT_EQ(Changes(), Lines{});
         AtDialog([&](HWND dialog) {
             Do(dialog, one.user);
             Do(dialog, "ok");
             EXPECT_FALSE(IsWindowVisible(dialog));
         });
-        EXPECT_EQ(sheets::StoredFifo(port), one.after_ok);
-        const Lines changes = sheets::Changes();
+        EXPECT_EQ(StoredFifo(port), one.after_ok);
+        const Lines changes = Changes();
         EXPECT_EQ(changes.size(), before == one.after_ok ? 1u : 4u);
         EXPECT_EQ(changes.back(), notified); // at every OK
-        EXPECT_EQ(sheets::Boxes(), Lines{});
+        EXPECT_EQ(Boxes(), Lines{});
     }
 }
 
@@ -95,7 +82,7 @@ TEST(AdvancedPortSettings, OkRenamesThePortOrStaysOpen) {
         const char* name;
         const char* user;
         int answers;
-        sheets::Fault fault; // before OK
+        Fault fault; // before OK
         Lines boxes;
         u32 number; // afterwards
         bool closed;
@@ -105,30 +92,24 @@ TEST(AdvancedPortSettings, OkRenamesThePortOrStaysOpen) {
         {"the present number", "com20 com3", IDNO, no_fault, {}, 3, true},
         {"no selection", "com0", IDNO, no_fault, {}, 3, true},
         {"defaults go back to the present number", "com20 defaults tx50", IDNO, no_fault, {}, 3, true},
-        {"a taken number, and no", "com4", IDNO, no_fault, {question}, 3, false},
-        {"a taken number, and yes", "com4", IDYES, no_fault, {question}, 4, true},
+        {"a taken number, and no", "com4", IDNO, no_fault, {in_use_question}, 3, false},
+        {"a taken number, and yes", "com4", IDYES, no_fault, {in_use_question}, 4, true},
         {"no memory for the question counts as no", "com4", IDYES, Fail("LocalAlloc", 1),
-         {sheets::no_memory}, 3, false},
+         {no_memory}, 3, false},
         {"a question that can't be shown counts as no", "com4", IDYES, Fail("MessageBoxW", 1), {}, 3, false},
         {"an open port, after the question", "com4", IDYES,
          [](sim::Machine& machine) { machine.devices[port].key.SetDword(u"ChlOpened", 1); },
-         {question, "The port has been opened by another application. Close and try again."}, 3, false},
-        {"whether it is open can't be read", "com20", IDYES,
-         sheets::Erase(port, u"ChlOpened"),
-         {"Check COM port opened failure. [serr:101]"}, 3, false},
+         {in_use_question, "The port has been opened by another application. Close and try again."}, 3, false},
         {"no database is no question", "com20", IDYES, Fail("ComDBOpen", 0),
          {"Check COM port in use failure. [serr:200]"}, 3, false},
-        {"no usage", "com20", IDYES, Fail("ComDBGetCurrentPortUsage", 0),
-         {"Check COM port in use failure. [serr:201]"}, 3, false},
         {"no DOS name", "com20", IDNO, Fail("DefineDosDeviceW", 2), {notice}, 3, false},
-        {"no memory for the rename", "com20", IDNO, Fail("LocalAlloc", 1), {notice}, 3, false},
         {"a FIFO write fails", "com20", IDNO, Fail("RegSetValueExW", 2),
          {"Set COM port fifo settings failure. [serr:102]"}, 3, false, "1 128 112"},
         {"the device can't be told", "com20", IDNO, Fail("SetupDiCallClassInstaller", 0), {}, 20, true},
     };
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
-        sim::Machine machine = machines::BoardOn({3, 4});
+        sim::Machine machine = BoardOn({3, 4});
         const AtWork at_work(machine);
         AtDialog([&](HWND dialog) {
             const HWND sheet = GetWindow(dialog, GW_OWNER);
@@ -137,15 +118,15 @@ TEST(AdvancedPortSettings, OkRenamesThePortOrStaysOpen) {
             one.fault(machine);
             Do(dialog, "ok");
             EXPECT_EQ(!IsWindowVisible(dialog), one.closed);
-            EXPECT_EQ(machines::PlacesOf(machine, port), machines::PlacesAt(machine, port, one.number));
-            EXPECT_EQ(sheets::Shown(sheet), "Properties of COM" + std::to_string(one.number));
+            EXPECT_EQ(PlacesOf(machine, port), PlacesAt(machine, port, one.number));
+            EXPECT_EQ(Shown(sheet), "Properties of COM" + std::to_string(one.number));
             machine.faults = {};
-            sheets::Changes();
+            Changes();
         }, one.answers);
-        EXPECT_EQ(sheets::Boxes(), one.boxes);
-        EXPECT_EQ(sheets::StoredFifo(port), one.fifo);
+        EXPECT_EQ(Boxes(), one.boxes);
+        EXPECT_EQ(StoredFifo(port), one.fifo);
         // The page's own OK writes the line, whose speed is in no list, under the name that the port has now.
-        EXPECT_EQ(sheets::Changes().front(),
+        EXPECT_EQ(Changes().front(),
                   "WriteProfileStringW [Ports] COM" + std::to_string(one.number) + ": = \"75,e,7,1 \"");
     }
 }
@@ -153,15 +134,15 @@ TEST(AdvancedPortSettings, OkRenamesThePortOrStaysOpen) {
 TEST(AdvancedPortSettings, WhatCantBeReadHasItsBoxAtTheOpening) {
     const struct {
         const char* name;
-        sheets::Fault fault;
+        Fault fault;
         const char* box;
         const char* title; // null if no dialog opens
     } cases[] = {
-        {"no key", sheets::Lock(port),
+        {"no key", Lock(port),
          "Get COM port name failure. [serr:100]", nullptr},
-        {"no name", sheets::Erase(port, u"PortName"),
+        {"no name", Erase(port, u"PortName"),
          "Get COM port name failure. [serr:101]", nullptr},
-        {"a value missing", sheets::Erase(port, u"UartCS"),
+        {"a value missing", Erase(port, u"UartCS"),
          "Get COM port basic information failure. [serr:101]", nullptr},
         {"no database", Fail("ComDBOpen", 1),
          "Initiate \"COM Port Number\" combox failure. [serr:200]", "Advenced Port Settings"},
@@ -172,7 +153,7 @@ TEST(AdvancedPortSettings, WhatCantBeReadHasItsBoxAtTheOpening) {
     };
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
-        sim::Machine machine = machines::BoardOn({3, 4});
+        sim::Machine machine = BoardOn({3, 4});
         const AtWork at_work(machine);
         bool opened = false;
         const auto at_page = [&](HWND page) {
@@ -181,40 +162,40 @@ TEST(AdvancedPortSettings, WhatCantBeReadHasItsBoxAtTheOpening) {
         };
         const auto at_dialog = [&](HWND dialog) {
             opened = true;
-            EXPECT_EQ(sheets::Shown(dialog), one.title);
-            EXPECT_EQ(sheets::IsEnabled(dialog, IDC_PORT_NUMBER), one.box == nullptr);
+            EXPECT_EQ(Shown(dialog), one.title);
+            EXPECT_EQ(IsEnabled(dialog, IDC_PORT_NUMBER), one.box == nullptr);
             Do(dialog, "tx50 ok"); // works as far as it came
             EXPECT_FALSE(IsWindowVisible(dialog));
         };
-        EXPECT_EQ(sheets::Open(Page::Port, port, {.at_page = at_page, .at_dialog = at_dialog}), "left");
+        EXPECT_EQ(Open(Page::Port, port, {.at_page = at_page, .at_dialog = at_dialog}), "left");
         EXPECT_EQ(opened, one.title != nullptr);
-        EXPECT_EQ(sheets::Boxes(), one.box ? Lines{one.box} : Lines{});
-        EXPECT_EQ(sheets::StoredFifo(port), opened ? "1 50 112" : "1 128 112");
+        EXPECT_EQ(Boxes(), one.box ? Lines{one.box} : Lines{});
+        EXPECT_EQ(StoredFifo(port), opened ? "1 50 112" : "1 128 112");
     }
 }
 // clang-format on
 
 TEST(AdvancedPortSettings, AFailedOkWritesTheFifoAgainAndANewOpeningReadsAfresh) {
-    sim::Machine machine = machines::BoardOn({3, 4});
+    sim::Machine machine = BoardOn({3, 4});
     const AtWork at_work(machine);
     int opened = 0;
     const auto at_page = [](HWND page) { Do(page, "advanced advanced"); };
     const auto at_dialog = [&](HWND dialog) {
         if (opened++ == 0) {
             Do(dialog, "tx50 com4 ok ok com256 ok");
-            EXPECT_EQ(machines::Count(machine, "RegSetValueExW"), 3u * 3 + 2);
+            EXPECT_EQ(Count(machine, "RegSetValueExW"), 3u * 3 + 2);
         } else {
-            EXPECT_EQ(sheets::Shown(dialog), "Advanced Settings for COM256");
-            EXPECT_EQ(sheets::Shown(dialog, IDC_PORT_NUMBER), "COM256");
-            EXPECT_EQ(sheets::Items(dialog, IDC_PORT_NUMBER)[2], "COM3");
-            EXPECT_EQ(sheets::Fifo(dialog), "on tx 50/128 High (50) rx 4 High (112) live");
+            EXPECT_EQ(Shown(dialog), "Advanced Settings for COM256");
+            EXPECT_EQ(Shown(dialog, IDC_PORT_NUMBER), "COM256");
+            EXPECT_EQ(Items(dialog, IDC_PORT_NUMBER)[2], "COM3");
+            EXPECT_EQ(Fifo(dialog), "on tx 50/128 High (50) rx 4 High (112) live");
             Do(dialog, "com3 ok");
-            EXPECT_EQ(sheets::Shown(GetWindow(dialog, GW_OWNER)), "Properties of COM3");
+            EXPECT_EQ(Shown(GetWindow(dialog, GW_OWNER)), "Properties of COM3");
         }
     };
-    EXPECT_EQ(sheets::Open(Page::Port, port, {.at_page = at_page, .at_dialog = at_dialog}), "left");
-    EXPECT_EQ(sheets::Boxes(), Lines(2, question));
-    EXPECT_EQ(machines::PlacesOf(machine, port), machines::PlacesAt(machine, port, 3));
+    EXPECT_EQ(Open(Page::Port, port, {.at_page = at_page, .at_dialog = at_dialog}), "left");
+    EXPECT_EQ(Boxes(), Lines(2, in_use_question));
+    EXPECT_EQ(PlacesOf(machine, port), PlacesAt(machine, port, 3));
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// The library at work on a machine, for a test.
+// The library at work on a machine, for a test, and the longest texts of its boxes.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -7,6 +7,12 @@
 #include "tests/machines.h"
 
 namespace machines {
+
+inline constexpr const char* no_memory = "Insufficient memory for this operation;\r\rclose one or more "
+                                         "Windows applications to increase available memory.";
+inline constexpr const char* in_use_question =
+    "This COM name is being used by another device (such as another com port or modem).  Using duplicate "
+    "names can lead to inaccessible devices and changed settings.  Do you want to continue?";
 
 // Attached while it lasts, with the trace of that gone. At its end all must be given back and nothing
 // misused.

@@ -1,7 +1,7 @@
 // The COM port database, the rename in its five places, and what stands around it.
 #include <algorithm>
 #include <functional>
-#include <span>
+#include <map>
 
 #include "com_numbers/com_port_database.h"
 #include "com_numbers/com_remap.h"
@@ -9,13 +9,11 @@
 #include "com_numbers/port_settings_migration.h"
 #include "device_model/device_store.h"
 #include "reporting/error_reporter.h"
-#include "resources/resource_ids.h"
 #include "tests/at_work.h"
 
 namespace {
 
-using machines::AtWork;
-using machines::OpenDevice;
+using namespace machines;
 using sim::Reach;
 using Change = std::function<void(sim::Machine&)>;
 
@@ -51,78 +49,6 @@ TEST(ComPortDatabase, NumbersAreBitsAndTheHighestFreeOneWins) {
     }
 }
 
-// Runs some work on the Port Control dialog once it stands there.
-INT_PTR CALLBACK Work(HWND dialog, UINT message, WPARAM, LPARAM work) {
-    if (message == WM_INITDIALOG) {
-        (*reinterpret_cast<const std::function<void(HWND)>*>(work))(dialog);
-        EndDialog(dialog, 0);
-    }
-    return FALSE;
-}
-void OnDialog(const std::function<void(HWND)>& work) {
-    DialogBoxParamW(sim::LibraryInstance(), MAKEINTRESOURCEW(IDD_PORT_CONTROL), nullptr, Work,
-                    reinterpret_cast<LPARAM>(&work));
-}
-
-TEST(ComPortDatabase, TheComboHasAllNumbersAndSparesItsOwn) {
-    const struct {
-        const char* what;
-        const WCHAR* name;
-        Change change;
-        u32 status;
-        int selected; // -1: the combo stays empty and disabled
-        const char* third;
-    } cases[] = {
-        {"its own is not marked", u"COM3", nullptr, 0, 2, "COM3"},
-        {"others' are", u"COM2", nullptr, 0, 1, "COM3 (in use)"},
-        {"number 0 stands at the first", u"COM0", nullptr, 0, 0, "COM3 (in use)"},
-        {"no digits too", u"COMX", nullptr, 0, 0, "COM3 (in use)"},
-        {"a short name too", u"C", nullptr, 0, 0, "COM3 (in use)"},
-        {"above the range stands at the last", u"COM300", nullptr, 0, 255, "COM3 (in use)"},
-        {"above the signed range stands at the first", u"COM4294967295", nullptr, 0, 0, "COM3 (in use)"},
-        {"no name", u"", nullptr, StatusNoCombo, -1, ""},
-        {"no combo", u"COM3", [](auto& machine) { machine.missing_controls = {IDC_PORT_NUMBER}; },
-         StatusNoCombo, -1, ""},
-        {"no suffix", u"COM2", [](auto& machine) { machine.missing_strings = {IDS_IN_USE_SUFFIX}; }, 0, 1,
-         "COM3 (in use)"},
-        {"no database", u"COM3",
-         [](auto& machine) {
-             machine.faults.at_call = {{"ComDBOpen", 1}};
-         },
-         StatusNoDatabase, -1, ""},
-        {"no usage", u"COM3",
-         [](auto& machine) {
-             machine.faults.at_call = {{"ComDBGetCurrentPortUsage", 1}};
-         },
-         StatusNoUsage, -1, ""},
-    };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.what);
-        sim::Machine machine;
-        for (const u32 number : {1, 3, 4, 255, 256}) {
-            sim::SetClaimed(machine.port_usage, number, true);
-        }
-        const AtWork at_work(machine);
-        if (each.change) {
-            each.change(machine);
-        }
-        OnDialog([&](HWND dialog) {
-            EXPECT_EQ(Kavro_COMPortFillPortNameCombox(dialog, each.name), each.status);
-            const HWND combo = GetDlgItem(dialog, IDC_PORT_NUMBER);
-            const bool filled = each.selected >= 0;
-            EXPECT_EQ(IsWindowEnabled(combo) != FALSE, filled);
-            EXPECT_EQ(IsWindowEnabled(GetDlgItem(dialog, IDC_PORT_NUMBER_CAPTION)) != FALSE, filled);
-            if (combo != nullptr) {
-                EXPECT_EQ(SendMessageW(combo, CB_GETCOUNT, 0, 0), filled ? 256 : 0);
-                EXPECT_EQ(SendMessageW(combo, CB_GETCURSEL, 0, 0), each.selected);
-                WCHAR text[40] = {};
-                SendMessageW(combo, CB_GETLBTEXT, 2, reinterpret_cast<LPARAM>(text));
-                EXPECT_EQ(sim::ToUtf8(text), each.third);
-            }
-        });
-    }
-}
-
 // --- The rename -----------------------------------------------------------------------------------------
 
 // A user's rename of a UART from COM5 to COM7 on a board page, with the move of its line.
@@ -140,7 +66,7 @@ bool RenameFrom5To7() {
 }
 
 TEST(PortRename, TouchesTheOutsideInThisOrder) {
-    sim::Machine machine = machines::BoardOn({5, 6});
+    sim::Machine machine = BoardOn({5, 6});
     machine.devices[port].install_flags = 0x10;
     const AtWork at_work(machine);
     ASSERT_TRUE(RenameFrom5To7());
@@ -168,15 +94,15 @@ TEST(PortRename, TouchesTheOutsideInThisOrder) {
         "SendNotifyMessageW WM_WININICHANGE \"Ports\"", "WriteProfileStringW [Ports] COM5: deleted",
         // The test's own set.
         "SetupDiDestroyDeviceInfoList"};
-    EXPECT_EQ(machines::Journal(machine, {Reach::Read, Reach::Write}), expected);
-    EXPECT_EQ(machines::PlacesOf(machine, port), machines::PlacesAt(machine, port, 7));
-    EXPECT_EQ(machines::PlacesOf(machine, 2), machines::PlacesAt(machine, 2, 6));
+    EXPECT_EQ(Journal(machine, {Reach::Read, Reach::Write}), expected);
+    EXPECT_EQ(PlacesOf(machine, port), PlacesAt(machine, port, 7));
+    EXPECT_EQ(PlacesOf(machine, 2), PlacesAt(machine, 2, 6));
 }
 
 // The places of the port: PortName, friendly name, DOS names, serial map, database, line; "5d": the default
 // line.
 std::string State(sim::Machine& machine) {
-    const machines::Places places = machines::PlacesOf(machine, port);
+    const Places places = PlacesOf(machine, port);
     sim::Text names;
     for (const auto& [name, target] : machine.dos_names) {
         names += name == u"COM6" ? u"" : names.empty() ? name : u' ' + name;
@@ -186,8 +112,8 @@ std::string State(sim::Machine& machine) {
     for (const u32 number : {5, 7}) {
         const std::string digit = std::to_string(number);
         claimed += sim::IsClaimed(machine.port_usage, number) ? digit : "";
-        const sim::Text line = machines::Line(machine, number);
-        lines += line.empty() ? "" : line == machines::LineOf(port) ? digit : digit + "d";
+        const sim::Text line = Line(machine, number);
+        lines += line.empty() ? "" : line == LineOf(port) ? digit : digit + "d";
     }
     std::string state = sim::ToUtf8(places.port_name + u" | " + places.friendly_name + u" | " + names +
                                     u" | " + places.serial_map) +
@@ -203,63 +129,57 @@ constexpr const char* untouched = "5 | (5) | 5 | 5 | 5 | 5";
 constexpr const char* renamed = "7 | (7) | 7 | 7 | 7 | 7";
 
 TEST(PortRename, EveryOperationMayFailOnceAndLeavesTheStateOfItsStep) {
-    const struct {
-        const char* operation;
-        std::size_t call;
-        const char* state;
-        const char* box;
-    } rows[] = {
-        {"ComDBOpen", 1, untouched, "Check COM port in use failure. [serr:200]"},
-        {"ComDBGetCurrentPortUsage", 1, untouched, "Check COM port in use failure. [serr:201]"},
-        {"SetupDiOpenDevRegKey", 1, untouched, "Check COM port opened failure. [serr:100]"},
-        {"RegQueryValueExW", 1, untouched, "Check COM port opened failure. [serr:101]"},
-        {"LocalAlloc", 1, untouched, "There was an error renaming the COM port."},
-        {"SetupDiOpenDevRegKey", 2, untouched, "There was an error renaming the COM port."},
-        {"ComDBOpen", 2, untouched, "There was an error renaming the COM port."},
-        {"QueryDosDeviceW", 1, "7 | (7) | 5 | 7 | 7 | 7", nullptr},
-        {"QueryDosDeviceW", 2, untouched, "There was an error renaming the COM port."},
-        {"DefineDosDeviceW", 1, "7 | (7) | 5 7 | 7 | 7 | 7", nullptr},
-        {"DefineDosDeviceW", 2, untouched, "There was an error renaming the COM port."},
-        {"RegOpenKeyExW", 1, "7 | (7) | 7 | 5 | 7 | 7", nullptr},
-        {"RegEnumValueW", 1, "7 | (7) | 7 | 5 | 7 | 7", nullptr},
-        {"RegSetValueExW", 1, "7 | (7) | 7 | 5 | 7 | 7", nullptr},
-        {"ComDBReleasePort", 1, "7 | (7) | 7 | 7 | 57 | 7", nullptr},
-        {"ComDBClaimPort", 1, "7 | (7) | 7 | 7 |  | 7", nullptr},
-        {"SetupDiGetDeviceRegistryPropertyW", 1, "7 | 7 | 7 | 7 | 7 | 7", nullptr},
-        {"SetupDiSetDeviceRegistryPropertyW", 1, "7 | (5) | 7 | 7 | 7 | 7", nullptr},
-        {"RegSetValueExW", 2, "5 | (7) | 7 | 7 | 7 | 7", nullptr},
-        {"LocalAlloc", 2, "7 | (7) | 7 | 7 | 7 | 5", nullptr},
-        {"LocalAlloc", 3, "7 | (7) | 7 | 7 | 7 | 5", nullptr},
-        {"GetProfileStringW", 1, "7 | (7) | 7 | 7 | 7 | 7d", nullptr},
-        {"WriteProfileStringW", 1, "7 | (7) | 7 | 7 | 7 | ", nullptr},
-        {"WriteProfileStringW", 2, "7 | (7) | 7 | 7 | 7 | 57", nullptr},
+    struct Outcome {
+        const char* state = renamed;
+        const char* box = "";
+    };
+    const std::map<std::pair<std::string_view, std::size_t>, Outcome> rows = {
+        {{"ComDBOpen", 1}, {untouched, "Check COM port in use failure. [serr:200]"}},
+        {{"ComDBGetCurrentPortUsage", 1}, {untouched, "Check COM port in use failure. [serr:201]"}},
+        {{"SetupDiOpenDevRegKey", 1}, {untouched, "Check COM port opened failure. [serr:100]"}},
+        {{"RegQueryValueExW", 1}, {untouched, "Check COM port opened failure. [serr:101]"}},
+        {{"LocalAlloc", 1}, {untouched, "There was an error renaming the COM port."}},
+        {{"SetupDiOpenDevRegKey", 2}, {untouched, "There was an error renaming the COM port."}},
+        {{"ComDBOpen", 2}, {untouched, "There was an error renaming the COM port."}},
+        {{"QueryDosDeviceW", 1}, {"7 | (7) | 5 | 7 | 7 | 7"}},
+        {{"QueryDosDeviceW", 2}, {untouched, "There was an error renaming the COM port."}},
+        {{"DefineDosDeviceW", 1}, {"7 | (7) | 5 7 | 7 | 7 | 7"}},
+        {{"DefineDosDeviceW", 2}, {untouched, "There was an error renaming the COM port."}},
+        {{"RegOpenKeyExW", 1}, {"7 | (7) | 7 | 5 | 7 | 7"}},
+        {{"RegEnumValueW", 1}, {"7 | (7) | 7 | 5 | 7 | 7"}},
+        {{"RegSetValueExW", 1}, {"7 | (7) | 7 | 5 | 7 | 7"}},
+        {{"ComDBReleasePort", 1}, {"7 | (7) | 7 | 7 | 57 | 7"}},
+        {{"ComDBClaimPort", 1}, {"7 | (7) | 7 | 7 |  | 7"}},
+        {{"SetupDiGetDeviceRegistryPropertyW", 1}, {"7 | 7 | 7 | 7 | 7 | 7"}},
+        {{"SetupDiSetDeviceRegistryPropertyW", 1}, {"7 | (5) | 7 | 7 | 7 | 7"}},
+        {{"RegSetValueExW", 2}, {"5 | (7) | 7 | 7 | 7 | 7"}},
+        {{"LocalAlloc", 2}, {"7 | (7) | 7 | 7 | 7 | 5"}},
+        {{"LocalAlloc", 3}, {"7 | (7) | 7 | 7 | 7 | 5"}},
+        {{"GetProfileStringW", 1}, {"7 | (7) | 7 | 7 | 7 | 7d"}},
+        {{"WriteProfileStringW", 1}, {"7 | (7) | 7 | 7 | 7 | "}},
+        {{"WriteProfileStringW", 2}, {"7 | (7) | 7 | 7 | 7 | 57"}},
     };
     std::size_t rows_seen = 0;
     std::size_t at = 0;
     for (bool hit = true; hit;) {
-        sim::Machine machine = machines::BoardOn({5, 6});
+        sim::Machine machine = BoardOn({5, 6});
         const AtWork at_work(machine);
         machine.faults.at = ++at;
         const bool done = RenameFrom5To7();
         hit = machine.faults.hits != 0;
-        const auto until = std::span(machine.journal).first(hit ? at : 0);
-        const std::string_view failed = hit ? until.back().name : "nothing";
-        const auto call = std::ranges::count(until, failed, &sim::JournalEntry::name);
-        SCOPED_TRACE(testing::Message() << failed << ", call " << call);
-        const auto row = std::ranges::find_if(rows, [&](const auto& each) {
-            return each.operation == failed && each.call == static_cast<std::size_t>(call);
-        });
-        const bool listed = row != std::end(rows);
-        rows_seen += listed;
-        const char* box = listed ? row->box : nullptr;
-        EXPECT_EQ(done, box == nullptr);
-        EXPECT_EQ(State(machine), listed ? row->state : renamed);
-        EXPECT_EQ(machines::Count(machine, "SetupDiCallClassInstaller"), done ? 1u : 0u);
-        ASSERT_EQ(machine.boxes.size(), box == nullptr ? 0u : 1u);
-        EXPECT_TRUE(box == nullptr || sim::ToUtf8(machine.boxes[0].text) == box);
-        EXPECT_EQ(machines::PlacesOf(machine, 2), machines::PlacesAt(machine, 2, 6));
+        const auto failed = FailedCall(machine);
+        SCOPED_TRACE(testing::PrintToString(failed));
+        const auto row = rows.find(failed);
+        rows_seen += row != rows.end();
+        const auto [state, box] = row != rows.end() ? row->second : Outcome();
+        EXPECT_EQ(done, *box == 0);
+        EXPECT_EQ(State(machine), state);
+        EXPECT_EQ(Count(machine, "SetupDiCallClassInstaller"), done ? 1u : 0u);
+        EXPECT_EQ(machine.boxes.size(), done ? 0u : 1u);
+        EXPECT_EQ(machine.boxes.empty() ? "" : sim::ToUtf8(machine.boxes[0].text), box);
+        EXPECT_EQ(PlacesOf(machine, 2), PlacesAt(machine, 2, 6));
     }
-    EXPECT_EQ(rows_seen, std::size(rows));
+    EXPECT_EQ(rows_seen, rows.size());
 }
 
 TEST(PortRename, TakesTheMachineAsItFindsIt) {
@@ -276,12 +196,6 @@ TEST(PortRename, TakesTheMachineAsItFindsIt) {
     };
     const auto description = [](const std::optional<sim::Text>& text) {
         return [=](sim::Machine& machine) { machine.devices[port].description = text; };
-    };
-    const auto answer = [](WPARAM button) {
-        return [=](sim::Machine& machine) {
-            sim::SetClaimed(machine.port_usage, 7, true);
-            machine.user = [=](HWND box) { SendMessageW(box, WM_COMMAND, button, 0); };
-        };
     };
     const std::string a71(71, 'a'), a80(80, 'a');
     const auto wide = [](std::size_t count) { return sim::Text(count, u'a'); };
@@ -315,22 +229,11 @@ TEST(PortRename, TakesTheMachineAsItFindsIt) {
         {"a description of its buffer's length", description(wide(255)), "7 | " + a80 + " | 7 | 7 | 7 | 7"},
         {"a description beyond its buffer", description(wide(256)), "7 | 7 | 7 | 7 | 7 | 7"},
         {"a port without a line", [](auto& machine) { machine.profile.clear(); }, "7 | (7) | 7 | 7 | 7 | 7d"},
-        {"an empty line", [](auto& machine) { machines::SetLine(machine, 5, u""); },
-         "7 | (7) | 7 | 7 | 7 | 7d"},
-        {"a claimed number by the user's yes", answer(IDYES), renamed},
-        {"a claimed number and the user's no", answer(IDNO), "5 | (5) | 5 | 5 | 57 | 5"},
-        {"a claimed number and no box to ask",
-         [](auto& machine) {
-             sim::SetClaimed(machine.port_usage, 7, true);
-             machine.faults.at_call = {{"MessageBoxW", 1}};
-         },
-         "5 | (5) | 5 | 5 | 57 | 5"},
-        {"an open port", [](auto& machine) { machine.devices[port].key.SetDword(u"ChlOpened", 1); },
-         untouched},
+        {"an empty line", [](auto& machine) { SetLine(machine, 5, u""); }, "7 | (7) | 7 | 7 | 7 | 7d"},
     };
     for (const auto& each : cases) {
         SCOPED_TRACE(each.what);
-        sim::Machine machine = machines::BoardOn({5, 6});
+        sim::Machine machine = BoardOn({5, 6});
         const AtWork at_work(machine);
         each.change(machine);
         RenameFrom5To7();
@@ -339,12 +242,12 @@ TEST(PortRename, TakesTheMachineAsItFindsIt) {
 }
 
 TEST(PortRename, ADosNameThatStayedIsNotDefinedAgain) {
-    sim::Machine machine = machines::BoardOn({5, 6});
+    sim::Machine machine = BoardOn({5, 6});
     const AtWork at_work(machine);
     machine.faults.at_call = {{"DefineDosDeviceW", 1}, {"DefineDosDeviceW", 2}};
     EXPECT_FALSE(RenameFrom5To7());
     EXPECT_EQ(State(machine), untouched);
-    EXPECT_EQ(machines::Count(machine, "DefineDosDeviceW"), 2u);
+    EXPECT_EQ(Count(machine, "DefineDosDeviceW"), 2u);
 }
 
 // --- What stands around it ------------------------------------------------------------------------------
@@ -362,21 +265,21 @@ TEST(PortSettingsMigration, MovesALineAsItIsWithBothKeysThereAtTheNotice) {
     };
     for (const auto& each : cases) {
         sim::Machine machine;
-        machines::SetLine(machine, 5, each.line);
+        SetLine(machine, 5, each.line);
         const AtWork at_work(machine);
         std::size_t notices = 0;
         machine.faults.when = [&](const sim::JournalEntry& entry) {
             if (entry.name == "SendNotifyMessageW") {
                 ++notices;
-                EXPECT_EQ(machines::Line(machine, 5), each.line);
-                EXPECT_EQ(machines::Line(machine, 256), each.moved);
+                EXPECT_EQ(Line(machine, 5), each.line);
+                EXPECT_EQ(Line(machine, 256), each.moved);
             }
             return false;
         };
         Kavro_COMPortMigratePortSettings(u"COM5", u"COM256");
         EXPECT_EQ(notices, 1u);
-        EXPECT_EQ(machines::Line(machine, 5), u"");
-        EXPECT_EQ(machines::Line(machine, 256), each.moved);
+        EXPECT_EQ(Line(machine, 5), u"");
+        EXPECT_EQ(Line(machine, 256), each.moved);
     }
 }
 
@@ -395,7 +298,7 @@ TEST(PortOpenCheck, AnyNumberButZeroIsOpen) {
         {{0, 0, 0, 0, 0}, StatusReadFailed},
     };
     for (const auto& each : cases) {
-        sim::Machine machine = machines::BoardOn({5});
+        sim::Machine machine = BoardOn({5});
         machine.devices[port].key.Set(u"ChlOpened", REG_BINARY, each.value);
         const AtWork at_work(machine);
         OpenDevice device(port);

@@ -12,10 +12,7 @@
 
 namespace {
 
-using machines::AtWork;
-using machines::BoardPlace;
-using machines::OpenBoard;
-using machines::OpenDevice;
+using namespace machines;
 using sim::Reach;
 
 // --- The device store -----------------------------------------------------------------------------------
@@ -136,7 +133,7 @@ void ExpectReading(const Reading& reading, sim::Machine& machine, u32 status, st
     for (std::size_t i = 0; status != StatusNoKey && i < std::min(count + 1, reading.fields.size()); ++i) {
         expected.push_back("RegQueryValueExW D " + reading.fields[i].name);
     }
-    std::vector<std::string> queries = machines::Journal(machine, {Reach::Read});
+    std::vector<std::string> queries = Journal(machine, {Reach::Read});
     std::erase_if(queries, [](const std::string& line) { return !line.starts_with("RegQueryValueExW"); });
     EXPECT_EQ(queries, expected) << what;
 }
@@ -168,45 +165,6 @@ TEST(DeviceStore, EachReadingTakesItsValuesInOrderWhateverTheirTypeAndLength) {
     }
 }
 
-TEST(DeviceStore, AFailingWriteLeavesThoseBeforeItAndTriesNoneAfter) {
-    const struct {
-        std::function<u32(HDEVINFO, SP_DEVINFO_DATA*)> write;
-        std::vector<std::string> lines;
-    } writings[] = {
-        {[](auto set, auto data) { return Kavro_RegUartSetFifoSettings(set, data, 1, 64, 0xFFFFFFFF); },
-         {"UartFifoEnable = 1", "UartTxFifoLowHigh = 64", "UartRxFifoLowHigh = 4294967295"}},
-        {[](auto set, auto data) { return Kavro_RegUartSetAdvanceSettings(set, data, 6, 1, 2, 3, 4, 5); },
-         {"UartMode = 6", "UartAHDC = 1", "UartCS = 2", "UartAutoRS422485 = 3", "UartRS422Termination = 4",
-          "UartRS485Termination = 5"}},
-    };
-    for (const auto& writing : writings) {
-        for (std::size_t failing = 0; failing <= writing.lines.size(); ++failing) {
-            sim::Machine machine;
-            machine.devices.emplace_back().instance_id = u"D";
-            const AtWork at_work(machine);
-            if (failing != 0) {
-                machine.faults.at_call = {{"RegSetValueExW", failing}};
-            }
-            OpenDevice device(0);
-            machine.devices[0].access_denied = true;
-            EXPECT_EQ(writing.write(device.set, &device.data), StatusNoKey);
-            machine.devices[0].access_denied = false;
-            EXPECT_EQ(writing.write(device.set, &device.data), failing == 0 ? 0 : StatusWriteFailed);
-            std::vector<std::string> tried;
-            for (const std::string& line : writing.lines) {
-                tried.push_back("RegSetValueExW D " + line);
-            }
-            tried.resize(failing == 0 ? tried.size() : failing);
-            EXPECT_EQ(machines::Journal(machine, {Reach::Write}), tried);
-            const std::vector<sim::Value>& written = machine.devices[0].key.list;
-            EXPECT_EQ(written.size(), failing == 0 ? tried.size() : failing - 1);
-            EXPECT_TRUE(std::ranges::all_of(written, [](const auto& value) {
-                return value.type == REG_DWORD && value.data.size() == 4;
-            }));
-        }
-    }
-}
-
 // --- Discovery ------------------------------------------------------------------------------------------
 
 // Two lines: what is listed in the order of enumeration, and what the walk visits, as "class:number".
@@ -234,12 +192,12 @@ std::string Channels(const BoardParams& params) {
 // Then a mainboard port.
 sim::Machine OneOfEach() {
     sim::Machine machine;
-    machines::AddBoard(machine, {}, 6);
-    machines::AddUart(machine, {}, 5, 7);
+    AddBoard(machine, {}, 6);
+    AddUart(machine, {}, 5, 7);
     for (u32 channelClass = ClassDio; channelClass <= ClassCan; ++channelClass) {
-        machines::AddChannel(machine, {}, channelClass, 6 - channelClass);
+        AddChannel(machine, {}, channelClass, 6 - channelClass);
     }
-    machines::AddMainboardPort(machine, 1);
+    AddMainboardPort(machine, 1);
     std::ranges::reverse(machine.interfaces); // the classes decide the order, not the machine
     return machine;
 }
@@ -273,7 +231,6 @@ TEST(BoardDiscovery, ARecordIsMadeFromTheStoreAndTheClassOfItsInterface) {
 }
 
 TEST(BoardDiscovery, AChannelIsKeptIfItCanBeReadAndBelongsToTheBoard) {
-    using Change = std::function<void(sim::Machine&)>;
     const auto number = [](std::size_t device, const char16_t* name, u32 value) {
         return [=](sim::Machine& machine) { machine.devices[device].key.SetDword(name, value); };
     };
@@ -287,10 +244,9 @@ TEST(BoardDiscovery, AChannelIsKeptIfItCanBeReadAndBelongsToTheBoard) {
             machine.interfaces.back().path = sim::Text((needed - before) / 2 - 1, u'p');
         };
     };
-    const auto denied = [](sim::Machine& machine) { machine.devices[2].access_denied = true; };
     const struct {
         const char* what;
-        Change change;
+        std::function<void(sim::Machine&)> change;
         const char* channels;
     } cases[] = {
         {"a path that needs 1024 bytes", path_of(1024), all_of_each},
@@ -302,29 +258,20 @@ TEST(BoardDiscovery, AChannelIsKeptIfItCanBeReadAndBelongsToTheBoard) {
          " 1:5 2:4 3:3 5:1 | 5:1 3:3 2:4 1:5"},
         {"no value of its class", without(5, u"KvrCanFifoRXMMax"), " 1:5 2:4 3:3 4:2 | 4:2 3:3 2:4 1:5"},
         {"no port name", without(1, u"PortName"), " 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
-        {"no access", denied, " 1:5 3:3 4:2 5:1 | 5:1 4:2 3:3 1:5"},
+        {"no access", [](auto& machine) { machine.devices[2].access_denied = true; },
+         " 1:5 3:3 4:2 5:1 | 5:1 4:2 3:3 1:5"},
         {"not present", [](auto& machine) { machine.interfaces.back().linked = false; },
          " 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
         {"no interface at all", [](auto& machine) { machine.interfaces.clear(); }, " |"},
-        {"number 0 is held and not walked", number(1, u"ChlNumber", 0),
-         " 1:0 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
-        {"a number at the bound is held and not walked", number(1, u"ChlNumber", 6),
-         " 1:6 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
-        {"the highest number is held and not walked", number(1, u"ChlNumber", 0xFFFFFFFF),
+        {"number 0", number(1, u"ChlNumber", 0), " 1:0 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
+        {"a number at the bound", number(1, u"ChlNumber", 6), " 1:6 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
+        {"the highest number", number(1, u"ChlNumber", 0xFFFFFFFF),
          " 1:4294967295 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
         {"of one number twice the first is walked", number(2, u"ChlNumber", 5),
          " 1:5 2:5 3:3 4:2 5:1 | 5:1 4:2 3:3 1:5"},
         {"a board of no numbers", number(0, u"BoardNrController", 0), " 1:5 2:4 3:3 4:2 5:1 |"},
         {"a board of number 0 alone", number(0, u"BoardNrController", 1), " 1:5 2:4 3:3 4:2 5:1 |"},
         {"a board of two numbers", number(0, u"BoardNrController", 3), " 1:5 2:4 3:3 4:2 5:1 | 5:1 4:2"},
-        {"another board's UART",
-         [](auto& machine) {
-             machines::AddUart(machine, {3, 18}, 5, 9);
-         },
-         all_of_each},
-        {"a UART of a second board in the same place",
-         [](auto& machine) { machines::AddUart(machine, {}, 6, 9); },
-         " 1:5 1:6 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4 1:5"},
     };
     for (const auto& each : cases) {
         sim::Machine machine = OneOfEach();
@@ -350,35 +297,24 @@ TEST(BoardDiscovery, TheBoardsOwnValuesMustAllBeReadable) {
     }
 }
 
-// What is left of OneOfEach if the n-th call of an operation fails.
-struct Outcome {
-    u32 status = 0;
-    std::size_t fewest = 5;
-    std::size_t most = 5;
-    std::size_t without_path = 0;
+// What is left of OneOfEach if an operation fails once: the first that fits a call counts.
+constexpr std::size_t any = ~std::size_t{0};
+const struct {
+    std::string_view operation;
+    std::size_t last_call;
+    u32 status;
+    std::size_t fewest, most; // channels
+} outcomes[] = {
+    {"SetupDiGetClassDevsW", any, StatusNoInterfaceSet, 0, 0},
+    {"LocalAlloc", 1, StatusNoMemory, 0, 0}, // the buffer; then a record and its path for each channel
+    {"LocalAlloc", any, 0, 4, 5},
+    {"SetupDiOpenDevRegKey", 4, StatusNoKey, 0, 0}, // the board's own
+    {"RegQueryValueExW", 18, StatusReadFailed, 0, 0},
+    {"SetupDiOpenDevRegKey", any, 0, 4, 5}, // of an interface, which may be nobody's channel
+    {"RegQueryValueExW", any, 0, 4, 5},
+    {"SetupDiGetDeviceInterfaceDetailW", any, 0, 4, 5},
+    {"SetupDiEnumDeviceInterfaces", any, 0, 4, 5},
 };
-Outcome OutcomeOf(std::string_view operation, std::size_t n) {
-    constexpr std::size_t keys_of_board = 4;
-    constexpr std::size_t values_of_board = 18;
-    if (operation == "SetupDiGetClassDevsW") {
-        return {StatusNoInterfaceSet, 0, 0};
-    }
-    if (operation == "LocalAlloc") {
-        // The buffer, then a record and its path for each channel.
-        return n == 1 ? Outcome{StatusNoMemory, 0, 0} : n % 2 == 0 ? Outcome{0, 4, 4} : Outcome{0, 5, 5, 1};
-    }
-    if (operation == "SetupDiOpenDevRegKey" && n <= keys_of_board) {
-        return {StatusNoKey, 0, 0};
-    }
-    if (operation == "RegQueryValueExW" && n <= values_of_board) {
-        return {StatusReadFailed, 0, 0};
-    }
-    // Any further read costs the interface at hand, which may be nobody's channel.
-    const bool reads = operation == "SetupDiOpenDevRegKey" || operation == "RegQueryValueExW" ||
-                       operation == "SetupDiGetDeviceInterfaceDetailW" ||
-                       operation == "SetupDiEnumDeviceInterfaces";
-    return reads ? Outcome{0, 4, 5} : Outcome{};
-}
 
 TEST(BoardDiscovery, EveryOperationMayFailOnceAndAllIsGivenBack) {
     std::size_t at = 0;
@@ -386,79 +322,29 @@ TEST(BoardDiscovery, EveryOperationMayFailOnceAndAllIsGivenBack) {
         sim::Machine machine = OneOfEach();
         const AtWork at_work(machine);
         machine.faults.at = ++at;
-        u32 status = 0;
         std::size_t channels = 0;
         std::size_t without_path = 0;
-        {
-            const OpenBoard board;
-            status = board.status;
-            EXPECT_EQ(board.initiated, status == 0);
-            for (const BPPCHL* chl = board.params.WalkFirst; chl != nullptr; chl = chl->WalkNext) {
-                ++channels;
-                without_path += chl->DevicePath == nullptr;
-            }
-            EXPECT_EQ(channels, board.params.ChlCount);
+        const OpenBoard board;
+        for (const BPPCHL* chl = board.params.WalkFirst; chl != nullptr; chl = chl->WalkNext) {
+            ++channels;
+            without_path += chl->DevicePath == nullptr;
         }
         hit = machine.faults.hits != 0;
-        const auto until = std::span(machine.journal).first(hit ? at : 0);
-        const std::string_view failed = hit ? until.back().name : "nothing";
-        const auto n = std::ranges::count(until, failed, &sim::JournalEntry::name);
-        const Outcome outcome = OutcomeOf(failed, static_cast<std::size_t>(n));
-        SCOPED_TRACE(testing::Message() << failed << ", call " << n);
-        EXPECT_EQ(status, outcome.status);
-        EXPECT_GE(channels, outcome.fewest);
-        EXPECT_LE(channels, outcome.most);
-        EXPECT_EQ(without_path, outcome.without_path);
-        EXPECT_EQ(machines::Count(machine, "SetupDiDestroyDeviceInfoList"), ChannelClassCount + 1);
+        const auto [failed, call] = FailedCall(machine);
+        SCOPED_TRACE(testing::Message() << failed << ", call " << call);
+        const auto* outcome = std::begin(outcomes);
+        while (outcome != std::end(outcomes) && (outcome->operation != failed || outcome->last_call < call)) {
+            ++outcome;
+        }
+        const bool listed = outcome != std::end(outcomes);
+        EXPECT_EQ(board.status, listed ? outcome->status : 0);
+        EXPECT_EQ(board.initiated, board.status == 0);
+        EXPECT_EQ(channels, board.params.ChlCount);
+        EXPECT_GE(channels, listed ? outcome->fewest : 5);
+        EXPECT_LE(channels, listed ? outcome->most : 5);
+        EXPECT_EQ(without_path, failed == "LocalAlloc" && call > 1 ? call % 2 : 0);
     }
     EXPECT_GT(at, 150u);
-}
-
-TEST(BoardDiscovery, PromisedNumbersCostNothingAndManyChannelsAreAllWalked) {
-    const auto operations = [](u32 nrController) {
-        sim::Machine machine = machines::BoardOn({9, 8, 7, 6, 5, 4, 3, 2, 1});
-        machine.devices[0].key.SetDword(u"BoardNrController", nrController);
-        const AtWork at_work(machine);
-        const OpenBoard board;
-        machines::SortInDialog(machine, board.Channel(1));
-        EXPECT_EQ(machines::PlacesOf(machine, 9), machines::PlacesAt(machine, 9, 9));
-        return machine.faults.count;
-    };
-    EXPECT_EQ(operations(10), operations(0xFFFFFFFF));
-
-    sim::Machine machine;
-    machines::AddBoard(machine, {}, 301);
-    for (u32 channel = 300; channel != 0; --channel) {
-        machines::AddChannel(machine, {}, channel % 2 != 0 ? ClassDio : ClassCan, channel);
-    }
-    const AtWork at_work(machine);
-    const OpenBoard board;
-    EXPECT_EQ(board.params.ChlCount, 300u);
-    u32 walked = 0;
-    for (const BPPCHL* chl = board.params.WalkFirst; chl != nullptr; chl = chl->WalkNext) {
-        EXPECT_EQ(chl->CurrentInfo.ChlBasic.ChlNumber, ++walked);
-    }
-    EXPECT_EQ(walked, 300u);
-}
-
-TEST(FifoStages, AreSixteenthsOfTheFifo) {
-    const struct {
-        u32 bytes;
-        u32 stages[4];
-    } cases[] = {
-        {0, {1, 0, 0, 0}},
-        {15, {1, 0, 0, 0}},
-        {16, {1, 4, 8, 14}},
-        {40, {1, 8, 16, 28}},
-        {64, {1, 16, 32, 56}},
-        {128, {1, 32, 64, 112}},
-        {0xFFFFFFFF, {1, 0x3FFFFFFC, 0x7FFFFFF8, 0xDFFFFFF2}},
-    };
-    for (const auto& each : cases) {
-        u32 stages[RxFifoStageCount];
-        RxFifoStages(each.bytes, stages);
-        EXPECT_TRUE(std::ranges::equal(stages, each.stages)) << each.bytes;
-    }
 }
 
 } // namespace

@@ -5,15 +5,11 @@
 
 namespace {
 
+using namespace machines;
+
 constexpr UINT plain = MB_SYSTEMMODAL | MB_ICONHAND;
 constexpr UINT question = MB_YESNO | MB_ICONINFORMATION;
 constexpr UINT notice = MB_OK | MB_ICONHAND;
-constexpr const char* out_of_memory = "Insufficient memory for this operation;\r\rclose one or more Windows "
-                                      "applications to increase available memory.";
-constexpr const char* ask_in_use =
-    "This COM name is being used by another device (such as another com port or modem).  Using duplicate "
-    "names "
-    "can lead to inaccessible devices and changed settings.  Do you want to continue?";
 constexpr const char* rename_failed = "There was an error renaming the COM port.";
 constexpr const char* opened = "The port has been opened by another application. Close and try again.";
 constexpr const char* board_caption = "Communications Port Properties";
@@ -29,7 +25,7 @@ struct Expected {
 
 // Channel 7, COM8, COM9.
 const Expected all_codes[] = {
-    {1, 0, out_of_memory, plain, "Communications Port"},
+    {1, 0, no_memory, plain, "Communications Port"},
     {2, 0, "Load string failure."},
     {3, 0, "Create property page failure."},
     {4, 0, "Add property page failure."},
@@ -43,7 +39,7 @@ const Expected all_codes[] = {
     {200, 101, "Get COM port name failure. [serr:101]"},
     {201, 100, "Get COM port basic information failure. [serr:100]"},
     {202, 102, "Set COM port fifo settings failure. [serr:102]"},
-    {203, 202, ask_in_use, question, board_caption, IDYES},
+    {203, 202, in_use_question, question, board_caption, IDYES},
     {203, 200, "Check COM port in use failure. [serr:200]"},
     {204, 3, opened},
     {204, 101, "Check COM port opened failure. [serr:101]"},
@@ -86,14 +82,14 @@ void ExpectBox(const sim::Machine& machine, const Expected& expected, u32 choice
 TEST(ErrorReporter, EveryCodeHasItsBox) {
     for (const Expected& expected : all_codes) {
         sim::Machine machine;
-        const machines::AtWork at_work(machine);
+        const AtWork at_work(machine);
         ExpectBox(machine, expected, Show(expected.oerr, expected.serr));
     }
     const u32 undefined[] = {0,   5,   99,  104, 149, 153, 199,    206,        249,
                              251, 299, 306, 399, 407, 500, 202000, 0x7FFFFFFF, 0xFFFFFFFF};
     for (const u32 oerr : undefined) {
         sim::Machine machine;
-        const machines::AtWork at_work(machine);
+        const AtWork at_work(machine);
         const std::string text =
             "Undefine error. [oerr:" + std::to_string(static_cast<int>(oerr)) + ", serr:202]";
         ExpectBox(machine, {oerr, 202, text.c_str()}, Show(oerr, 202));
@@ -104,9 +100,9 @@ TEST(ErrorReporter, WithoutMemoryEveryCodeSaysSoAndAnswersNo) {
     for (const Expected& code : all_codes) {
         for (const std::size_t failing : {1, 2}) {
             sim::Machine machine;
-            const machines::AtWork at_work(machine);
+            const AtWork at_work(machine);
             machine.faults.at_call = {{"LocalAlloc", failing}};
-            ExpectBox(machine, {code.oerr, code.serr, out_of_memory, plain, "Communications Port"},
+            ExpectBox(machine, {code.oerr, code.serr, no_memory, plain, "Communications Port"},
                       Show(code.oerr, code.serr));
         }
     }
@@ -121,14 +117,14 @@ TEST(ErrorReporter, AnAnswerIsTheUsersAndAMissingStringIsAnEmptyText) {
         const char* caption;
         u32 choice;
     } cases[] = {
-        {"the user says yes", IDYES, {}, ask_in_use, board_caption, IDYES},
-        {"the user says no", IDNO, {}, ask_in_use, board_caption, IDNO},
+        {"the user says yes", IDYES, {}, in_use_question, board_caption, IDYES},
+        {"the user says no", IDNO, {}, in_use_question, board_caption, IDNO},
         {"no text", IDYES, {IDS_NAME_IN_USE_QUESTION}, "", board_caption, IDYES},
-        {"no caption", IDNO, {IDS_BOX_CAPTION}, ask_in_use, "", IDNO},
+        {"no caption", IDNO, {IDS_BOX_CAPTION}, in_use_question, "", IDNO},
     };
     for (const auto& each : cases) {
         sim::Machine machine;
-        const machines::AtWork at_work(machine);
+        const AtWork at_work(machine);
         machine.missing_strings = each.missing;
         machine.user = [&](HWND box) { SendMessageW(box, WM_COMMAND, static_cast<WPARAM>(each.answer), 0); };
         SCOPED_TRACE(each.what);
@@ -138,7 +134,7 @@ TEST(ErrorReporter, AnAnswerIsTheUsersAndAMissingStringIsAnEmptyText) {
 
 TEST(ErrorReporter, ABoxThatCantBeShownAndACallerWithoutInterestDoNoHarm) {
     sim::Machine machine;
-    const machines::AtWork at_work(machine);
+    const AtWork at_work(machine);
     ErrorBoxShow(204, 3, nullptr, 0, 0, 0, nullptr);
     EXPECT_FALSE(machine.boxes.front().owned);
     machine.faults.at_call = {{"MessageBoxW", 0}};

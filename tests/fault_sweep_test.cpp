@@ -8,8 +8,8 @@
 
 namespace {
 
-using sheets::Do;
-using sheets::Page;
+using namespace machines;
+using namespace sheets;
 
 // A text with each number in it as one "#".
 std::string WithoutNumbers(const std::string& text) {
@@ -27,25 +27,25 @@ std::string WithoutNumbers(const std::string& text) {
 // Opens and operates the page of a fresh machine once for each operation that this takes; the shapes of all
 // boxes.
 std::set<std::string> Sweep(const std::function<sim::Machine()>& fresh, Page page, std::size_t device,
-                            const sheets::User& user) {
+                            const User& user) {
     std::set<std::string> shapes;
     for (std::size_t at = 1;; ++at) {
         SCOPED_TRACE(testing::Message() << "operation " << at);
         sim::Machine machine = fresh();
         machine.journal_reads = false;
-        const machines::AtWork at_work(machine);
+        const AtWork at_work(machine);
         machine.faults.at = at;
-        sheets::Open(page, device, user);
+        Open(page, device, user);
         if (machine.faults.hits == 0) {
             EXPECT_GT(at, 500u);
             return shapes;
         }
-        for (const std::string& text : sheets::Boxes()) {
+        for (const std::string& text : Boxes()) {
             shapes.insert(WithoutNumbers(text));
         }
         machine.faults = {};
-        EXPECT_EQ(sheets::Open(page, device, {}), "left");
-        EXPECT_EQ(sheets::Boxes(), sheets::Lines{});
+        EXPECT_EQ(Open(page, device, {}), "left");
+        EXPECT_EQ(Boxes(), Lines{});
         if (testing::Test::HasFailure()) {
             return shapes;
         }
@@ -55,11 +55,11 @@ std::set<std::string> Sweep(const std::function<sim::Machine()>& fresh, Page pag
 TEST(FaultSweep, TheBoardsPage) {
     const auto at_page = [](HWND page) { Do(page, "tx50 rx2 apply fifo all advanced select0 com20"); };
     const auto at_dialog = [](HWND dialog) { Do(dialog, "sort mode2 termination ok ok"); };
-    const sheets::User user = {.at_page = at_page, .at_dialog = at_dialog, .leaves_by = PSBTN_OK};
-    const auto fresh = [] { return machines::BoardOn({7, 5}); };
+    const User user = {.at_page = at_page, .at_dialog = at_dialog, .leaves_by = ok};
+    const auto fresh = [] { return BoardOn({7, 5}); };
     // clang-format off
     const std::set<std::string> expected = {
-        sheets::no_memory, "Create property page failure.", "There was an error renaming the COM port.",
+        no_memory, "Create property page failure.", "There was an error renaming the COM port.",
         "Get BOARD basic information failure. [serr:#]", "Initiate BOARD parameter failure. [serr:#]",
         "Set COM# fifo settings failure. [serr:#]", "Set COM port advance settings failure. [serr:#]",
         "Check COM port in use failure. [serr:#]", "Check COM port opened failure. [serr:#]",
@@ -73,24 +73,22 @@ TEST(FaultSweep, TheBoardsPage) {
 
 TEST(FaultSweep, ThePortsPage) {
     const auto at_page = [](HWND page) {
-        sheets::Choose(page, IDC_PARITY, 1);
+        Choose(page, IDC_PARITY, 1);
         Do(page, "restore advanced sheet-apply");
     };
     const auto at_dialog = [](HWND dialog) { Do(dialog, "tx50 fifo fifo defaults rx2 com5 ok ok"); };
-    const sheets::User user = {
-        .at_page = at_page, .at_dialog = at_dialog, .leaves_by = PSBTN_OK, .answers = IDYES};
-    const auto fresh = [] { return machines::BoardOn({7, 5}); };
+    const User user = {.at_page = at_page, .at_dialog = at_dialog, .leaves_by = ok, .answers = IDYES};
+    const auto fresh = [] { return BoardOn({7, 5}); };
     // clang-format off
     const std::set<std::string> expected = {
-        sheets::no_memory, "Create property page failure.", "There was an error renaming the COM port.",
+        no_memory, "Create property page failure.", "There was an error renaming the COM port.",
         "Get channel basic information failure. [serr:#]", "Get COM port name failure. [serr:#]",
         "Get COM port basic information failure. [serr:#]", "Initiate COM port parameter failure.",
         "Initiate \"COM Port Number\" combox failure. [serr:#]", "Initiate \"Flow control\" combox failure.",
         "Initiate \"Parity\" combox failure.", "Initiate \"Stop bits\" combox failure.",
         "Set COM port fifo settings failure. [serr:#]", "Check COM port in use failure. [serr:#]",
         "Check COM port opened failure. [serr:#]", "", // the question without its string
-        "This COM name is being used by another device (such as another com port or modem).  Using duplicate names "
-        "can lead to inaccessible devices and changed settings.  Do you want to continue?"};
+        in_use_question};
     // clang-format on
     EXPECT_EQ(Sweep(fresh, Page::Port, 1, user), expected);
 }

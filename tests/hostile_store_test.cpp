@@ -9,8 +9,8 @@
 
 namespace {
 
-using sheets::Do;
-using sheets::Page;
+using namespace machines;
+using namespace sheets;
 
 // The same machine for the same seed.
 struct Hostility {
@@ -53,9 +53,9 @@ struct Hostility {
 };
 
 sim::Machine HostileMachine(Hostility& by) {
-    sim::Machine machine = machines::BoardOn({3, 4, 200});
+    sim::Machine machine = BoardOn({3, 4, 200});
     for (const u32 channelClass : {ClassDio, ClassMcp251x, ClassMcp251xFd, ClassCan}) {
-        machines::AddChannel(machine, {}, channelClass, by.Below(8));
+        AddChannel(machine, {}, channelClass, by.Below(8));
     }
     for (std::size_t device = 0; device < machine.devices.size(); ++device) {
         for (sim::Value& value : machine.devices[device].key.list) {
@@ -75,11 +75,11 @@ sim::Machine HostileMachine(Hostility& by) {
     for (int i = 0; i < 4; ++i) {
         machine.serial_map.Set(by.Text(100), by.Below(3), {});
         by.Spoil(machine.serial_map.list.back());
-        machine.dos_names.emplace_back(machines::PortName(by.Below(8)), by.Text(100));
+        machine.dos_names.emplace_back(PortName(by.Below(8)), by.Text(100));
     }
     std::ranges::shuffle(machine.serial_map.list, by.random);
     for (const u32 number : {3u, 4u, 200u}) {
-        machines::SetLine(machine, number, by.Once(4) ? sim::Text(by.Below(120), u',') : by.Text(120));
+        SetLine(machine, number, by.Once(4) ? sim::Text(by.Below(120), u',') : by.Text(120));
     }
     machine.decimal_separator = by.Text(3);
     return machine;
@@ -96,7 +96,7 @@ std::string RandomWords(Hostility& by, std::initializer_list<const char*> words)
 
 // What the pages write is what their controls can say.
 void ExpectSoundWrites() {
-    for (const std::string& change : sheets::Changes()) {
+    for (const std::string& change : Changes()) {
         const std::string value = change.substr(change.rfind('=') + 1);
         const auto writes = [&](const char* name) { return change.find(name) != std::string::npos; };
         if (writes(" UartMode = ")) {
@@ -115,11 +115,11 @@ TEST(HostileStores, NothingBreaksThePages) {
         Hostility by{std::mt19937(seed)};
         sim::Machine machine = HostileMachine(by);
         machine.journal_reads = false;
-        const machines::AtWork at_work(machine);
-        sheets::User user;
+        const AtWork at_work(machine);
+        User user;
         user.at_page = [&](HWND page) {
             ++pages;
-            sheets::Items(page, IDC_PORT_NUMBER);
+            Items(page, IDC_PORT_NUMBER);
             Do(page, RandomWords(by, {"tx", "rx", "select", "com", "fifo", "all", "apply", "defaults",
                                       "advanced", "sheet-apply", "restore"}));
             Do(page, "advanced");
@@ -129,10 +129,10 @@ TEST(HostileStores, NothingBreaksThePages) {
                                         "defaults"}));
             Do(dialog, "ok");
         };
-        user.leaves_by = PSBTN_OK;
+        user.leaves_by = ok;
         for (std::size_t device = 0; device < 4; ++device) {
             user.answers = by.Once(2) ? IDYES : IDNO;
-            sheets::Open(device == 0 ? Page::Board : Page::Port, device, user);
+            Open(device == 0 ? Page::Board : Page::Port, device, user);
             ExpectSoundWrites();
         }
     }

@@ -1,92 +1,58 @@
 #include "tests/machines.h"
 
 #include <algorithm>
+#include <map>
+#include <sstream>
 
-#include "board_page/advanced_port_control.h"
 #include "device_model/board_discovery.h"
-#include "resources/resource_ids.h"
 
 namespace machines {
 namespace {
-
-struct NumberValue {
-    const char16_t* name;
-    u32 number;
-};
-
-void SetNumbers(sim::Values& key, std::initializer_list<NumberValue> values) {
-    for (const NumberValue& value : values) {
-        key.SetDword(value.name, value.number);
-    }
-}
 
 sim::Text Decimal(u32 number) {
     return sim::FromUtf8(std::to_string(number));
 }
 
+// Names of values, each with what it holds; "#" is for the channel's number.
+void SetNumbers(sim::Values& key, const char* names_and_numbers, u32 channel = 0) {
+    std::istringstream words(names_and_numbers);
+    for (std::string name, number; words >> name >> number;) {
+        key.SetDword(sim::FromUtf8(name), number == "#" ? channel : static_cast<u32>(std::stoul(number)));
+    }
+}
+
 void AddChannelBlock(sim::Values& key, BoardPlace place, u32 channel, u32 type) {
-    SetNumbers(key, {{u"BoardPciBusNumber", place.bus},
-                     {u"BoardIrq", place.irq},
-                     {u"ChlNumber", channel},
-                     {u"ChlType", type},
-                     {u"ChlVersion", 1},
-                     {u"ChlEventLength", 0x40},
-                     {u"ChlMemLength", 0x1000},
-                     {u"ChlPortLength", 8},
-                     {u"ChlOpened", 0}});
+    key.SetDword(u"BoardPciBusNumber", place.bus);
+    key.SetDword(u"BoardIrq", place.irq);
+    key.SetDword(u"ChlType", type);
+    SetNumbers(key,
+               "ChlNumber # ChlVersion 1 ChlEventLength 64 ChlMemLength 4096 ChlPortLength 8 ChlOpened 0",
+               channel);
     key.SetQword(u"ChlEventAddr", 0xFEB00000 + 0x40ull * channel);
     key.SetQword(u"ChlMemAddr", 0x1FEC00000 + 0x1000ull * channel);
     key.SetQword(u"ChlPortAddr", 0xE000 + 8ull * channel);
 }
 
-// The values of a channel's own kind; `prefix` is for the two kinds that differ in nothing else.
-void AddSpiCan(sim::Values& key, const sim::Text& prefix, u32 channel) {
-    for (const char16_t* name :
-         {u"SpiNrDevice", u"SpiClkRate", u"Number", u"CS", u"GpioInputBits", u"GpioOutputBits"}) {
-        key.SetDword(prefix + name, channel);
-    }
-    key.SetText(prefix + u"Name", prefix + u" " + Decimal(channel));
-}
+// Of each class in turn.
+constexpr const char* class_values[ChannelClassCount] = {
+    "UartTxFifoSize 128 UartRxFifoSize 128 UartClkRate 14745600 UartCapability 255 "
+    "UartDefCntFifoSettings 0 UartDefCntAdvanceSettings 0 "
+    "UartFifoEnable 1 UartTxFifoLowHigh 128 UartRxFifoLowHigh 112 "
+    "UartMode 1 UartAHDC 0 UartCS 0 UartAutoRS422485 0 UartRS422Termination 0 UartRS485Termination 0",
+    "DioNrBank 4 DioCapability 1 DioDiSamplingFreq 1000 DioDiFilterLowerBound 2",
+    "Mcp251xSpiNrDevice # Mcp251xSpiClkRate # Mcp251xNumber # Mcp251xCS # "
+    "Mcp251xGpioInputBits # Mcp251xGpioOutputBits #",
+    "Mcp251xFdSpiNrDevice # Mcp251xFdSpiClkRate # Mcp251xFdNumber # Mcp251xFdCS # "
+    "Mcp251xFdGpioInputBits # Mcp251xFdGpioOutputBits #",
+    "KvrCanCapability 8 KvrCanTxMsgQueueSize 8 KvrCanTxEventQueueSize 8 KvrCanRxMsgQueueSize 8 "
+    "KvrCanNrRxFilterGroup 8 KvrCanSystemClkRate 8 KvrCanReferenceClkRate 8 KvrCanFifoTXMMax 8 "
+    "KvrCanFifoTXEMax 8 KvrCanFifoRXMMax 8"};
 
 void AddClassValues(sim::Values& key, u32 channelClass, u32 channel) {
-    switch (channelClass) {
-    case ClassUart:
-        SetNumbers(key, {{u"UartTxFifoSize", 128},
-                         {u"UartRxFifoSize", 128},
-                         {u"UartClkRate", 14745600},
-                         {u"UartCapability", 0xFF},
-                         {u"UartDefCntFifoSettings", 0},
-                         {u"UartDefCntAdvanceSettings", 0},
-                         {u"UartFifoEnable", 1},
-                         {u"UartTxFifoLowHigh", 128},
-                         {u"UartRxFifoLowHigh", 112},
-                         {u"UartMode", 1},
-                         {u"UartAHDC", 0},
-                         {u"UartCS", 0},
-                         {u"UartAutoRS422485", 0},
-                         {u"UartRS422Termination", 0},
-                         {u"UartRS485Termination", 0}});
-        break;
-    case ClassDio:
-        SetNumbers(key, {{u"DioNrBank", 4},
-                         {u"DioCapability", 1},
-                         {u"DioDiSamplingFreq", 1000},
-                         {u"DioDiFilterLowerBound", 2}});
-        break;
-    case ClassMcp251x:
-        AddSpiCan(key, u"Mcp251x", channel);
-        break;
-    case ClassMcp251xFd:
-        AddSpiCan(key, u"Mcp251xFd", channel);
-        break;
-    case ClassCan:
-        for (const char16_t* name :
-             {u"KvrCanCapability", u"KvrCanTxMsgQueueSize", u"KvrCanTxEventQueueSize",
-              u"KvrCanRxMsgQueueSize", u"KvrCanNrRxFilterGroup", u"KvrCanSystemClkRate",
-              u"KvrCanReferenceClkRate", u"KvrCanFifoTXMMax", u"KvrCanFifoTXEMax", u"KvrCanFifoRXMMax"}) {
-            key.SetDword(name, 8);
-        }
-        break;
+    SetNumbers(key, class_values[channelClass - ClassUart], channel);
+    if (channelClass == ClassMcp251x || channelClass == ClassMcp251xFd) {
+        const sim::Text kind = channelClass == ClassMcp251x ? u"Mcp251x" : u"Mcp251xFd";
+        key.SetText(kind + u"Name", kind + u" " + Decimal(channel));
     }
 }
 
@@ -147,11 +113,8 @@ std::size_t AddBoard(sim::Machine& machine, BoardPlace place, u32 nrController) 
     const std::size_t index = AddDevice(machine, u"PCI\\Board", u"Multi-function board");
     sim::Values& key = machine.devices[index].key;
     AddChannelBlock(key, place, 0, 0);
-    SetNumbers(key, {{u"BoardMajorVersion", 1},
-                     {u"BoardMinorVersion", 2},
-                     {u"BoardNrController", nrController},
-                     {u"ConfigModel", 7},
-                     {u"ConfigBrand", 1}});
+    key.SetDword(u"BoardNrController", nrController);
+    SetNumbers(key, "BoardMajorVersion 1 BoardMinorVersion 2 ConfigModel 7 ConfigBrand 1");
     key.SetText(u"BoardModelName", u"KVR-8");
     return index;
 }
@@ -180,7 +143,7 @@ std::size_t AddMainboardPort(sim::Machine& machine, u32 number) {
 
 sim::Machine BoardOn(const std::vector<u32>& numbers) {
     sim::Machine machine;
-    AddBoard(machine, {}, static_cast<u32>(numbers.size()) + 1);
+    AddBoard(machine, {}, static_cast<u32>(numbers.size()) + 2);
     for (std::size_t i = 0; i < numbers.size(); ++i) {
         AddUart(machine, {}, static_cast<u32>(i) + 1, numbers[i]);
     }
@@ -246,6 +209,17 @@ std::size_t Count(const sim::Machine& machine, std::string_view name) {
     return static_cast<std::size_t>(std::ranges::count(machine.journal, name, &sim::JournalEntry::name));
 }
 
+std::pair<std::string_view, std::size_t> FailedCall(const sim::Machine& machine) {
+    std::map<std::string_view, std::size_t> calls;
+    for (const sim::JournalEntry& entry : machine.journal) {
+        ++calls[entry.name];
+        if (entry.failed) {
+            return {entry.name, calls[entry.name]};
+        }
+    }
+    return {};
+}
+
 OpenDevice::~OpenDevice() {
     SetupDiDestroyDeviceInfoList(set);
 }
@@ -259,19 +233,6 @@ OpenBoard::OpenBoard(std::size_t index) : device(index) {
 
 OpenBoard::~OpenBoard() {
     BoardDeinitiate(&params);
-}
-
-void SortInDialog(sim::Machine& machine, BPPCHL* channel) {
-    machine.user = [](HWND front) {
-        if (sim::BoxStyle(front) != 0) {
-            SendMessageW(front, WM_COMMAND, IDOK, 0);
-        } else {
-            SendMessageW(front, WM_COMMAND, IDC_SORT_COM, 0);
-            SendMessageW(front, WM_COMMAND, IDCANCEL, 0);
-        }
-    };
-    KvrBoardUartAdvancedDlgShow(nullptr, channel);
-    machine.user = nullptr;
 }
 
 void Forget(sim::Machine& machine) {

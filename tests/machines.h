@@ -33,7 +33,8 @@ std::size_t AddChannel(sim::Machine& machine, BoardPlace place, u32 channelClass
 std::size_t AddUart(sim::Machine& machine, BoardPlace place, u32 channel, u32 number);
 // A port that belongs to no board.
 std::size_t AddMainboardPort(sim::Machine& machine, u32 number);
-// A board at device 0 whose UARTs, the devices from 1 on, are the channels 1, 2, 3, ... on these numbers.
+// A board at device 0 whose UARTs, the devices from 1 on, are the channels 1, 2, 3, ... on these numbers. It
+// has a place for one channel more.
 sim::Machine BoardOn(const std::vector<u32>& numbers);
 
 sim::Text PortName(u32 number);
@@ -63,6 +64,8 @@ Places PlacesAt(const sim::Machine& machine, std::size_t device, u32 number);
 std::vector<std::string> Journal(const sim::Machine& machine, std::initializer_list<sim::Reach> reaches);
 // How often an operation stands in the journal.
 std::size_t Count(const sim::Machine& machine, std::string_view name);
+// The operation that the fault plan has let fail, and which of its calls that was; "" without one.
+std::pair<std::string_view, std::size_t> FailedCall(const sim::Machine& machine);
 
 // A device of a machine as the device manager passes it, open while it lasts.
 struct OpenDevice {
@@ -87,10 +90,6 @@ struct OpenBoard {
     u32 status = 0;
     bool initiated = false;
 };
-
-// Opens the Advanced Port Control dialog on a channel, clicks Sort UART and closes it by Cancel, and any box
-// by OK.
-void SortInDialog(sim::Machine& machine, BPPCHL* channel);
 
 // A fresh journal, no boxes, no faults.
 void Forget(sim::Machine& machine);

@@ -6,12 +6,8 @@
 
 namespace {
 
-using sheets::Erase;
-using sheets::Fail;
-using sheets::Lines;
-using sheets::Lock;
-using sheets::no_fault;
-using sheets::Page;
+using namespace machines;
+using namespace sheets;
 
 constexpr DWORD sheet = SPPSR_ENUM_ADV_DEVICE_PROPERTIES;
 constexpr const char* refused = "no page, refused";
@@ -19,8 +15,8 @@ constexpr const char* not_taken = "not taken, refused";
 
 struct Case {
     const char* name;
-    sheets::Fault fault;
-    sheets::Request request;
+    Fault fault;
+    Request request;
     const char* outcome;
     Lines boxes;
 };
@@ -29,9 +25,9 @@ struct Case {
 const Case both[] = {
     {"as it should be", no_fault, {}, "left", {}},
     {"another request adds nothing", no_fault, {1, TRUE}, "no page", {}},
-    {"no memory for the record", Fail("LocalAlloc", 1), {}, refused, {sheets::no_memory}},
-    {"no memory for another request's record", Fail("LocalAlloc", 1), {1, TRUE}, refused, {sheets::no_memory}},
-    {"no memory at all", Fail("LocalAlloc", 0), {}, refused, {sheets::no_memory}},
+    {"no memory for the record", Fail("LocalAlloc", 1), {}, refused, {no_memory}},
+    {"no memory for another request's record", Fail("LocalAlloc", 1), {1, TRUE}, refused, {no_memory}},
+    {"no memory at all", Fail("LocalAlloc", 0), {}, refused, {no_memory}},
     {"no page", Fail("CreatePropertySheetPageW", 0), {}, refused, {"Create property page failure."}},
     {"not taken", no_fault, {sheet, 0}, not_taken, {"Add property page failure."}},
     {"only 1 means taken", no_fault, {sheet, 2}, not_taken, {"Add property page failure."}},
@@ -46,7 +42,7 @@ const Case of_the_board[] = {
     {"a value that nobody uses is missing", Erase(0, u"ConfigBrand"), {}, refused,
      {"Initiate BOARD parameter failure. [serr:101]"}},
 };
-const sheets::Fault no_uart = [](sim::Machine& machine) { machine.devices[1].key.SetDword(u"ChlType", 2); };
+const Fault no_uart = [](sim::Machine& machine) { machine.devices[1].key.SetDword(u"ChlType", 2); };
 const Case of_the_port[] = {
     {"no key", Lock(1), {}, refused, {"Get channel basic information failure. [serr:100]"}},
     {"another request, a value missing", Erase(1, u"ChlOpened"), {1, TRUE}, refused,
@@ -60,13 +56,13 @@ const Case of_the_port[] = {
 void Try(Page page, std::size_t device, std::span<const Case> cases) {
     for (const Case& one : cases) {
         SCOPED_TRACE(testing::Message() << (page == Page::Board ? "board: " : "port: ") << one.name);
-        sim::Machine machine = machines::BoardOn({3});
-        machines::SetLine(machine, 3, u"9600,n,8,1");
-        const machines::AtWork at_work(machine);
+        sim::Machine machine = BoardOn({3});
+        SetLine(machine, 3, u"9600,n,8,1");
+        const AtWork at_work(machine);
         one.fault(machine);
-        EXPECT_EQ(sheets::Open(page, device, {}, one.request), one.outcome);
-        EXPECT_EQ(sheets::Boxes(), one.boxes);
-        EXPECT_EQ(sheets::Changes(), Lines{});
+        EXPECT_EQ(Open(page, device, {}, one.request), one.outcome);
+        EXPECT_EQ(Boxes(), one.boxes);
+        EXPECT_EQ(Changes(), Lines{});
     }
 }
 

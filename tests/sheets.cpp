@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "board_page/board_page_provider.h"
+#include "host/screen.h"
 #include "uart_page/uart_page_provider.h"
 
 namespace sheets {
@@ -27,38 +28,16 @@ BOOL CALLBACK Take(HPROPSHEETPAGE page, LPARAM shelf) {
     return to.answer;
 }
 
-std::string ClassOf(HWND window) {
-    WCHAR name[32] = {};
-    GetClassNameW(window, name, 32);
-    return sim::ToUtf8(name);
-}
-
-struct ListMessages {
-    UINT count, length, text, selection, select;
-};
-
-ListMessages MessagesOf(HWND list) {
-    return ClassOf(list) == "ListBox"
-               ? ListMessages{LB_GETCOUNT, LB_GETTEXTLEN, LB_GETTEXT, LB_GETCURSEL, LB_SETCURSEL}
-               : ListMessages{CB_GETCOUNT, CB_GETLBTEXTLEN, CB_GETLBTEXT, CB_GETCURSEL, CB_SETCURSEL};
+// One that is not there is as nothing.
+host::Control Read(HWND dialog, int id) {
+    const host::Window window = host::ReadWindow(dialog, false);
+    const auto found = std::ranges::find(window.controls, id, &host::Control::id);
+    return found != window.controls.end() ? *found : host::Control();
 }
 
 HWND Touchable(HWND dialog, int id) {
     const HWND control = GetDlgItem(dialog, id);
     return control != nullptr && IsWindowEnabled(control) ? control : nullptr;
-}
-
-std::string Item(HWND list, int index) {
-    const ListMessages to = MessagesOf(list);
-    const auto item = static_cast<WPARAM>(index);
-    const LRESULT length = SendMessageW(list, to.length, item, 0);
-    if (length < 0) {
-        return "";
-    }
-    sim::Text text(static_cast<std::size_t>(length) + 1, u'\0');
-    SendMessageW(list, to.text, item, reinterpret_cast<LPARAM>(text.data()));
-    text.pop_back();
-    return sim::ToUtf8(text);
 }
 
 void Slide(HWND dialog, int id, int position) {
@@ -72,16 +51,6 @@ void Click(HWND dialog, int id) {
     if (const HWND button = Touchable(dialog, id)) {
         SendMessageW(button, BM_CLICK, 0, 0);
     }
-}
-
-// The title of a sheet names its port, which may be long.
-sim::Text TitleOf(std::size_t device) {
-    sim::Text title = u"Properties of ";
-    if (const sim::Value* name = sim::Current().devices[device].key.Find(u"PortName")) {
-        title.resize(title.size() + name->data.size() / 2);
-        std::memcpy(title.data() + 14, name->data.data(), (title.size() - 14) * 2);
-    }
-    return title.substr(0, title.find(u'\0'));
 }
 
 } // namespace
@@ -129,7 +98,8 @@ std::string Open(Page page, std::size_t device, const User& user, const Request&
     Shelf shelf;
     shelf.answer = request.add_page;
     const bool provided = provider(&asked, Take, reinterpret_cast<LPARAM>(&shelf)) != FALSE;
-    const bool accepted = !shelf.pages.empty() && sim::RunSheet(TitleOf(device), shelf.pages);
+    const sim::Text title = u"Properties of " + machines::PlacesOf(machine, device).port_name;
+    const bool accepted = !shelf.pages.empty() && sim::RunSheet(title, shelf.pages);
     machine.user = nullptr;
     if (shelf.pages.empty()) {
         return std::string(shelf.offered ? "not taken" : "no page") + (provided ? "" : ", refused");
@@ -139,7 +109,8 @@ std::string Open(Page page, std::size_t device, const User& user, const Request&
 
 void Choose(HWND dialog, int id, int index) {
     if (const HWND list = Touchable(dialog, id)) {
-        SendMessageW(list, MessagesOf(list).select, static_cast<WPARAM>(index), 0);
+        const UINT select = id == IDC_PORT_LIST ? LB_SETCURSEL : CB_SETCURSEL;
+        SendMessageW(list, select, static_cast<WPARAM>(index), 0);
         SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(id, CBN_SELCHANGE), reinterpret_cast<LPARAM>(list));
     }
 }
@@ -183,45 +154,28 @@ std::string Shown(HWND window) {
 }
 
 std::string Shown(HWND dialog, int id) {
-    const HWND control = GetDlgItem(dialog, id);
-    return ClassOf(control) == "ListBox" ? Item(control, Selection(dialog, id)) : Shown(control);
+    const host::Control control = Read(dialog, id);
+    return control.selection < 0 ? control.text : control.items[static_cast<std::size_t>(control.selection)];
 }
 
-std::vector<std::string> Items(HWND dialog, int id) {
-    const HWND list = GetDlgItem(dialog, id);
-    std::vector<std::string> items;
-    const LRESULT count = SendMessageW(list, MessagesOf(list).count, 0, 0);
-    for (int index = 0; index < count; ++index) {
-        items.push_back(Item(list, index));
-    }
-    return items;
+Lines Items(HWND dialog, int id) {
+    return Read(dialog, id).items;
 }
 
-std::vector<std::string> Rows(HWND dialog) {
-    const HWND list = GetDlgItem(dialog, IDC_RESOURCE_LIST);
-    std::vector<std::string> rows;
-    const LRESULT count = SendMessageW(list, LVM_GETITEMCOUNT, 0, 0);
-    for (LRESULT row = 0; row < count; ++row) {
-        WCHAR cells[2][300] = {};
-        for (int column = 0; column < 2; ++column) {
-            LVITEMW item = {};
-            item.iSubItem = column;
-            item.pszText = cells[column];
-            item.cchTextMax = 300;
-            SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-        }
-        rows.push_back(sim::ToUtf8(cells[0]) + ": " + sim::ToUtf8(cells[1]));
+Lines Rows(HWND dialog) {
+    Lines rows;
+    for (const Lines& cells : Read(dialog, IDC_RESOURCE_LIST).rows) {
+        rows.push_back(cells[0] + ": " + cells[1]);
     }
     return rows;
 }
 
 int Selection(HWND dialog, int id) {
-    const HWND list = GetDlgItem(dialog, id);
-    return static_cast<int>(SendMessageW(list, MessagesOf(list).selection, 0, 0));
+    return Read(dialog, id).selection;
 }
 
 bool IsOn(HWND dialog, int id) {
-    return IsDlgButtonChecked(dialog, id) == BST_CHECKED;
+    return Read(dialog, id).checked;
 }
 
 bool IsEnabled(HWND dialog, int id) {
@@ -229,25 +183,22 @@ bool IsEnabled(HWND dialog, int id) {
 }
 
 std::string Fifo(HWND dialog) {
-    const auto number = [=](int id, UINT message) {
-        return std::to_string(SendDlgItemMessageW(dialog, id, message, 0, 0));
-    };
+    const host::Control tx = Read(dialog, IDC_TRANSMIT_SLIDER), rx = Read(dialog, IDC_RECEIVE_SLIDER);
     int live = 0;
     for (const int id : {IDC_TRANSMIT_SLIDER, IDC_TRANSMIT_LOW, IDC_TRANSMIT_HIGH, IDC_TRANSMIT_CAPTION,
                          IDC_RECEIVE_SLIDER, IDC_RECEIVE_LOW, IDC_RECEIVE_HIGH, IDC_RECEIVE_CAPTION}) {
         live += IsEnabled(dialog, id);
     }
-    return std::string(IsOn(dialog, IDC_LARGEFIFO) ? "on" : "off") + " tx " +
-           number(IDC_TRANSMIT_SLIDER, TBM_GETPOS) + "/" + number(IDC_TRANSMIT_SLIDER, TBM_GETRANGEMAX) +
-           " " + Shown(dialog, IDC_TRANSMIT_HIGH) + " rx " + number(IDC_RECEIVE_SLIDER, TBM_GETPOS) + " " +
-           Shown(dialog, IDC_RECEIVE_HIGH) +
+    return std::string(IsOn(dialog, IDC_LARGEFIFO) ? "on" : "off") + " tx " + std::to_string(tx.position) +
+           "/" + std::to_string(tx.maximum) + " " + Shown(dialog, IDC_TRANSMIT_HIGH) + " rx " +
+           std::to_string(rx.position) + " " + Shown(dialog, IDC_RECEIVE_HIGH) +
            (live == 8   ? " live"
             : live == 0 ? " dead"
                         : " torn");
 }
 
-std::vector<std::string> Boxes() {
-    std::vector<std::string> texts;
+Lines Boxes() {
+    Lines texts;
     for (const sim::ShownBox& box : sim::Current().boxes) {
         texts.push_back(sim::ToUtf8(box.text));
     }
@@ -255,9 +206,9 @@ std::vector<std::string> Boxes() {
     return texts;
 }
 
-std::vector<std::string> Changes() {
+Lines Changes() {
     sim::Machine& machine = sim::Current();
-    std::vector<std::string> lines = machines::Journal(machine, {sim::Reach::Write});
+    Lines lines = machines::Journal(machine, {sim::Reach::Write});
     machine.journal.clear();
     for (std::string& line : lines) {
         if (const std::size_t place = line.find("KVR\\Channel\\"); place != std::string::npos) {
@@ -282,6 +233,13 @@ std::string Stored(std::size_t device, std::initializer_list<const char16_t*> na
 
 std::string StoredFifo(std::size_t device) {
     return Stored(device, {u"UartFifoEnable", u"UartTxFifoLowHigh", u"UartRxFifoLowHigh"});
+}
+
+void StoreFifo(std::size_t device, const u32 (&values)[3]) {
+    sim::Values& key = sim::Current().devices[device].key;
+    key.SetDword(u"UartFifoEnable", values[0]);
+    key.SetDword(u"UartTxFifoLowHigh", values[1]);
+    key.SetDword(u"UartRxFifoLowHigh", values[2]);
 }
 
 std::string StoredMode(std::size_t device) {

@@ -21,8 +21,9 @@ Fault Erase(std::size_t device, const char16_t* value);
 Fault Lock(std::size_t device);
 inline const Fault no_fault = [](sim::Machine&) {};
 
-inline constexpr const char* no_memory = "Insufficient memory for this operation;\r\rclose one or more "
-                                         "Windows applications to increase available memory.";
+// How a sheet is left.
+inline constexpr WPARAM ok = PSBTN_OK;
+inline constexpr WPARAM cancel = PSBTN_CANCEL;
 
 enum class Page { Board, Port };
 
@@ -39,7 +40,7 @@ struct Request {
 struct User {
     std::function<void(HWND page)> at_page = {};
     std::function<void(HWND dialog)> at_dialog = {}; // the advanced dialog; cancelled if it then still stands
-    WPARAM leaves_by = PSBTN_CANCEL;                 // the sheet
+    WPARAM leaves_by = cancel;                       // the sheet
     int answers = IDNO;                              // a question
 };
 
@@ -58,8 +59,8 @@ void Choose(HWND dialog, int id, int index);
 // What the controls show.
 std::string Shown(HWND window);
 std::string Shown(HWND dialog, int id); // of a list, the selected item
-std::vector<std::string> Items(HWND dialog, int id);
-std::vector<std::string> Rows(HWND dialog); // of the resource list, "label: setting"
+Lines Items(HWND dialog, int id);
+Lines Rows(HWND dialog); // of the resource list, "label: setting"
 int Selection(HWND dialog, int id);
 bool IsOn(HWND dialog, int id);
 bool IsEnabled(HWND dialog, int id);
@@ -67,13 +68,14 @@ bool IsEnabled(HWND dialog, int id);
 std::string Fifo(HWND dialog);
 
 // The boxes shown since the last call.
-std::vector<std::string> Boxes();
+Lines Boxes();
 // What the logic has changed outside since the last call, "name detail" each, the device's place left out.
-std::vector<std::string> Changes();
+Lines Changes();
 
 // A device's values joined by blanks; "-" for one that is missing.
 std::string Stored(std::size_t device, std::initializer_list<const char16_t*> names);
 std::string StoredFifo(std::size_t device);
-std::string StoredMode(std::size_t device); // six digits, in the order of writing
+void StoreFifo(std::size_t device, const u32 (&values)[3]); // in the same order
+std::string StoredMode(std::size_t device);                 // six digits, in the order of writing
 
 } // namespace sheets
