@@ -67,7 +67,8 @@ target_link_libraries(host PUBLIC kernel32 user32 gdi32 comctl32 advapi32 setupa
 add_executable(kvrhost host/main.cpp)
 target_link_libraries(kvrhost PRIVATE host)
 
-add_executable(kvrfit host/windows/fit/main.cpp)
+add_executable(kvrfit host/windows/fit/main.cpp host/windows/fit/run_time_texts.cpp)
+target_include_directories(kvrfit PRIVATE ${CMAKE_SOURCE_DIR})
 target_link_libraries(kvrfit PRIVATE kernel32 user32 gdi32 comctl32)
 
 add_executable(kvrpictures host/windows/pictures/main.cpp)

@@ -1,0 +1,23 @@
+// The texts of the built library's dialogs, language by language, as they stand while it runs.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+using Text = std::wstring;
+
+// The library whose resources are read; set before anything else here is called.
+extern HMODULE library;
+
+// A resource in one language and no other; null if there is none.
+const void* Resource(LPCWSTR type, WORD name, LANGID language);
+// A string of the table in one language; empty if there is none.
+Text String(LANGID language, UINT id);
+// The format with what stands for its placeholder put in.
+Text Filled(Text format, const Text& value);
+// The widest items that a combo shows.
+std::vector<Text> ComboItems(LANGID language, WORD dialog, int id);
+// The text of a label or check box, whose template says `text`, with the numbers that the library puts in.
+Text RunTimeText(LANGID language, WORD dialog, int id, const Text& text);
