@@ -1,4 +1,6 @@
 // Every failure code with its box, and the boxes without memory or strings.
+#include <functional>
+
 #include "reporting/error_reporter.h"
 #include "resources/resource_ids.h"
 #include "tests/at_work.h"
@@ -63,47 +65,43 @@ const Expected all_codes[] = {
     {406, 0xFFFFFFFF, "KVR channle(7), temporary COM8 remap to COM9 failure. [serr:-1]"},
 };
 
-u32 Show(u32 oerr, u32 serr, HWND parent = nullptr) {
+// Reports a failure on a fresh machine, changed before.
+void ExpectBox(const Expected& expected, const std::function<void(sim::Machine&)>& change = {}) {
+    SCOPED_TRACE(std::to_string(expected.oerr) + " with " + std::to_string(expected.serr));
+    sim::Machine machine;
+    const AtWork at_work(machine);
+    if (change) {
+        change(machine);
+    }
     u32 choice = 0;
-    ErrorBoxShow(oerr, serr, parent, 7, 8, 9, &choice);
-    return choice;
-}
-
-void ExpectBox(const sim::Machine& machine, const Expected& expected, u32 choice) {
-    const std::string what = std::to_string(expected.oerr) + " with " + std::to_string(expected.serr);
-    ASSERT_EQ(machine.boxes.size(), 1u) << what;
+    ErrorBoxShow(expected.oerr, expected.serr, nullptr, 7, 8, 9, &choice);
+    ASSERT_EQ(machine.boxes.size(), 1u);
     const sim::ShownBox& box = machine.boxes.front();
-    EXPECT_EQ(sim::ToUtf8(box.text), expected.text) << what;
-    EXPECT_EQ(sim::ToUtf8(box.caption), expected.caption) << what;
-    EXPECT_EQ(box.style, expected.style) << what;
-    EXPECT_EQ(choice, expected.choice) << what;
+    EXPECT_EQ(sim::ToUtf8(box.text), expected.text);
+    EXPECT_EQ(sim::ToUtf8(box.caption), expected.caption);
+    EXPECT_EQ(box.style, expected.style);
+    EXPECT_EQ(choice, expected.choice);
 }
 
 TEST(ErrorReporter, EveryCodeHasItsBox) {
     for (const Expected& expected : all_codes) {
-        sim::Machine machine;
-        const AtWork at_work(machine);
-        ExpectBox(machine, expected, Show(expected.oerr, expected.serr));
+        ExpectBox(expected);
     }
     const u32 undefined[] = {0,   5,   99,  104, 149, 153, 199,    206,        249,
                              251, 299, 306, 399, 407, 500, 202000, 0x7FFFFFFF, 0xFFFFFFFF};
     for (const u32 oerr : undefined) {
-        sim::Machine machine;
-        const AtWork at_work(machine);
         const std::string text =
             "Undefine error. [oerr:" + std::to_string(static_cast<int>(oerr)) + ", serr:202]";
-        ExpectBox(machine, {oerr, 202, text.c_str()}, Show(oerr, 202));
+        ExpectBox({oerr, 202, text.c_str()});
     }
 }
 
 TEST(ErrorReporter, WithoutMemoryEveryCodeSaysSoAndAnswersNo) {
     for (const Expected& code : all_codes) {
         for (const std::size_t failing : {1, 2}) {
-            sim::Machine machine;
-            const AtWork at_work(machine);
-            machine.faults.at_call = {{"LocalAlloc", failing}};
-            ExpectBox(machine, {code.oerr, code.serr, no_memory, plain, "Communications Port"},
-                      Show(code.oerr, code.serr));
+            ExpectBox({code.oerr, code.serr, no_memory, plain, "Communications Port"}, [=](auto& machine) {
+                machine.faults.at_call = {{"LocalAlloc", failing}};
+            });
         }
     }
 }
@@ -123,12 +121,13 @@ TEST(ErrorReporter, AnAnswerIsTheUsersAndAMissingStringIsAnEmptyText) {
         {"no caption", IDNO, {IDS_BOX_CAPTION}, in_use_question, "", IDNO},
     };
     for (const auto& each : cases) {
-        sim::Machine machine;
-        const AtWork at_work(machine);
-        machine.missing_strings = each.missing;
-        machine.user = [&](HWND box) { SendMessageW(box, WM_COMMAND, static_cast<WPARAM>(each.answer), 0); };
         SCOPED_TRACE(each.what);
-        ExpectBox(machine, {203, 202, each.text, question, each.caption, each.choice}, Show(203, 202));
+        ExpectBox({203, 202, each.text, question, each.caption, each.choice}, [&](auto& machine) {
+            machine.missing_strings = each.missing;
+            machine.user = [&](HWND box) {
+                SendMessageW(box, WM_COMMAND, static_cast<WPARAM>(each.answer), 0);
+            };
+        });
     }
 }
 
@@ -138,8 +137,12 @@ TEST(ErrorReporter, ABoxThatCantBeShownAndACallerWithoutInterestDoNoHarm) {
     ErrorBoxShow(204, 3, nullptr, 0, 0, 0, nullptr);
     EXPECT_FALSE(machine.boxes.front().owned);
     machine.faults.at_call = {{"MessageBoxW", 0}};
-    EXPECT_EQ(Show(303, 202), static_cast<u32>(IDNO));
-    EXPECT_NE(Show(203, 202), static_cast<u32>(IDYES));
+    u32 choice = IDYES;
+    ErrorBoxShow(303, 202, nullptr, 0, 0, 0, &choice);
+    EXPECT_EQ(choice, static_cast<u32>(IDNO));
+    choice = IDYES;
+    ErrorBoxShow(203, 202, nullptr, 0, 0, 0, &choice);
+    EXPECT_NE(choice, static_cast<u32>(IDYES));
 }
 
 } // namespace

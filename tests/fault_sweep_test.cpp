@@ -24,14 +24,13 @@ std::string WithoutNumbers(const std::string& text) {
     return shape;
 }
 
-// Opens and operates the page of a fresh machine once for each operation that this takes; the shapes of all
-// boxes.
-std::set<std::string> Sweep(const std::function<sim::Machine()>& fresh, Page page, std::size_t device,
-                            const User& user) {
+// Opens and operates the page of a machine with two UARTs once for each operation that this takes; the shapes
+// of all boxes.
+std::set<std::string> Sweep(Page page, std::size_t device, const User& user) {
     std::set<std::string> shapes;
     for (std::size_t at = 1;; ++at) {
         SCOPED_TRACE(testing::Message() << "operation " << at);
-        sim::Machine machine = fresh();
+        sim::Machine machine = BoardOn({7, 5});
         machine.journal_reads = false;
         const AtWork at_work(machine);
         machine.faults.at = at;
@@ -56,7 +55,6 @@ TEST(FaultSweep, TheBoardsPage) {
     const auto at_page = [](HWND page) { Do(page, "tx50 rx2 apply fifo all advanced select0 com20"); };
     const auto at_dialog = [](HWND dialog) { Do(dialog, "sort mode2 termination ok ok"); };
     const User user = {.at_page = at_page, .at_dialog = at_dialog, .leaves_by = ok};
-    const auto fresh = [] { return BoardOn({7, 5}); };
     // clang-format off
     const std::set<std::string> expected = {
         no_memory, "Create property page failure.", "There was an error renaming the COM port.",
@@ -68,7 +66,7 @@ TEST(FaultSweep, TheBoardsPage) {
         "KVR channle(#), COM# remap to COM# failure. [serr:#]",
         "KVR channle(#), temporary COM# remap to COM# failure. [serr:#]"};
     // clang-format on
-    EXPECT_EQ(Sweep(fresh, Page::Board, 0, user), expected);
+    EXPECT_EQ(Sweep(Page::Board, 0, user), expected);
 }
 
 TEST(FaultSweep, ThePortsPage) {
@@ -78,7 +76,6 @@ TEST(FaultSweep, ThePortsPage) {
     };
     const auto at_dialog = [](HWND dialog) { Do(dialog, "tx50 fifo fifo defaults rx2 com5 ok ok"); };
     const User user = {.at_page = at_page, .at_dialog = at_dialog, .leaves_by = ok, .answers = IDYES};
-    const auto fresh = [] { return BoardOn({7, 5}); };
     // clang-format off
     const std::set<std::string> expected = {
         no_memory, "Create property page failure.", "There was an error renaming the COM port.",
@@ -90,7 +87,7 @@ TEST(FaultSweep, ThePortsPage) {
         "Check COM port opened failure. [serr:#]", "", // the question without its string
         in_use_question};
     // clang-format on
-    EXPECT_EQ(Sweep(fresh, Page::Port, 1, user), expected);
+    EXPECT_EQ(Sweep(Page::Port, 1, user), expected);
 }
 
 } // namespace
