@@ -269,8 +269,6 @@ TEST(BoardDiscovery, AChannelIsKeptIfItCanBeReadAndBelongsToTheBoard) {
          " 1:4294967295 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
         {"of one number twice the first is walked", number(2, u"ChlNumber", 5),
          " 1:5 2:5 3:3 4:2 5:1 | 5:1 4:2 3:3 1:5"},
-        {"a board of no numbers", number(0, u"BoardNrController", 0), " 1:5 2:4 3:3 4:2 5:1 |"},
-        {"a board of number 0 alone", number(0, u"BoardNrController", 1), " 1:5 2:4 3:3 4:2 5:1 |"},
         {"a board of two numbers", number(0, u"BoardNrController", 3), " 1:5 2:4 3:3 4:2 5:1 | 5:1 4:2"},
     };
     for (const auto& each : cases) {
