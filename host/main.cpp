@@ -14,7 +14,8 @@ int main(int argc, char** argv) {
     std::string file;
     LANGID language = 0;
     app.add_option("machine", file, "registry export of the machine; without it, the sample machine");
-    app.add_option("--language", language, "language id of the user, such as 1031; without it, that of the locale");
+    app.add_option("--language", language,
+                   "language id of the user, such as 1031; without it, that of the locale");
     CLI11_PARSE(app, argc, argv);
 
     std::string error;
@@ -24,6 +25,9 @@ int main(int argc, char** argv) {
         return 2;
     }
     const std::unique_ptr<host::LineSource> console = host::OpenConsole();
+    if (console->IsPerson())
+        std::cout << (file.empty() ? "The sample machine" : file)
+                  << ": devices lists what can be opened, help tells the commands.\n";
     host::Interpreter interpreter(*world, *console, std::cout);
     int failed = interpreter.Run();
     if (!interpreter.had_input() && !console->IsPerson() && file.empty()) {
