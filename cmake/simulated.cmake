@@ -22,7 +22,8 @@ find_package(utf8cpp REQUIRED)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(EDIT REQUIRED IMPORTED_TARGET libedit)
 
-file(GLOB HOST CONFIGURE_DEPENDS host/*.cpp host/simulated/*.cpp)
+file(GLOB HOST CONFIGURE_DEPENDS host/*.cpp host/screen/*.cpp host/commands/*.cpp host/machine_file/*.cpp
+     host/simulated/*.cpp)
 list(FILTER HOST EXCLUDE REGEX "/main\\.cpp$")
 set(SAMPLE_MACHINE ${CMAKE_SOURCE_DIR}/host/machines/sample.reg)
 set_source_files_properties(host/simulated/sample_machine.cpp PROPERTIES

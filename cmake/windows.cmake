@@ -57,7 +57,8 @@ set_target_properties(standin_msports PROPERTIES PREFIX "" OUTPUT_NAME msports R
                                                  ARCHIVE_OUTPUT_DIRECTORY standins)
 target_link_libraries(standin_msports PRIVATE kernel32 advapi32)
 
-file(GLOB HOST CONFIGURE_DEPENDS host/*.cpp host/windows/*.cpp host/windows/standins/*.cpp)
+file(GLOB HOST CONFIGURE_DEPENDS host/*.cpp host/screen/*.cpp host/commands/*.cpp host/machine_file/*.cpp
+     host/windows/*.cpp host/windows/standins/*.cpp)
 list(FILTER HOST EXCLUDE REGEX "/(main|msports)\\.cpp$")
 add_library(host OBJECT ${HOST})
 target_include_directories(host PUBLIC ${CMAKE_SOURCE_DIR})

@@ -4,8 +4,8 @@
 
 #include <CLI/CLI.hpp>
 
-#include "host/interpreter.h"
-#include "host/tour.h"
+#include "host/commands/interpreter.h"
+#include "host/commands/tour.h"
 
 int main(int argc, char** argv) {
     CLI::App app{

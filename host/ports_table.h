@@ -2,7 +2,7 @@
 // does not agree with the port's name in its device store, ! stands behind it.
 #pragma once
 
-#include "host/listing.h"
+#include "host/screen/listing.h"
 
 namespace host {
 

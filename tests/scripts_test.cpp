@@ -15,9 +15,9 @@
 
 #include <gtest/gtest.h>
 
-#include "host/interpreter.h"
+#include "host/commands/interpreter.h"
+#include "host/commands/tour.h"
 #include "host/simulated/world.h"
-#include "host/tour.h"
 
 namespace {
 

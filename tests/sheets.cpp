@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "board_page/board_page_provider.h"
-#include "host/screen.h"
+#include "host/screen/screen.h"
 #include "uart_page/uart_page_provider.h"
 
 namespace sheets {

@@ -19,7 +19,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/registry_export.h"
+#include "host/machine_file/registry_export.h"
 #include "platform/simulated/machine.h"
 
 namespace host {

@@ -7,7 +7,7 @@
 #include <histedit.h>
 #include <unistd.h>
 
-#include "host/console.h"
+#include "host/commands/console.h"
 #include "host/text.h"
 
 namespace host {

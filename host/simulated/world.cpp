@@ -5,8 +5,8 @@
 #include <sstream>
 
 #include "board_page/board_page_provider.h"
-#include "host/listing.h"
-#include "host/registry_export.h"
+#include "host/machine_file/registry_export.h"
+#include "host/screen/listing.h"
 #include "host/simulated/machine_file.h"
 #include "host/simulated/user_language.h"
 #include "host/text.h"

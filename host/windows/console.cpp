@@ -8,7 +8,7 @@
 #include <sstream>
 #include <thread>
 
-#include "host/console.h"
+#include "host/commands/console.h"
 #include "host/windows/attendance.h"
 #include "host/windows/standins/faults.h"
 

@@ -1,6 +1,6 @@
 #include "host/windows/first_device.h"
 
-#include "host/listing.h"
+#include "host/screen/listing.h"
 
 namespace host {
 

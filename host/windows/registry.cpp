@@ -1,6 +1,6 @@
 #include "host/windows/registry.h"
 
-#include "host/listing.h"
+#include "host/screen/listing.h"
 
 namespace host {
 

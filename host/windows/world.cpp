@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "host/listing.h"
+#include "host/screen/listing.h"
 #include "host/windows/attendance.h"
 #include "host/windows/observers.h"
 #include "host/windows/registry.h"

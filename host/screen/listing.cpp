@@ -1,11 +1,11 @@
-#include "host/listing.h"
+#include "host/screen/listing.h"
 
 #include <algorithm>
 #include <cinttypes>
 #include <cstdio>
 #include <cstring>
 
-#include "host/naming.h"
+#include "host/screen/naming.h"
 #include "host/text.h"
 
 namespace host {

@@ -1,4 +1,4 @@
-#include "host/console.h"
+#include "host/commands/console.h"
 
 namespace host {
 namespace {

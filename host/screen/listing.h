@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "host/screen.h"
+#include "host/screen/screen.h"
 #include "host/world.h"
 
 namespace host {

@@ -1,4 +1,4 @@
-#include "host/text_lines.h"
+#include "host/machine_file/text_lines.h"
 
 #include <algorithm>
 #include <bit>

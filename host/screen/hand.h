@@ -3,7 +3,7 @@
 // opens in consequence runs inside the operation.
 #pragma once
 
-#include "host/naming.h"
+#include "host/screen/naming.h"
 
 namespace host {
 

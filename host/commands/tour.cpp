@@ -1,4 +1,4 @@
-#include "host/tour.h"
+#include "host/commands/tour.h"
 
 namespace host {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/screen.h"
+#include "host/screen/screen.h"
 
 namespace host {
 

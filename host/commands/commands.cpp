@@ -1,12 +1,12 @@
-#include "host/interpreter.h"
+#include "host/commands/interpreter.h"
 
 #include <algorithm>
 #include <iterator>
 
-#include "host/drawing.h"
-#include "host/hand.h"
-#include "host/listing.h"
 #include "host/ports_table.h"
+#include "host/screen/drawing.h"
+#include "host/screen/hand.h"
+#include "host/screen/listing.h"
 #include "host/text.h"
 
 namespace host {

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "host/console.h"
-#include "host/screen.h"
+#include "host/commands/console.h"
+#include "host/screen/screen.h"
 #include "host/world.h"
 
 namespace host {

@@ -1,4 +1,4 @@
-#include "host/screen.h"
+#include "host/screen/screen.h"
 
 #include <algorithm>
 

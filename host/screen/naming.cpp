@@ -1,4 +1,4 @@
-#include "host/naming.h"
+#include "host/screen/naming.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "host/registry_export.h"
+#include "host/machine_file/registry_export.h"
 
 namespace host {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "host/console.h"
+#include "host/commands/console.h"
 
 namespace host {
 

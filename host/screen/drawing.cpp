@@ -1,10 +1,10 @@
-#include "host/drawing.h"
+#include "host/screen/drawing.h"
 
 #include <algorithm>
 #include <cmath>
 #include <map>
 
-#include "host/canvas.h"
+#include "host/screen/canvas.h"
 #include "host/text.h"
 
 namespace host {

@@ -1,11 +1,11 @@
-#include "host/registry_export.h"
+#include "host/machine_file/registry_export.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
 #include <vector>
 
-#include "host/text_lines.h"
+#include "host/machine_file/text_lines.h"
 
 namespace host {
 namespace {

@@ -1,4 +1,4 @@
-#include "host/hand.h"
+#include "host/screen/hand.h"
 
 #include <algorithm>
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "host/screen.h"
+#include "host/screen/screen.h"
 
 namespace host {
 

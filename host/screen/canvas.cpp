@@ -1,4 +1,4 @@
-#include "host/canvas.h"
+#include "host/screen/canvas.h"
 
 #include <algorithm>
 

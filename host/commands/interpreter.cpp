@@ -1,4 +1,4 @@
-#include "host/interpreter.h"
+#include "host/commands/interpreter.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -6,8 +6,8 @@
 
 #include <utf8.h>
 
-#include "host/hand.h"
-#include "host/listing.h"
+#include "host/screen/hand.h"
+#include "host/screen/listing.h"
 #include "host/text.h"
 
 namespace host {
