@@ -73,4 +73,21 @@ TEST(PageProviders, EachFailureHasItsBoxAndLeavesNothing) {
     Try(Page::Port, 1, of_the_port);
 }
 
+TEST(PageProviders, APageTakesNoUnknownCommandAndClosesAtCancel) {
+    for (const Page kind : {Page::Board, Page::Port}) {
+        sim::Machine machine = BoardOn({3});
+        SetLine(machine, 3, u"9600,n,8,1");
+        const AtWork at_work(machine);
+        const auto at_page = [](HWND page) {
+            SendMessageW(page, WM_COMMAND, MAKEWPARAM(9999, 0), 0);
+            SendMessageW(page, WM_HSCROLL, 0, 0);
+            EXPECT_TRUE(IsWindowVisible(page));
+            SendMessageW(page, WM_COMMAND, IDCANCEL, 0);
+            EXPECT_FALSE(IsWindowVisible(page));
+        };
+        EXPECT_EQ(Open(kind, kind == Page::Board ? 0 : 1, {.at_page = at_page}), "left");
+        EXPECT_EQ(Changes(), Lines{});
+    }
+}
+
 } // namespace
