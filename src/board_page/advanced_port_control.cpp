@@ -168,11 +168,10 @@ bool _OnInitDialog(HWND hDlg, LPARAM lParam) {
 bool _OnCommand(HWND hDlg, int id, int notifyCode) {
     TraceOut("----> %s( ), NotifyCode:%d\n", __func__, notifyCode);
     auto* chl = reinterpret_cast<BPPCHL*>(GetWindowLongPtrW(hDlg, DWLP_USER));
-    bool bSuccess = false;
     if (chl == nullptr) {
-        // Without its record the dialog can still be closed.
-        return (id == IDOK || id == IDCANCEL) && EndDialog(hDlg, IDCANCEL);
+        return false; // not initialised yet
     }
+    bool bSuccess = false;
     switch (id) {
     case IDOK:
         TraceOut("%s - IDOK\n", __func__);

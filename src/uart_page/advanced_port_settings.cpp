@@ -154,11 +154,10 @@ bool _OkClicked(HWND hDlg, UartAdvancedParams* params) {
 bool _OnCommand(HWND hDlg, int id, int notifyCode) {
     TraceOut("----> %s( ), NotifyCode:%d\n", __func__, notifyCode);
     auto* params = reinterpret_cast<UartAdvancedParams*>(GetWindowLongPtrW(hDlg, DWLP_USER));
-    bool bSuccess = false;
     if (params == nullptr) {
-        // Without its record the dialog can still be closed.
-        return (id == IDOK || id == IDCANCEL) && EndDialog(hDlg, IDCANCEL);
+        return false; // not initialised yet
     }
+    bool bSuccess = false;
     switch (id) {
     case IDOK:
         TraceOut("%s - IDOK\n", __func__);
