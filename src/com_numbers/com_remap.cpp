@@ -1,7 +1,6 @@
 #include "com_numbers/com_remap.h"
 
 #include "com_numbers/com_port_database.h"
-#include "device_model/board_discovery.h"
 #include "device_model/device_store.h"
 #include "reporting/text_operations.h"
 #include "reporting/trace.h"

@@ -11,6 +11,7 @@
 
 #include "device_model/board_params.h"
 
+constexpr u32 StatusNoMemory = 1;      // of the operations above the store: no memory for a record or buffer
 constexpr u32 StatusNoKey = 100;       // the device's key can't be opened; nothing was read or written
 constexpr u32 StatusReadFailed = 101;  // a value can't be read
 constexpr u32 StatusWriteFailed = 102; // a value can't be written; those before it are written
