@@ -22,11 +22,11 @@ find_package(utf8cpp REQUIRED)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(EDIT REQUIRED IMPORTED_TARGET libedit)
 
-file(GLOB HOST CONFIGURE_DEPENDS host/*.cpp host/screen/*.cpp host/commands/*.cpp host/machine_file/*.cpp
-     host/simulated/*.cpp)
-list(FILTER HOST EXCLUDE REGEX "/main\\.cpp$")
+file(GLOB HOST CONFIGURE_DEPENDS host/*.cpp host/screen/*.cpp host/line/*.cpp host/machine_file/*.cpp
+     host/worlds/simulated/*.cpp)
+list(FILTER HOST EXCLUDE REGEX "/(main|console_windows)\\.cpp$")
 set(SAMPLE_MACHINE ${CMAKE_SOURCE_DIR}/host/machines/sample.reg)
-set_source_files_properties(host/simulated/sample_machine.cpp PROPERTIES
+set_source_files_properties(host/machine_file/sample_machine.cpp PROPERTIES
                             OBJECT_DEPENDS ${SAMPLE_MACHINE} COMPILE_DEFINITIONS SAMPLE_MACHINE="${SAMPLE_MACHINE}")
 add_library(host OBJECT ${HOST})
 target_include_directories(host PUBLIC ${CMAKE_SOURCE_DIR})
@@ -39,7 +39,7 @@ find_package(GTest REQUIRED)
 file(GLOB TESTS CONFIGURE_DEPENDS tests/*.cpp)
 add_executable(kvr_tests ${TESTS} ${KVRPAGE})
 target_link_libraries(kvr_tests PRIVATE host GTest::gtest_main rapidcheck)
-target_compile_definitions(kvr_tests PRIVATE SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+set_source_files_properties(tests/scripts_test.cpp PROPERTIES COMPILE_DEFINITIONS SOURCE_DIR="${CMAKE_SOURCE_DIR}")
 include(GoogleTest)
 gtest_discover_tests(kvr_tests)
 

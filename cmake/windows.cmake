@@ -52,14 +52,15 @@ foreach(header ${CLI11_HEADERS}/CLI ${UTFCPP_HEADERS}/utf8 ${UTFCPP_HEADERS}/utf
 endforeach()
 
 # Stands in for the system's own library where that has nothing to offer, and is never shipped.
-add_library(standin_msports SHARED host/windows/standins/msports.cpp host/windows/standins/msports.def)
+add_library(standin_msports SHARED host/worlds/windows/standins/msports.cpp host/worlds/windows/standins/msports.def)
 set_target_properties(standin_msports PROPERTIES PREFIX "" OUTPUT_NAME msports RUNTIME_OUTPUT_DIRECTORY standins
                                                  ARCHIVE_OUTPUT_DIRECTORY standins)
 target_link_libraries(standin_msports PRIVATE kernel32 advapi32)
 
-file(GLOB HOST CONFIGURE_DEPENDS host/*.cpp host/screen/*.cpp host/commands/*.cpp host/machine_file/*.cpp
-     host/windows/*.cpp host/windows/standins/*.cpp)
-list(FILTER HOST EXCLUDE REGEX "/(main|msports)\\.cpp$")
+file(GLOB HOST CONFIGURE_DEPENDS host/*.cpp host/screen/*.cpp host/line/*.cpp host/machine_file/registry_export*.cpp
+     host/machine_file/text_lines.cpp host/worlds/windows/*.cpp host/worlds/windows/standins/*.cpp)
+list(FILTER HOST EXCLUDE REGEX "/(main|msports|console_libedit)\\.cpp$")
+file(GLOB TEST_PROGRAM_PARTS CONFIGURE_DEPENDS tests/windows/programs/*.cpp)
 add_library(host OBJECT ${HOST})
 target_include_directories(host PUBLIC ${CMAKE_SOURCE_DIR})
 target_include_directories(host SYSTEM PUBLIC ${CMAKE_BINARY_DIR}/headers)
@@ -68,12 +69,12 @@ target_link_libraries(host PUBLIC kernel32 user32 gdi32 comctl32 advapi32 setupa
 add_executable(kvrhost host/main.cpp)
 target_link_libraries(kvrhost PRIVATE host)
 
-add_executable(kvrfit host/windows/fit/main.cpp host/windows/fit/run_time_texts.cpp)
+add_executable(kvrfit tests/windows/programs/fit/main.cpp tests/windows/programs/fit/run_time_texts.cpp)
 target_include_directories(kvrfit PRIVATE ${CMAKE_SOURCE_DIR})
 target_link_libraries(kvrfit PRIVATE kernel32 user32 gdi32 comctl32)
 
-add_executable(kvrpictures host/windows/pictures/main.cpp)
+add_executable(kvrpictures tests/windows/programs/pictures/main.cpp ${TEST_PROGRAM_PARTS})
 target_link_libraries(kvrpictures PRIVATE host)
 
-add_executable(kvrlifetime host/windows/lifetime/main.cpp)
+add_executable(kvrlifetime tests/windows/programs/lifetime/main.cpp ${TEST_PROGRAM_PARTS})
 target_link_libraries(kvrlifetime PRIVATE host)

@@ -4,8 +4,8 @@
 
 #include <CLI/CLI.hpp>
 
-#include "host/commands/interpreter.h"
-#include "host/commands/tour.h"
+#include "host/line/interpreter.h"
+#include "host/line/tour.h"
 
 int main(int argc, char** argv) {
     CLI::App app{
@@ -25,9 +25,10 @@ int main(int argc, char** argv) {
         return 2;
     }
     const std::unique_ptr<host::LineSource> console = host::OpenConsole();
-    if (console->IsPerson())
+    if (console->IsPerson()) {
         std::cout << (file.empty() ? "The sample machine" : file)
                   << ": devices lists what can be opened, help tells the commands.\n";
+    }
     host::Interpreter interpreter(*world, *console, std::cout);
     int failed = interpreter.Run();
     if (!interpreter.had_input() && !console->IsPerson() && file.empty()) {

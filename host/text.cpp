@@ -8,7 +8,7 @@
 #include <utf8.h>
 #include <utf8/unchecked.h>
 
-#include "host/world.h"
+#include "host/worlds/world.h"
 
 namespace host {
 namespace {
@@ -40,11 +40,13 @@ constexpr struct {
                  {{0x400, 0x40F}, 0x50}, {{0x410, 0x42F}, 32}, {{0xFF21, 0xFF3A}, 32}};
 
 char32_t FoldedCharacter(char32_t character) {
-    for (const auto& [capitals, distance] : alphabets)
-        if (capitals.first <= character && character <= capitals.last)
+    for (const auto& [capitals, distance] : alphabets) {
+        if (capitals.first <= character && character <= capitals.last) {
             return distance == 1    ? character | 1
                    : distance == -1 ? (character + 1) & ~char32_t{1}
                                     : character + static_cast<char32_t>(distance);
+        }
+    }
     return character;
 }
 
@@ -59,8 +61,9 @@ std::string ToUtf8(std::basic_string_view<WCHAR> text) {
     std::string result;
     for (std::size_t at = 0; at < text.size(); ++at) {
         char32_t character = text[at];
-        if (character >> 10 == 0xD800 >> 10 && at + 1 < text.size() && text[at + 1] >> 10 == 0xDC00 >> 10)
+        if (character >> 10 == 0xD800 >> 10 && at + 1 < text.size() && text[at + 1] >> 10 == 0xDC00 >> 10) {
             character = 0x10000 + ((character & 0x3FF) << 10) + (text[++at] & 0x3FF);
+        }
         utf8::unchecked::append(character, std::back_inserter(result));
     }
     return result;
@@ -80,21 +83,25 @@ int ColumnsOf(char32_t character) {
 
 int Columns(std::string_view text) {
     int columns = 0;
-    for (auto at = text.begin(); at < text.end();)
+    for (auto at = text.begin(); at < text.end();) {
         columns += ColumnsOf(Next(at));
+    }
     return columns;
 }
 
 std::string CutTo(std::string_view text, int columns) {
-    if (Columns(text) <= columns)
+    if (Columns(text) <= columns) {
         return std::string{text};
-    if (columns < 1)
+    }
+    if (columns < 1) {
         return {};
+    }
     auto at = text.begin();
     for (int left = columns - 1; at < text.end();) {
         auto next = at;
-        if ((left -= ColumnsOf(Next(next))) < 0)
+        if ((left -= ColumnsOf(Next(next))) < 0) {
             break;
+        }
         at = next;
     }
     return std::string{text.begin(), at} + "…";
@@ -112,23 +119,26 @@ std::vector<std::string> BrokenAt(std::string_view text, int columns) {
         const auto here = at;
         const char32_t character = Next(at);
         if (character == '\r' || character == '\n') {
-            if (character == '\r' && at < text.end() && *at == '\n')
+            if (character == '\r' && at < text.end() && *at == '\n') {
                 ++at;
+            }
             lines.back().assign(line_start, here);
             lines.emplace_back();
             line_start = at, last_blank = text.end(), width = 0;
             continue;
         }
-        if (character == ' ')
+        if (character == ' ') {
             last_blank = here;
+        }
         width += ColumnsOf(character);
         if (width > columns && here != line_start) {
             const bool at_blank = last_blank != text.end();
             lines.back().assign(line_start, at_blank ? last_blank : here);
             lines.emplace_back();
             at = line_start = at_blank ? last_blank + 1 : here;
-            while (at_blank && at < text.end() && *at == ' ')
+            while (at_blank && at < text.end() && *at == ' ') {
                 line_start = ++at;
+            }
             last_blank = text.end(), width = 0;
         }
     }
@@ -139,8 +149,9 @@ std::vector<std::string> BrokenAt(std::string_view text, int columns) {
 std::string Shown(std::string_view caption) {
     std::string result;
     for (std::size_t at = 0; at < caption.size(); ++at) {
-        if (caption[at] == '&' && ++at == caption.size())
+        if (caption[at] == '&' && ++at == caption.size()) {
             break;
+        }
         result += caption[at];
     }
     return result;
@@ -148,8 +159,9 @@ std::string Shown(std::string_view caption) {
 
 std::string Folded(std::string_view text) {
     std::string result;
-    for (auto at = text.begin(); at < text.end();)
+    for (auto at = text.begin(); at < text.end();) {
         utf8::unchecked::append(FoldedCharacter(Next(at)), std::back_inserter(result));
+    }
     return result;
 }
 
@@ -159,16 +171,19 @@ std::string NameOf(std::string_view caption) {
     std::string name = key != std::string_view::npos && caption.substr(key).find(')') == 3
                            ? Folded(Shown(caption.substr(0, key))) + Folded(Shown(caption.substr(key + 4)))
                            : Folded(Shown(caption));
-    for (const std::string_view mark : {"\u200E", "\u200F", "\u202A", "\u202B", "\u202C"})
-        for (std::size_t at; (at = name.find(mark)) != std::string::npos;)
+    for (const std::string_view mark : {"\u200E", "\u200F", "\u202A", "\u202B", "\u202C"}) {
+        for (std::size_t at; (at = name.find(mark)) != std::string::npos;) {
             name.erase(at, mark.size());
+        }
+    }
     for (bool cut = true; cut;) {
         cut = false;
-        for (std::string_view end : {" ", ":", ".", "…", "：", "\u00A0"})
+        for (std::string_view end : {" ", ":", ".", "…", "：", "\u00A0"}) {
             if (name.ends_with(end)) {
                 name.resize(name.size() - end.size());
                 cut = true;
             }
+        }
     }
     return name.substr(std::min(name.size(), name.find_first_not_of(' ')));
 }
@@ -176,16 +191,17 @@ std::string NameOf(std::string_view caption) {
 std::string Quoted(std::string_view text) {
     std::string result = "\"";
     for (const char character : text) {
-        if (character == '\r')
+        if (character == '\r') {
             result += "\\r";
-        else if (character == '\n')
+        } else if (character == '\n') {
             result += "\\n";
-        else if (static_cast<unsigned char>(character) < ' ') {
+        } else if (static_cast<unsigned char>(character) < ' ') {
             char code[8];
             std::snprintf(code, sizeof code, "\\x%02X", static_cast<unsigned>(character));
             result += code;
-        } else
+        } else {
             result += character;
+        }
     }
     return result + '"';
 }
@@ -204,13 +220,15 @@ bool SplitWords(std::string_view line, std::vector<std::string>& words) {
             in_word = false;
             continue;
         }
-        if (!in_word)
+        if (!in_word) {
             words.emplace_back();
+        }
         in_word = true;
-        if (character == '"')
+        if (character == '"') {
             in_quotes = !in_quotes;
-        else
+        } else {
             words.back() += character;
+        }
     }
     return !in_quotes;
 }

@@ -3,7 +3,7 @@
 #include <map>
 #include <set>
 
-#include "host/simulated/user_language.h"
+#include "host/worlds/simulated/user_language.h"
 #include "platform/simulated/catalogue.h"
 #include "tests/sheets.h"
 

@@ -75,9 +75,11 @@ TEST(MachineFile, GathersAMachineFromTheWholeFile) {
     const std::pair<std::string, std::string> short_forms[] = {
         {"$PORTS", "$SET\\Control\\DeviceClasses\\{86E0D1E0-8089-11D0-9CE4-08003E301F73}"},
         {"$SET", "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet"}};
-    for (const auto& [short_form, path] : short_forms)
-        for (std::size_t at = 0; (at = lines.find(short_form, at)) != std::string::npos;)
+    for (const auto& [short_form, path] : short_forms) {
+        for (std::size_t at = 0; (at = lines.find(short_form, at)) != std::string::npos;) {
             lines.replace(at, short_form.size(), path);
+        }
+    }
     const sim::Machine machine = Loaded(lines);
     const GUID port_class{0x86E0D1E0, 0x8089, 0x11D0, {0x9C, 0xE4, 0x08, 0x00, 0x3E, 0x30, 0x1F, 0x73}};
     ASSERT_EQ(machine.devices.size(), 2u);
@@ -147,7 +149,7 @@ TEST(MachineFile, BringsASampleThatAgreesWithItself) {
     EXPECT_EQ(machine.devices.size(), 19u);
     EXPECT_EQ(machine.interfaces.size(), 17u);
     std::size_t ports = 0;
-    for (const sim::Device& device : machine.devices)
+    for (const sim::Device& device : machine.devices) {
         if (const sim::Value* const port = device.key.Find(u"PortName")) {
             ++ports;
             const Text name(reinterpret_cast<const WCHAR*>(port->data.data()));
@@ -157,6 +159,7 @@ TEST(MachineFile, BringsASampleThatAgreesWithItself) {
             EXPECT_TRUE(sim::IsClaimed(machine.port_usage,
                                        static_cast<unsigned>(std::stoul(sim::ToUtf8(name.substr(3))))));
         }
+    }
     EXPECT_EQ(ports, machine.serial_map.list.size());
     EXPECT_EQ(Contents(Loaded(Saved(machine))), Contents(machine));
 }
@@ -178,11 +181,12 @@ sim::Values AnyValues() {
     for (int i = 0; i < count; ++i) {
         // Names differ by their number; without it, one is the default value.
         const Text name = i == 0 && Either() ? u"" : sim::FromUtf8(std::to_string(i)) + *AnyText();
-        if (Either())
+        if (Either()) {
             values.SetText(name, *AnyText());
-        else
+        } else {
             values.Set(name, *rc::gen::element<DWORD>(0, 1, 2, 3, 4, 7, 11, 0xFFFF0012),
                        *rc::gen::arbitrary<Bytes>());
+        }
     }
     return values;
 }
@@ -202,17 +206,21 @@ sim::Machine AnyMachine() {
         device.key = device.has_key ? AnyValues() : sim::Values();
     }
     const int interfaces = *rc::gen::inRange(0, 4);
-    for (const GUID& each : classes)
-        for (int i = 0; i < interfaces; ++i)
+    for (const GUID& each : classes) {
+        for (int i = 0; i < interfaces; ++i) {
             machine.interfaces.push_back(
                 {each, u"\\\\?\\dev#" + sim::FromUtf8(std::to_string(i)) + (i % 2 ? u"" : u"\\ref"),
                  *rc::gen::inRange<std::size_t>(0, machine.devices.size()), Either()});
-    for (BYTE& byte : machine.port_usage)
+        }
+    }
+    for (BYTE& byte : machine.port_usage) {
         byte = *rc::gen::arbitrary<BYTE>();
+    }
     machine.serial_map_exists = Either();
     machine.serial_map = machine.serial_map_exists ? AnyValues() : sim::Values();
-    if (Either())
+    if (Either()) {
         machine.profile.emplace_back(u"Ports", AnyValues());
+    }
     return machine;
 }
 

@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/simulated/machine_file.h"
+#include "host/machine_file/machine_file.h"
 
 namespace machine_files {
 

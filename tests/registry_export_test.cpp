@@ -17,8 +17,9 @@ std::string InUtf16(const std::string& utf8) {
 }
 
 std::string WithReturns(std::string text) {
-    for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; at += 2)
+    for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; at += 2) {
         text.insert(at, 1, '\r');
+    }
     return text;
 }
 
@@ -53,13 +54,14 @@ TEST(RegistryExport, TakesEveryFormOfAValue) {
         {"\"A\"=dword:1\n\"a\"=\"again\"", u"A", REG_SZ, BytesOf(u"again")},
         {"\"gone\"=\"x\"\n\"A\"=dword:1\n\"GONE\"=-", u"A", REG_DWORD, {1, 0, 0, 0}},
     };
-    for (const auto& each : cases)
+    for (const auto& each : cases) {
         for (const std::string& bytes : InEveryForm(first_line + store + each.lines)) {
             const sim::Machine machine = Loaded(bytes);
             ASSERT_EQ(machine.devices.size(), 1u) << each.lines;
             EXPECT_EQ(machine.devices[0].key, (sim::Values{{{each.name, each.type, each.data}}}))
                 << each.lines;
         }
+    }
     // The line ends within a text are part of it, as they stand.
     const std::string lines = first_line + store + "\"A\"=\"one\n[two]\n\n\"";
     EXPECT_EQ(Loaded(lines).devices[0].key.list[0].data, BytesOf(u"one\n[two]\n\n"));
@@ -140,27 +142,34 @@ TEST(RegistryExport, NamesTheFirstLineThatIsWrong) {
         EXPECT_EQ(machine.devices, std::vector<sim::Device>(3));
     };
     // The same in a key that matters and in one that does not.
-    for (const std::string& key : {store, std::string("[HKEY_USERS\\A]\n")})
-        for (const auto& each : cases)
-            for (const std::string& bytes : InEveryForm(first_line + key + each.lines))
+    for (const std::string& key : {store, std::string("[HKEY_USERS\\A]\n")}) {
+        for (const auto& each : cases) {
+            for (const std::string& bytes : InEveryForm(first_line + key + each.lines)) {
                 expect_refusal(bytes, each.line, each.expected);
-    for (const auto& each : whole_files)
+            }
+        }
+    }
+    for (const auto& each : whole_files) {
         expect_refusal(each.bytes, each.line, each.expected);
+    }
 }
 
 TEST(RegistryExport, ReadsAcrossTheEndsOfItsBlocks) {
     Text text;
-    while (text.size() < 150'000)
+    while (text.size() < 150'000) {
         text += u"ਊ😀"; // both bytes of the first are a line feed's; with seven bytes the two shift against
-                       // any block
+    }
+    // any block
     std::string lines = first_line + store;
-    for (const char* name : {"A", "B", "C"})
+    for (const char* name : {"A", "B", "C"}) {
         lines += std::string("\"") + name + "\"=\"" + sim::ToUtf8(text) + "\"\n";
+    }
     for (const std::string& bytes : InEveryForm(lines)) {
         const sim::Machine machine = Loaded(bytes);
         ASSERT_EQ(machine.devices[0].key.list.size(), 3u);
-        for (const sim::Value& value : machine.devices[0].key.list)
+        for (const sim::Value& value : machine.devices[0].key.list) {
             EXPECT_TRUE(value.data == BytesOf(text)) << sim::ToUtf8(value.name);
+        }
     }
 }
 

@@ -15,9 +15,9 @@
 
 #include <gtest/gtest.h>
 
-#include "host/commands/interpreter.h"
-#include "host/commands/tour.h"
-#include "host/simulated/world.h"
+#include "host/line/interpreter.h"
+#include "host/line/tour.h"
+#include "host/worlds/simulated/world.h"
 
 namespace {
 
@@ -32,8 +32,9 @@ std::string ContentOf(const std::filesystem::path& file) {
 std::vector<std::string> LinesOf(const std::string& text) {
     std::vector<std::string> lines;
     std::istringstream stream(text);
-    for (std::string line; std::getline(stream, line);)
+    for (std::string line; std::getline(stream, line);) {
         lines.push_back(line);
+    }
     return lines;
 }
 
@@ -49,14 +50,16 @@ public:
         : lines_(std::move(lines)), machine_(machine) {}
 
     std::optional<std::string> Next(const std::string&) override {
-        if (next_ == lines_.size())
+        if (next_ == lines_.size()) {
             return {};
+        }
         const std::string& line = lines_[next_++];
         std::istringstream said(Said(line, "fail"));
         std::string operation;
         std::size_t call = 0;
-        if (said >> operation >> call)
+        if (said >> operation >> call) {
             machine_.faults.at_call.emplace_back(operation, machine_.faults.count_by_name[operation] + call);
+        }
         return line;
     }
 
@@ -68,9 +71,11 @@ private:
 
 std::vector<std::string> Names() {
     std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(scripts))
-        if (entry.path().extension() == ".txt")
+    for (const auto& entry : std::filesystem::directory_iterator(scripts)) {
+        if (entry.path().extension() == ".txt") {
             names.push_back(entry.path().stem().string());
+        }
+    }
     std::ranges::sort(names);
     return names;
 }
@@ -82,16 +87,20 @@ TEST_P(ScriptsTest, RunsAsItsTranscriptTells) {
     std::string file;
     sim::Machine machine;
     const auto top_end = std::ranges::find_if(lines, [](const auto& line) { return !line.starts_with('#'); });
-    for (auto line = lines.begin(); line != top_end; ++line)
-        if (const std::string said = Said(*line, "machine"); !said.empty())
+    for (auto line = lines.begin(); line != top_end; ++line) {
+        if (const std::string said = Said(*line, "machine"); !said.empty()) {
             file = SOURCE_DIR "/" + said;
+        }
+    }
     std::string error;
     ASSERT_TRUE(host::OpenMachine(file, machine, error)) << error;
-    for (auto line = lines.begin(); line != top_end; ++line)
-        if (const std::string said = Said(*line, "language"); !said.empty())
+    for (auto line = lines.begin(); line != top_end; ++line) {
+        if (const std::string said = Said(*line, "language"); !said.empty()) {
             machine.language = static_cast<LANGID>(std::stoi(said));
-        else if (*line == "# remote")
+        } else if (*line == "# remote") {
             std::ranges::for_each(machine.devices, [](sim::Device& device) { device.remote = true; });
+        }
+    }
 
     std::ostringstream out;
     {

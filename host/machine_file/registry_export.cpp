@@ -48,18 +48,21 @@ public:
     Reader(std::istream& in, ExportReceiver& receiver) : lines_(in), receiver_(receiver) {}
 
     void Run() {
-        if (!NextLine() || !TakeWord(ExportFirstLine) || (SkipBlanks(), at_ != end_))
+        if (!NextLine() || !TakeWord(ExportFirstLine) || (SkipBlanks(), at_ != end_)) {
             throw Malformed{1, "the line \"Windows Registry Editor Version 5.00\""};
+        }
         while (NextLine()) {
             SkipBlanks();
-            if (AtLineEnd())
+            if (AtLineEnd()) {
                 continue;
-            if (*at_ == '[')
+            }
+            if (*at_ == '[') {
                 ReadKey();
-            else if (*at_ == '"' || *at_ == '@')
+            } else if (*at_ == '"' || *at_ == '@') {
                 ReadValue();
-            else
+            } else {
                 Fail("a key in brackets, a value with its name in quotes, or a comment");
+            }
         }
     }
 
@@ -68,8 +71,9 @@ private:
 
     bool NextLine() {
         if (!lines_.Next()) {
-            if (lines_.Broken() != nullptr)
+            if (lines_.Broken() != nullptr) {
                 throw Malformed{lines_.Number() + 1, lines_.Broken()};
+            }
             return false;
         }
         at_ = lines_.Line().data();
@@ -78,14 +82,16 @@ private:
     }
 
     void SkipBlanks() {
-        while (at_ != end_ && IsBlank(*at_))
+        while (at_ != end_ && IsBlank(*at_)) {
             ++at_;
+        }
     }
     bool AtLineEnd() const { return at_ == end_ || *at_ == ';'; }
     void EndLine(const char* expected) {
         SkipBlanks();
-        if (!AtLineEnd())
+        if (!AtLineEnd()) {
             Fail(expected);
+        }
     }
     bool Take(char character) {
         const bool is_here = at_ != end_ && *at_ == static_cast<WCHAR>(character);
@@ -103,32 +109,39 @@ private:
         ++at_;
         const bool deletes = Take('-');
         const std::size_t length = TextView(at_, end_).rfind(']');
-        if (length == TextView::npos)
+        if (length == TextView::npos) {
             Fail("] behind the key");
+        }
         const TextView path(at_, length);
-        if (!std::ranges::equal(path.substr(0, root_prefix.size()), root_prefix, {}, UpperLetter))
+        if (!std::ranges::equal(path.substr(0, root_prefix.size()), root_prefix, {}, UpperLetter)) {
             Fail("a key that begins with HKEY_");
+        }
         at_ += length + 1;
         EndLine("the end of the line behind ]");
         state_ = deletes || !receiver_.Key(path) ? State::Unwanted : State::Wanted;
-        if (deletes)
+        if (deletes) {
             receiver_.DeleteKey(path);
+        }
     }
 
     void ReadValue() {
-        if (state_ == State::NoKey)
+        if (state_ == State::NoKey) {
             Fail("a key in brackets before the first value");
+        }
         name_.clear();
-        if (!Take('@'))
+        if (!Take('@')) {
             ReadQuoted(name_, false);
+        }
         SkipBlanks();
-        if (!Take('='))
+        if (!Take('=')) {
             Fail("= behind the value's name");
+        }
         SkipBlanks();
         if (Take('-')) {
             EndLine("the end of the line behind -");
-            if (IsWanted())
+            if (IsWanted()) {
                 receiver_.DeleteValue(name_);
+            }
         } else if (at_ != end_ && *at_ == '"') {
             text_.clear();
             ReadQuoted(text_, true);
@@ -151,8 +164,9 @@ private:
     bool IsWanted() const { return state_ == State::Wanted; }
 
     void Deliver(DWORD type, std::span<const BYTE> data) {
-        if (IsWanted())
+        if (IsWanted()) {
             receiver_.SetValue(name_, type, data);
+        }
     }
 
     // What stands in quotes, and nothing else but blanks to the end of the line if it is a value's text.
@@ -162,51 +176,62 @@ private:
         for (;;) {
             const WCHAR* const special =
                 std::find_if(at_, end_, [](WCHAR u) { return u == '"' || u == '\\'; });
-            if (IsWanted())
+            if (IsWanted()) {
                 text.append(at_, special);
+            }
             at_ = special;
             if (at_ == end_) {
-                if (!is_value)
+                if (!is_value) {
                     Fail("\" behind the value's name");
-                if (IsWanted())
+                }
+                if (IsWanted()) {
                     text.append(lines_.End());
-                if (!NextLine())
+                }
+                if (!NextLine()) {
                     throw Malformed{first_number, "\" behind the text"};
+                }
             } else if (*at_++ == '"') {
                 break;
             } else {
                 const WCHAR unescaped = ReadEscape();
-                if (IsWanted())
+                if (IsWanted()) {
                     text += unescaped;
+                }
             }
         }
-        if (!is_value)
+        if (!is_value) {
             return;
+        }
         // Where the first quote of a later line ends the text and more follows, it was meant to begin a name.
         const bool is_name = lines_.Number() != first_number && at_ == lines_.Line().data() + 1;
         SkipBlanks();
-        if (!AtLineEnd())
+        if (!AtLineEnd()) {
             throw Malformed{is_name ? first_number : lines_.Number(),
                             is_name ? "\" behind the text" : "the end of the line behind \""};
+        }
     }
 
     WCHAR ReadEscape() {
         static constexpr struct {
             char letter, meaning;
         } escapes[] = {{'\\', '\\'}, {'"', '"'}, {'n', '\n'}, {'r', '\r'}};
-        for (const auto& escape : escapes)
-            if (Take(escape.letter))
+        for (const auto& escape : escapes) {
+            if (Take(escape.letter)) {
                 return static_cast<WCHAR>(escape.meaning);
+            }
+        }
         Fail("\\ or \" behind \\");
     }
 
     DWORD ReadNumber() {
         DWORD number = 0;
         int digits = 0;
-        for (int digit; at_ != end_ && (digit = DigitValue(*at_)) >= 0; ++at_, ++digits)
+        for (int digit; at_ != end_ && (digit = DigitValue(*at_)) >= 0; ++at_, ++digits) {
             number = number << 4 | static_cast<DWORD>(digit);
-        if (digits < 1 || digits > 8)
+        }
+        if (digits < 1 || digits > 8) {
             Fail("one to eight hexadecimal digits");
+        }
         return number;
     }
 
@@ -215,11 +240,13 @@ private:
         DWORD type = REG_BINARY;
         if (Take('(')) {
             type = ReadNumber();
-            if (!Take(')'))
+            if (!Take(')')) {
                 Fail(") behind the value's type");
+            }
         }
-        if (!Take(':'))
+        if (!Take(':')) {
             Fail(": behind hex");
+        }
         return type;
     }
 
@@ -227,24 +254,27 @@ private:
     void ReadBytes() {
         data_.clear();
         SkipBlanks();
-        if (AtLineEnd())
+        if (AtLineEnd()) {
             return;
+        }
         do {
             TakeWholeBytes();
             SkipBlanks();
             while (Take('\\')) {
                 EndLine("the end of the line behind \\");
                 do {
-                    if (!NextLine())
+                    if (!NextLine()) {
                         Fail("another line behind \\");
+                    }
                     SkipBlanks();
                 } while (AtLineEnd());
                 TakeWholeBytes();
                 SkipBlanks();
             }
             const int first = at_ == end_ ? -1 : DigitValue(*at_++);
-            if (first < 0)
+            if (first < 0) {
                 Fail("a byte in two hexadecimal digits");
+            }
             const int second = at_ == end_ ? -1 : DigitValue(*at_);
             at_ += second >= 0;
             data_.push_back(static_cast<BYTE>(second < 0 ? first : first << 4 | second));
@@ -257,10 +287,12 @@ private:
     void TakeWholeBytes() {
         for (; end_ - at_ >= 3 && at_[2] == ','; at_ += 3) {
             const int value = DigitValue(at_[0]) << 4 | DigitValue(at_[1]);
-            if (value < 0)
+            if (value < 0) {
                 return;
-            if (IsWanted())
+            }
+            if (IsWanted()) {
                 data_.push_back(static_cast<BYTE>(value));
+            }
         }
     }
 

@@ -13,13 +13,15 @@ constexpr TextView line_end = TEXT("\r\n");
 
 // A text that stands in quotes as it is: one terminator, at its end, and no line end.
 bool IsQuotable(std::span<const BYTE> data) {
-    if (data.size() < sizeof(WCHAR) || data.size() % sizeof(WCHAR) != 0)
+    if (data.size() < sizeof(WCHAR) || data.size() % sizeof(WCHAR) != 0) {
         return false;
+    }
     for (std::size_t at = 0; at < data.size(); at += sizeof(WCHAR)) {
         WCHAR unit;
         std::memcpy(&unit, data.data() + at, sizeof unit);
-        if (unit == '\r' || unit == '\n' || (unit == 0) != (at + sizeof unit == data.size()))
+        if (unit == '\r' || unit == '\n' || (unit == 0) != (at + sizeof unit == data.size())) {
             return false;
+        }
     }
     return true;
 }
@@ -31,16 +33,18 @@ void AppendQuoted(Text& line, TextView text) {
             line += unit == '\n' ? TEXT("\\n") : TEXT("\\r");
             continue;
         }
-        if (unit == '"' || unit == '\\')
+        if (unit == '"' || unit == '\\') {
             line += '\\';
+        }
         line += unit;
     }
     line += '"';
 }
 
 void AppendHex(Text& line, DWORD number, int digits) {
-    for (int shift = 4 * digits; (shift -= 4) >= 0;)
+    for (int shift = 4 * digits; (shift -= 4) >= 0;) {
         line += static_cast<WCHAR>("0123456789abcdef"[number >> shift & 0xF]);
+    }
 }
 
 // As regedit wraps them: no line is longer than 80 columns but one with a long name.
@@ -74,10 +78,11 @@ void ExportWriter::Key(TextView path) {
 
 void ExportWriter::SetValue(TextView name, DWORD type, std::span<const BYTE> data) {
     Text line;
-    if (name.empty())
+    if (name.empty()) {
         line += '@';
-    else
+    } else {
         AppendQuoted(line, name);
+    }
     line += '=';
     if (type == REG_SZ && IsQuotable(data)) {
         Text text(data.size() / sizeof(WCHAR) - 1, 0);

@@ -28,8 +28,9 @@ const Utf8Form* FormOf(BYTE lead) {
 bool Combine(const Utf8Form& form, const BYTE* bytes, char32_t& character) {
     character = bytes[0] & static_cast<BYTE>(~form.mask);
     for (std::size_t i = 1; i < form.bytes; ++i) {
-        if ((bytes[i] & 0xC0) != 0x80)
+        if ((bytes[i] & 0xC0) != 0x80) {
             return false;
+        }
         character = character << 6 | (bytes[i] & 0x3Fu);
     }
     return character >= form.least && character < 0x110000;
@@ -57,8 +58,9 @@ bool TextLines::Next() {
         if (at_end_) {
             length_ = filled_ - line_;
             next_ = filled_;
-            if (length_ == 0 || broken_ != nullptr)
+            if (length_ == 0 || broken_ != nullptr) {
                 return false;
+            }
             ++number_;
             return true;
         }
@@ -81,8 +83,9 @@ bool TextLines::FindLineFeed() {
          nullptr;
          ++at) {
         searched_ = static_cast<std::size_t>(at - begin) / sizeof(WCHAR);
-        if (units_[searched_] == '\n')
+        if (units_[searched_] == '\n') {
             return true;
+        }
     }
     searched_ = filled_;
     return false;
@@ -94,14 +97,17 @@ void TextLines::Fill() {
     filled_ -= line_;
     searched_ -= line_;
     line_ = 0;
-    if (units_.size() < filled_ + block)
+    if (units_.size() < filled_ + block) {
         units_.resize(filled_ + block);
-    if (utf16_)
+    }
+    if (utf16_) {
         FillUtf16();
-    else
+    } else {
         FillUtf8();
-    if (in_.bad())
+    }
+    if (in_.bad()) {
         broken_ = "a file that can be read";
+    }
 }
 
 void TextLines::FillUtf16() {
@@ -112,8 +118,9 @@ void TextLines::FillUtf16() {
     undecoded_ = 0;
     filled_ += count / sizeof(WCHAR);
     at_end_ = !in_;
-    if (count % sizeof(WCHAR) != 0)
+    if (count % sizeof(WCHAR) != 0) {
         broken_ = "the second byte of the last character";
+    }
 }
 
 void TextLines::FillUtf8() {
@@ -142,8 +149,9 @@ std::size_t TextLines::Decode(const BYTE* bytes, std::size_t count) {
         }
         const Utf8Form* const form = FormOf(bytes[at]);
         char32_t character = 0;
-        if (form == nullptr || count - at < form->bytes || !Combine(*form, bytes + at, character))
+        if (form == nullptr || count - at < form->bytes || !Combine(*form, bytes + at, character)) {
             break;
+        }
         if (character < 0x10000) {
             units_[filled_++] = static_cast<WCHAR>(character);
         } else {

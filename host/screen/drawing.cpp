@@ -72,9 +72,11 @@ std::string SliderTrack(const Control& slider, int columns) {
         const int within = std::clamp(position - slider.minimum, 0, range);
         return track[static_cast<std::size_t>((within * last + range / 2) / range)];
     };
-    if (slider.ticks && range * 3 <= last)
-        for (int tick = slider.minimum; tick <= slider.maximum; ++tick)
+    if (slider.ticks && range * 3 <= last) {
+        for (int tick = slider.minimum; tick <= slider.maximum; ++tick) {
             place(tick) = '+';
+        }
+    }
     place(slider.position) = 'o';
     return '|' + track + '|';
 }
@@ -112,10 +114,12 @@ void DrawList(Canvas& canvas, const Control& list, int left, int top, int right,
         canvas.Write(left + 1, top + 1 + line,
                      CutTo((first + line == list.selection ? "> " : "  ") + text, right - left - 1));
     }
-    if (first > 0)
+    if (first > 0) {
         canvas.Write(right, top + 1, "^");
-    if (first + shown < all)
+    }
+    if (first + shown < all) {
         canvas.Write(right, bottom - 1, "v");
+    }
 }
 
 void DrawTable(Canvas& canvas, const Control& table, int left, int top, int right, int bottom) {
@@ -125,17 +129,22 @@ void DrawTable(Canvas& canvas, const Control& table, int left, int top, int righ
         const int from = left + 1 + ColumnAt(x);
         x += table.columns[column].cx;
         const int columns = std::min(left + 1 + ColumnAt(x), right) - from - 1;
-        if (columns < 1)
+        if (columns < 1) {
             break;
+        }
         canvas.Write(from, top + 1, CutTo(Marked(table, table.columns[column].title), columns));
-        for (int row = top + 1; row < bottom && from + columns < right; ++row)
+        for (int row = top + 1; row < bottom && from + columns < right; ++row) {
             canvas.Write(from + columns, row, "│");
-        for (std::size_t row = 0; row < table.rows.size() && top + 2 + static_cast<int>(row) < bottom; ++row)
+        }
+        for (std::size_t row = 0; row < table.rows.size() && top + 2 + static_cast<int>(row) < bottom;
+             ++row) {
             canvas.Write(from, top + 2 + static_cast<int>(row), CutTo(table.rows[row][column], columns));
+        }
     }
     const int hidden = static_cast<int>(table.rows.size()) - (bottom - top - 2);
-    if (hidden > 0)
+    if (hidden > 0) {
         canvas.Write(right, bottom - 1, "v");
+    }
 }
 
 // What stands on a dialog or a page, at its places.
@@ -150,27 +159,33 @@ Canvas DrawPlaces(const std::vector<Control>& controls, int cx, int cy) {
             return;
         }
         const int top = rows.At(area.y), bottom = rows.At(area.y + area.cy);
-        if (control.kind == Kind::List)
+        if (control.kind == Kind::List) {
             DrawList(canvas, control, left, top, right, bottom);
-        else if (control.kind == Kind::Table)
+        } else if (control.kind == Kind::Table) {
             DrawTable(canvas, control, left, top, right, bottom);
-        else
+        } else {
             canvas.Frame(left, top, right, bottom, Marked(control, Shown(control.text)));
+        }
     };
-    for (const bool groups : {true, false})
-        for (const Control& control : controls)
-            if ((control.kind == Kind::Group) == groups)
+    for (const bool groups : {true, false}) {
+        for (const Control& control : controls) {
+            if ((control.kind == Kind::Group) == groups) {
                 draw(control);
+            }
+        }
+    }
     return canvas;
 }
 
 // Buttons in a row, as wide as their texts ask for.
 std::string ButtonRow(const std::vector<Control>& controls) {
     std::string row;
-    for (const Control& control : controls)
-        if (control.kind == Kind::Button)
+    for (const Control& control : controls) {
+        if (control.kind == Kind::Button) {
             row += (row.empty() ? "" : "  ") +
                    Button(control, std::max(14, Columns(Marked(control, Shown(control.text))) + 4));
+        }
+    }
     return row;
 }
 
@@ -186,20 +201,23 @@ Canvas DrawBox(const Window& box, bool front) {
     const std::vector<std::string> lines = BrokenAt(BoxText(box), widest);
     const std::string buttons = ButtonRow(box.controls);
     int columns = std::max(Columns(buttons), Columns(box.title) + 4);
-    for (const std::string& line : lines)
+    for (const std::string& line : lines) {
         columns = std::max(columns, Columns(line));
+    }
     Canvas canvas(columns, static_cast<int>(lines.size()) + 4);
     int row = 1;
-    for (const std::string& line : lines)
+    for (const std::string& line : lines) {
         canvas.Write(0, row++, line);
+    }
     canvas.Write((columns - Columns(buttons)) / 2, row + 1, buttons);
     return InWindow(canvas, box.title, front);
 }
 
 Canvas DrawSheet(const Window& sheet, bool front) {
     std::vector<Control> on_page, of_frame;
-    for (const Control& control : sheet.controls)
+    for (const Control& control : sheet.controls) {
         (control.of_frame ? of_frame : on_page).push_back(control);
+    }
     const Canvas page = DrawPlaces(on_page, sheet.cx, sheet.cy);
     const std::string buttons = ButtonRow(of_frame);
     const int columns = std::max(page.columns() + 2, Columns(buttons));
@@ -224,12 +242,14 @@ std::vector<std::string> Draw(const std::vector<Window>& windows) {
                        ? DrawBox(window, front)
                        : InWindow(DrawPlaces(window.controls, window.cx, window.cy), window.title, front));
         ++step;
-        for (const Control& control : window.controls)
+        for (const Control& control : window.controls) {
             disabled = disabled || !control.enabled;
+        }
     }
     std::vector<std::string> lines = screen.Lines();
-    if (disabled)
+    if (disabled) {
         lines.push_back("~ disabled");
+    }
     return lines;
 }
 

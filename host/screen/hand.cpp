@@ -14,10 +14,12 @@ std::string Told(const Control& control) {
 }
 
 void Require(const Control& control, std::initializer_list<Kind> kinds, const char* what) {
-    if (std::find(kinds.begin(), kinds.end(), control.kind) == kinds.end())
+    if (std::find(kinds.begin(), kinds.end(), control.kind) == kinds.end()) {
         throw Refusal(Told(control) + " can't be " + what);
-    if (!control.enabled)
+    }
+    if (!control.enabled) {
         throw Refusal(Told(control) + " is disabled");
+    }
 }
 
 void TellParent(const Control& control, UINT message, WPARAM wParam) {
@@ -33,8 +35,9 @@ void Click(const Control& button_or_check) {
 
 void SetCheck(const Control& check, bool checked) {
     Require(check, {Kind::Check}, "checked");
-    if (check.checked != checked)
+    if (check.checked != checked) {
         Click(check);
+    }
 }
 
 void Pick(const Control& combo_or_list, std::string_view name) {
@@ -48,19 +51,22 @@ void Pick(const Control& combo_or_list, std::string_view name) {
 
 void Slide(const Control& slider, long position) {
     Require(slider, {Kind::Slider}, "slid");
-    if (position < slider.minimum || position > slider.maximum)
+    if (position < slider.minimum || position > slider.maximum) {
         throw Refusal("the slider goes from " + std::to_string(slider.minimum) + " to " +
                       std::to_string(slider.maximum));
+    }
     SendMessageW(slider.window, TBM_SETPOS, TRUE, static_cast<LPARAM>(position));
     TellParent(slider, WM_HSCROLL, MAKEWPARAM(TB_THUMBPOSITION, position));
     TellParent(slider, WM_HSCROLL, MAKEWPARAM(TB_ENDTRACK, 0));
 }
 
 const Control& FindButton(const Window& window, int id) {
-    for (const Control& control : window.controls)
+    for (const Control& control : window.controls) {
         if (control.kind == Kind::Button && control.id == id &&
-            (window.kind != WindowKind::Sheet || control.of_frame))
+            (window.kind != WindowKind::Sheet || control.of_frame)) {
             return control;
+        }
+    }
     throw Refusal("no such button in front");
 }
 

@@ -27,9 +27,11 @@ std::string TypeName(DWORD type) {
         {REG_NONE, "none"},     {REG_SZ, "text"},     {REG_EXPAND_SZ, "text, expanding"},
         {REG_BINARY, "binary"}, {REG_DWORD, "dword"}, {REG_MULTI_SZ, "texts"},
         {REG_QWORD, "qword"}};
-    for (const auto& [number, name] : names)
-        if (type == number)
+    for (const auto& [number, name] : names) {
+        if (type == number) {
             return name;
+        }
+    }
     return "type " + std::to_string(type);
 }
 
@@ -45,28 +47,33 @@ std::string Told(const StoreValue& value) {
     // A text is told as such only if nothing of it is lost by that.
     const Text text = TextIn(value.data);
     if ((value.type == REG_SZ || value.type == REG_EXPAND_SZ) &&
-        value.data.size() == (text.size() + 1) * sizeof(WCHAR))
+        value.data.size() == (text.size() + 1) * sizeof(WCHAR)) {
         return Quoted(ToUtf8(text));
+    }
     return Hexadecimal(value.data);
 }
 
 std::string StateOf(const Control& control) {
     std::string state = control.enabled ? "enabled" : "disabled";
-    if (control.kind == Kind::Check)
+    if (control.kind == Kind::Check) {
         state += control.checked ? ", checked" : ", not checked";
+    }
     if (control.kind == Kind::Combo || control.kind == Kind::List) {
         const auto selected = static_cast<std::size_t>(control.selection);
-        if (control.selection < 0 || selected >= control.items.size())
+        if (control.selection < 0 || selected >= control.items.size()) {
             state += ", nothing of " + std::to_string(control.items.size());
-        else
+        } else {
             state += ", " + std::to_string(selected + 1) + " of " + std::to_string(control.items.size()) +
                      ": " + control.items[selected];
+        }
     }
-    if (control.kind == Kind::Slider)
+    if (control.kind == Kind::Slider) {
         state += ", " + std::to_string(control.position) + " in " + std::to_string(control.minimum) + ".." +
                  std::to_string(control.maximum);
-    if (control.kind == Kind::Table)
+    }
+    if (control.kind == Kind::Table) {
         state += ", " + std::to_string(control.rows.size()) + (control.rows.size() == 1 ? " row" : " rows");
+    }
     return state;
 }
 
@@ -80,16 +87,19 @@ std::string NameOf(const Device& device) {
 
 const StoreValue* FindValue(const std::vector<StoreValue>& store, std::string_view name) {
     const std::string wanted = Folded(name);
-    for (const StoreValue& value : store)
-        if (Folded(ToUtf8(value.name)) == wanted)
+    for (const StoreValue& value : store) {
+        if (Folded(ToUtf8(value.name)) == wanted) {
             return &value;
+        }
+    }
     return nullptr;
 }
 
 Text TextIn(const std::vector<BYTE>& data) {
     Text text(data.size() / sizeof(WCHAR), 0);
-    if (!text.empty())
+    if (!text.empty()) {
         std::memcpy(text.data(), data.data(), text.size() * sizeof(WCHAR));
+    }
     return text.substr(0, text.find(WCHAR{0}));
 }
 
@@ -99,8 +109,9 @@ std::string TextOf(const StoreValue& value) {
 
 bool NumberOf(const StoreValue& value, unsigned long& number) {
     std::uint32_t bytes = 0;
-    if (value.data.size() != sizeof bytes)
+    if (value.data.size() != sizeof bytes) {
         return false;
+    }
     std::memcpy(&bytes, value.data.data(), sizeof bytes);
     number = bytes;
     return true;
@@ -108,8 +119,9 @@ bool NumberOf(const StoreValue& value, unsigned long& number) {
 
 Lines ListDevices(const std::vector<Device>& devices) {
     int widest = 0;
-    for (const Device& device : devices)
+    for (const Device& device : devices) {
         widest = std::max(widest, Columns(NameOf(device)));
+    }
     Lines lines;
     for (std::size_t index = 0; index < devices.size(); ++index) {
         const Device& device = devices[index];
@@ -124,12 +136,14 @@ Lines ListDevices(const std::vector<Device>& devices) {
 
 Lines ListStore(const std::vector<StoreValue>& store) {
     int widest = 0;
-    for (const StoreValue& value : store)
+    for (const StoreValue& value : store) {
         widest = std::max(widest, Columns(ToUtf8(value.name)));
+    }
     Lines lines;
-    for (const StoreValue& value : store)
+    for (const StoreValue& value : store) {
         lines.push_back("  " + PaddedTo(ToUtf8(value.name), widest) + "  " +
                         PaddedTo(TypeName(value.type), 6) + "  " + Told(value));
+    }
     return lines;
 }
 
@@ -143,15 +157,19 @@ Lines ListControls(const Window& window) {
                         StateOf(control));
         const auto row_of = [&](const std::vector<std::string>& cells) {
             std::string row = std::string(16, ' ');
-            for (std::size_t cell = 0; cell < cells.size(); ++cell)
+            for (std::size_t cell = 0; cell < cells.size(); ++cell) {
                 row += (cell ? " | " : "") + cells[cell];
+            }
             lines.push_back(row);
         };
-        if (control.kind == Kind::List)
-            for (const std::string& item : control.items)
+        if (control.kind == Kind::List) {
+            for (const std::string& item : control.items) {
                 row_of({item});
-        for (const auto& row : control.rows)
+            }
+        }
+        for (const auto& row : control.rows) {
             row_of(row);
+        }
     }
     return lines;
 }

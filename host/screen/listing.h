@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "host/screen/screen.h"
-#include "host/world.h"
+#include "host/worlds/world.h"
 
 namespace host {
 

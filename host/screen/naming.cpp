@@ -20,11 +20,13 @@ bool IsCalledByLabel(const Control& control) {
 const Control* LabelledBy(const Window& window, const Control& label) {
     constexpr int line = 6; // dialog units between the middles of what stands on one line
     const Control* nearest = nullptr;
-    for (const Control& control : window.controls)
+    for (const Control& control : window.controls) {
         if (!control.of_frame && IsCalledByLabel(control) && control.area.x > label.area.x &&
             std::abs(control.area.Middle() - label.area.Middle()) <= line &&
-            (!nearest || control.area.x < nearest->area.x))
+            (!nearest || control.area.x < nearest->area.x)) {
             nearest = &control;
+        }
+    }
     return nearest;
 }
 
@@ -42,13 +44,16 @@ std::string Numbered(const Window& window, const std::vector<const Control*>& co
 } // namespace
 
 std::string CallName(const Window& window, const Control& control) {
-    if (!IsCalledByLabel(control))
+    if (!IsCalledByLabel(control)) {
         return Shown(control.text);
+    }
     const Control* first = nullptr;
-    for (const Control& label : window.controls)
+    for (const Control& label : window.controls) {
         if (label.kind == Kind::Label && LabelledBy(window, label) == &control &&
-            (!first || label.area.x < first->area.x))
+            (!first || label.area.x < first->area.x)) {
             first = &label;
+        }
+    }
     return first ? Shown(first->text) : std::string{};
 }
 
@@ -59,22 +64,28 @@ const Control& FindControl(const Window& window, std::string_view name) {
     std::vector<const Control*> found, all;
     for (const Control& control : window.controls) {
         const Control* meant = control.kind == Kind::Label ? LabelledBy(window, control) : &control;
-        if (HasOwnCaption(control) || IsCalledByLabel(control))
+        if (HasOwnCaption(control) || IsCalledByLabel(control)) {
             all.push_back(&control);
-        if (is_number && control.id >= 0 && control.id == number)
+        }
+        if (is_number && control.id >= 0 && control.id == number) {
             meant = &control;
-        else if (wanted.empty() || IsCalledByLabel(control) || NameOf(control.text) != wanted || !meant)
+        } else if (wanted.empty() || IsCalledByLabel(control) || NameOf(control.text) != wanted || !meant) {
             continue;
-        if (control.of_frame && !found.empty())
+        }
+        if (control.of_frame && !found.empty()) {
             continue;
-        if (std::find(found.begin(), found.end(), meant) == found.end())
+        }
+        if (std::find(found.begin(), found.end(), meant) == found.end()) {
             found.push_back(meant);
+        }
     }
-    if (found.size() == 1)
+    if (found.size() == 1) {
         return *found.front();
+    }
     const std::string quoted = Quoted(name);
-    if (found.empty())
+    if (found.empty()) {
         throw Refusal("no control " + quoted + " in front; there are: " + Numbered(window, all));
+    }
     throw Refusal(quoted + " means more than one control: " + Numbered(window, found));
 }
 
@@ -83,29 +94,34 @@ int FindItem(const Control& list, std::string_view name) {
         Quoted(name) + " is not among the " + std::to_string(list.items.size()) + " items";
     long number = 0;
     if (name.starts_with('#') && ParseNumber(name.substr(1), number)) {
-        if (number < 0 || static_cast<unsigned long>(number) >= list.items.size())
+        if (number < 0 || static_cast<unsigned long>(number) >= list.items.size()) {
             throw Refusal(in_list);
+        }
         return static_cast<int>(number);
     }
     const std::string wanted = Folded(name);
     std::vector<int> whole, begun;
     for (std::size_t item = 0; item < list.items.size(); ++item) {
         const std::string text = Folded(list.items[item]);
-        if (text == wanted)
+        if (text == wanted) {
             whole.push_back(static_cast<int>(item));
-        else if (!wanted.empty() && text.starts_with(wanted + ' '))
+        } else if (!wanted.empty() && text.starts_with(wanted + ' ')) {
             begun.push_back(static_cast<int>(item));
+        }
     }
     const auto& found = whole.empty() ? begun : whole;
-    if (found.size() == 1)
+    if (found.size() == 1) {
         return found.front();
-    if (found.size() > 1)
+    }
+    if (found.size() > 1) {
         throw Refusal(Quoted(name) + " means items #" + std::to_string(found[0]) + " and #" +
                       std::to_string(found[1]) + ": name one by its number");
+    }
     constexpr std::size_t few = 30;
     std::string items;
-    for (const std::string& item : list.items)
+    for (const std::string& item : list.items) {
         items += (items.empty() ? ": " : ", ") + item;
+    }
     throw Refusal(in_list + (list.items.size() <= few ? items : std::string{}));
 }
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "host/text.h"
-#include "host/world.h"
+#include "host/worlds/world.h"
 
 namespace host {
 namespace {
@@ -33,8 +33,9 @@ constexpr int closed_combo = 14;
 // What 4,000 by 8,000 dialog units are on the screen.
 RECT Scale(HWND dialog) {
     RECT scale{0, 0, 4000, 8000};
-    if (!MapDialogRect(dialog, &scale) || scale.right <= 0 || scale.bottom <= 0)
+    if (!MapDialogRect(dialog, &scale) || scale.right <= 0 || scale.bottom <= 0) {
         scale = {0, 0, 4000, 8000};
+    }
     return scale;
 }
 
@@ -70,8 +71,10 @@ void ReadTable(Control& table, const RECT& scale) {
         column.pszText = text;
         column.cchTextMax = ARRAYSIZE(text);
         text[0] = 0;
-        if (!Ask(table.window, LVM_GETCOLUMNW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&column)))
+        if (!Ask(table.window, LVM_GETCOLUMNW, static_cast<WPARAM>(index),
+                 reinterpret_cast<LPARAM>(&column))) {
             break;
+        }
         table.columns.push_back({ToUtf8(column.pszText), Rounded(column.cx, 4000, scale.right)});
     }
     const LRESULT rows = Ask(table.window, LVM_GETITEMCOUNT);
@@ -90,7 +93,7 @@ void ReadTable(Control& table, const RECT& scale) {
 }
 
 std::optional<Kind> KindOf(const std::string& class_name, DWORD style) {
-    if (class_name == "button")
+    if (class_name == "button") {
         switch (style & BS_TYPEMASK) {
         case BS_GROUPBOX:
             return Kind::Group;
@@ -99,16 +102,20 @@ std::optional<Kind> KindOf(const std::string& class_name, DWORD style) {
         default:
             return Kind::Button;
         }
+    }
     constexpr DWORD label_type = 0x1F;
-    if (class_name == "static" && (style & label_type) != SS_ICON)
+    if (class_name == "static" && (style & label_type) != SS_ICON) {
         return Kind::Label;
+    }
     static constexpr std::pair<const char*, Kind> classes[] = {{"combobox", Kind::Combo},
                                                                {"listbox", Kind::List},
                                                                {"syslistview32", Kind::Table},
                                                                {"msctls_trackbar32", Kind::Slider}};
-    for (const auto& [name, kind] : classes)
-        if (class_name == name)
+    for (const auto& [name, kind] : classes) {
+        if (class_name == name) {
             return kind;
+        }
+    }
     return {};
 }
 
@@ -150,8 +157,9 @@ void ReadControls(HWND parent, bool of_frame, std::vector<Control>& controls) {
     for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
         const DWORD style = static_cast<DWORD>(GetWindowLongPtrW(child, GWL_STYLE));
         const auto kind = KindOf(ClassName(child), style);
-        if (!kind || !IsWindowVisible(child))
+        if (!kind || !IsWindowVisible(child)) {
             continue;
+        }
         Control control;
         control.window = child;
         control.kind = *kind;
@@ -161,8 +169,9 @@ void ReadControls(HWND parent, bool of_frame, std::vector<Control>& controls) {
         RECT place{};
         GetWindowRect(child, &place);
         control.area = AreaOn(place, origin, scale);
-        if (control.kind == Kind::Combo)
+        if (control.kind == Kind::Combo) {
             control.area.cy = std::min(control.area.cy, closed_combo);
+        }
         control.enabled = IsWindowEnabled(child) != FALSE;
         control.of_frame = of_frame;
         ReadState(control, style, scale);
@@ -183,9 +192,11 @@ Window ReadWindow(HWND handle, bool box) {
     window.handle = handle;
     window.title = WindowText(handle);
     HWND page = nullptr;
-    for (HWND child = GetWindow(handle, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
-        if (ClassName(child) == dialog_class && IsWindowVisible(child))
+    for (HWND child = GetWindow(handle, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        if (ClassName(child) == dialog_class && IsWindowVisible(child)) {
             page = child;
+        }
+    }
     if (page) {
         window.page = WindowText(page);
         ReadControls(page, false, window.controls);
@@ -203,17 +214,21 @@ Window ReadWindow(HWND handle, bool box) {
 
 std::string BoxText(const Window& box) {
     std::string text;
-    for (const Control& control : box.controls)
-        if (control.kind == Kind::Label)
+    for (const Control& control : box.controls) {
+        if (control.kind == Kind::Label) {
             text += control.text;
+        }
+    }
     return text;
 }
 
 std::string ButtonNames(const Window& window) {
     std::string names;
-    for (const Control& control : window.controls)
-        if (control.kind == Kind::Button)
+    for (const Control& control : window.controls) {
+        if (control.kind == Kind::Button) {
             names += (names.empty() ? "" : ", ") + Shown(control.text);
+        }
+    }
     return names;
 }
 

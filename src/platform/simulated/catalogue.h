@@ -1,5 +1,5 @@
-// The dialogs and strings of the library as data, one catalogue per language, built from the same files that the
-// resource compiler reads. Every language's catalogue enters itself at program start.
+// The dialogs and strings of the library as data, one catalogue per language, built from the same files that
+// the resource compiler reads. Every language's catalogue enters itself at program start.
 #pragma once
 
 #include <span>
@@ -20,8 +20,8 @@ struct DialogTemplate {
     int id;
     const WCHAR* title;
     DWORD style;
-    int weight; // of the font, 0 if not given
-    int cx, cy; // dialog units
+    int weight;                                // of the font, 0 if not given
+    int cx, cy;                                // dialog units
     std::span<const ControlTemplate> controls; // in tab order
 };
 
@@ -40,8 +40,8 @@ struct Catalogue {
 // All catalogues of the program, in no particular order; valid from the start of main.
 std::span<const Catalogue* const> Catalogues();
 
-// The catalogue that the system's resource lookup takes for a language: the exact id, then the language's neutral
-// and default sublanguage, then any other of that primary language, then English (United States).
+// The catalogue that the system's resource lookup takes for a language: the exact id, then the language's
+// neutral and default sublanguage, then any other of that primary language, then English (United States).
 const Catalogue& CatalogueFor(LANGID language);
 
 // Enters a catalogue; for the languages' own files only.

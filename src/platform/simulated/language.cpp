@@ -1,9 +1,11 @@
-// The catalogue of one language; LANGUAGE_FILE is the name of its file under resources/languages/. Compiled once
-// per language.
+// The catalogue of one language; LANGUAGE_FILE is the name of its file under resources/languages/. Compiled
+// once per language.
 #include "platform/simulated/catalogue.h"
 #include "resources/resource_ids.h"
 
+// clang-format off
 #define HEADER_OF(file) HEADER_TEXT(resources/languages/file.h)
+// clang-format on
 #define HEADER_TEXT(path) #path
 #include HEADER_OF(LANGUAGE_FILE)
 

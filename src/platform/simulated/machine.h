@@ -4,12 +4,12 @@
 // `windows_api.h` work on the current one. Every operation of the logic passes `Operation` once: there it is
 // written into the journal and there the fault plan decides whether it fails. What a host or an operator does
 // while a window waits for it is neither journaled nor counted nor failed.
-// Without a trace, too, passes what can't fail on a window that is there: to read or set its slots, and to ask
-// for its number, its parent or the focus.
+// Without a trace, too, passes what can't fail on a window that is there: to read or set its slots, and to
+// ask for its number, its parent or the focus.
 //
-// Keys, sets, databases, pages, top-level windows and allocations are counted: `Machine::open` is empty again when the
-// logic has given back all that it took, and `Machine::misuse` has a line for every handle that was not valid
-// (closed twice, never opened, of another kind) and for memory freed twice.
+// Keys, sets, databases, pages, top-level windows and allocations are counted: `Machine::open` is empty again
+// when the logic has given back all that it took, and `Machine::misuse` has a line for every handle that was
+// not valid (closed twice, never opened, of another kind) and for memory freed twice.
 #pragma once
 
 #include <array>

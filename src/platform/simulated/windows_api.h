@@ -1,7 +1,8 @@
 // The part of Windows that this system is written against, under Windows' own names: first what the logic
 // calls, at the end of each block what only a host calls that shows and operates the windows. Constants have
-// the values of Windows, structures its layout in the 64-bit form. The behaviour behind the declarations is in
-// the other files of this folder; `machine.h` is the way in for whoever sets up, breaks and reads a machine.
+// the values of Windows, structures its layout in the 64-bit form. The behaviour behind the declarations is
+// in the other files of this folder; `machine.h` is the way in for whoever sets up, breaks and reads a
+// machine.
 #pragma once
 
 #include <cstddef>
@@ -68,7 +69,8 @@ using HPSXA = void*;
 #define ARRAYSIZE(array) (sizeof(array) / sizeof((array)[0]))
 #define LOWORD(value) (static_cast<WORD>(static_cast<UINT_PTR>(value) & 0xFFFF))
 #define HIWORD(value) (static_cast<WORD>((static_cast<UINT_PTR>(value) >> 16) & 0xFFFF))
-#define MAKELONG(low, high) (static_cast<LONG>(static_cast<DWORD>(LOWORD(low)) | (static_cast<DWORD>(LOWORD(high)) << 16)))
+#define MAKELONG(low, high)                                                                                  \
+    (static_cast<LONG>(static_cast<DWORD>(LOWORD(low)) | (static_cast<DWORD>(LOWORD(high)) << 16)))
 #define MAKELPARAM(low, high) (static_cast<LPARAM>(static_cast<DWORD>(MAKELONG(low, high))))
 #define MAKEWPARAM(low, high) (static_cast<WPARAM>(static_cast<DWORD>(MAKELONG(low, high))))
 #define MAKEINTRESOURCEW(number) (reinterpret_cast<LPWSTR>(static_cast<ULONG_PTR>(static_cast<WORD>(number))))
@@ -87,7 +89,8 @@ struct POINT {
     LONG x, y;
 };
 
-// --- Kernel: memory, errors, text, profile, locale, DOS names ------------------------------------------------
+// --- Kernel: memory, errors, text, profile, locale, DOS names
+// ------------------------------------------------
 
 #define LPTR 0x0040
 #define ERROR_SUCCESS 0
@@ -129,7 +132,8 @@ int GetLocaleInfoW(LCID locale, LCTYPE type, LPWSTR buffer, int capacity);
 DWORD QueryDosDeviceW(LPCWSTR name, LPWSTR target, DWORD capacity);
 BOOL DefineDosDeviceW(DWORD flags, LPCWSTR name, LPCWSTR target);
 
-// --- Registry ------------------------------------------------------------------------------------------------
+// --- Registry
+// ------------------------------------------------------------------------------------------------
 
 #define HKEY_LOCAL_MACHINE (reinterpret_cast<HKEY>(static_cast<ULONG_PTR>(0x80000002)))
 #define KEY_READ 0x20019
@@ -149,21 +153,24 @@ LSTATUS RegOpenKeyExW(HKEY root, LPCWSTR path, DWORD options, REGSAM access, PHK
 LSTATUS RegCloseKey(HKEY key);
 LSTATUS RegQueryValueExW(HKEY key, LPCWSTR name, LPDWORD reserved, LPDWORD type, LPBYTE data, LPDWORD bytes);
 LSTATUS RegSetValueExW(HKEY key, LPCWSTR name, DWORD reserved, DWORD type, const BYTE* data, DWORD bytes);
-LSTATUS RegEnumValueW(HKEY key, DWORD index, LPWSTR name, LPDWORD nameCapacity, LPDWORD reserved, LPDWORD type,
-                      LPBYTE data, LPDWORD bytes);
+LSTATUS RegEnumValueW(HKEY key, DWORD index, LPWSTR name, LPDWORD nameCapacity, LPDWORD reserved,
+                      LPDWORD type, LPBYTE data, LPDWORD bytes);
 
-// --- COM port database -----------------------------------------------------------------------------------------
+// --- COM port database
+// -----------------------------------------------------------------------------------------
 
 #define CDB_REPORT_BITS 0
 #define HCOMDB_INVALID_HANDLE_VALUE (static_cast<HCOMDB>(INVALID_HANDLE_VALUE))
 
 LONG WINAPI ComDBOpen(PHCOMDB database);
 LONG WINAPI ComDBClose(HCOMDB database);
-LONG WINAPI ComDBGetCurrentPortUsage(HCOMDB database, BYTE* buffer, DWORD bytes, DWORD report, LPDWORD portCount);
+LONG WINAPI ComDBGetCurrentPortUsage(HCOMDB database, BYTE* buffer, DWORD bytes, DWORD report,
+                                     LPDWORD portCount);
 LONG WINAPI ComDBClaimPort(HCOMDB database, DWORD number, BOOL force, BOOL* forced);
 LONG WINAPI ComDBReleasePort(HCOMDB database, DWORD number);
 
-// --- Device installation -----------------------------------------------------------------------------------------
+// --- Device installation
+// -----------------------------------------------------------------------------------------
 
 #define DIGCF_PRESENT 0x02
 #define DIGCF_DEVICEINTERFACE 0x10
@@ -235,8 +242,8 @@ using PSP_PROPSHEETPAGE_REQUEST = SP_PROPSHEETPAGE_REQUEST*;
 
 HDEVINFO SetupDiGetClassDevsW(const GUID* interfaceClass, LPCWSTR enumerator, HWND parent, DWORD flags);
 BOOL SetupDiDestroyDeviceInfoList(HDEVINFO set);
-BOOL SetupDiEnumDeviceInterfaces(HDEVINFO set, SP_DEVINFO_DATA* device, const GUID* interfaceClass, DWORD index,
-                                 SP_DEVICE_INTERFACE_DATA* interfaceData);
+BOOL SetupDiEnumDeviceInterfaces(HDEVINFO set, SP_DEVINFO_DATA* device, const GUID* interfaceClass,
+                                 DWORD index, SP_DEVICE_INTERFACE_DATA* interfaceData);
 BOOL SetupDiGetDeviceInterfaceDetailW(HDEVINFO set, SP_DEVICE_INTERFACE_DATA* interfaceData,
                                       SP_DEVICE_INTERFACE_DETAIL_DATA_W* detail, DWORD bytes, LPDWORD needed,
                                       SP_DEVINFO_DATA* device);
@@ -245,14 +252,16 @@ HKEY SetupDiOpenDevRegKey(HDEVINFO set, SP_DEVINFO_DATA* device, DWORD scope, DW
 BOOL SetupDiGetDeviceInfoListDetailW(HDEVINFO set, SP_DEVINFO_LIST_DETAIL_DATA_W* detail);
 BOOL SetupDiGetDeviceInstallParamsW(HDEVINFO set, SP_DEVINFO_DATA* device, SP_DEVINSTALL_PARAMS_W* params);
 BOOL SetupDiSetDeviceInstallParamsW(HDEVINFO set, SP_DEVINFO_DATA* device, SP_DEVINSTALL_PARAMS_W* params);
-BOOL SetupDiSetClassInstallParamsW(HDEVINFO set, SP_DEVINFO_DATA* device, SP_CLASSINSTALL_HEADER* params, DWORD bytes);
+BOOL SetupDiSetClassInstallParamsW(HDEVINFO set, SP_DEVINFO_DATA* device, SP_CLASSINSTALL_HEADER* params,
+                                   DWORD bytes);
 BOOL SetupDiCallClassInstaller(DI_FUNCTION function, HDEVINFO set, SP_DEVINFO_DATA* device);
 BOOL SetupDiGetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_DATA* device, DWORD property, LPDWORD type,
                                        BYTE* buffer, DWORD bytes, LPDWORD needed);
-BOOL SetupDiSetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_DATA* device, DWORD property, const BYTE* buffer,
-                                       DWORD bytes);
+BOOL SetupDiSetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_DATA* device, DWORD property,
+                                       const BYTE* buffer, DWORD bytes);
 
-// --- Windows, dialogs and property sheets ----------------------------------------------------------------------
+// --- Windows, dialogs and property sheets
+// ----------------------------------------------------------------------
 
 #define IDOK 1
 #define IDCANCEL 2

@@ -1,0 +1,182 @@
+#include "host/line/interpreter.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <iterator>
+
+#include <utf8.h>
+
+#include "host/screen/hand.h"
+#include "host/screen/listing.h"
+#include "host/text.h"
+
+namespace host {
+namespace {
+
+const char* KindOf(const Window& window) {
+    return window.kind == WindowKind::Sheet ? "sheet" : window.kind == WindowKind::Box ? "box" : "dialog";
+}
+
+} // namespace
+
+Interpreter::Interpreter(World& world, LineSource& lines, std::ostream& out)
+    : world_(world), lines_(lines), out_(out) {
+    lines_.CompleteBy([this](const Words& words) { return Continue(words); });
+}
+
+// --- The loop ---
+
+int Interpreter::Run() {
+    while (!ending_) {
+        Step();
+    }
+    return failed_;
+}
+
+void Interpreter::Step() {
+    const std::optional<std::string> bytes = lines_.Next(Prompt());
+    if (!bytes) {
+        ending_ = true;
+        return;
+    }
+    had_input_ = true;
+    std::string line;
+    utf8::replace_invalid(bytes->begin(), bytes->end(), std::back_inserter(line));
+    line.erase(line.find_last_not_of(" \t\r") + 1);
+    line.erase(0, std::min(line.size(), line.find_first_not_of(" \t")));
+    if (line.empty()) {
+        return;
+    }
+    const bool comment = line.front() == '#';
+    if (!lines_.IsPerson()) {
+        out_ << (comment ? "" : "> ") << line << '\n';
+    }
+    if (!comment) {
+        Execute(line);
+    }
+    out_.flush();
+}
+
+void Interpreter::Fail(const std::string& reason) {
+    ++failed_;
+    out_ << "error: " << reason << '\n';
+}
+
+void Interpreter::Attend(HWND front) {
+    NoteClosed(false);
+    if (windows_.empty() || windows_.back().handle != front) {
+        Announce(front);
+    }
+    pressed_ = false;
+    while (!pressed_ && !windows_.empty() && windows_.back().handle == front) {
+        if (ending_) {
+            return CloseFront();
+        }
+        Step();
+        NoteClosed(false);
+    }
+}
+
+void Interpreter::Announce(HWND front) {
+    const UINT style = world_.BoxStyle(front);
+    const Window window = ReadWindow(front, style != 0);
+    std::string told = KindOf(window) + (": " + Quoted(window.title));
+    out_ << "-- " << told;
+    if (window.kind == WindowKind::Box) {
+        char number[16];
+        std::snprintf(number, sizeof number, "0x%04X", style);
+        out_ << " | " << Quoted(BoxText(window)) << " | style " << number << " | buttons "
+             << ButtonNames(window);
+    }
+    out_ << '\n';
+    windows_.push_back({front, std::move(told)});
+    sheet_opened_ = sheet_opened_ || window.kind == WindowKind::Sheet;
+    if (window.kind == WindowKind::Sheet || lines_.IsPerson()) {
+        Show({});
+    }
+}
+
+void Interpreter::NoteClosed(bool all) {
+    while (!windows_.empty() && (all || !IsOpen(windows_.back().handle))) {
+        out_ << "-- closed: " << windows_.back().told << '\n';
+        windows_.pop_back();
+    }
+}
+
+// A question is answered with No before anything that changes the world.
+void Interpreter::CloseFront() {
+    const Window front = Front();
+    for (const int id : {IDNO, IDCANCEL, IDOK}) {
+        for (const Control& control : front.controls) {
+            if (control.kind == Kind::Button && control.id == id && control.enabled &&
+                (front.kind != WindowKind::Sheet || control.of_frame)) {
+                Click(control);
+                return NoteClosed(false);
+            }
+        }
+    }
+    SendMessageW(front.handle, WM_CLOSE, 0, 0);
+    NoteClosed(false);
+}
+
+std::string Interpreter::Prompt() const {
+    return windows_.empty() ? "> " : windows_.back().told.substr(0, windows_.back().told.find(':')) + "> ";
+}
+
+// --- What a command works on ---
+
+Window Interpreter::Read(HWND window) {
+    return ReadWindow(window, world_.BoxStyle(window) != 0);
+}
+
+Window Interpreter::Front() {
+    if (windows_.empty()) {
+        throw Refusal("no window is open; open DEVICE opens one");
+    }
+    return Read(windows_.back().handle);
+}
+
+const Control& Interpreter::InFront(const Window& front, const std::string& name) {
+    try {
+        return FindControl(front, name);
+    } catch (const Refusal& refusal) {
+        if (front.kind == WindowKind::Box) {
+            throw Refusal("a message box is in front and blocks the rest: answer it first");
+        }
+        throw;
+    }
+}
+
+Device Interpreter::FindDevice(const std::string& name) {
+    const std::vector<Device> devices = world_.Devices();
+    long number = 0;
+    if (ParseNumber(name, number) && number >= 1 && static_cast<unsigned long>(number) <= devices.size()) {
+        return devices[static_cast<std::size_t>(number) - 1];
+    }
+    const std::string wanted = Folded(name);
+    const Device* found = nullptr;
+    for (const Device& device : devices) {
+        if (Folded(device.id) == wanted) {
+            return device;
+        }
+        if (device.kind != DeviceKind::Port) {
+            continue;
+        }
+        const std::vector<StoreValue> store = world_.Store(device.id);
+        const StoreValue* const stored = FindValue(store, "PortName");
+        if (!stored || Folded(TextOf(*stored)) != wanted) {
+            continue;
+        }
+        if (found) {
+            throw Refusal("more than one device is called " + Quoted(name) + ": name it by its number");
+        }
+        found = &device;
+    }
+    if (!found) {
+        throw Refusal("no device " + Quoted(name) + "; devices lists the " + std::to_string(devices.size()) +
+                      " there are");
+    }
+    return *found;
+}
+
+} // namespace host

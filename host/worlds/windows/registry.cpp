@@ -1,0 +1,55 @@
+#include "host/worlds/windows/registry.h"
+
+#include "host/screen/listing.h"
+
+namespace host {
+
+RegistryKey::RegistryKey(HKEY root, const WCHAR* path, REGSAM access) {
+    if (RegOpenKeyExW(root, path, 0, access, &key_) != ERROR_SUCCESS) {
+        key_ = nullptr;
+    }
+}
+
+RegistryKey::RegistryKey(HKEY opened) : key_(opened == INVALID_HANDLE_VALUE ? nullptr : opened) {}
+
+RegistryKey::~RegistryKey() {
+    if (key_) {
+        RegCloseKey(key_);
+    }
+}
+
+std::vector<StoreValue> RegistryKey::Values() const {
+    std::vector<StoreValue> values;
+    DWORD longest_name = 0, longest_data = 0;
+    if (!key_ || RegQueryInfoKeyW(key_, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                                  &longest_name, &longest_data, nullptr, nullptr) != ERROR_SUCCESS) {
+        return values;
+    }
+    for (DWORD index = 0;; ++index) {
+        StoreValue value{Text(longest_name + 1, 0), 0, std::vector<BYTE>(longest_data + 1)};
+        DWORD name_length = longest_name + 1, bytes = longest_data + 1;
+        if (RegEnumValueW(key_, index, value.name.data(), &name_length, nullptr, &value.type,
+                          value.data.data(), &bytes) != ERROR_SUCCESS) {
+            return values;
+        }
+        value.name.resize(name_length);
+        value.data.resize(bytes);
+        values.push_back(std::move(value));
+    }
+}
+
+std::vector<std::pair<Text, Text>> RegistryKey::Texts() const {
+    std::vector<std::pair<Text, Text>> texts;
+    for (const StoreValue& value : Values()) {
+        if (value.type == REG_SZ) {
+            texts.emplace_back(value.name, TextIn(value.data));
+        }
+    }
+    return texts;
+}
+
+bool RegistryKey::Has(const WCHAR* name) const {
+    return key_ && RegQueryValueExW(key_, name, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
+}
+
+} // namespace host

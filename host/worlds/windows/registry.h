@@ -1,0 +1,37 @@
+// Registry keys as this folder reads them.
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "host/worlds/world.h"
+
+namespace host {
+
+inline constexpr const WCHAR* PortsKey = L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Ports";
+inline constexpr const WCHAR* SerialMapKey = L"HARDWARE\\DEVICEMAP\\SERIALCOMM";
+
+// An open key, closed at the end. A key that can't be opened has no values.
+class RegistryKey {
+public:
+    RegistryKey(HKEY root, const WCHAR* path, REGSAM access);
+    // Takes over a key that SetupAPI opened; INVALID_HANDLE_VALUE is none.
+    explicit RegistryKey(HKEY opened);
+    ~RegistryKey();
+    RegistryKey(const RegistryKey&) = delete;
+    RegistryKey& operator=(const RegistryKey&) = delete;
+
+    HKEY Handle() const { return key_; }
+
+    // In the order in which the system enumerates them.
+    std::vector<StoreValue> Values() const;
+    // The REG_SZ values, name and text.
+    std::vector<std::pair<Text, Text>> Texts() const;
+    bool Has(const WCHAR* name) const;
+
+private:
+    HKEY key_ = nullptr;
+};
+
+} // namespace host

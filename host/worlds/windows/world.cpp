@@ -1,0 +1,252 @@
+// The system itself as the world of the host: its devices, its registry, its windows. The library is the one
+// beside the program.
+#include "host/worlds/world.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "host/screen/listing.h"
+#include "host/worlds/windows/attendance.h"
+#include "host/worlds/windows/observers.h"
+#include "host/worlds/windows/registry.h"
+#include "host/worlds/windows/standins/faults.h"
+#include "host/worlds/windows/standins/standins.h"
+
+namespace host {
+namespace {
+
+// A device information set, destroyed at the end.
+class DeviceSet {
+public:
+    explicit DeviceSet(HDEVINFO set) : set_(set) {}
+    ~DeviceSet() { SetupDiDestroyDeviceInfoList(set_); }
+    DeviceSet(const DeviceSet&) = delete;
+    DeviceSet& operator=(const DeviceSet&) = delete;
+
+    HDEVINFO Handle() const { return set_; }
+
+private:
+    HDEVINFO set_;
+};
+
+SP_DEVINFO_DATA EmptyDevice() {
+    SP_DEVINFO_DATA data{};
+    data.cbSize = sizeof data;
+    return data;
+}
+
+Text Property(HDEVINFO set, SP_DEVINFO_DATA& data, DWORD property) {
+    WCHAR text[256] = {};
+    const bool found =
+        SetupDiGetDeviceRegistryPropertyW(set, &data, property, nullptr, reinterpret_cast<BYTE*>(text),
+                                          sizeof text - sizeof(WCHAR), nullptr) != FALSE;
+    return found ? Text(text) : Text();
+}
+
+HKEY HardwareKey(HDEVINFO set, SP_DEVINFO_DATA& data) {
+    return SetupDiOpenDevRegKey(set, &data, DICS_FLAG_GLOBAL, 0, DIREG_DEV, KEY_READ);
+}
+
+// The device as the host lists it, but for its presence; nothing if it has no provider.
+std::optional<Device> Describe(HDEVINFO set, SP_DEVINFO_DATA& data) {
+    Device device;
+    device.id = InstanceId(set, &data);
+    const RegistryKey key(HardwareKey(set, data));
+    if (Property(set, data, SPDRP_CLASS) == TEXT("Ports") || key.Has(TEXT("PortName"))) {
+        device.kind = DeviceKind::Port;
+    } else if (!key.Has(TEXT("BoardNrController"))) { // what only a board's own device says
+        return {};
+    }
+    device.description = Property(set, data, SPDRP_DEVICEDESC);
+    device.friendly_name = Property(set, data, SPDRP_FRIENDLYNAME);
+    return device;
+}
+
+bool SameText(const std::string& left, const std::string& right) {
+    return CompareStringOrdinal(FromUtf8(left).c_str(), -1, FromUtf8(right).c_str(), -1, TRUE) == CSTR_EQUAL;
+}
+
+bool Before(const Text& left, const Text& right) {
+    return CompareStringOrdinal(left.c_str(), -1, right.c_str(), -1, TRUE) == CSTR_LESS_THAN;
+}
+
+// The devices that have an interface of any class; with DIGCF_PRESENT, a present one.
+std::vector<std::string> InterfaceOwners(DWORD flags) {
+    std::vector<std::string> ids;
+    const DeviceSet set(
+        SetupDiGetClassDevsW(nullptr, nullptr, nullptr, DIGCF_ALLCLASSES | DIGCF_DEVICEINTERFACE | flags));
+    SP_DEVINFO_DATA data = EmptyDevice();
+    for (DWORD index = 0; SetupDiEnumDeviceInfo(set.Handle(), index, &data); ++index) {
+        ids.push_back(InstanceId(set.Handle(), &data));
+    }
+    return ids;
+}
+
+BOOL CALLBACK TakePage(HPROPSHEETPAGE page, LPARAM pages) {
+    reinterpret_cast<std::vector<HPROPSHEETPAGE>*>(pages)->push_back(page);
+    return TRUE;
+}
+
+// A sheet that has ended stays on the screen until its loop sees it. Whoever operates it must see it go at
+// once.
+LRESULT CALLBACK HideWhenEnded(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
+    const LRESULT result = DefSubclassProc(sheet, message, wParam, lParam);
+    if ((message == WM_COMMAND || message == WM_SYSCOMMAND || message == WM_CLOSE ||
+         message == PSM_PRESSBUTTON) &&
+        !PropSheet_GetCurrentPageHwnd(sheet)) {
+        ShowWindow(sheet, SW_HIDE);
+    }
+    return result;
+}
+
+void ShowSheet(const Text& title, std::vector<HPROPSHEETPAGE>& pages) {
+    PROPSHEETHEADERW header{};
+    header.dwSize = sizeof header;
+    header.dwFlags = PSH_MODELESS;
+    header.pszCaption = title.c_str();
+    header.nPages = static_cast<UINT>(pages.size());
+    header.phpage = pages.data();
+    const HWND sheet = reinterpret_cast<HWND>(PropertySheetW(&header));
+    if (!sheet || sheet == INVALID_HANDLE_VALUE) {
+        return;
+    }
+    SetWindowSubclass(sheet, &HideWhenEnded, 0, 0);
+    MSG message;
+    while (PropSheet_GetCurrentPageHwnd(sheet) && GetMessageW(&message, nullptr, 0, 0) > 0) {
+        if (!PropSheet_IsDialogMessage(sheet, &message)) {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+    }
+    RemoveWindowSubclass(sheet, &HideWhenEnded, 0);
+    DestroyWindow(sheet);
+}
+
+class System : public World {
+public:
+    explicit System(HMODULE library) : library_(library) {
+        if (IsStandInSystem()) {
+            UseStandIns(library);
+        }
+        AllowFaults(library);
+        Observe(library);
+    }
+    ~System() override { FreeLibrary(library_); }
+
+    std::vector<Device> Devices() override {
+        std::vector<Device> devices;
+        const std::vector<std::string> with_interface = InterfaceOwners(0),
+                                       present = InterfaceOwners(DIGCF_PRESENT);
+        const auto among = [](const std::vector<std::string>& ids, const std::string& id) {
+            return std::any_of(ids.begin(), ids.end(),
+                               [&](const std::string& each) { return SameText(each, id); });
+        };
+        const DeviceSet set(SetupDiGetClassDevsW(nullptr, nullptr, nullptr, DIGCF_ALLCLASSES));
+        SP_DEVINFO_DATA data = EmptyDevice();
+        for (DWORD index = 0; SetupDiEnumDeviceInfo(set.Handle(), index, &data); ++index) {
+            if (std::optional<Device> device = Describe(set.Handle(), data)) {
+                device->present = !among(with_interface, device->id) || among(present, device->id);
+                devices.push_back(std::move(*device));
+            }
+        }
+        std::sort(devices.begin(), devices.end(), [](const Device& left, const Device& right) {
+            return left.kind != right.kind ? left.kind == DeviceKind::Board
+                                           : Before(FromUtf8(left.id), FromUtf8(right.id));
+        });
+        return devices;
+    }
+
+    std::vector<StoreValue> Store(const std::string& id) override {
+        const DeviceSet set(SetupDiCreateDeviceInfoList(nullptr, nullptr));
+        SP_DEVINFO_DATA data = EmptyDevice();
+        if (!SetupDiOpenDeviceInfoW(set.Handle(), FromUtf8(id).c_str(), nullptr, 0, &data)) {
+            return {};
+        }
+        std::vector<StoreValue> values = RegistryKey(HardwareKey(set.Handle(), data)).Values();
+        std::sort(values.begin(), values.end(), [](const StoreValue& left, const StoreValue& right) {
+            return Before(left.name, right.name);
+        });
+        return values;
+    }
+
+    PortRecords Ports() override {
+        PortRecords records;
+        records.dos_names = SerialDosNames();
+        records.serial_map = RegistryKey(HKEY_LOCAL_MACHINE, SerialMapKey, KEY_READ).Texts();
+        // The section [Ports] of the profile lies there.
+        records.settings_lines = RegistryKey(HKEY_LOCAL_MACHINE, PortsKey, KEY_READ).Texts();
+        HCOMDB database = nullptr;
+        if (ComDBOpen(&database) == ERROR_SUCCESS) {
+            DWORD ports = 0;
+            ComDBGetCurrentPortUsage(database, records.usage.data(), static_cast<DWORD>(records.usage.size()),
+                                     CDB_REPORT_BITS, &ports);
+            ComDBClose(database);
+        }
+        return records;
+    }
+
+    bool RunSheet(const std::string& id, const std::function<void(HWND front)>& attend) override {
+        const DeviceSet set(SetupDiCreateDeviceInfoList(nullptr, nullptr));
+        SP_DEVINFO_DATA data = EmptyDevice();
+        if (!SetupDiOpenDeviceInfoW(set.Handle(), FromUtf8(id).c_str(), nullptr, 0, &data)) {
+            return false;
+        }
+        const std::optional<Device> device = Describe(set.Handle(), data);
+        if (!device) {
+            return false;
+        }
+        using Provider = BOOL(APIENTRY*)(SP_PROPSHEETPAGE_REQUEST*, LPFNADDPROPSHEETPAGE, LPARAM);
+        const char* const name =
+            device->kind == DeviceKind::Board ? "KvrBoardPropPageProvider" : "KvrUartPropPageProvider";
+        const auto provider =
+            reinterpret_cast<Provider>(reinterpret_cast<void*>(GetProcAddress(library_, name)));
+        if (!provider) {
+            return true;
+        }
+        const Attendance attendance(attend);
+        SP_PROPSHEETPAGE_REQUEST request{sizeof request, SPPSR_ENUM_ADV_DEVICE_PROPERTIES, set.Handle(),
+                                         &data};
+        std::vector<HPROPSHEETPAGE> pages;
+        if (provider(&request, &TakePage, reinterpret_cast<LPARAM>(&pages)) && !pages.empty()) {
+            ShowSheet(FromUtf8(NameOf(*device)) + TEXT(" Properties"), pages);
+        }
+        return true;
+    }
+
+    std::vector<std::string> Journal() override { return TakeJournal(); }
+
+    UINT BoxStyle(HWND box) override { return OpenBoxStyle(box); }
+
+    bool Export(const std::string&, std::string& error) override {
+        error = "a real machine is exported by its own registry editor";
+        return false;
+    }
+
+private:
+    HMODULE library_;
+};
+
+} // namespace
+
+std::unique_ptr<World> OpenWorld(const std::string& file, LANGID language, std::string& error) {
+    if (!file.empty()) {
+        error = "the machine is the one at hand; bring " + file + " in by the registry editor";
+        return nullptr;
+    }
+    if (language != 0 && !UseLanguage(language)) {
+        error = "the system knows no language " + std::to_string(language);
+        return nullptr;
+    }
+    WCHAR path[MAX_PATH];
+    const DWORD length = GetModuleFileNameW(nullptr, path, ARRAYSIZE(path));
+    const Text program(path, length);
+    const Text library = program.substr(0, program.rfind(TEXT('\\')) + 1) + TEXT("kvrpagex64.dll");
+    const HMODULE loaded = LoadLibraryW(library.c_str());
+    if (!loaded) {
+        error = "can't load " + ToUtf8(library) + ": error " + std::to_string(GetLastError());
+        return nullptr;
+    }
+    return std::make_unique<System>(loaded);
+}
+
+} // namespace host

@@ -1,0 +1,16 @@
+#include "tests/windows/programs/first_device.h"
+
+#include "host/screen/listing.h"
+
+namespace host {
+
+std::optional<Device> FirstDevice(World& world, DeviceKind kind) {
+    for (const Device& device : world.Devices()) {
+        if (device.kind == kind && FindValue(world.Store(device.id), "BoardPciBusNumber")) {
+            return device;
+        }
+    }
+    return {};
+}
+
+} // namespace host
