@@ -11,7 +11,7 @@ namespace {
 
 constexpr machines::BoardPlace elsewhere{9, 9};
 
-// A machine at work without a trace of reads, which long runs would fill the memory with.
+// A machine that journals no reads, because a long run would fill the memory with them.
 struct AtWork {
     explicit AtWork(sim::Machine& machine) : scope(machine) {
         machine.journal_reads = false;
@@ -77,7 +77,7 @@ BENCHMARK(BoardPageByInterfaces)
     ->Complexity(benchmark::oN)
     ->Unit(benchmark::kMicrosecond);
 
-// The operations of one move, in their order, with nothing of the library between them.
+// The operations of one move in their order, with no library code between them.
 void ReplayMove(HDEVINFO set, SP_DEVINFO_DATA* data, u32 from, u32 to) {
     const sim::Text from_name = machines::PortName(from);
     const sim::Text to_name = machines::PortName(to);
@@ -149,7 +149,7 @@ void ReplaySort(const machines::OpenBoard& board, u32 uarts) {
     }
 }
 
-// Runs one of the two on a board in reverse; a fresh one each time, whose making is not measured.
+// Runs one of the two on a board in reverse order; the board is new each time and its setup is not measured.
 template <class Work> void MeasureSort(benchmark::State& state, const Work& work) {
     const u32 uarts = static_cast<u32>(state.range(0));
     const sim::Machine fresh = machines::BoardOn(Descending(uarts));
@@ -177,7 +177,7 @@ void SortInReverse(benchmark::State& state) {
 }
 BENCHMARK(SortInReverse)->Arg(16)->Arg(64)->Arg(255)->Unit(benchmark::kMicrosecond);
 
-// What of the sort is the platform's share: the time of this divided by that of SortInReverse.
+// The platform's share of the sort: the time of this divided by the time of SortInReverse.
 void SortReplayed(benchmark::State& state) {
     MeasureSort(state, ReplaySort);
 }

@@ -1,5 +1,5 @@
-// What both systems must agree on: the integer names of the records, the form in which a page is described,
-// and the size of every structure that is passed outside.
+// What both systems must agree on: the integer types of the records, the form of a page description, and the
+// size of every structure that is passed to the system.
 #pragma once
 
 using u32 = DWORD;

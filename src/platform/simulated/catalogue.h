@@ -1,5 +1,5 @@
 // The dialogs and strings of the library as data, one catalogue per language, built from the same files that
-// the resource compiler reads. Every language's catalogue enters itself at program start.
+// the resource compiler reads. Each language registers its catalogue at program start.
 #pragma once
 
 #include <span>
@@ -37,14 +37,14 @@ struct Catalogue {
     std::span<const CatalogueString> strings;
 };
 
-// All catalogues of the program, in no particular order; valid from the start of main.
+// All catalogues of the program, in no particular order. Valid once main has begun.
 std::span<const Catalogue* const> Catalogues();
 
 // The catalogue that the system's resource lookup takes for a language: the exact id, then the language's
 // neutral and default sublanguage, then any other of that primary language, then English (United States).
 const Catalogue& CatalogueFor(LANGID language);
 
-// Enters a catalogue; for the languages' own files only.
+// Registers a catalogue; called by the languages' own files only.
 bool EnterCatalogue(const Catalogue& catalogue);
 
 } // namespace sim

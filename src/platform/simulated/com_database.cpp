@@ -15,7 +15,7 @@ LONG Answer(LONG error) {
     return error;
 }
 
-// What every call on an open database goes through.
+// The common start of every call on an open database.
 template <class Detail>
 LONG Enter(sim::Reach reach, std::string_view operation, HCOMDB database, const Detail& detail) {
     const bool open = databases.Find(database, operation) != nullptr;
@@ -38,7 +38,7 @@ LONG WINAPI ComDBOpen(PHCOMDB database) {
 
 LONG WINAPI ComDBClose(HCOMDB database) {
     const bool fails = sim::Operation(sim::Reach::Read, __func__);
-    // What a failed open leaves behind may be closed: it is refused and does no harm.
+    // Closing the handle that a failed open left is allowed: it is refused and does no harm.
     if (database == HCOMDB_INVALID_HANDLE_VALUE || !databases.Close(database, __func__)) {
         return Answer(ERROR_INVALID_PARAMETER);
     }

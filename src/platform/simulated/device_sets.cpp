@@ -14,7 +14,7 @@ struct Set {
 };
 sim::Handles<HDEVINFO, Set> sets("set");
 
-// A member of a set carries the set's handle, so that it is good for this set and no other.
+// A member carries its set's handle, so that it is valid for this set only.
 ULONG_PTR TagOf(HDEVINFO set) {
     return reinterpret_cast<ULONG_PTR>(set);
 }
@@ -24,7 +24,7 @@ void FillDevice(HDEVINFO set, std::size_t device, SP_DEVINFO_DATA& data) {
             static_cast<DWORD>(device + 1), TagOf(set)};
 }
 
-// An interface carries its place in the set as well, counted from 1.
+// An interface also carries its place in the set, counted from 1.
 void FillInterface(HDEVINFO set, std::size_t place, const GUID& interface_class,
                    SP_DEVICE_INTERFACE_DATA& data) {
     data = {sizeof data, interface_class, SPINT_ACTIVE, TagOf(set) << 32 | (place + 1)};
@@ -169,7 +169,7 @@ BOOL SetupDiGetDeviceInfoListDetailW(HDEVINFO handle, SP_DEVINFO_LIST_DETAIL_DAT
         const sim::Device& device = sim::Current().devices[*set->device];
         detail->ClassGuid = device.class_guid.value_or(GUID{});
         if (device.remote) {
-            // Any value but null says so.
+            // Any non-null value says so.
             detail->RemoteMachineHandle = handle;
             sim::Text(u"\\\\REMOTE").copy(detail->RemoteMachineName, SP_MAX_MACHINENAME_LENGTH - 1);
         }

@@ -1,4 +1,4 @@
-// What is done with one device of a set: its hardware key, install parameters, class installer and
+// Operations on one device of a set: its hardware key, install parameters, class installer and
 // properties.
 #include <algorithm>
 #include <cstdio>
@@ -8,8 +8,8 @@
 
 namespace {
 
-// What every call on a device goes through: null, with the last error set, if it is not to go on. The detail
-// stands behind the instance id.
+// The common start of every call on a device: null, with the last error set, if the call must fail. In the
+// journal the detail follows the instance id.
 template <class Detail>
 sim::Device* Enter(sim::Reach reach, std::string_view operation, HDEVINFO set, const SP_DEVINFO_DATA* data,
                    const Detail& detail) {

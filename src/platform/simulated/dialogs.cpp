@@ -128,7 +128,7 @@ void Dialog::Run(INT_PTR if_left) {
             Misuse("the operator did not end \"" + ToUtf8(text) + "\"");
             break;
         }
-        const Operator user = Current().user; // it may put another one in its place
+        const Operator user = Current().user; // a copy: it may replace itself
         user(handle);
     }
     if (!ended) {
@@ -159,7 +159,7 @@ Dialog* DialogOf(HWND handle, std::string_view operation) {
 
 namespace {
 
-// The slot of a dialog that its procedure may use; null for any other index.
+// A slot that a dialog procedure may use; null for any other index.
 LONG_PTR* SlotOf(HWND handle, int index, std::string_view operation) {
     Dialog* dialog = DialogOf(handle, operation);
     if (dialog == nullptr || (index != DWLP_USER && index != DWLP_MSGRESULT)) {
@@ -193,7 +193,7 @@ INT_PTR DialogBoxParamW(HINSTANCE instance, LPCWSTR name, HWND parent, DLGPROC p
     return dialog.result;
 }
 
-// A page takes it as any dialog does: it is hidden, and the sheet goes on.
+// For a page this hides the page, as on Windows, and the sheet goes on.
 BOOL EndDialog(HWND handle, INT_PTR result) {
     sim::Dialog* dialog = sim::DialogOf(handle, __func__);
     if (Operation(Reach::Screen, __func__, [=] { return std::to_string(result); }) || dialog == nullptr) {

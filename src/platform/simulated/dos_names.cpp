@@ -22,7 +22,7 @@ DWORD QueryDosDeviceW(LPCWSTR name, LPWSTR target, DWORD capacity) {
         SetLastError(ERROR_FILE_NOT_FOUND);
         return 0;
     }
-    // A list with one text: the text's terminator and the list's.
+    // The result is a list of one text: the text's terminator, then the list's.
     const sim::Text list = found->second + sim::Text(2, u'\0');
     if (capacity < list.size()) {
         SetLastError(ERROR_INSUFFICIENT_BUFFER);

@@ -22,7 +22,7 @@ struct Items {
         texts.emplace_back(MessageText(text));
         return static_cast<LRESULT>(texts.size()) - 1;
     }
-    // Whatever is no item takes the selection away.
+    // An index that is no item clears the selection.
     LRESULT Select(WPARAM index) {
         selection = Has(index) ? static_cast<LRESULT>(index) : LB_ERR;
         return selection;
@@ -35,12 +35,12 @@ struct Items {
     LRESULT Length(WPARAM index) const {
         return Has(index) ? static_cast<LRESULT>(texts[index].size()) : LB_ERR;
     }
-    // The caller of these messages vouches for the room.
+    // The caller of these messages guarantees the room.
     LRESULT Copy(WPARAM index, LPARAM buffer) const {
         return Has(index) ? CopyOut(texts[index], reinterpret_cast<LPWSTR>(buffer), texts[index].size() + 1)
                           : LB_ERR;
     }
-    // From behind `start` once around; -1 begins at the top.
+    // Searches once around from the item after `start`; -1 begins at the top.
     LRESULT Find(WPARAM start, LPARAM beginning) const {
         const std::u16string_view wanted = MessageText(beginning);
         const std::size_t first = Has(start) ? start + 1 : 0;
@@ -54,7 +54,7 @@ struct Items {
     }
 };
 
-// The items' indices come as 32-bit numbers.
+// Item indices travel as 32-bit numbers.
 WPARAM Index(WPARAM wParam) {
     return static_cast<UINT>(wParam);
 }

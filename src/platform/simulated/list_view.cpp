@@ -8,12 +8,12 @@ namespace {
 
 struct Column {
     Text heading;
-    int width = 10; // pixels; what a column gets that names none
+    int width = 10; // pixels; the width of a column that names none
 };
 
 struct ListView : Window {
     std::vector<Column> columns;
-    std::vector<std::vector<Text>> rows; // a text a column; the first stands also where there is no column
+    std::vector<std::vector<Text>> rows; // a text for each column; the first exists even without columns
 
     ListView() : Window(u"SysListView32") {}
 
@@ -66,7 +66,7 @@ struct ListView : Window {
         return index;
     }
 
-    // The cell that an item names, null if there is none.
+    // The cell that an item names, or null.
     Text* Cell(int row, int column) {
         const bool is_there = row >= 0 && row < std::ssize(rows) && column >= 0 &&
                               column < std::ssize(rows[static_cast<std::size_t>(row)]);

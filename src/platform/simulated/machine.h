@@ -1,15 +1,14 @@
 // The simulated machine: everything outside the library that the logic can read, write, show or break.
 //
 // A `Machine` is plain data and one machine is current at a time. Whoever makes it owns it; the operations of
-// `windows_api.h` work on the current one. Every operation of the logic passes `Operation` once: there it is
-// written into the journal and there the fault plan decides whether it fails. What a host or an operator does
-// while a window waits for it is neither journaled nor counted nor failed.
-// Without a trace, too, passes what can't fail on a window that is there: to read or set its slots, and to
-// ask for its number, its parent or the focus.
+// `windows_api.h` work on the current one. Every operation of the logic passes `Operation` once, which writes
+// it into the journal and asks the fault plan whether it fails. Two things are neither journaled nor counted
+// nor failed: what a host or an operator does while a window waits for it, and calls that cannot fail on an
+// existing window (its slots, its number, its parent, the focus).
 //
-// Keys, sets, databases, pages, top-level windows and allocations are counted: `Machine::open` is empty again
-// when the logic has given back all that it took, and `Machine::misuse` has a line for every handle that was
-// not valid (closed twice, never opened, of another kind) and for memory freed twice.
+// Keys, sets, databases, pages, top-level windows and allocations are counted. `Machine::open` is empty again
+// once the logic has given back all that it took. `Machine::misuse` has a line for every invalid handle
+// (closed twice, never opened, of another kind) and for memory freed twice.
 #pragma once
 
 #include <array>
@@ -28,7 +27,7 @@ namespace sim {
 
 using Text = std::u16string;
 
-// A registry value: its type and its bytes, as they are. Any length, with or without terminator.
+// A registry value: its type and its raw bytes, of any length, with or without a terminator.
 struct Value {
     Text name;
     DWORD type = REG_NONE;
@@ -36,7 +35,7 @@ struct Value {
     friend bool operator==(const Value&, const Value&) = default;
 };
 
-// The values of one key in their order. Names are found without regard to case.
+// The values of one key in their order. Lookup by name ignores case.
 struct Values {
     std::vector<Value> list;
     const Value* Find(std::u16string_view name) const;
@@ -71,7 +70,7 @@ struct Interface {
     friend bool operator==(const Interface&, const Interface&) = default;
 };
 
-// The usage of the COM numbers as the database keeps it: number n is bit (n - 1) % 8 of byte (n - 1) / 8.
+// The COM numbers in use, as the database keeps them: number n is bit (n - 1) % 8 of byte (n - 1) / 8.
 using PortUsage = std::array<BYTE, 32>;
 bool IsClaimed(const PortUsage& usage, unsigned number);
 void SetClaimed(PortUsage& usage, unsigned number, bool claimed);
@@ -92,9 +91,9 @@ struct JournalEntry {
     bool failed = false;   // by the fault plan
 };
 
-// Decides whether the operation at hand fails. A rule may look at the machine and its windows by the
-// operations of `windows_api.h` and may change the machine's data: that leaves no trace, as with an operator.
-// Counts run from 1 and start anew with `Machine::faults = {}`.
+// Decides whether the current operation fails. A rule may read the machine and its windows through the
+// operations of `windows_api.h` and may change the machine's data; like an operator's, its calls are not
+// journaled. Counts run from 1 and restart with `Machine::faults = {}`.
 struct FaultPlan {
     std::optional<std::size_t> at;                            // the n-th operation of all
     std::vector<std::pair<std::string, std::size_t>> at_call; // the n-th call of a name; 0: each call
@@ -108,13 +107,12 @@ struct FaultPlan {
 
 struct Machine;
 
-// Attend is called whenever a modal window waits for its user: a property sheet, a dialog, a message box. It
-// operates the windows by the operations of `windows_api.h` and comes back; it is called again until the
-// window has ended. A window that is still there after 10,000 calls is ended as if cancelled, with a line in
-// `misuse`.
+// Called whenever a modal window waits for its user: a property sheet, a dialog, a message box. It operates
+// the windows through `windows_api.h` and returns, and is called again until the window has ended. A window
+// that is still open after 10,000 calls is cancelled, with a line in `misuse`.
 using Operator = std::function<void(HWND front)>;
 
-// A message box that was shown, in the order in which they ended.
+// A message box that was shown. The list is in the order in which the boxes closed.
 struct ShownBox {
     Text text;
     Text caption;
@@ -135,23 +133,24 @@ struct Machine {
     LANGID language = 1033; // a language without resources falls back as Windows does, at last to 1033
 
     std::vector<JournalEntry> journal;
-    bool journal_reads = true; // false: only Reach::Write is journaled, for long runs; all is counted
+    bool journal_reads = true; // false: only Reach::Write is journaled, for long runs; everything is counted
     FaultPlan faults;
     Operator user;
     std::vector<ShownBox> boxes;
-    std::vector<UINT> missing_strings; // string numbers that LoadStringW does not find
+    std::vector<UINT> missing_strings; // string numbers that LoadStringW fails to find
     std::vector<int> missing_controls; // control numbers that no dialog has
 
-    std::map<std::string, std::size_t, std::less<>> open; // what is not given back, by kind; no zero entries
+    std::map<std::string, std::size_t, std::less<>>
+        open; // what has not been given back, by kind; no zero entries
     std::vector<std::string> misuse;
 
     const Device* FindDevice(std::u16string_view instance_id) const;
     Values* ProfileSection(std::u16string_view section, bool create);
 };
 
-// The machine that the operations work on. It must outlive all that is opened on it.
+// The machine that the operations work on. It must outlive everything that is opened on it.
 Machine& Current();
-// Makes a machine current while the scope lasts. No window may be open at either end.
+// Makes a machine current for the life of the scope. No window may be open when it begins or ends.
 struct Scope {
     explicit Scope(Machine& machine);
     ~Scope();
@@ -162,32 +161,32 @@ private:
     Machine* before_;
 };
 
-// Journals an operation of the logic and asks the fault plan; true if it is to fail. Always false, without a
-// trace, while an operator is at work. The name is a literal (or __func__).
+// Journals an operation of the logic and asks the fault plan; true if the operation must fail. While an
+// operator is at work it journals nothing and returns false. The name is a literal (or __func__).
 bool Operation(Reach reach, std::string_view name, std::string detail = {});
 
-// Whether the journal or a rule of the fault plan reads the details of such an operation now.
+// Whether the journal or a fault rule will read the detail of such an operation.
 bool DetailIsRead(Reach reach);
 
-// The same with a detail that is made only if it is read.
+// The same, with a detail that is computed only if it will be read.
 template <std::invocable Detail> bool Operation(Reach reach, std::string_view name, const Detail& detail) {
     return Operation(reach, name, DetailIsRead(reach) ? std::string(detail()) : std::string());
 }
 
-// A set with one device, such as the device manager passes in a provider's request. `data` is filled. The
-// caller closes it with SetupDiDestroyDeviceInfoList.
+// A set with one device, as the device manager passes it in a provider's request. Fills `data`. The caller
+// closes the set with SetupDiDestroyDeviceInfoList.
 HDEVINFO OpenDeviceSet(std::size_t device, SP_DEVINFO_DATA& data);
 
-// The instance handle that stands for the library's resources; for DllMain.
+// The instance handle of the library's resources, for DllMain.
 HINSTANCE LibraryInstance();
 
 // --- The sheet: what the device manager does around a provider --------------------------------------------
 
 // Runs a sheet with the given pages as a modal window until its user closes it: creates the pages
 // (PSPCB_CREATE, WM_INITDIALOG with the page description), sends PSN_SETACTIVE, PSN_APPLY, PSN_RESET as the
-// buttons are pressed and releases the pages at the end (PSPCB_RELEASE). Buttons: IDOK, IDCANCEL,
-// ID_APPLY_NOW, by PSM_PRESSBUTTON or a click; PSM_CHANGED enables Apply. The pages are used up. True if it
-// ended by OK.
+// buttons are pressed, and releases the pages at the end (PSPCB_RELEASE). Buttons: IDOK, IDCANCEL,
+// ID_APPLY_NOW, by PSM_PRESSBUTTON or a click; PSM_CHANGED enables Apply. Takes ownership of the pages. True
+// if the sheet ended by OK.
 bool RunSheet(std::u16string_view title, const std::vector<HPROPSHEETPAGE>& pages);
 
 // The style that a message box was opened with; 0 for any other window.
@@ -195,10 +194,10 @@ UINT BoxStyle(HWND window);
 
 // --- Text -------------------------------------------------------------------------------------------------
 
-// Half a surrogate pair passes as it is, in the three-byte form.
+// Half a surrogate pair is kept, in its three-byte form.
 std::string ToUtf8(std::u16string_view text);
 Text FromUtf8(std::string_view text);
-// The unit by which names are compared and ordered without regard to case.
+// The upper-case unit by which names are compared and ordered when case is ignored.
 char16_t Upper(char16_t unit);
 bool EqualNoCase(std::u16string_view left, std::u16string_view right);
 

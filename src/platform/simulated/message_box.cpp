@@ -48,7 +48,7 @@ struct MessageBox : Dialog {
         Initialise(0);
     }
 
-    // A question can't be evaded; any other box takes each way out as its OK.
+    // A question has no way out but an answer; any other box takes every way out as OK.
     LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam) override {
         const WORD command = message == WM_COMMAND ? LOWORD(wParam) : message == WM_CLOSE ? IDCANCEL : 0;
         if (is_question ? command == IDYES || command == IDNO : command == IDOK || command == IDCANCEL) {
@@ -75,7 +75,7 @@ int MessageBoxW(HWND owner, LPCWSTR text, LPCWSTR caption, UINT style) {
         return 0;
     }
     sim::MessageBox box(above, message, caption == nullptr ? u"Error" : caption, style);
-    // Without an operator the default button is the answer, with one who never answers the careful one.
+    // Without an operator the default button answers; if an operator never answers, the careful button does.
     box.Run(!box.is_question ? IDOK : sim::Current().user ? IDNO : IDYES);
     const int answer = static_cast<int>(box.result);
     sim::Current().boxes.push_back({message, box.text, style, answer, owner != nullptr});

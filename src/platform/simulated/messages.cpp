@@ -1,5 +1,5 @@
-// Sending messages. What a message gives that did not get through is part of its meaning, so each one that
-// the logic sends stands here with its name and that answer.
+// Sending messages. The answer of a message that was made to fail depends on the message, so each one that
+// the logic sends is listed here with its name and that answer.
 #include <algorithm>
 
 #include "platform/simulated/stage.h"
@@ -95,7 +95,7 @@ LRESULT SendDlgItemMessageW(HWND handle, int id, UINT message, WPARAM wParam, LP
     return sim::Send(__func__, control, message, wParam, lParam);
 }
 
-// A broadcast leaves the machine: nobody in here listens to it.
+// A broadcast goes to other programs; none runs in this machine.
 BOOL SendNotifyMessageW(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
     if (handle != HWND_BROADCAST) {
         sim::Window* window = sim::WindowOf(handle, __func__);

@@ -1,4 +1,4 @@
-// Who is at work, what was done, what fails, and what is open.
+// Who is at work, what was done, what must fail, and what is open.
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -16,7 +16,7 @@ bool IsJournaled(Reach reach) {
     return reach == Reach::Write || Current().journal_reads;
 }
 
-// Counts the operation; true if it fails by its place among all or among those of its name.
+// Counts the operation; true if its place among all, or among those of its name, makes it fail.
 bool FailsByCount(FaultPlan& faults, std::string_view name) {
     auto by_name = faults.count_by_name.find(name);
     if (by_name == faults.count_by_name.end()) {

@@ -9,7 +9,7 @@ std::string Place(LPCWSTR section, LPCWSTR key) {
     return "[" + sim::ToUtf8(section) + "] " + sim::ToUtf8(key);
 }
 
-// One pair of quotation marks around a value is not part of it.
+// One pair of quotation marks around a value does not belong to it.
 std::u16string_view WithoutQuotes(std::u16string_view text) {
     const bool quoted =
         text.size() >= 2 && (text.front() == u'"' || text.front() == u'\'') && text.front() == text.back();

@@ -22,7 +22,7 @@ struct Page {
     }
 };
 
-// The pages that no sheet has taken yet.
+// The pages that no sheet has taken over yet.
 std::map<HPROPSHEETPAGE, std::unique_ptr<Page>>& LoosePages() {
     static std::map<HPROPSHEETPAGE, std::unique_ptr<Page>> pages;
     return pages;
@@ -94,7 +94,7 @@ struct Sheet : Dialog {
         Notify(*pages.front(), PSN_SETACTIVE, false);
     }
 
-    // Whether all pages have taken what they show.
+    // Whether all pages have applied what they show.
     bool Apply(bool is_closing) {
         return Notify(*pages.front(), PSN_KILLACTIVE, false) == FALSE &&
                std::ranges::all_of(pages, [&](Dialog* page) {
@@ -140,7 +140,7 @@ struct Sheet : Dialog {
     }
 };
 
-// Runs the sheet with those of the pages that come to be.
+// Runs the sheet with those pages that can be created.
 bool RunPages(const Text& title, std::vector<std::unique_ptr<Page>>& taken) {
     std::vector<std::pair<const DialogTemplate*, PROPSHEETPAGEW*>> parts;
     int cx = 0;

@@ -22,7 +22,7 @@ struct Key {
 };
 sim::Handles<HKEY, Key> keys("key");
 
-// The name of a value with that of its key before it.
+// The name of a value, preceded by that of its key.
 std::string Place(const Key* key, LPCWSTR name) {
     const std::string place = !key          ? "?"
                               : key->device ? sim::ToUtf8(sim::Current().devices[*key->device].instance_id)
@@ -48,7 +48,7 @@ std::string Shown(DWORD type, const BYTE* data, DWORD bytes) {
     return hex;
 }
 
-// What every call on an open key goes through.
+// The common start of every call on an open key.
 template <class Detail>
 LSTATUS Enter(sim::Reach reach, std::string_view operation, const Key* key, REGSAM right,
               const Detail& detail) {
@@ -61,7 +61,7 @@ LSTATUS Enter(sim::Reach reach, std::string_view operation, const Key* key, REGS
     return key->access & right ? ERROR_SUCCESS : ERROR_ACCESS_DENIED;
 }
 
-// Gives type, size and data of a value as far as they are asked for.
+// Returns type, size and data of a value as far as they are asked for.
 LSTATUS Deliver(const sim::Value& value, LPDWORD type, LPBYTE data, LPDWORD bytes) {
     if (type) {
         *type = value.type;

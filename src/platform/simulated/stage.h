@@ -9,8 +9,8 @@
 
 namespace sim {
 
-// While it lasts, the calls come from whoever sits in front of the screen: they are not journaled, counted or
-// failed. A modal window opens one around its operator.
+// Marks the calls made during its life as those of the person at the screen: they are not journaled, counted
+// or failed. A modal window opens one around its operator.
 struct OperatorAtWork {
     OperatorAtWork();
     ~OperatorAtWork();
@@ -19,8 +19,8 @@ private:
     bool before_;
 };
 
-// While it lasts, the calls come from the logic again: around each dialog procedure, page callback and
-// add-page function that is called.
+// Marks the calls made during its life as those of the logic again: opened around each dialog procedure, page
+// callback and add-page function.
 struct LogicAtWork {
     LogicAtWork();
     ~LogicAtWork();
@@ -29,20 +29,20 @@ private:
     bool before_;
 };
 
-// Counts a thing that the logic has taken and given back, by its kind: "memory", "key", "set", "database",
+// Counts what the logic takes and gives back, by kind: "memory", "key", "set", "database",
 // "page".
 void Opened(std::string_view kind);
 void Closed(std::string_view kind);
-// A line in `Machine::misuse`.
+// Adds a line to `Machine::misuse`.
 void Misuse(std::string line);
-// The same for a handle that the operation can't take.
+// The same for a handle that the operation does not accept.
 void MisuseOfHandle(std::string_view operation, std::string_view kind, const void* handle);
 
-// A value that no handle of the program has had before. Fits in 32 bits.
+// A value that no handle of this program has had before. Fits in 32 bits.
 ULONG_PTR NextHandle();
 
-// The open things of one kind by their handles. As no handle is given twice, one that is used after it was
-// closed, on another machine or in place of another kind is found out.
+// The open objects of one kind by their handles. No handle is given out twice, so using one after it was
+// closed, on another machine or as another kind is detected.
 template <class Handle, class Thing> class Handles {
 public:
     explicit Handles(std::string_view kind) : kind_(kind) {}
@@ -53,7 +53,7 @@ public:
         entries_.push_back({handle, &Current(), std::move(thing)});
         return handle;
     }
-    // Null, with a line in `misuse`, if it is not open. Valid until the next Open or Close.
+    // Null, with a line in `misuse`, if the handle is not open. Valid until the next Open or Close.
     Thing* Find(Handle handle, std::string_view operation) {
         const auto entry = Place(handle);
         if (entry != entries_.end()) {
@@ -94,9 +94,9 @@ HKEY OpenDeviceKey(std::size_t device, REGSAM access);
 // The device that a member of a set stands for; null, with the last error set, if it stands for none.
 Device* DeviceOf(HDEVINFO set, const SP_DEVINFO_DATA* data, std::string_view operation);
 
-// Sets the last error and gives FALSE.
+// Sets the last error and returns FALSE.
 BOOL Fail(DWORD error);
-// Whether a structure states its size; else a line in `misuse` and the last error.
+// Whether a structure states its own size; if not, adds a line to `misuse` and sets the last error.
 template <class Structure> bool HasItsSize(const Structure* structure, std::string_view operation) {
     if (structure && structure->cbSize == sizeof *structure) {
         return true;
@@ -104,7 +104,7 @@ template <class Structure> bool HasItsSize(const Structure* structure, std::stri
     Misuse(std::string(operation) + ": a structure without its size");
     return Fail(ERROR_INVALID_USER_BUFFER);
 }
-// What a buffer of text holds: up to its terminator, at the longest all of it.
+// The text in a buffer: up to its terminator, or all of it without one.
 Text TextIn(const void* data, std::size_t bytes);
 // A text with its terminator, as bytes.
 std::vector<BYTE> BytesOf(std::u16string_view text);

@@ -35,7 +35,7 @@ void AppendUtf8(std::string& utf8, char32_t character) {
     }
 }
 
-// Takes one character off the front; a byte that begins none is U+FFFD by itself.
+// Takes one character off the front; a byte that begins no character gives U+FFFD.
 char32_t TakeUtf8(std::string_view& utf8) {
     const auto lead = static_cast<BYTE>(utf8.front());
     utf8.remove_prefix(1);
@@ -91,8 +91,8 @@ Text FromUtf8(std::string_view utf8) {
     return text;
 }
 
-// Windows folds each unit by itself, by a table that does not depend on the user's language and keeps letters
-// outside ASCII apart from those within.
+// Windows folds each unit by itself, through a table that does not depend on the user's language and that
+// never maps a letter outside ASCII to one inside.
 char16_t Upper(char16_t unit) {
     if (unit < 0x80) {
         return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - 0x20) : unit;
@@ -106,7 +106,7 @@ bool EqualNoCase(std::u16string_view left, std::u16string_view right) {
     if (left.size() != right.size()) {
         return false;
     }
-    // From the end, since the names of a group begin alike.
+    // Compared from the end, because the names of a group begin alike.
     for (std::size_t i = left.size(); i-- > 0;) {
         if (left[i] != right[i] && Upper(left[i]) != Upper(right[i])) {
             return false;

@@ -11,7 +11,7 @@ struct TrackBar : Window {
 
     TrackBar() : Window(u"msctls_trackbar32") {}
 
-    // The upper limit has the last word, also where the limits are the wrong way round.
+    // The upper limit wins, even if the limits are the wrong way round.
     void MoveTo(LONG wanted) {
         position = wanted < minimum ? minimum : wanted;
         position = position > maximum ? maximum : position;

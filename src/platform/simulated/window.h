@@ -1,8 +1,8 @@
-// The windows of the simulated machine as objects. A handle is a number that is never given twice, so whoever
-// keeps one too long is found out instead of meeting another window.
+// The windows of the simulated machine as objects. A handle is a number that is never given out twice, so a
+// stale handle is detected and never reaches another window.
 //
-// A parent owns its children; a top-level window lives in the frame of the modal call that shows it. Between
-// each other they talk by `Answer`, without the operations of `windows_api.h`: what a window does of itself
+// A parent owns its children; a top-level window lives on the stack of the modal call that shows it. Windows
+// talk to each other through `Answer` and not through `windows_api.h`, because what a window does by itself
 // is no operation of the logic. For the files of this folder only.
 #pragma once
 
@@ -32,18 +32,18 @@ struct Window {
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
 
-    // The window's procedure. This one knows the text, which is all there is to a label.
+    // The window's procedure. The base class handles the text, which is all that a label needs.
     virtual LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam);
 
     Window& TopLevel();
     Window* Child(int number) const; // the first with that number, null if there is none
     void Enable(bool enable);
-    // As the user meets it: with all windows around it.
+    // As the user sees it, with the state of all its ancestors.
     bool IsShown() const;
     bool IsOpenToInput() const;
 };
 
-// A window that lives by a dialog procedure: a dialog or a page of a sheet.
+// A window with a dialog procedure: a dialog, or a page of a sheet.
 struct Dialog : Window {
     DLGPROC procedure = nullptr;
     LONG_PTR user = 0;           // DWLP_USER
@@ -55,31 +55,31 @@ struct Dialog : Window {
     ~Dialog() override;
     LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    // Makes it a top-level window over the one that holds `above`, which may be null and is disabled
+    // Makes this a top-level window owned by the one that holds `above` (may be null), which is disabled
     // meanwhile.
     void OpenOver(Window* above);
     // Takes title, size and controls from a template; the left upper corner of `place` is set before.
     void Furnish(const DialogTemplate& form);
-    // WM_INITDIALOG, and the focus to the first control if the procedure leaves that to the system.
+    // Sends WM_INITDIALOG and, if the procedure leaves the focus to the system, focuses the first control.
     void Initialise(LPARAM parameter);
-    // Shows it and lets the operator at it until it has ended, at last with `if_left` if nobody ends it.
+    // Shows the window and calls the operator until it has ended; `if_left` is the result if nobody ends it.
     void Run(INT_PTR if_left);
     void End(INT_PTR value);
 
 private:
-    Window* disabled_ = nullptr; // the owner, while it is disabled for the sake of this one
+    Window* disabled_ = nullptr; // the owner, while this window keeps it disabled
     HWND focus_before_ = nullptr;
     bool top_level_ = false;
 };
 
-// The window of a handle, null if there is none.
+// The window of a handle, or null.
 Window* FindWindow(HWND handle);
-// The same for an operation that needs one. Null with the last error set and, unless the handle is null
-// itself, a line in `Machine::misuse` that names the operation.
+// The same for an operation that needs one. If there is none, sets the last error and, unless the handle is
+// null, adds a line to `Machine::misuse` that names the operation.
 Window* WindowOf(HWND handle, std::string_view operation);
 Dialog* DialogOf(HWND handle, std::string_view operation);
 
-// The window with the keyboard's attention, null if there is none.
+// The window with the keyboard focus, or null.
 HWND& Focus();
 
 std::unique_ptr<Window> MakeButton();
@@ -96,16 +96,16 @@ constexpr LONG PixelsDown(LONG units) {
     return (units * 13 + 4) / 8;
 }
 
-// The dialog template behind a resource name; null if the library has none.
+// The dialog template of a resource name, or null.
 const DialogTemplate* FindDialog(HINSTANCE instance, LPCWSTR name);
 
-// Copies as much as `capacity` units hold with the terminator. The units copied, without it.
+// Copies what fits `capacity` units with the terminator. Returns the units copied without it.
 int CopyOut(std::u16string_view text, LPWSTR buffer, std::size_t capacity);
 
-// The number of a control as the journal shows it; nothing for no window and for one without a number.
+// The number of a control as the journal shows it; empty for no window and for one without a number.
 std::string NumberOf(const Window* window);
 
-// The text that a message carries; empty for a null pointer.
+// The text that a message carries, empty for a null pointer.
 std::u16string_view MessageText(LPARAM lParam);
 
 } // namespace sim

@@ -1,4 +1,4 @@
-// All windows alike: handles, relations, places, texts, and who is enabled, shown and in focus.
+// What all windows share: handles, relations, places, texts, and who is enabled, shown and in focus.
 #include "platform/simulated/window.h"
 
 #include <algorithm>

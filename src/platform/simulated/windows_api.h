@@ -1,8 +1,7 @@
 // The part of Windows that this system is written against, under Windows' own names: first what the logic
-// calls, at the end of each block what only a host calls that shows and operates the windows. Constants have
-// the values of Windows, structures its layout in the 64-bit form. The behaviour behind the declarations is
-// in the other files of this folder; `machine.h` is the way in for whoever sets up, breaks and reads a
-// machine.
+// calls, then, at the end of each block, what only a host calls to show and operate the windows. Constants
+// have the values of Windows and structures its 64-bit layout. The other files of this folder implement the
+// declarations; `machine.h` is how a machine is set up, broken and read.
 #pragma once
 
 #include <cstddef>
@@ -89,8 +88,7 @@ struct POINT {
     LONG x, y;
 };
 
-// --- Kernel: memory, errors, text, profile, locale, DOS names
-// ------------------------------------------------
+// --- Kernel: memory, errors, text, profile, locale, DOS names ------------------------------------------
 
 #define LPTR 0x0040
 #define ERROR_SUCCESS 0
@@ -132,8 +130,7 @@ int GetLocaleInfoW(LCID locale, LCTYPE type, LPWSTR buffer, int capacity);
 DWORD QueryDosDeviceW(LPCWSTR name, LPWSTR target, DWORD capacity);
 BOOL DefineDosDeviceW(DWORD flags, LPCWSTR name, LPCWSTR target);
 
-// --- Registry
-// ------------------------------------------------------------------------------------------------
+// --- Registry --------------------------------------------------------------------------------------------
 
 #define HKEY_LOCAL_MACHINE (reinterpret_cast<HKEY>(static_cast<ULONG_PTR>(0x80000002)))
 #define KEY_READ 0x20019
@@ -156,8 +153,7 @@ LSTATUS RegSetValueExW(HKEY key, LPCWSTR name, DWORD reserved, DWORD type, const
 LSTATUS RegEnumValueW(HKEY key, DWORD index, LPWSTR name, LPDWORD nameCapacity, LPDWORD reserved,
                       LPDWORD type, LPBYTE data, LPDWORD bytes);
 
-// --- COM port database
-// -----------------------------------------------------------------------------------------
+// --- COM port database -----------------------------------------------------------------------------------
 
 #define CDB_REPORT_BITS 0
 #define HCOMDB_INVALID_HANDLE_VALUE (static_cast<HCOMDB>(INVALID_HANDLE_VALUE))
@@ -169,8 +165,7 @@ LONG WINAPI ComDBGetCurrentPortUsage(HCOMDB database, BYTE* buffer, DWORD bytes,
 LONG WINAPI ComDBClaimPort(HCOMDB database, DWORD number, BOOL force, BOOL* forced);
 LONG WINAPI ComDBReleasePort(HCOMDB database, DWORD number);
 
-// --- Device installation
-// -----------------------------------------------------------------------------------------
+// --- Device installation ---------------------------------------------------------------------------------
 
 #define DIGCF_PRESENT 0x02
 #define DIGCF_DEVICEINTERFACE 0x10
@@ -260,8 +255,7 @@ BOOL SetupDiGetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_DATA* device, DW
 BOOL SetupDiSetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_DATA* device, DWORD property,
                                        const BYTE* buffer, DWORD bytes);
 
-// --- Windows, dialogs and property sheets
-// ----------------------------------------------------------------------
+// --- Windows, dialogs and property sheets ----------------------------------------------------------------
 
 #define IDOK 1
 #define IDCANCEL 2
