@@ -5,10 +5,11 @@
 
 #include "com_numbers/com_port_database.h"
 #include "com_numbers/com_remap.h"
+#include "com_numbers/port_device.h"
 #include "com_numbers/port_rename.h"
 #include "com_numbers/port_settings_migration.h"
-#include "device_model/device_store.h"
 #include "reporting/error_reporter.h"
+#include "reporting/statuses.h"
 #include "tests/at_work.h"
 
 namespace {
@@ -51,17 +52,16 @@ TEST(ComPortDatabase, NumbersAreBitsAndTheHighestFreeOneWins) {
 
 // --- The rename -----------------------------------------------------------------------------------------
 
-// A user's rename of a UART from COM5 to COM7 on a board page, with the move of its line.
+// A user's rename of a UART from COM5 to COM7, who may not take a number that is claimed.
 bool RenameFrom5To7() {
     OpenDevice device(port);
-    WCHAR name[StoreTextCapacity] = u"COM5";
-    constexpr RenameFailureCodes codes = {FailurePortNumberInUse, FailurePortOpened, FailurePortRemap};
-    const bool renamed =
-        RenamePortForUser(nullptr, codes, device.set, &device.data, 5, 7, name, StoreTextCapacity);
-    EXPECT_EQ(sim::ToUtf8(name), renamed ? "COM7" : "COM5");
-    if (renamed) {
-        Kavro_COMPortMigratePortSettings(u"COM5", name);
-    }
+    WCHAR saved[StoreTextCapacity] = u"COM5";
+    WCHAR current[StoreTextCapacity] = u"COM5";
+    constexpr RenameTerms terms = {FailurePortNumberInUse, FailurePortOpened, FailurePortRemap, false};
+    const bool renamed = RenamePortForUser(
+        nullptr, terms, {device.set, &device.data, 5, 7, saved, current, saved, StoreTextCapacity, nullptr});
+    EXPECT_EQ(sim::ToUtf8(current), renamed ? "COM7" : "COM5");
+    EXPECT_EQ(sim::ToUtf8(saved), sim::ToUtf8(current));
     return renamed;
 }
 

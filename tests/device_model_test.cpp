@@ -8,6 +8,7 @@
 
 #include "device_model/board_discovery.h"
 #include "device_model/device_store.h"
+#include "reporting/statuses.h"
 #include "tests/at_work.h"
 
 namespace {

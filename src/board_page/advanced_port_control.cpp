@@ -40,17 +40,22 @@ bool IsChecked(HWND hDlg, int box) {
     return IsDlgButtonChecked(hDlg, box) == BST_CHECKED;
 }
 
-// Both boxes as a mode has them, with the values of the record; off and disabled for no mode.
-void ShowBoxes(HWND hDlg, const UartBasicInfo& uart, const UartMode* mode) {
-    const u32 capability = uart.UartCapability;
-    const bool hasTermination = mode != nullptr && HasAny(capability, mode->termination);
-    const bool hasAcs = mode != nullptr && HasAny(capability, mode->acs);
-    const bool terminated =
-        hasTermination &&
-        ((HasAny(mode->termination, CapRS422Termination) && uart.UartRS422Termination != 0) ||
-         (HasAny(mode->termination, CapRS485Termination) && uart.UartRS485Termination != 0));
-    SetBox(hDlg, IDC_TERMINATION_ENABLE, terminated, hasTermination);
-    SetBox(hDlg, IDC_ACS_ENABLE, hasAcs && uart.UartCS != 0, hasAcs);
+void ClearBoxes(HWND hDlg) {
+    SetBox(hDlg, IDC_TERMINATION_ENABLE, false, false);
+    SetBox(hDlg, IDC_ACS_ENABLE, false, false);
+}
+
+// Of the boxes, which are clear, those that the mode has, with the values of the record.
+void ShowBoxes(HWND hDlg, const UartBasicInfo& uart, const UartMode& mode) {
+    if (HasAny(uart.UartCapability, mode.termination)) {
+        const bool terminated =
+            (HasAny(mode.termination, CapRS422Termination) && uart.UartRS422Termination != 0) ||
+            (HasAny(mode.termination, CapRS485Termination) && uart.UartRS485Termination != 0);
+        SetBox(hDlg, IDC_TERMINATION_ENABLE, terminated, true);
+    }
+    if (HasAny(uart.UartCapability, mode.acs)) {
+        SetBox(hDlg, IDC_ACS_ENABLE, uart.UartCS != 0, true);
+    }
 }
 
 // The mode whose entry stands at a position of the combo; null if none does.
@@ -63,66 +68,89 @@ const UartMode* ModeAtEntry(const BPPCHL* chl, u32 position) {
     return nullptr;
 }
 
-bool _InitializeControls(HWND hDlg, BPPCHL* chl) {
-    const UartBasicInfo& uart = chl->CurrentInfo.Uart;
+bool _InitializeControls(HWND hDlg, BPPCHL* channel) {
+    TraceOut("----> %s( )\n", __func__);
+    const UartBasicInfo& uart = channel->CurrentInfo.Uart;
     SendDlgItemMessageW(hDlg, IDC_INTERFACE_SELECT, CB_RESETCONTENT, 0, 0);
     for (const UartMode& mode : UartModes) {
-        chl->*mode.comboPos =
+        channel->*mode.comboPos =
             HasAll(uart.UartCapability, mode.offered) ? AddEntry(hDlg, mode.text) : NotOffered;
     }
     TraceOut("%s - RS232ComboxPos:%d, RS422ComboxPos:%d, RS485ComboxPos:%d, AutoRS422485ComboxPos:%d\n",
-             __func__, chl->RS232ComboxPos, chl->RS422ComboxPos, chl->RS485ComboxPos,
-             chl->AutoRS422485ComboxPos);
+             __func__, channel->RS232ComboxPos, channel->RS422ComboxPos, channel->RS485ComboxPos,
+             channel->AutoRS422485ComboxPos);
     EnableWindow(GetDlgItem(hDlg, IDC_SORT_COM), TRUE);
+    ClearBoxes(hDlg);
     const UartMode* mode = FindUartMode(uart.UartMode);
     if (mode != nullptr) {
-        SelectEntry(hDlg, chl->*mode->comboPos);
+        SelectEntry(hDlg, channel->*mode->comboPos);
+        EnableInterface(hDlg, TRUE);
+        ShowBoxes(hDlg, uart, *mode);
     } else {
         SendDlgItemMessageW(hDlg, IDC_INTERFACE_SELECT, CB_RESETCONTENT, 0, 0);
         AddEntry(hDlg, TEXT("Unknow"));
         SelectEntry(hDlg, 0);
+        EnableInterface(hDlg, FALSE);
     }
-    EnableInterface(hDlg, mode != nullptr);
-    ShowBoxes(hDlg, uart, mode);
-    return true;
+    const bool bSuccess = true;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
 // Earlier clicks on the boxes are gone: they show the record again.
-void _InterfaceSelectClicked(HWND hDlg, const BPPCHL* chl) {
-    ShowBoxes(hDlg, chl->CurrentInfo.Uart, ModeAtEntry(chl, SelectedEntry(hDlg)));
+bool _InterfaceSelectClicked(HWND hDlg, const BPPCHL* channel) {
+    TraceOut("----> %s( )\n", __func__);
+    const UartMode* mode = ModeAtEntry(channel, SelectedEntry(hDlg));
+    ClearBoxes(hDlg);
+    if (mode != nullptr) {
+        ShowBoxes(hDlg, channel->CurrentInfo.Uart, *mode);
+    }
+    const bool bSuccess = false;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
+}
+
+const UartMode* FirstOfferedMode(u32 capability) {
+    for (const UartMode& mode : UartModes) {
+        if (HasAll(capability, mode.offered)) {
+            return &mode;
+        }
+    }
+    return nullptr;
 }
 
 // Selects the first mode that the UART offers. Of a UART that offers none the termination box is left alone.
-void _RestoreDefaultClicked(HWND hDlg, const BPPCHL* chl) {
-    const u32 capability = chl->CurrentInfo.Uart.UartCapability;
-    for (const UartMode& mode : UartModes) {
-        if (HasAll(capability, mode.offered)) {
-            const bool hasAcs = HasAny(capability, mode.acs);
-            SelectEntry(hDlg, chl->*mode.comboPos);
-            EnableInterface(hDlg, TRUE);
-            SetBox(hDlg, IDC_TERMINATION_ENABLE, false, HasAny(capability, mode.termination));
-            SetBox(hDlg, IDC_ACS_ENABLE, hasAcs, hasAcs);
-            return;
-        }
+void _RestoreDefaultClicked(HWND hDlg, const BPPCHL* channel) {
+    TraceOut("----> %s( )\n", __func__);
+    const u32 capability = channel->CurrentInfo.Uart.UartCapability;
+    const UartMode* mode = FirstOfferedMode(capability);
+    if (mode != nullptr) {
+        const bool hasAcs = HasAny(capability, mode->acs);
+        SelectEntry(hDlg, channel->*mode->comboPos);
+        EnableInterface(hDlg, TRUE);
+        SetBox(hDlg, IDC_TERMINATION_ENABLE, false, HasAny(capability, mode->termination));
+        SetBox(hDlg, IDC_ACS_ENABLE, hasAcs, hasAcs);
+    } else {
+        SelectEntry(hDlg, 0);
+        EnableInterface(hDlg, FALSE);
+        SetBox(hDlg, IDC_ACS_ENABLE, false, false);
     }
-    SelectEntry(hDlg, 0);
-    EnableInterface(hDlg, FALSE);
-    SetBox(hDlg, IDC_ACS_ENABLE, false, false);
+    TraceOut("<---- %s\n", __func__);
 }
 
 // Weaker than what offers the entries: it fails only with no offered entry selected.
-bool IsSupported(const UartMode& mode, u32 capability) {
+bool IsSupported(const UartMode& mode, u32 capability, TraceName function = __builtin_FUNCTION()) {
     bool supported = true;
     for (u32 bit = 1; bit != 0; bit <<= 1) {
         if ((mode.required & bit) != 0 && (capability & bit) == 0) {
-            TraceOut(mode.unsupported, __func__, capability);
+            TraceOut(mode.unsupported, function, capability);
             supported = false;
         }
     }
     return supported;
 }
 
-void TraceSettings(const InterfaceSettings& settings, const char* function) {
+void TraceSettings(const InterfaceSettings& settings, TraceName function = __builtin_FUNCTION()) {
     TraceOut("%s - nMode:%d\n", function, settings.UartMode);
     TraceOut("%s - nAHDC:%d\n", function, settings.UartAHDC);
     TraceOut("%s - nCS:%d\n", function, settings.UartCS);
@@ -131,51 +159,68 @@ void TraceSettings(const InterfaceSettings& settings, const char* function) {
     TraceOut("%s - nRS485Termination:%d\n", function, settings.UartRS485Termination);
 }
 
-bool _OkClicked(HWND hDlg, BPPCHL* chl) {
-    UartBasicInfo& pending = chl->CurrentInfo.Uart;
-    UartBasicInfo& saved = chl->SavedInfo.Uart;
-    const UartMode* chosen = ModeAtEntry(chl, SelectedEntry(hDlg));
+// The status of the write; 0 also if the store has the settings already.
+u32 WriteSettings(BPPCHL* channel, const InterfaceSettings& settings,
+                  TraceName function = __builtin_FUNCTION()) {
+    UartBasicInfo& saved = channel->SavedInfo.Uart;
+    if (SameSettings(settings, SettingsOf(saved))) {
+        return 0;
+    }
+    TraceOut("%s - Chl:%d, uart advance settings change\n", function,
+             channel->CurrentInfo.ChlBasic.ChlNumber);
+    const u32 sStatus =
+        Kavro_RegUartSetAdvanceSettings(channel->DeviceInfoSet, &channel->DeviceInfoData, settings.UartMode,
+                                        settings.UartAHDC, settings.UartCS, settings.UartAutoRS422485,
+                                        settings.UartRS422Termination, settings.UartRS485Termination);
+    if (sStatus == 0) {
+        SetSettings(saved, settings);
+    }
+    return sStatus;
+}
+
+bool _OkClicked(HWND hDlg, BPPCHL* channel) {
+    TraceOut("----> %s( )\n", __func__);
+    UartBasicInfo& pending = channel->CurrentInfo.Uart;
+    const UartMode* chosen = ModeAtEntry(channel, SelectedEntry(hDlg));
     const UartMode& mode = chosen != nullptr ? *chosen : UartModes[0];
     const InterfaceSettings settings =
         ChooseSettings(mode, pending.UartCapability, IsChecked(hDlg, IDC_TERMINATION_ENABLE),
                        IsChecked(hDlg, IDC_ACS_ENABLE));
-    TraceSettings(settings, __func__);
+    TraceSettings(settings);
+    bool bSuccess = false;
     if (!IsSupported(mode, pending.UartCapability)) {
-        ErrorBoxShow(FailureCapability, 0, hDlg, 0, 0, 0, nullptr);
-        return false;
+        ErrorBoxShow(FailureCapability, 0, hDlg);
+    } else {
+        SetSettings(pending, settings);
+        const u32 sStatus = WriteSettings(channel, settings);
+        bSuccess = sStatus == 0;
+        if (!bSuccess) {
+            ErrorBoxShow(FailureSetAdvance, sStatus, hDlg);
+        }
     }
-    SetSettings(pending, settings);
-    if (SameSettings(settings, SettingsOf(saved))) {
-        return true;
-    }
-    TraceOut("%s - Chl:%d, uart advance settings change\n", __func__, chl->CurrentInfo.ChlBasic.ChlNumber);
-    const u32 sStatus = Kavro_RegUartSetAdvanceSettings(
-        chl->DeviceInfoSet, &chl->DeviceInfoData, settings.UartMode, settings.UartAHDC, settings.UartCS,
-        settings.UartAutoRS422485, settings.UartRS422Termination, settings.UartRS485Termination);
-    if (sStatus != 0) {
-        ErrorBoxShow(FailureSetAdvance, sStatus, hDlg, 0, 0, 0, nullptr);
-        return false;
-    }
-    SetSettings(saved, settings);
-    return true;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
 bool _OnInitDialog(HWND hDlg, LPARAM lParam) {
+    TraceOut("----> %s( )\n", __func__);
     SetWindowLongPtrW(hDlg, DWLP_USER, lParam);
-    return _InitializeControls(hDlg, reinterpret_cast<BPPCHL*>(lParam));
+    const bool bSuccess = _InitializeControls(hDlg, reinterpret_cast<BPPCHL*>(lParam));
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
 bool _OnCommand(HWND hDlg, int id, int notifyCode) {
-    TraceOut("----> %s( ), NotifyCode:%d\n", __func__, notifyCode);
-    auto* chl = reinterpret_cast<BPPCHL*>(GetWindowLongPtrW(hDlg, DWLP_USER));
-    if (chl == nullptr) {
-        return false; // not initialised yet
+    auto* channel = reinterpret_cast<BPPCHL*>(GetWindowLongPtrW(hDlg, DWLP_USER));
+    if (channel == nullptr) {
+        return false; // before WM_INITDIALOG
     }
+    TraceOut("----> %s( ), NotifyCode:%d\n", __func__, notifyCode);
     bool bSuccess = false;
     switch (id) {
     case IDOK:
         TraceOut("%s - IDOK\n", __func__);
-        bSuccess = _OkClicked(hDlg, chl);
+        bSuccess = _OkClicked(hDlg, channel);
         if (bSuccess) {
             EndDialog(hDlg, IDOK);
         }
@@ -187,18 +232,18 @@ bool _OnCommand(HWND hDlg, int id, int notifyCode) {
         break;
     case IDC_RESTORE:
         TraceOut("%s - IDC_RESTORE\n", __func__);
-        _RestoreDefaultClicked(hDlg, chl);
+        _RestoreDefaultClicked(hDlg, channel);
         bSuccess = true;
         break;
     case IDC_INTERFACE_SELECT:
         TraceOut("%s - IDC_INTERFACE_SELECT\n", __func__);
         if (notifyCode == CBN_SELCHANGE) {
-            _InterfaceSelectClicked(hDlg, chl);
+            bSuccess = _InterfaceSelectClicked(hDlg, channel);
         }
         break;
     case IDC_SORT_COM:
         TraceOut("%s - IDC_SORT_COM\n", __func__);
-        bSuccess = _SortCOMClicked(hDlg, chl);
+        bSuccess = _SortCOMClicked(hDlg, channel);
         break;
     default:
         TraceOut("%s - DEFAULT:%d\n", __func__, id);
@@ -223,9 +268,11 @@ INT_PTR CALLBACK BoardUartAdvancedDlgProc(HWND hDlg, UINT message, WPARAM wParam
 
 } // namespace
 
-void KvrBoardUartAdvancedDlgShow(HWND hParent, BPPCHL* channel) {
+bool KvrBoardUartAdvancedDlgShow(HWND hParent, BPPCHL* channel) {
     TraceOut("----> %s( )\n", __func__);
     DialogBoxParamW(ModuleInstance, MAKEINTRESOURCEW(IDD_ADVANCED_PORT_CONTROL), hParent,
                     BoardUartAdvancedDlgProc, reinterpret_cast<LPARAM>(channel));
-    TraceOut("<---- %s\n", __func__);
+    const bool bSuccess = true;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }

@@ -5,22 +5,17 @@
 #include "board_page/fifo_settings.h"
 #include "board_page/resource_list.h"
 #include "com_numbers/port_rename.h"
-#include "com_numbers/port_settings_migration.h"
 #include "device_model/channel_list.h"
 #include "page_parts/fifo_controls.h"
+#include "page_parts/page_provider.h"
 #include "reporting/error_reporter.h"
 #include "reporting/trace.h"
 #include "resources/resource_ids.h"
 
 namespace {
 
-constexpr RenameFailureCodes RenameCodes = {FailureBoardNumberInUse, FailureBoardPortOpened,
-                                            FailureBoardRemap};
-
-// Null until the page has been initialised.
-BoardParams* PageParams(HWND hDlg) {
-    return reinterpret_cast<BoardParams*>(GetWindowLongPtrW(hDlg, DWLP_USER));
-}
+constexpr RenameTerms BoardRename = {FailureBoardNumberInUse, FailureBoardPortOpened, FailureBoardRemap,
+                                     false};
 
 bool _OnInitDialog(HWND hDlg, LPARAM page) {
     auto* params = reinterpret_cast<BoardParams*>(reinterpret_cast<const PROPSHEETPAGEW*>(page)->lParam);
@@ -28,34 +23,36 @@ bool _OnInitDialog(HWND hDlg, LPARAM page) {
              params->BoardBasic.BoardIrq);
     SetWindowLongPtrW(hDlg, DWLP_USER, reinterpret_cast<LONG_PTR>(params));
     AddResourceColumns(hDlg);
-    ShowFifoLowLabels(hDlg);
-    _FillChannelList(hDlg, params);
+    ShowFifoLabel(hDlg, IDC_TRANSMIT_LOW, IDS_LOW, 1);
+    ShowFifoLabel(hDlg, IDC_RECEIVE_LOW, IDS_LOW, 1);
+    _FillChannelList(hDlg);
     _ChlListSelectChange(hDlg, params, 0);
     params->BasicSettingsDlgInitiateOK = true;
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, true);
-    return true;
+    const bool bSuccess = true;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
 bool _AdvancedClicked(HWND hDlg, BoardParams* params, u32 index) {
+    TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
     BPPCHL* chl = BoardChlByListIndex(params, index);
-    if (chl == nullptr) {
-        return false;
-    }
-    if (chl->Class == ClassUart) {
+    const bool bSuccess = chl != nullptr;
+    if (bSuccess && chl->Class == ClassUart) {
         params->ChlListChanged = false;
         KvrBoardUartAdvancedDlgShow(hDlg, chl);
     }
-    if (params->ChlListChanged) {
-        _FillChannelList(hDlg, params);
+    if (bSuccess && params->ChlListChanged) {
+        _FillChannelList(hDlg);
         _ChlListSelectChange(hDlg, params, index);
     }
-    return true;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
 bool _OnCommand(HWND hDlg, int id, int notifyCode) {
     BoardParams* params = PageParams(hDlg);
     if (params == nullptr) {
-        return false;
+        return false; // before WM_INITDIALOG
     }
     const u32 index = SelectedChannel(hDlg);
     bool bSuccess = false;
@@ -105,25 +102,10 @@ bool _OnCommand(HWND hDlg, int id, int notifyCode) {
 }
 
 // Enacts a change of the COM number combo for the selected UART.
-bool RenameIfChosen(HWND hDlg, BPPCHL* chl) {
-    UartBasicInfo& saved = chl->SavedInfo.Uart;
-    UartBasicInfo& current = chl->CurrentInfo.Uart;
-    const u32 oldNumber = ComNumberFromName(current.PortName);
-    const INT selection = static_cast<INT>(SendDlgItemMessageW(hDlg, IDC_PORT_NUMBER, CB_GETCURSEL, 0, 0));
-    const u32 newNumber = static_cast<u32>(selection) + 1;
-    if (selection == CB_ERR || newNumber == oldNumber) {
-        TraceOut("%s - COM number not change\n", __func__);
-        return true;
-    }
-    TraceOut("%s - COM number change\n", __func__);
-    TraceOut("%s - COM number [old:%d, new:%d]\n", __func__, oldNumber, newNumber);
-    if (!RenamePortForUser(hDlg, RenameCodes, chl->DeviceInfoSet, &chl->DeviceInfoData, oldNumber, newNumber,
-                           current.PortName, ARRAYSIZE(current.PortName))) {
-        return false;
-    }
-    Kavro_COMPortMigratePortSettings(saved.PortName, current.PortName);
-    CopyText(saved.PortName, ARRAYSIZE(saved.PortName), current.PortName);
-    return true;
+bool RenameUart(HWND hDlg, BPPCHL* chl, TraceName function = __builtin_FUNCTION()) {
+    const u32 oldNumber = ComNumberFromName(chl->CurrentInfo.Uart.PortName);
+    return RenamePortForUser(hDlg, BoardRename,
+                             RenameOfChannel(chl, oldNumber, ChosenComNumber(hDlg, oldNumber)), function);
 }
 
 bool _OkClicked(HWND hDlg, BoardParams* params, u32 index) {
@@ -135,24 +117,20 @@ bool _OkClicked(HWND hDlg, BoardParams* params, u32 index) {
         if (isUart) {
             TakeFifoSettings(hDlg, chl);
         }
-        bSuccess = StoreFifoSettings(hDlg, params) && (!isUart || RenameIfChosen(hDlg, chl));
+        bSuccess = StorePendingFifo(hDlg, params) && (!isUart || RenameUart(hDlg, chl));
     }
     TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
     return bSuccess;
 }
 
 bool _OnNotify(HWND hDlg, LPARAM lParam) {
-    if (reinterpret_cast<const NMHDR*>(lParam)->code != PSN_APPLY) {
-        return false;
-    }
+    TraceOut("----> %s( )\n", __func__);
     BoardParams* params = PageParams(hDlg);
+    const u32 index = SelectedChannel(hDlg);
     const bool initiated = params != nullptr && params->BasicSettingsDlgInitiateOK;
-    TraceOut("%s - PSN_APPLY, BasicSettingsDlgInitiateOK:%d\n", __func__, initiated);
-    if (initiated) {
-        _OkClicked(hDlg, params, SelectedChannel(hDlg));
-    }
-    SetWindowLongPtrW(hDlg, DWLP_MSGRESULT, PSNRET_NOERROR);
-    return true;
+    const bool bSuccess = AnswerNotify(hDlg, lParam, initiated, [&] { _OkClicked(hDlg, params, index); });
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
 } // namespace
@@ -167,8 +145,7 @@ INT_PTR CALLBACK BoardBasicDlgProc(HWND hDlg, UINT message, WPARAM wParam, LPARA
         return _OnCommand(hDlg, LOWORD(wParam), HIWORD(wParam));
     case WM_HSCROLL:
         TraceOut("%s - WM_HSCROLL\n", __func__);
-        _OnHscroll(hDlg, PageParams(hDlg), SelectedChannel(hDlg), reinterpret_cast<HWND>(lParam));
-        return true;
+        return _OnHscroll(hDlg, lParam);
     case WM_NOTIFY:
         return _OnNotify(hDlg, lParam);
     default:

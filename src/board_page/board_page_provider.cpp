@@ -3,68 +3,69 @@
 #include "board_page/board_page_dialog.h"
 #include "device_model/board_discovery.h"
 #include "device_model/device_store.h"
-#include "page_parts/page_creation.h"
+#include "page_parts/page_provider.h"
 #include "reporting/error_reporter.h"
-#include "reporting/trace.h"
 #include "resources/resource_ids.h"
 
 namespace {
 
-void ReportFailure(u32 oerr, u32 serr) {
-    ErrorBoxShow(oerr, serr, nullptr, 0, 0, 0, nullptr);
-}
-
-void ReleaseBoardParams(LPARAM record) {
-    auto* params = reinterpret_cast<BoardParams*>(record);
-    BoardDeinitiate(params);
-    LocalFree(params);
-}
-
-UINT CALLBACK BoardBasicDlgCallback(HWND, UINT message, LPPROPSHEETPAGEW page) {
-    return AnswerPageCallback(__func__, message, page, ReleaseBoardParams);
+// The values tell only that the device is a board; the record reads them anew.
+bool CheckBoard(const SP_PROPSHEETPAGE_REQUEST* request) {
+    BoardBasicInfo basic = {};
+    const u32 sStatus = Kavro_RegBoardGetBasic(request->DeviceInfoSet, request->DeviceInfoData, &basic);
+    if (sStatus != 0) {
+        ErrorBoxShow(FailureBoardBasic, sStatus, nullptr);
+    }
+    return sStatus == 0;
 }
 
 bool _InitBoardParams(BoardParams* params, const SP_PROPSHEETPAGE_REQUEST* request, u32* status) {
+    TraceOut("----> %s( )\n", __func__);
     params->DeviceInfoSet = request->DeviceInfoSet;
     params->DeviceInfoData = request->DeviceInfoData;
     for (HDEVINFO& set : params->InterfaceSet) {
         set = INVALID_HANDLE_VALUE;
     }
-    return BoardInitiate(params, status);
+    const bool bSuccess = BoardInitiate(params, status);
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
-// The values read first tell only that the device is a board; the record reads them anew.
-bool ProvidePage(const SP_PROPSHEETPAGE_REQUEST* request, LPFNADDPROPSHEETPAGE addPage, LPARAM addPageParam) {
-    BoardBasicInfo basic = {};
-    u32 sStatus = Kavro_RegBoardGetBasic(request->DeviceInfoSet, request->DeviceInfoData, &basic);
-    if (sStatus != 0) {
-        ReportFailure(FailureBoardBasic, sStatus);
-        return false;
+bool InitBoardRecord(void* record, const SP_PROPSHEETPAGE_REQUEST* request) {
+    u32 sStatus = 0;
+    const bool initiated = _InitBoardParams(static_cast<BoardParams*>(record), request, &sStatus);
+    if (!initiated) {
+        ErrorBoxShow(FailureInitBoard, sStatus, nullptr);
     }
-    auto* params = static_cast<BoardParams*>(LocalAlloc(LPTR, sizeof(BoardParams)));
-    if (params == nullptr) {
-        ReportFailure(FailureNoMemory, 0);
-        return false;
-    }
-    if (request->PageRequested != SPPSR_ENUM_ADV_DEVICE_PROPERTIES) {
-        LocalFree(params);
-        return true;
-    }
-    if (!_InitBoardParams(params, request, &sStatus)) {
-        ReportFailure(FailureInitBoard, sStatus);
-        ReleaseBoardParams(reinterpret_cast<LPARAM>(params));
-        return false;
-    }
-    return AddPropertyPage(IDD_PORT_CONTROL, BoardBasicDlgProc, BoardBasicDlgCallback, params, addPage,
-                           addPageParam);
+    return initiated;
 }
+
+void ReleaseBoardRecord(void* record) {
+    BoardDeinitiate(static_cast<BoardParams*>(record));
+    LocalFree(record);
+}
+
+UINT CALLBACK BoardBasicDlgCallback(HWND, UINT message, LPPROPSHEETPAGEW page) {
+    return AnswerPageCallback(message, page, ReleaseBoardRecord);
+}
+
+HPROPSHEETPAGE _InitBoardBasicSettingsPage(void* params) {
+    TraceOut("----> %s( )\n", __func__);
+    const HPROPSHEETPAGE page =
+        CreatePage(IDD_PORT_CONTROL, BoardBasicDlgProc, BoardBasicDlgCallback, params);
+    TraceOut("<---- %s\n", __func__);
+    return page;
+}
+
+constexpr PageKind BoardPage = {sizeof(BoardParams), CheckBoard, InitBoardRecord, _InitBoardBasicSettingsPage,
+                                ReleaseBoardRecord};
 
 } // namespace
 
 extern "C" BOOL WINAPI KvrBoardPropPageProvider(PSP_PROPSHEETPAGE_REQUEST request,
                                                 LPFNADDPROPSHEETPAGE addPage, LPARAM addPageParam) {
     TraceOut("----> %s( )\n", __func__);
-    const bool bSuccess = ProvidePage(request, addPage, addPageParam);
+    const bool bSuccess = ProvidePage(BoardPage, request, addPage, addPageParam);
     TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
     return bSuccess;
 }

@@ -66,12 +66,17 @@ void ShowPortNumber(HWND hDlg, const BPPCHL* chl) {
 
 } // namespace
 
+BoardParams* PageParams(HWND hDlg) {
+    return reinterpret_cast<BoardParams*>(GetWindowLongPtrW(hDlg, DWLP_USER));
+}
+
 u32 SelectedChannel(HWND hDlg) {
     return static_cast<u32>(SendDlgItemMessageW(hDlg, IDC_PORT_LIST, LB_GETCURSEL, 0, 0));
 }
 
-void _FillChannelList(HWND hDlg, const BoardParams* params) {
+void _FillChannelList(HWND hDlg) {
     TraceOut("----> %s( )\n", __func__);
+    const BoardParams* params = PageParams(hDlg);
     const HWND list = GetDlgItem(hDlg, IDC_PORT_LIST);
     SendMessageW(list, LB_RESETCONTENT, 0, 0);
     u32 position = 0;

@@ -4,11 +4,14 @@
 
 #include "device_model/board_params.h"
 
+// The record of the page; null until WM_INITDIALOG has stored it.
+BoardParams* PageParams(HWND hDlg);
+
 // The list box's selection as a position; all bits set without one.
 u32 SelectedChannel(HWND hDlg);
 
 // Fills the list box in ascending channel number, and tells each channel its position.
-void _FillChannelList(HWND hDlg, const BoardParams* params);
+void _FillChannelList(HWND hDlg);
 
 // Makes a position the selected channel and brings the whole page into line with it; a position without a
 // channel, -1 for one, means none. What the controls held and the records don't is lost.

@@ -1,140 +1,179 @@
 #include "board_page/fifo_settings.h"
 
+#include "board_page/channel_view.h"
 #include "device_model/channel_list.h"
 #include "device_model/device_store.h"
 #include "page_parts/fifo_controls.h"
 #include "reporting/error_reporter.h"
-#include "reporting/trace.h"
 #include "resources/resource_ids.h"
 
 namespace {
 
-// What acts on a UART only, beside the FIFO controls.
-constexpr int UartButtons[] = {IDC_ADVANCED, IDC_APPLY, IDC_SET_TO_ALL, IDC_RESTORE};
+// What acts on a UART only, beside the FIFO controls and the advanced dialog.
+constexpr int UartButtons[] = {IDC_APPLY, IDC_SET_TO_ALL, IDC_RESTORE};
 
 BPPCHL* UartAt(const BoardParams* params, u32 index) {
     BPPCHL* chl = BoardChlByListIndex(params, index);
     return chl != nullptr && chl->Class == ClassUart ? chl : nullptr;
 }
 
-void SetPending(BPPCHL* chl, const FifoValues& values) {
-    UartBasicInfo& pending = chl->CurrentInfo.Uart;
-    pending.UartFifoEnable = values.UartFifoEnable;
-    pending.UartTxFifoLowHigh = values.UartTxFifoLowHigh;
-    pending.UartRxFifoLowHigh = values.UartRxFifoLowHigh;
+FifoValues ReadPage(HWND hDlg, const BPPCHL* chl, TraceName function = __builtin_FUNCTION()) {
+    const FifoValues values = _ReadFifoSliders(hDlg, chl->CurrentInfo.Uart, chl->Fifo);
+    TraceFifoValues(values, function);
+    return values;
 }
 
-FifoValues ReadPage(HWND hDlg, const BPPCHL* chl) {
-    return _ReadFifoSliders(hDlg, chl->CurrentInfo.Uart, chl->Fifo);
+void EnableUartButtons(HWND hDlg, BOOL enable) {
+    for (const int button : UartButtons) {
+        EnableWindow(GetDlgItem(hDlg, button), enable);
+    }
 }
 
-// False at the first write that fails, with its status and the COM number of its port.
+void ShowUart(HWND hDlg, const UartBasicInfo& uart, FifoSliders* sliders) {
+    RememberFifoPositions(uart, sliders);
+    ShowFifoCheckBox(hDlg, uart.UartFifoEnable != 0);
+    EnableWindow(GetDlgItem(hDlg, IDC_ADVANCED), TRUE);
+    SetFifoSliderRange(hDlg, IDC_TRANSMIT_SLIDER, uart.UartTxFifoSize);
+    PutTransmitSlider(hDlg, sliders->TxFifoPosTranslate);
+    SetFifoSliderRange(hDlg, IDC_RECEIVE_SLIDER, RxFifoStageCount);
+    PutReceiveSlider(hDlg, sliders->RxFifoPos, sliders->RxFifoPosTranslate);
+    _EnableFifoControls(hDlg, uart.UartFifoEnable != 0);
+    EnableUartButtons(hDlg, TRUE);
+}
+
+void ShowNoUart(HWND hDlg) {
+    CheckDlgButton(hDlg, IDC_LARGEFIFO, BST_UNCHECKED);
+    EnableWindow(GetDlgItem(hDlg, IDC_LARGEFIFO), FALSE);
+    EnableWindow(GetDlgItem(hDlg, IDC_ADVANCED), FALSE);
+    ShowFifoLabel(hDlg, IDC_TRANSMIT_HIGH, IDS_HIGH, 1);
+    ShowFifoLabel(hDlg, IDC_TRANSMIT_LOW, IDS_LOW, 1);
+    ShowFifoLabel(hDlg, IDC_RECEIVE_HIGH, IDS_HIGH, 1);
+    ShowFifoLabel(hDlg, IDC_RECEIVE_LOW, IDS_LOW, 1);
+    _EnableFifoControls(hDlg, FALSE);
+    EnableUartButtons(hDlg, FALSE);
+}
+
+// Writes every UART whose pending values differ from the saved ones, in ascending channel number. False at
+// the first write that fails, with its status and the COM number of its port.
 bool _SetEachUartUiFifoSettingsIfChange(BoardParams* params, u32* status, u32* comNumber) {
+    TraceOut("----> %s( )\n", __func__);
     *status = 0;
     *comNumber = 0;
-    for (BPPCHL* chl = params->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
+    for (BPPCHL* chl = params->WalkFirst; chl != nullptr && *status == 0; chl = chl->WalkNext) {
         if (chl->Class != ClassUart) {
             continue;
         }
-        const UartBasicInfo& pending = chl->CurrentInfo.Uart;
-        UartBasicInfo& saved = chl->SavedInfo.Uart;
-        if (pending.UartFifoEnable == saved.UartFifoEnable &&
-            pending.UartTxFifoLowHigh == saved.UartTxFifoLowHigh &&
-            pending.UartRxFifoLowHigh == saved.UartRxFifoLowHigh) {
-            TraceOut("%s - Chl:%d, uart fifo settings not change\n", __func__,
-                     chl->CurrentInfo.ChlBasic.ChlNumber);
+        const u32 number = chl->CurrentInfo.ChlBasic.ChlNumber;
+        const UartBasicInfo& uart = chl->CurrentInfo.Uart;
+        const FifoValues pending = FifoValuesOf(uart);
+        if (SameFifoValues(pending, FifoValuesOf(chl->SavedInfo.Uart))) {
+            TraceOut("%s - Chl:%d, uart fifo settings not change\n", __func__, number);
             continue;
         }
-        TraceOut("%s - Chl:%d, uart fifo settings change\n", __func__, chl->CurrentInfo.ChlBasic.ChlNumber);
+        TraceOut("%s - Chl:%d, uart fifo settings change\n", __func__, number);
         *status =
             Kavro_RegUartSetFifoSettings(chl->DeviceInfoSet, &chl->DeviceInfoData, pending.UartFifoEnable,
                                          pending.UartTxFifoLowHigh, pending.UartRxFifoLowHigh);
-        if (*status != 0) {
-            *comNumber = ComNumberFromName(pending.PortName);
-            return false;
+        if (*status == 0) {
+            SetFifoValues(chl->SavedInfo.Uart, pending);
+        } else {
+            *comNumber = ComNumberFromName(uart.PortName);
         }
-        saved.UartFifoEnable = pending.UartFifoEnable;
-        saved.UartTxFifoLowHigh = pending.UartTxFifoLowHigh;
-        saved.UartRxFifoLowHigh = pending.UartRxFifoLowHigh;
     }
-    return true;
+    const bool bSuccess = *status == 0;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
 } // namespace
 
 void _RefreshFifoControls(HWND hDlg, BPPCHL* channel) {
-    const bool isUart = channel != nullptr && channel->Class == ClassUart;
-    if (isUart) {
-        ShowFifoSettings(hDlg, channel->CurrentInfo.Uart, &channel->Fifo);
+    TraceOut("----> %s( )\n", __func__);
+    if (channel != nullptr && channel->Class == ClassUart) {
+        ShowUart(hDlg, channel->CurrentInfo.Uart, &channel->Fifo);
     } else {
-        CheckDlgButton(hDlg, IDC_LARGEFIFO, BST_UNCHECKED);
-        EnableWindow(GetDlgItem(hDlg, IDC_LARGEFIFO), FALSE);
-        ShowFifoLabelsAtOne(hDlg);
-        _EnableFifoControls(hDlg, FALSE);
+        ShowNoUart(hDlg);
     }
-    for (const int button : UartButtons) {
-        EnableWindow(GetDlgItem(hDlg, button), isUart);
-    }
+    TraceOut("<---- %s\n", __func__);
 }
 
-void _OnHscroll(HWND hDlg, const BoardParams* params, u32 index, HWND slider) {
+bool _OnHscroll(HWND hDlg, LPARAM lParam) {
+    TraceOut("----> %s( )\n", __func__);
+    const BoardParams* params = PageParams(hDlg);
+    const u32 index = SelectedChannel(hDlg);
     BPPCHL* chl = params != nullptr ? BoardChlByListIndex(params, index) : nullptr;
     if (chl != nullptr) {
-        FifoSliderMoved(hDlg, slider, &chl->Fifo);
+        FollowFifoSlider(hDlg, reinterpret_cast<HWND>(lParam), &chl->Fifo);
     }
+    const bool bSuccess = true;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
 bool _FifoEnableClicked(HWND hDlg, BoardParams* params, u32 index) {
+    TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
     BPPCHL* chl = UartAt(params, index);
-    if (chl == nullptr) {
-        return false;
+    const bool bSuccess = chl != nullptr;
+    if (bSuccess) {
+        FollowFifoCheckBox(hDlg, &chl->Fifo);
     }
-    FifoEnableClicked(hDlg, &chl->Fifo);
-    return true;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
+// The controls alone: pending values and remembered positions stay.
 bool _RestoreDefaultClicked(HWND hDlg, BoardParams* params, u32 index) {
+    TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
     const BPPCHL* chl = UartAt(params, index);
-    if (chl == nullptr) {
-        return false;
+    const bool bSuccess = chl != nullptr;
+    if (bSuccess) {
+        CheckDlgButton(hDlg, IDC_LARGEFIFO, BST_CHECKED);
+        PutTransmitSlider(hDlg, chl->CurrentInfo.Uart.UartTxFifoSize);
+        PutReceiveSlider(hDlg, RxFifoStageCount, RxStageOfPosition(chl->Fifo.RxFifo4Stage, RxFifoStageCount));
+        _EnableFifoControls(hDlg, TRUE);
     }
-    ShowFifoDefaults(hDlg, chl->CurrentInfo.Uart, chl->Fifo);
-    return true;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
 bool _SetToAllClicked(HWND hDlg, BoardParams* params, u32 index) {
+    TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
     const BPPCHL* selected = UartAt(params, index);
-    if (selected == nullptr) {
-        return false;
-    }
-    const FifoValues values = ReadPage(hDlg, selected);
-    for (BPPCHL* chl = params->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
-        if (chl->Class == ClassUart) {
-            SetPending(chl, values);
+    const bool bSuccess = selected != nullptr;
+    if (bSuccess) {
+        const FifoValues values = ReadPage(hDlg, selected);
+        for (BPPCHL* chl = params->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
+            if (chl->Class == ClassUart) {
+                SetFifoValues(chl->CurrentInfo.Uart, values);
+            }
         }
     }
-    return true;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
 bool _ApplyClicked(HWND hDlg, BoardParams* params, u32 index) {
+    TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
     BPPCHL* chl = UartAt(params, index);
-    if (chl == nullptr) {
-        return false;
+    bool bSuccess = false;
+    if (chl != nullptr) {
+        TakeFifoSettings(hDlg, chl);
+        bSuccess = StorePendingFifo(hDlg, params);
     }
-    TakeFifoSettings(hDlg, chl);
-    return StoreFifoSettings(hDlg, params);
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
-void TakeFifoSettings(HWND hDlg, BPPCHL* channel) {
-    SetPending(channel, ReadPage(hDlg, channel));
+void TakeFifoSettings(HWND hDlg, BPPCHL* channel, TraceName function) {
+    SetFifoValues(channel->CurrentInfo.Uart, ReadPage(hDlg, channel, function));
 }
 
-bool StoreFifoSettings(HWND hDlg, BoardParams* params) {
+bool StorePendingFifo(HWND hDlg, BoardParams* params) {
     u32 sStatus = 0;
     u32 comNumber = 0;
     if (_SetEachUartUiFifoSettingsIfChange(params, &sStatus, &comNumber)) {
         return true;
     }
-    ErrorBoxShow(FailureBoardSetFifo, sStatus, hDlg, 0, comNumber, 0, nullptr);
+    ErrorBoxShow(FailureBoardSetFifo, sStatus, hDlg, 0, comNumber);
     return false;
 }

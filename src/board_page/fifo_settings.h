@@ -9,13 +9,14 @@
 #pragma once
 
 #include "device_model/board_params.h"
+#include "reporting/trace.h"
 
 // Brings the FIFO controls and the buttons that act on a UART into line with a channel; disables them for any
 // other channel and for null.
 void _RefreshFifoControls(HWND hDlg, BPPCHL* channel);
 
-// A slider has moved. `params` is null until the page has been initialised.
-void _OnHscroll(HWND hDlg, const BoardParams* params, u32 index, HWND slider);
+// WM_HSCROLL: a slider, whose window `lParam` is, has moved. True.
+bool _OnHscroll(HWND hDlg, LPARAM lParam);
 
 bool _FifoEnableClicked(HWND hDlg, BoardParams* params, u32 index);
 bool _RestoreDefaultClicked(HWND hDlg, BoardParams* params, u32 index);
@@ -25,9 +26,8 @@ bool _SetToAllClicked(HWND hDlg, BoardParams* params, u32 index);
 bool _ApplyClicked(HWND hDlg, BoardParams* params, u32 index);
 
 // The selected UART's pending values become the page's.
-void TakeFifoSettings(HWND hDlg, BPPCHL* channel);
+void TakeFifoSettings(HWND hDlg, BPPCHL* channel, TraceName function = __builtin_FUNCTION());
 
-// Writes every UART whose pending values differ from the saved ones, in ascending channel number, and stops
-// at the first failure. False, after a box owned by `hDlg`, if one failed: it and those behind it stay
-// pending.
-bool StoreFifoSettings(HWND hDlg, BoardParams* params);
+// Stores what is pending. False, after a box over `hDlg`, if a write failed: that UART and those after it
+// stay pending.
+bool StorePendingFifo(HWND hDlg, BoardParams* params);

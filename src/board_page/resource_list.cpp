@@ -2,6 +2,7 @@
 
 #include "page_parts/label_text.h"
 #include "reporting/module_entry.h"
+#include "reporting/trace.h"
 #include "resources/resource_ids.h"
 
 namespace {
@@ -23,29 +24,8 @@ void AddRow(HWND list, int row, UINT labelId, WCHAR* setting) {
     SendMessageW(list, LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
 }
 
-} // namespace
-
-void AddResourceColumns(HWND hDlg) {
-    const HWND list = GetDlgItem(hDlg, IDC_RESOURCE_LIST);
-    for (u32 position = 0; position < ARRAYSIZE(ColumnHeadings); ++position) {
-        WCHAR heading[ControlTextCapacity];
-        if (LoadStringW(ModuleInstance, ColumnHeadings[position], heading, ARRAYSIZE(heading)) != 0) {
-            LVCOLUMNW column = {};
-            column.mask = LVCF_TEXT | LVCF_WIDTH;
-            column.cx = ColumnWidth;
-            column.pszText = heading;
-            SendMessageW(list, LVM_INSERTCOLUMNW, position, reinterpret_cast<LPARAM>(&column));
-        }
-    }
-}
-
-void _FillResourceList(HWND hDlg, const BPPCHL* channel) {
-    const HWND list = GetDlgItem(hDlg, IDC_RESOURCE_LIST);
-    SendMessageW(list, LVM_DELETEALLITEMS, 0, 0);
-    if (channel == nullptr) {
-        return;
-    }
-    const ChlBasicInfo& chl = channel->CurrentInfo.ChlBasic;
+void AddRows(HWND list, const ChannelInfo& info) {
+    const ChlBasicInfo& chl = info.ChlBasic;
     const struct {
         u64 start;
         u32 length;
@@ -63,9 +43,35 @@ void _FillResourceList(HWND hDlg, const BPPCHL* channel) {
             AddRow(list, row++, IDS_IO_RANGE, setting);
         }
     }
-    const u32 irq = channel->CurrentInfo.BoardBasic.BoardIrq;
+    const u32 irq = info.BoardBasic.BoardIrq;
     if (irq != 0) {
         FormatText(setting, ARRAYSIZE(setting), TEXT("%d"), irq);
         AddRow(list, row, IDS_IRQ, setting);
     }
+}
+
+} // namespace
+
+void AddResourceColumns(HWND hDlg) {
+    const HWND list = GetDlgItem(hDlg, IDC_RESOURCE_LIST);
+    for (u32 position = 0; position < ARRAYSIZE(ColumnHeadings); ++position) {
+        WCHAR heading[ControlTextCapacity];
+        if (LoadStringW(ModuleInstance, ColumnHeadings[position], heading, ARRAYSIZE(heading)) != 0) {
+            LVCOLUMNW column = {};
+            column.mask = LVCF_TEXT | LVCF_WIDTH;
+            column.cx = ColumnWidth;
+            column.pszText = heading;
+            SendMessageW(list, LVM_INSERTCOLUMNW, position, reinterpret_cast<LPARAM>(&column));
+        }
+    }
+}
+
+void _FillResourceList(HWND hDlg, const BPPCHL* channel) {
+    TraceOut("----> %s( )\n", __func__);
+    const HWND list = GetDlgItem(hDlg, IDC_RESOURCE_LIST);
+    SendMessageW(list, LVM_DELETEALLITEMS, 0, 0);
+    if (channel != nullptr) {
+        AddRows(list, channel->CurrentInfo);
+    }
+    TraceOut("<---- %s\n", __func__);
 }

@@ -1,7 +1,7 @@
 #include "com_numbers/com_port_database.h"
 
-#include "reporting/error_reporter.h"
 #include "reporting/module_entry.h"
+#include "reporting/statuses.h"
 #include "reporting/text_operations.h"
 #include "reporting/trace.h"
 #include "resources/resource_ids.h"
@@ -19,7 +19,7 @@ bool IsClaimed(const PortUsageBitmap& usage, u32 number) {
 }
 
 // 0, StatusNoDatabase or StatusNoUsage.
-u32 ReadPortUsage(const char* function, PortUsageBitmap& usage) {
+u32 ReadPortUsage(PortUsageBitmap& usage, TraceName function = __builtin_FUNCTION()) {
     HCOMDB database = nullptr;
     u32 sStatus = 0;
     DWORD portCount = 0;
@@ -49,7 +49,7 @@ void LoadInUseSuffix(WCHAR (&suffix)[EntryCapacity]) {
 }
 
 void AddAllNumbers(HWND combo, const PortUsageBitmap& usage, u32 currentNumber, const WCHAR* suffix,
-                   const char* function) {
+                   TraceName function = __builtin_FUNCTION()) {
     WCHAR entry[EntryCapacity];
     for (u32 number = 1; number <= ComNumberMax; ++number) {
         FormatText(entry, ARRAYSIZE(entry), TEXT("COM%d"), number);
@@ -71,7 +71,7 @@ void AddAllNumbers(HWND combo, const PortUsageBitmap& usage, u32 currentNumber, 
 u32 Kavro_COMPortCheckNumberInUse(u32 number) {
     TraceOut("----> %s( )\n", __func__);
     PortUsageBitmap usage = {};
-    u32 sStatus = ReadPortUsage(__func__, usage);
+    u32 sStatus = ReadPortUsage(usage);
     if (sStatus == 0 && IsClaimed(usage, number)) {
         TraceOut("%s - port has been previously claimed\n", __func__);
         sStatus = StatusNumberClaimed;
@@ -84,7 +84,7 @@ u32 Kavro_COMPortGetMaxNumberAvailable(u32* MaxAvlComNumber) {
     TraceOut("----> %s( )\n", __func__);
     *MaxAvlComNumber = 0;
     PortUsageBitmap usage = {};
-    u32 sStatus = ReadPortUsage(__func__, usage);
+    u32 sStatus = ReadPortUsage(usage);
     if (sStatus == 0) {
         u32 number = ComNumberMax;
         while (number != 0 && IsClaimed(usage, number)) {
@@ -110,9 +110,9 @@ u32 Kavro_COMPortFillPortNameCombox(HWND dialog, const WCHAR* portName) {
         WCHAR suffix[EntryCapacity];
         LoadInUseSuffix(suffix);
         PortUsageBitmap usage = {};
-        sStatus = ReadPortUsage(__func__, usage);
+        sStatus = ReadPortUsage(usage);
         if (sStatus == 0) {
-            AddAllNumbers(combo, usage, ClampComNumber(ComNumberFromName(portName)), suffix, __func__);
+            AddAllNumbers(combo, usage, ClampComNumber(ComNumberFromName(portName)), suffix);
         }
     }
     EnableWindow(combo, sStatus == 0);

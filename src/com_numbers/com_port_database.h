@@ -8,12 +8,6 @@
 
 constexpr u32 ComNumberMax = 256;
 
-// Statuses, beside StatusNumberClaimed (202) of the error reporter.
-constexpr u32 StatusNoDatabase = 200; // ComDBOpen failed
-constexpr u32 StatusNoUsage = 201;    // ComDBGetCurrentPortUsage failed
-constexpr u32 StatusNoneFree = 203;   // no number is free
-constexpr u32 StatusNoCombo = 301;    // the combo doesn't exist, or the port name is empty
-
 // 0 if the number, 1 to 256, is free; StatusNumberClaimed, StatusNoDatabase or StatusNoUsage.
 u32 Kavro_COMPortCheckNumberInUse(u32 number);
 

@@ -1,7 +1,7 @@
 #include "com_numbers/com_remap.h"
 
-#include "com_numbers/com_port_database.h"
 #include "device_model/device_store.h"
+#include "reporting/statuses.h"
 #include "reporting/text_operations.h"
 #include "reporting/trace.h"
 
@@ -9,6 +9,9 @@ namespace {
 
 constexpr u32 RemapTextCapacity = 81;
 constexpr u32 DescriptionBytes = 512;
+
+// The steps trace under the name of the transaction that they make up.
+constexpr TraceName Transaction = "_EnactComNameChanges";
 
 // One rename: allocated for it, and released when it is over.
 struct Remap {
@@ -43,19 +46,20 @@ bool QueryOldTarget(Remap* remap) {
 }
 
 // Moves the DOS name, whose target the first look has found, to the new name. 0 or StatusNoDosName.
-u32 MoveDosName(Remap* remap, const char* function) {
+u32 MoveDosName(Remap* remap) {
     if (!QueryOldTarget(remap)) {
-        TraceOut("%s - this shouldn't happen, QueryDosDevice fail, GetLastError():%d\n", function,
+        TraceOut("%s - this shouldn't happen, QueryDosDevice fail, GetLastError():%d\n", Transaction,
                  GetLastError());
         return StatusNoDosName;
     }
-    TraceOut("%s - Remap->OldComName:%ws, Remap->Buffer1:%ws\n", function, remap->OldComName, remap->Buffer1);
+    TraceOut("%s - Remap->OldComName:%ws, Remap->Buffer1:%ws\n", Transaction, remap->OldComName,
+             remap->Buffer1);
     const BOOL bRemoved = DefineDosDeviceW(DDD_REMOVE_DEFINITION, remap->OldComName, nullptr);
-    TraceOut("%s - DefineDosDevice, bRemoved:%d, OldComName:%ws, Buffer1:%ws, GetLastError():%d\n", function,
-             bRemoved, remap->OldComName, remap->Buffer1, GetLastError());
+    TraceOut("%s - DefineDosDevice, bRemoved:%d, OldComName:%ws, Buffer1:%ws, GetLastError():%d\n",
+             Transaction, bRemoved, remap->OldComName, remap->Buffer1, GetLastError());
     if (!DefineDosDeviceW(DDD_RAW_TARGET_PATH, remap->NewComName, remap->Buffer1)) {
         TraceOut("%s - DefineDosDevice fail, Remap->NewComName:%ws, Remap->Buffer1:%ws, GetLastError():%d\n",
-                 function, remap->NewComName, remap->Buffer1, GetLastError());
+                 Transaction, remap->NewComName, remap->Buffer1, GetLastError());
         if (bRemoved) {
             DefineDosDeviceW(DDD_RAW_TARGET_PATH, remap->OldComName, remap->Buffer1);
         }
@@ -98,7 +102,7 @@ void RenameInDatabase(Remap* remap) {
     }
 }
 
-void WriteFriendlyName(Remap* remap, const char* function) {
+void WriteFriendlyName(Remap* remap) {
     // One unit more than is asked for: a description without its terminator gets one.
     WCHAR description[DescriptionBytes / sizeof(WCHAR) + 1] = {};
     if (SetupDiGetDeviceRegistryPropertyW(remap->DeviceInfoSet, remap->DeviceInfoData, SPDRP_DEVICEDESC,
@@ -108,31 +112,32 @@ void WriteFriendlyName(Remap* remap, const char* function) {
     } else {
         CopyText(remap->Buffer1, RemapTextCapacity, remap->NewComName);
     }
-    TraceOut("%s - friendly name:%ws\n", function, remap->Buffer1);
+    TraceOut("%s - friendly name:%ws\n", Transaction, remap->Buffer1);
     SetupDiSetDeviceRegistryPropertyW(remap->DeviceInfoSet, remap->DeviceInfoData, SPDRP_FRIENDLYNAME,
                                       reinterpret_cast<const BYTE*>(remap->Buffer1),
                                       TextBytes(remap->Buffer1));
 }
 
 // With the device key and the database open. 0 or StatusNoDosName.
-u32 RenameEverywhere(Remap* remap, const char* function) {
-    TraceOut("%s - ARRAYSIZE(Remap->OldComName):%I64d\n", function, ARRAYSIZE(remap->OldComName));
+u32 RenameEverywhere(Remap* remap) {
+    TraceOut("%s - ARRAYSIZE(Remap->OldComName):%I64d\n", Transaction, ARRAYSIZE(remap->OldComName));
     FormatText(remap->OldComName, RemapTextCapacity, TEXT("COM%d"), remap->OldComNumber);
     const bool dosNameExists = QueryOldTarget(remap);
     if (!dosNameExists) {
-        TraceOut("%s - QueryDosDevice 1 fail, GetLastError():%d\n", function, GetLastError());
+        TraceOut("%s - QueryDosDevice 1 fail, GetLastError():%d\n", Transaction, GetLastError());
     }
-    TraceOut("%s - Remap->OldComName:%ws, Remap->Buffer1:%ws\n", function, remap->OldComName, remap->Buffer1);
+    TraceOut("%s - Remap->OldComName:%ws, Remap->Buffer1:%ws\n", Transaction, remap->OldComName,
+             remap->Buffer1);
     FormatText(remap->NewComName, RemapTextCapacity, TEXT("COM%d"), remap->NewComNumber);
     const DWORD dwNewComNameLen = TextBytes(remap->NewComName);
-    TraceOut("%s - Remap->NewComName:%ws, dwNewComNameLen:%d\n", function, remap->NewComName,
+    TraceOut("%s - Remap->NewComName:%ws, dwNewComNameLen:%d\n", Transaction, remap->NewComName,
              dwNewComNameLen);
 
-    const u32 sStatus = dosNameExists ? MoveDosName(remap, function) : 0;
+    const u32 sStatus = dosNameExists ? MoveDosName(remap) : 0;
     if (sStatus == 0) {
         RenameInSerialMap(remap, dwNewComNameLen);
         RenameInDatabase(remap);
-        WriteFriendlyName(remap, function);
+        WriteFriendlyName(remap);
         RegSetValueExW(remap->DeviceKey, TEXT("PortName"), 0, REG_SZ,
                        reinterpret_cast<const BYTE*>(remap->NewComName), dwNewComNameLen);
     }
@@ -142,14 +147,14 @@ u32 RenameEverywhere(Remap* remap, const char* function) {
 u32 _EnactComNameChanges(Remap* remap) {
     TraceOut("----> %s( )\n", __func__);
     u32 sStatus = 0;
-    remap->DeviceKey = OpenDeviceKey(__func__, remap->DeviceInfoSet, remap->DeviceInfoData);
+    remap->DeviceKey = OpenDeviceKey(remap->DeviceInfoSet, remap->DeviceInfoData);
     if (remap->DeviceKey == INVALID_HANDLE_VALUE) {
         sStatus = StatusNoKey;
     } else if (ComDBOpen(&remap->ComDbHandle) != ERROR_SUCCESS) {
         TraceOut("%s - ComDBOpen fail, GetLastError():%d\n", __func__, GetLastError());
         sStatus = StatusNoDatabase;
     } else {
-        sStatus = RenameEverywhere(remap, __func__);
+        sStatus = RenameEverywhere(remap);
     }
     if (remap->ComDbHandle != nullptr) {
         ComDBClose(remap->ComDbHandle);

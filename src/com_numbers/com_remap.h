@@ -7,9 +7,6 @@
 
 #include "platform/platform.h"
 
-// The DOS device name can't be moved.
-constexpr u32 StatusNoDosName = 300;
-
 // Gives a port another COM number. Both numbers are 1 to 256 and differ. 0 if it went through, also if the
 // old DOS name didn't exist. Otherwise nothing has changed: StatusNoMemory, StatusNoKey, StatusNoDatabase or
 // StatusNoDosName.

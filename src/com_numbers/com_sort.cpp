@@ -1,8 +1,8 @@
 #include "com_numbers/com_sort.h"
 
 #include "com_numbers/com_port_database.h"
+#include "com_numbers/port_device.h"
 #include "com_numbers/port_rename.h"
-#include "com_numbers/port_settings_migration.h"
 #include "device_model/channel_list.h"
 #include "reporting/error_reporter.h"
 #include "reporting/text_operations.h"
@@ -11,15 +11,20 @@
 
 namespace {
 
-// A UART's channel number and a COM number. The table stands in channel order; sorting exchanges the COM
-// column only.
+// A UART's channel number and a COM number.
 struct SortPair {
     u32 channel;
     u32 com;
 };
-constexpr u32 SortPairMax = ComNumberMax;
-constexpr u32 SortPairTableBytes = SortPairMax * sizeof(SortPair);
-static_assert(SortPairTableBytes == 2048);
+
+// The pairs of one click, in channel order; sorting exchanges the COM column only.
+struct SortPairTable {
+    SortPair pairs[ComNumberMax];
+};
+static_assert(sizeof(SortPairTable) == 2048);
+
+// All steps of a click trace under its name.
+constexpr TraceName Click = "_SortCOMClicked";
 
 constexpr int SortButtons[] = {IDOK, IDCANCEL, IDC_RESTORE, IDC_SORT_COM};
 
@@ -47,7 +52,7 @@ bool NeedsMove(const BPPCHL* chl) {
 }
 
 // Reads every UART's number from its name and fills the table; the number of pairs.
-u32 GatherPairs(BoardParams* board, SortPair* table) {
+u32 GatherPairs(BoardParams* board, SortPairTable* table) {
     u32 count = 0;
     for (BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
         if (!IsUart(chl)) {
@@ -56,32 +61,33 @@ u32 GatherPairs(BoardParams* board, SortPair* table) {
         chl->SortChlNumber = chl->CurrentInfo.ChlBasic.ChlNumber;
         chl->SortCurrentCom = ComNumberFromName(chl->CurrentInfo.Uart.PortName);
         chl->SortNewCom = chl->SortCurrentCom;
-        if (chl->SortCurrentCom >= 1 && chl->SortCurrentCom <= ComNumberMax && count < SortPairMax) {
-            table[count++] = {chl->SortChlNumber, chl->SortCurrentCom};
+        if (chl->SortCurrentCom >= 1 && chl->SortCurrentCom <= ComNumberMax && count < ComNumberMax) {
+            table->pairs[count++] = {chl->SortChlNumber, chl->SortCurrentCom};
         }
     }
     return count;
 }
 
-void SortComColumn(SortPair* table, u32 count) {
+void SortComColumn(SortPairTable* table, u32 count) {
+    SortPair* pairs = table->pairs;
     for (u32 i = 0; i + 1 < count; ++i) {
         u32 smallest = i;
         for (u32 j = i + 1; j < count; ++j) {
-            if (table[j].com < table[smallest].com) {
+            if (pairs[j].com < pairs[smallest].com) {
                 smallest = j;
             }
         }
-        const u32 com = table[i].com;
-        table[i].com = table[smallest].com;
-        table[smallest].com = com;
+        const u32 com = pairs[i].com;
+        pairs[i].com = pairs[smallest].com;
+        pairs[smallest].com = com;
     }
 }
 
-void AssignNewNumbers(BoardParams* board, const SortPair* table, u32 count) {
+void AssignNewNumbers(BoardParams* board, const SortPairTable* table, u32 count) {
     u32 next = 0;
     for (BPPCHL* chl = board->WalkFirst; chl != nullptr && next < count; chl = chl->WalkNext) {
-        if (chl->CurrentInfo.ChlBasic.ChlNumber == table[next].channel) {
-            chl->SortNewCom = table[next++].com;
+        if (chl->CurrentInfo.ChlBasic.ChlNumber == table->pairs[next].channel) {
+            chl->SortNewCom = table->pairs[next++].com;
         }
     }
 }
@@ -97,17 +103,17 @@ void TraceNumbers(const BoardParams* board, const char* heading) {
     TraceOut("----------------------------------------\n");
 }
 
-bool AnyNeedsMove(const BoardParams* board, const char* function) {
+bool AnyNeedsMove(const BoardParams* board) {
     bool any = false;
     for (const BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
         if (NeedsMove(chl)) {
-            TraceOut("%s - ChlNumber:%d - COM%d -> COM%d\n", function, chl->SortChlNumber,
-                     chl->SortCurrentCom, chl->SortNewCom);
+            TraceOut("%s - ChlNumber:%d - COM%d -> COM%d\n", Click, chl->SortChlNumber, chl->SortCurrentCom,
+                     chl->SortNewCom);
             any = true;
         }
     }
     if (!any) {
-        TraceOut("%s - Don't need to swap COM number\n", function);
+        TraceOut("%s - Don't need to swap COM number\n", Click);
     }
     return any;
 }
@@ -121,7 +127,7 @@ bool AllMovingPortsClosed(HWND dialog, BoardParams* board) {
         const u32 sStatus = Kavro_COMPortCheckOpened(chl->DeviceInfoSet, &chl->DeviceInfoData);
         if (sStatus != 0) {
             ErrorBoxShow(FailureSortPortOpened, sStatus, dialog, chl->SortChlNumber, chl->SortCurrentCom,
-                         chl->SortNewCom, nullptr);
+                         chl->SortNewCom);
             return false;
         }
     }
@@ -146,57 +152,64 @@ BPPCHL* FindPartner(BoardParams* board, const BPPCHL* chl) {
     return partner;
 }
 
+// A move of the sort on the road of every rename.
+struct PortMove : PortRename {
+    BPPCHL* port;
+    const SortMove* move;
+};
+
+void PortNamed(const PortRename& rename) {
+    const auto& moved = static_cast<const PortMove&>(rename);
+    moved.port->SortCurrentCom = rename.newNumber;
+    TraceOut(moved.move->settingsTrace, Click, moved.port->SortChlNumber, rename.savedName, rename.newName);
+}
+
 // Moves one port to another number and keeps its records true to it. False, after a box, if the rename
 // failed.
-bool MovePort(HWND dialog, BPPCHL* port, u32 to, const SortMove& move, const char* function) {
-    UartBasicInfo& saved = port->SavedInfo.Uart;
-    UartBasicInfo& current = port->CurrentInfo.Uart;
-    const u32 sStatus = RenamePort(port->DeviceInfoSet, &port->DeviceInfoData, port->SortCurrentCom, to,
-                                   current.PortName, ARRAYSIZE(current.PortName));
+bool MovePort(HWND dialog, BPPCHL* port, u32 to, const SortMove& move) {
+    const u32 from = port->SortCurrentCom;
+    PortMove moved = {RenameOfChannel(port, from, to), port, &move};
+    moved.named = PortNamed;
+    const u32 sStatus = RenamePort(moved);
     if (sStatus != 0) {
-        ErrorBoxShow(move.failureCode, sStatus, dialog, port->SortChlNumber, port->SortCurrentCom, to,
-                     nullptr);
+        ErrorBoxShow(move.failureCode, sStatus, dialog, port->SortChlNumber, from, to);
         return false;
     }
-    port->SortCurrentCom = to;
-    TraceOut(move.settingsTrace, function, port->SortChlNumber, saved.PortName, current.PortName);
-    Kavro_COMPortMigratePortSettings(saved.PortName, current.PortName);
-    FormatText(saved.PortName, ARRAYSIZE(saved.PortName), TEXT("COM%d"), port->SortCurrentCom);
-    TraceOut(move.namesTrace, function, port->SortChlNumber, saved.PortName, current.PortName);
+    TraceOut(move.namesTrace, Click, port->SortChlNumber, moved.savedName, moved.newName);
     return true;
 }
 
 // Brings the channel to its number and its partner, who holds that number, to the channel's.
-bool ExchangePorts(HWND dialog, BPPCHL* chl, BPPCHL* partner, u32 temporary, const char* function) {
-    TraceOut("%s - ----------------------------------------\n", function);
-    TraceOut("%s - S1_1, CHL%d to AVL, COM%d -> COM%d\n", function, partner->SortChlNumber,
+bool ExchangePorts(HWND dialog, BPPCHL* chl, BPPCHL* partner, u32 temporary) {
+    TraceOut("%s - ----------------------------------------\n", Click);
+    TraceOut("%s - S1_1, CHL%d to AVL, COM%d -> COM%d\n", Click, partner->SortChlNumber,
              partner->SortCurrentCom, temporary);
-    if (!MovePort(dialog, partner, temporary, PartnerToTemporary, function)) {
+    if (!MovePort(dialog, partner, temporary, PartnerToTemporary)) {
         return false;
     }
     const u32 old = chl->SortCurrentCom;
-    TraceOut("%s - S2_1, CHL%d to CHL%d, COM%d -> COM%d\n", function, chl->SortChlNumber,
-             partner->SortChlNumber, old, chl->SortNewCom);
-    if (!MovePort(dialog, chl, chl->SortNewCom, ChannelToFinal, function)) {
+    TraceOut("%s - S2_1, CHL%d to CHL%d, COM%d -> COM%d\n", Click, chl->SortChlNumber, partner->SortChlNumber,
+             old, chl->SortNewCom);
+    if (!MovePort(dialog, chl, chl->SortNewCom, ChannelToFinal)) {
         return false;
     }
-    TraceOut("%s - S3_1, AVL to CHL%d, COM%d -> COM%d\n", function, partner->SortChlNumber,
+    TraceOut("%s - S3_1, AVL to CHL%d, COM%d -> COM%d\n", Click, partner->SortChlNumber,
              partner->SortCurrentCom, old);
-    if (!MovePort(dialog, partner, old, PartnerFromTemporary, function)) {
+    if (!MovePort(dialog, partner, old, PartnerFromTemporary)) {
         return false;
     }
-    TraceOut("%s - ----------------------------------------\n", function);
+    TraceOut("%s - ----------------------------------------\n", Click);
     return true;
 }
 
 // One pass is enough, whatever the cycles: a channel that has its number is nobody's partner any more.
-void ExchangeAll(HWND dialog, BoardParams* board, u32 temporary, const char* function) {
+void ExchangeAll(HWND dialog, BoardParams* board, u32 temporary) {
     for (BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
         if (!NeedsMove(chl)) {
             continue;
         }
         BPPCHL* partner = FindPartner(board, chl);
-        if (partner != nullptr && !ExchangePorts(dialog, chl, partner, temporary, function)) {
+        if (partner != nullptr && !ExchangePorts(dialog, chl, partner, temporary)) {
             return;
         }
     }
@@ -204,23 +217,27 @@ void ExchangeAll(HWND dialog, BoardParams* board, u32 temporary, const char* fun
 }
 
 // With ports to change. Nothing moves unless a temporary number is free and every port that moves is closed.
-void MovePorts(HWND dialog, BoardParams* board, const char* function) {
+// True if the buttons have been disabled.
+bool MovePorts(HWND dialog, BoardParams* board) {
     u32 avlMaxTempComNumber = 0;
     const u32 sStatus = Kavro_COMPortGetMaxNumberAvailable(&avlMaxTempComNumber);
-    TraceOut("%s - avlMaxTempComNumber:%d\n", function, avlMaxTempComNumber);
+    TraceOut("%s - avlMaxTempComNumber:%d\n", Click, avlMaxTempComNumber);
     if (sStatus != 0) {
-        ErrorBoxShow(FailureSortNoNumber, sStatus, dialog, 0, 0, 0, nullptr);
-    } else if (AllMovingPortsClosed(dialog, board)) {
-        EnableSortButtons(dialog, FALSE);
-        ExchangeAll(dialog, board, avlMaxTempComNumber, function);
-        EnableSortButtons(dialog, TRUE);
+        ErrorBoxShow(FailureSortNoNumber, sStatus, dialog);
+        return false;
     }
+    if (!AllMovingPortsClosed(dialog, board)) {
+        return false;
+    }
+    EnableSortButtons(dialog, FALSE);
+    ExchangeAll(dialog, board, avlMaxTempComNumber);
+    return true;
 }
 
-void SortBoard(HWND dialog, BoardParams* board, const char* function) {
-    SortPair* table = static_cast<SortPair*>(LocalAlloc(LPTR, SortPairTableBytes));
+void SortBoard(HWND dialog, BoardParams* board) {
+    auto* table = static_cast<SortPairTable*>(LocalAlloc(LPTR, sizeof(SortPairTable)));
     if (table == nullptr) {
-        ErrorBoxShow(FailureNoMemory, 0, nullptr, 0, 0, 0, nullptr);
+        ErrorBoxShow(FailureNoMemory, 0, nullptr);
         return;
     }
     const u32 count = GatherPairs(board, table);
@@ -228,11 +245,15 @@ void SortBoard(HWND dialog, BoardParams* board, const char* function) {
     SortComColumn(table, count);
     AssignNewNumbers(board, table, count);
     TraceNumbers(board, "----------------------------------------, AFTER\n");
-    if (AnyNeedsMove(board, function)) {
-        MovePorts(dialog, board, function);
+    bool buttonsDisabled = false;
+    if (AnyNeedsMove(board)) {
+        buttonsDisabled = MovePorts(dialog, board);
         board->ChlListChanged = true;
     }
     LocalFree(table);
+    if (buttonsDisabled) {
+        EnableSortButtons(dialog, TRUE);
+    }
 }
 
 } // namespace
@@ -241,7 +262,7 @@ bool _SortCOMClicked(HWND dialog, BPPCHL* channel) {
     TraceOut("----> %s( )\n", __func__);
     const bool bSuccess = false;
     if (channel != nullptr && channel->Board != nullptr) {
-        SortBoard(dialog, channel->Board, __func__);
+        SortBoard(dialog, channel->Board);
     }
     TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
     return bSuccess;

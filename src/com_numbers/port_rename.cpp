@@ -2,41 +2,78 @@
 
 #include "com_numbers/com_port_database.h"
 #include "com_numbers/com_remap.h"
+#include "com_numbers/port_device.h"
 #include "com_numbers/port_settings_migration.h"
 #include "reporting/error_reporter.h"
 #include "reporting/text_operations.h"
-#include "reporting/trace.h"
+#include "resources/resource_ids.h"
 
-u32 RenamePort(HDEVINFO set, SP_DEVINFO_DATA* data, u32 oldNumber, u32 newNumber, WCHAR* newName,
-               u32 newNameCapacity) {
-    const u32 sStatus = Kavro_COMPortDoRemap(set, data, oldNumber, newNumber);
-    if (sStatus == 0) {
-        Kavro_COMPortBroadcastRemap(set, data);
-        FormatText(newName, newNameCapacity, TEXT("COM%d"), newNumber);
-    }
-    return sStatus;
+PortRename RenameOfChannel(BPPCHL* channel, u32 oldNumber, u32 newNumber) {
+    WCHAR* saved = channel->SavedInfo.Uart.PortName;
+    return {channel->DeviceInfoSet,
+            &channel->DeviceInfoData,
+            oldNumber,
+            newNumber,
+            saved,
+            channel->CurrentInfo.Uart.PortName,
+            saved,
+            StoreTextCapacity,
+            nullptr};
 }
 
-bool RenamePortForUser(HWND owner, const RenameFailureCodes& codes, HDEVINFO set, SP_DEVINFO_DATA* data,
-                       u32 oldNumber, u32 newNumber, WCHAR* newName, u32 newNameCapacity) {
-    u32 nUserDialogChoice = IDNO;
-    u32 sStatus = Kavro_COMPortCheckNumberInUse(newNumber);
+u32 RenamePort(const PortRename& rename) {
+    const u32 sStatus =
+        Kavro_COMPortDoRemap(rename.DeviceInfoSet, rename.DeviceInfoData, rename.oldNumber, rename.newNumber);
     if (sStatus != 0) {
-        ErrorBoxShow(codes.numberInUse, sStatus, owner, 0, 0, 0, &nUserDialogChoice);
-        TraceOut("%s - 1, nUserDialogChoice:%d\n", __func__, nUserDialogChoice);
+        return sStatus;
+    }
+    Kavro_COMPortBroadcastRemap(rename.DeviceInfoSet, rename.DeviceInfoData);
+    FormatText(rename.newName, rename.nameCapacity, TEXT("COM%d"), rename.newNumber);
+    if (rename.named != nullptr) {
+        rename.named(rename);
+    }
+    Kavro_COMPortMigratePortSettings(rename.settingsName, rename.newName);
+    if (rename.savedName != nullptr) {
+        CopyText(rename.savedName, rename.nameCapacity, rename.newName);
+    }
+    return 0;
+}
+
+u32 ChosenComNumber(HWND dialog, u32 oldNumber) {
+    const INT selection = static_cast<INT>(SendDlgItemMessageW(dialog, IDC_PORT_NUMBER, CB_GETCURSEL, 0, 0));
+    return selection != CB_ERR ? static_cast<u32>(selection) + 1 : oldNumber;
+}
+
+bool RenamePortForUser(HWND dialog, const RenameTerms& terms, const PortRename& rename, TraceName function) {
+    if (rename.newNumber == rename.oldNumber) {
+        TraceOut("%s - COM number not change\n", function);
+        return true;
+    }
+    TraceOut("%s - COM number change\n", function);
+    TraceOut("%s - COM number [old:%d, new:%d]\n", function, rename.oldNumber, rename.newNumber);
+    u32 nUserDialogChoice = IDNO;
+    u32* answer = terms.mayTakeClaimed ? &nUserDialogChoice : nullptr;
+    u32 sStatus = Kavro_COMPortCheckNumberInUse(rename.newNumber);
+    if (sStatus != 0) {
+        ErrorBoxShow(terms.numberInUse, sStatus, dialog, 0, 0, 0, answer);
+        if (answer != nullptr) {
+            TraceOut("%s - 1, nUserDialogChoice:%d\n", function, nUserDialogChoice);
+        }
         if (nUserDialogChoice != IDYES) {
             return false;
         }
     }
-    sStatus = Kavro_COMPortCheckOpened(set, data);
+    sStatus = Kavro_COMPortCheckOpened(rename.DeviceInfoSet, rename.DeviceInfoData);
     if (sStatus != 0) {
-        ErrorBoxShow(codes.portOpened, sStatus, owner, 0, 0, 0, &nUserDialogChoice);
-        TraceOut("%s - 2, nUserDialogChoice:%d\n", __func__, nUserDialogChoice);
+        ErrorBoxShow(terms.portOpened, sStatus, dialog, 0, 0, 0, answer);
+        if (answer != nullptr) {
+            TraceOut("%s - 2, nUserDialogChoice:%d\n", function, nUserDialogChoice);
+        }
         return false;
     }
-    sStatus = RenamePort(set, data, oldNumber, newNumber, newName, newNameCapacity);
+    sStatus = RenamePort(rename);
     if (sStatus != 0) {
-        ErrorBoxShow(codes.remap, sStatus, owner, 0, 0, 0, &nUserDialogChoice);
+        ErrorBoxShow(terms.remap, sStatus, dialog, 0, 0, 0, &nUserDialogChoice);
         return false;
     }
     return true;

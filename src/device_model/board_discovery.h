@@ -4,9 +4,6 @@
 
 #include "device_model/board_params.h"
 
-// Statuses of BoardInitiate beside those of the device store.
-constexpr u32 StatusNoInterfaceSet = 2;
-
 // Bytes of the buffer for an interface's path; an interface that needs more is passed over.
 constexpr u32 DetailBufferBytes = 1024;
 

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "reporting/trace.h"
+#include "reporting/statuses.h"
 
 namespace {
 
@@ -98,9 +98,9 @@ void EndText(BYTE* field, u32 fieldBytes, u32 storedBytes) {
 }
 
 template <SIZE_T Count>
-u32 ReadValues(const char* function, HDEVINFO set, SP_DEVINFO_DATA* data, const StoreField (&fields)[Count],
-               void* record) {
-    const HKEY key = OpenDeviceKey(function, set, data);
+u32 ReadValues(HDEVINFO set, SP_DEVINFO_DATA* data, const StoreField (&fields)[Count], void* record,
+               TraceName function = __builtin_FUNCTION()) {
+    const HKEY key = OpenDeviceKey(set, data, function);
     if (key == INVALID_HANDLE_VALUE) {
         return StatusNoKey;
     }
@@ -129,9 +129,9 @@ struct StoreNumber {
 };
 
 template <SIZE_T Count>
-u32 WriteValues(const char* function, HDEVINFO set, SP_DEVINFO_DATA* data,
-                const StoreNumber (&numbers)[Count]) {
-    const HKEY key = OpenDeviceKey(function, set, data);
+u32 WriteValues(HDEVINFO set, SP_DEVINFO_DATA* data, const StoreNumber (&numbers)[Count],
+                TraceName function = __builtin_FUNCTION()) {
+    const HKEY key = OpenDeviceKey(set, data, function);
     if (key == INVALID_HANDLE_VALUE) {
         return StatusNoKey;
     }
@@ -152,7 +152,7 @@ u32 WriteValues(const char* function, HDEVINFO set, SP_DEVINFO_DATA* data,
 
 } // namespace
 
-HKEY OpenDeviceKey(const char* function, HDEVINFO set, SP_DEVINFO_DATA* data) {
+HKEY OpenDeviceKey(HDEVINFO set, SP_DEVINFO_DATA* data, TraceName function) {
     const HKEY key = SetupDiOpenDevRegKey(set, data, DICS_FLAG_GLOBAL, 0, DIREG_DEV, KEY_ALL_ACCESS);
     if (key == INVALID_HANDLE_VALUE) {
         TraceOut("%s - SetupDiOpenDevRegKey() fail, GetLastError:%d\n", function, GetLastError());
@@ -161,44 +161,44 @@ HKEY OpenDeviceKey(const char* function, HDEVINFO set, SP_DEVINFO_DATA* data) {
 }
 
 u32 Kavro_RegBoardGetBasic(HDEVINFO set, SP_DEVINFO_DATA* data, BoardBasicInfo* info) {
-    return ReadValues(__func__, set, data, BoardBasicFields, info);
+    return ReadValues(set, data, BoardBasicFields, info);
 }
 
 u32 Kavro_RegBoardGetOther(HDEVINFO set, SP_DEVINFO_DATA* data, BoardOtherInfo* info) {
-    return ReadValues(__func__, set, data, BoardOtherFields, info);
+    return ReadValues(set, data, BoardOtherFields, info);
 }
 
 u32 Kavro_RegChlGetBasic(HDEVINFO set, SP_DEVINFO_DATA* data, ChlBasicInfo* info) {
-    return ReadValues(__func__, set, data, ChlBasicFields, info);
+    return ReadValues(set, data, ChlBasicFields, info);
 }
 
 u32 Kavro_RegConfigGetBasic(HDEVINFO set, SP_DEVINFO_DATA* data, ConfigBasicInfo* info) {
-    return ReadValues(__func__, set, data, ConfigBasicFields, info);
+    return ReadValues(set, data, ConfigBasicFields, info);
 }
 
 u32 Kavro_RegDioGetBasic(HDEVINFO set, SP_DEVINFO_DATA* data, DioBasicInfo* info) {
-    return ReadValues(__func__, set, data, DioBasicFields, info);
+    return ReadValues(set, data, DioBasicFields, info);
 }
 
 u32 Kavro_RegMcp251xGetBasic(HDEVINFO set, SP_DEVINFO_DATA* data, Mcp251xBasicInfo* info) {
-    return ReadValues(__func__, set, data, Mcp251xBasicFields, info);
+    return ReadValues(set, data, Mcp251xBasicFields, info);
 }
 
 u32 Kavro_RegMcp251xFdGetBasic(HDEVINFO set, SP_DEVINFO_DATA* data, Mcp251xFdBasicInfo* info) {
-    return ReadValues(__func__, set, data, Mcp251xFdBasicFields, info);
+    return ReadValues(set, data, Mcp251xFdBasicFields, info);
 }
 
 u32 Kavro_RegCanGetBasic(HDEVINFO set, SP_DEVINFO_DATA* data, CanBasicInfo* info) {
-    return ReadValues(__func__, set, data, CanBasicFields, info);
+    return ReadValues(set, data, CanBasicFields, info);
 }
 
 u32 Kavro_RegUartGetBasic(HDEVINFO set, SP_DEVINFO_DATA* data, UartBasicInfo* info) {
-    return ReadValues(__func__, set, data, UartBasicFields, info);
+    return ReadValues(set, data, UartBasicFields, info);
 }
 
 u32 Kavro_RegUartGetCOMName(HDEVINFO set, SP_DEVINFO_DATA* data, WCHAR* text, u32 bytes) {
     const StoreField portName[] = {{TEXT("PortName"), 0, bytes, true}};
-    return ReadValues(__func__, set, data, portName, text);
+    return ReadValues(set, data, portName, text);
 }
 
 u32 Kavro_RegUartSetFifoSettings(HDEVINFO set, SP_DEVINFO_DATA* data, u32 UartFifoEnable,
@@ -208,7 +208,7 @@ u32 Kavro_RegUartSetFifoSettings(HDEVINFO set, SP_DEVINFO_DATA* data, u32 UartFi
         {TEXT("UartTxFifoLowHigh"), UartTxFifoLowHigh},
         {TEXT("UartRxFifoLowHigh"), UartRxFifoLowHigh},
     };
-    return WriteValues(__func__, set, data, numbers);
+    return WriteValues(set, data, numbers);
 }
 
 u32 Kavro_RegUartSetAdvanceSettings(HDEVINFO set, SP_DEVINFO_DATA* data, u32 UartMode, u32 UartAHDC,
@@ -222,5 +222,5 @@ u32 Kavro_RegUartSetAdvanceSettings(HDEVINFO set, SP_DEVINFO_DATA* data, u32 Uar
         {TEXT("UartRS422Termination"), UartRS422Termination},
         {TEXT("UartRS485Termination"), UartRS485Termination},
     };
-    return WriteValues(__func__, set, data, numbers);
+    return WriteValues(set, data, numbers);
 }

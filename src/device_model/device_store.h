@@ -10,11 +10,7 @@
 #pragma once
 
 #include "device_model/board_params.h"
-
-constexpr u32 StatusNoMemory = 1;      // of the operations above the store: no memory for a record or buffer
-constexpr u32 StatusNoKey = 100;       // the device's key can't be opened; nothing was read or written
-constexpr u32 StatusReadFailed = 101;  // a value can't be read
-constexpr u32 StatusWriteFailed = 102; // a value can't be written; those before it are written
+#include "reporting/trace.h"
 
 // Each returns 0, StatusNoKey or StatusReadFailed.
 u32 Kavro_RegBoardGetBasic(HDEVINFO set, SP_DEVINFO_DATA* data, BoardBasicInfo* info);
@@ -37,6 +33,5 @@ u32 Kavro_RegUartSetAdvanceSettings(HDEVINFO set, SP_DEVINFO_DATA* data, u32 Uar
                                     u32 UartCS, u32 UartAutoRS422485, u32 UartRS422Termination,
                                     u32 UartRS485Termination);
 
-// Opens a device's hardware key with full access, for `function`. INVALID_HANDLE_VALUE on failure; the caller
-// closes the key.
-HKEY OpenDeviceKey(const char* function, HDEVINFO set, SP_DEVINFO_DATA* data);
+// Opens a device's hardware key with full access. INVALID_HANDLE_VALUE on failure; the caller closes the key.
+HKEY OpenDeviceKey(HDEVINFO set, SP_DEVINFO_DATA* data, TraceName function = __builtin_FUNCTION());

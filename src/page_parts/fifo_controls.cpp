@@ -1,7 +1,6 @@
 #include "page_parts/fifo_controls.h"
 
 #include "page_parts/label_text.h"
-#include "reporting/trace.h"
 #include "resources/resource_ids.h"
 
 namespace {
@@ -11,27 +10,8 @@ constexpr int FifoControls[] = {
     IDC_RECEIVE_SLIDER,  IDC_RECEIVE_LOW,  IDC_RECEIVE_HIGH,  IDC_RECEIVE_CAPTION,
 };
 
-void ShowLabel(HWND hDlg, int label, UINT stringId, u32 value) {
-    _SetTextFromString(GetDlgItem(hDlg, label), stringId, value);
-}
-
-// The highest position travels in 16 bits.
-void SetSliderRange(HWND hDlg, int slider, u32 highest) {
-    SendDlgItemMessageW(hDlg, slider, TBM_SETRANGE, TRUE, MAKELPARAM(1, highest));
-}
-
 u32 SliderPosition(HWND hDlg, int slider) {
     return static_cast<u32>(SendDlgItemMessageW(hDlg, slider, TBM_GETPOS, 0, 0));
-}
-
-void PutTransmitSlider(HWND hDlg, u32 position) {
-    SendDlgItemMessageW(hDlg, IDC_TRANSMIT_SLIDER, TBM_SETPOS, TRUE, static_cast<LPARAM>(position));
-    ShowLabel(hDlg, IDC_TRANSMIT_HIGH, IDS_HIGH, position);
-}
-
-void PutReceiveSlider(HWND hDlg, u32 position, u32 level) {
-    SendDlgItemMessageW(hDlg, IDC_RECEIVE_SLIDER, TBM_SETPOS, TRUE, static_cast<LPARAM>(position));
-    ShowLabel(hDlg, IDC_RECEIVE_HIGH, IDS_HIGH, level);
 }
 
 u32 AtLeastOneAtMost(u32 level, u32 bound) {
@@ -41,94 +21,99 @@ u32 AtLeastOneAtMost(u32 level, u32 bound) {
 
 } // namespace
 
+void RememberFifoPositions(const UartBasicInfo& uart, FifoSliders* sliders) {
+    const bool fifoEnable = uart.UartFifoEnable != 0;
+    sliders->TxFifoPosTranslate = fifoEnable ? uart.UartTxFifoLowHigh : 1;
+    sliders->RxFifoPos = RxPositionOfTrigger(sliders->RxFifo4Stage, uart.UartRxFifoLowHigh, fifoEnable);
+    sliders->RxFifoPosTranslate = RxStageOfPosition(sliders->RxFifo4Stage, sliders->RxFifoPos);
+}
+
 void _EnableFifoControls(HWND hDlg, BOOL enable) {
+    TraceOut("----> %s( )\n", __func__);
     for (const int control : FifoControls) {
         EnableWindow(GetDlgItem(hDlg, control), enable);
     }
+    TraceOut("<---- %s\n", __func__);
 }
 
-void ShowFifoLowLabels(HWND hDlg) {
-    ShowLabel(hDlg, IDC_TRANSMIT_LOW, IDS_LOW, 1);
-    ShowLabel(hDlg, IDC_RECEIVE_LOW, IDS_LOW, 1);
-}
-
-void ShowFifoLabelsAtOne(HWND hDlg) {
-    ShowLabel(hDlg, IDC_TRANSMIT_HIGH, IDS_HIGH, 1);
-    ShowLabel(hDlg, IDC_TRANSMIT_LOW, IDS_LOW, 1);
-    ShowLabel(hDlg, IDC_RECEIVE_HIGH, IDS_HIGH, 1);
-    ShowLabel(hDlg, IDC_RECEIVE_LOW, IDS_LOW, 1);
-}
-
-void ShowFifoSettings(HWND hDlg, const UartBasicInfo& uart, FifoSliders* sliders) {
-    const bool fifoEnable = uart.UartFifoEnable != 0;
+void ShowFifoCheckBox(HWND hDlg, bool checked) {
     EnableWindow(GetDlgItem(hDlg, IDC_LARGEFIFO), TRUE);
-    CheckDlgButton(hDlg, IDC_LARGEFIFO, fifoEnable ? BST_CHECKED : BST_UNCHECKED);
-
-    SetSliderRange(hDlg, IDC_TRANSMIT_SLIDER, uart.UartTxFifoSize);
-    sliders->TxFifoPosTranslate = fifoEnable ? uart.UartTxFifoLowHigh : 1;
-    PutTransmitSlider(hDlg, sliders->TxFifoPosTranslate);
-
-    SetSliderRange(hDlg, IDC_RECEIVE_SLIDER, RxFifoStageCount);
-    sliders->RxFifoPos = RxPositionOfTrigger(sliders->RxFifo4Stage, uart.UartRxFifoLowHigh, fifoEnable);
-    sliders->RxFifoPosTranslate = RxStageOfPosition(sliders->RxFifo4Stage, sliders->RxFifoPos);
-    PutReceiveSlider(hDlg, sliders->RxFifoPos, sliders->RxFifoPosTranslate);
-
-    _EnableFifoControls(hDlg, fifoEnable);
+    CheckDlgButton(hDlg, IDC_LARGEFIFO, checked ? BST_CHECKED : BST_UNCHECKED);
 }
 
-void ShowFifoDefaults(HWND hDlg, const UartBasicInfo& uart, const FifoSliders& sliders) {
-    EnableWindow(GetDlgItem(hDlg, IDC_LARGEFIFO), TRUE);
-    CheckDlgButton(hDlg, IDC_LARGEFIFO, BST_CHECKED);
-    PutTransmitSlider(hDlg, uart.UartTxFifoSize);
-    PutReceiveSlider(hDlg, RxFifoStageCount, RxStageOfPosition(sliders.RxFifo4Stage, RxFifoStageCount));
-    _EnableFifoControls(hDlg, TRUE);
+void ShowFifoLabel(HWND hDlg, int label, UINT stringId, u32 value) {
+    _SetTextFromString(GetDlgItem(hDlg, label), stringId, value);
 }
 
-void FifoEnableClicked(HWND hDlg, FifoSliders* sliders) {
+void SetFifoSliderRange(HWND hDlg, int slider, u32 highest) {
+    SendDlgItemMessageW(hDlg, slider, TBM_SETRANGE, TRUE, MAKELPARAM(1, highest));
+}
+
+void PutFifoSlider(HWND hDlg, int slider, u32 position) {
+    SendDlgItemMessageW(hDlg, slider, TBM_SETPOS, TRUE, static_cast<LPARAM>(position));
+}
+
+void PutTransmitSlider(HWND hDlg, u32 position) {
+    PutFifoSlider(hDlg, IDC_TRANSMIT_SLIDER, position);
+    ShowFifoLabel(hDlg, IDC_TRANSMIT_HIGH, IDS_HIGH, position);
+}
+
+void PutReceiveSlider(HWND hDlg, u32 position, u32 level) {
+    PutFifoSlider(hDlg, IDC_RECEIVE_SLIDER, position);
+    ShowFifoLabel(hDlg, IDC_RECEIVE_HIGH, IDS_HIGH, level);
+}
+
+void FollowFifoCheckBox(HWND hDlg, FifoSliders* sliders, TraceName function) {
     const bool checked = IsDlgButtonChecked(hDlg, IDC_LARGEFIFO) == BST_CHECKED;
     if (checked) {
-        TraceOut("%s - FifoEnable CHECKED, RxFifoPos:%d, TxFifoPosTranslate:%d\n", __func__,
+        TraceOut("%s - FifoEnable CHECKED, RxFifoPos:%d, TxFifoPosTranslate:%d\n", function,
                  sliders->RxFifoPos, sliders->TxFifoPosTranslate);
         PutTransmitSlider(hDlg, sliders->TxFifoPosTranslate);
         sliders->RxFifoPosTranslate = RxStageOfPosition(sliders->RxFifo4Stage, sliders->RxFifoPos);
         PutReceiveSlider(hDlg, sliders->RxFifoPos, sliders->RxFifoPosTranslate);
     } else {
-        TraceOut("%s - FifoEnable UNCHECKED\n", __func__);
+        TraceOut("%s - FifoEnable UNCHECKED\n", function);
         PutTransmitSlider(hDlg, 1);
         PutReceiveSlider(hDlg, 1, 1);
     }
     _EnableFifoControls(hDlg, checked);
 }
 
-void FifoSliderMoved(HWND hDlg, HWND slider, FifoSliders* sliders) {
+void FollowFifoSlider(HWND hDlg, HWND slider, FifoSliders* sliders, TraceName function) {
     switch (GetDlgCtrlID(slider)) {
     case IDC_RECEIVE_SLIDER:
         sliders->RxFifoPos = SliderPosition(hDlg, IDC_RECEIVE_SLIDER);
         sliders->RxFifoPosTranslate = RxStageOfPosition(sliders->RxFifo4Stage, sliders->RxFifoPos);
-        TraceOut("%s - IDC_RECEIVE_SLIDER, RxFifoPos:%d, RxFifoPosTranslate:%d\n", __func__,
+        TraceOut("%s - IDC_RECEIVE_SLIDER, RxFifoPos:%d, RxFifoPosTranslate:%d\n", function,
                  sliders->RxFifoPos, sliders->RxFifoPosTranslate);
-        ShowLabel(hDlg, IDC_RECEIVE_HIGH, IDS_HIGH, sliders->RxFifoPosTranslate);
+        ShowFifoLabel(hDlg, IDC_RECEIVE_HIGH, IDS_HIGH, sliders->RxFifoPosTranslate);
         break;
     case IDC_TRANSMIT_SLIDER:
         sliders->TxFifoPosTranslate = SliderPosition(hDlg, IDC_TRANSMIT_SLIDER);
-        TraceOut("%s - IDC_TRANSMIT_SLIDER, TxFifoPosTranslate:%d\n", __func__, sliders->TxFifoPosTranslate);
-        ShowLabel(hDlg, IDC_TRANSMIT_HIGH, IDS_HIGH, sliders->TxFifoPosTranslate);
+        TraceOut("%s - IDC_TRANSMIT_SLIDER, TxFifoPosTranslate:%d\n", function, sliders->TxFifoPosTranslate);
+        ShowFifoLabel(hDlg, IDC_TRANSMIT_HIGH, IDS_HIGH, sliders->TxFifoPosTranslate);
         break;
     }
 }
 
 FifoValues _ReadFifoSliders(HWND hDlg, const UartBasicInfo& uart, const FifoSliders& sliders) {
+    TraceOut("----> %s( )\n", __func__);
     FifoValues values = {0, 1, 1};
     if (IsDlgButtonChecked(hDlg, IDC_LARGEFIFO) == BST_CHECKED) {
         const auto& stages = sliders.RxFifo4Stage;
-        const u32 stage = RxStageOfPosition(stages, SliderPosition(hDlg, IDC_RECEIVE_SLIDER));
+        const u32 transmit = SliderPosition(hDlg, IDC_TRANSMIT_SLIDER);
+        const u32 receive = SliderPosition(hDlg, IDC_RECEIVE_SLIDER);
         values.UartFifoEnable = 1;
-        values.UartTxFifoLowHigh =
-            AtLeastOneAtMost(SliderPosition(hDlg, IDC_TRANSMIT_SLIDER), uart.UartTxFifoSize);
-        values.UartRxFifoLowHigh = AtLeastOneAtMost(stage, stages[RxFifoStageCount - 1]);
+        values.UartTxFifoLowHigh = AtLeastOneAtMost(transmit, uart.UartTxFifoSize);
+        values.UartRxFifoLowHigh =
+            AtLeastOneAtMost(RxStageOfPosition(stages, receive), stages[RxFifoStageCount - 1]);
     }
-    TraceOut("%s - nFifoEnable:%d\n", __func__, values.UartFifoEnable);
-    TraceOut("%s - nTxFifoLowHigh:%d\n", __func__, values.UartTxFifoLowHigh);
-    TraceOut("%s - nRxFifoLowHigh:%d\n", __func__, values.UartRxFifoLowHigh);
+    TraceOut("<---- %s\n", __func__);
     return values;
+}
+
+void TraceFifoValues(const FifoValues& values, TraceName function) {
+    TraceOut("%s - nFifoEnable:%d\n", function, values.UartFifoEnable);
+    TraceOut("%s - nTxFifoLowHigh:%d\n", function, values.UartTxFifoLowHigh);
+    TraceOut("%s - nRxFifoLowHigh:%d\n", function, values.UartRxFifoLowHigh);
 }

@@ -6,38 +6,43 @@
 // depth of the FIFO. A high label shows the level that its slider stands at.
 #pragma once
 
-#include "device_model/board_params.h"
+#include "page_parts/fifo_values.h"
+#include "reporting/trace.h"
 
-// What the controls say: the check box, and two trigger levels in bytes; 0, 1, 1 with the box unchecked.
-struct FifoValues {
-    u32 UartFifoEnable;
-    u32 UartTxFifoLowHigh;
-    u32 UartRxFifoLowHigh;
-};
+// The slider positions that show a UART's stored or pending values; the stages must be set.
+void RememberFifoPositions(const UartBasicInfo& uart, FifoSliders* sliders);
 
 // Enables or disables both sliders with their labels.
 void _EnableFifoControls(HWND hDlg, BOOL enable);
 
-// The two low labels, which always show 1.
-void ShowFifoLowLabels(HWND hDlg);
-// All four labels at 1, with the sliders left alone.
-void ShowFifoLabelsAtOne(HWND hDlg);
+// The check box enabled, and checked or not.
+void ShowFifoCheckBox(HWND hDlg, bool checked);
 
-// Shows a UART's stored or pending settings: the check box enabled and checked, ranges, positions and high
-// labels, the sliders enabled with the box. `sliders` takes the positions; its stages must be set.
-void ShowFifoSettings(HWND hDlg, const UartBasicInfo& uart, FifoSliders* sliders);
+// One of the four labels with a number, from IDS_LOW or IDS_HIGH.
+void ShowFifoLabel(HWND hDlg, int label, UINT stringId, u32 value);
 
-// Shows the defaults: FIFO on, both sliders at their tops. The positions in `sliders` stay as they are.
-void ShowFifoDefaults(HWND hDlg, const UartBasicInfo& uart, const FifoSliders& sliders);
+// A slider's range, 1 to `highest`, which travels in 16 bits.
+void SetFifoSliderRange(HWND hDlg, int slider, u32 highest);
+
+// A slider at a position; its label stays.
+void PutFifoSlider(HWND hDlg, int slider, u32 position);
+
+// A slider at a position with its high label at the trigger level.
+void PutTransmitSlider(HWND hDlg, u32 position);
+void PutReceiveSlider(HWND hDlg, u32 position, u32 level);
 
 // After a click on the check box: the sliders go to the remembered positions, or to 1 with their positions
 // remembered.
-void FifoEnableClicked(HWND hDlg, FifoSliders* sliders);
+void FollowFifoCheckBox(HWND hDlg, FifoSliders* sliders, TraceName function = __builtin_FUNCTION());
 
-// After a slider has moved, WM_HSCROLL: its position is taken over and its high label follows. Nothing for a
+// After a slider has moved, WM_HSCROLL: its position is remembered and its high label follows. Nothing for a
 // control that is none of the two.
-void FifoSliderMoved(HWND hDlg, HWND slider, FifoSliders* sliders);
+void FollowFifoSlider(HWND hDlg, HWND slider, FifoSliders* sliders,
+                      TraceName function = __builtin_FUNCTION());
 
 // The one way from the controls to values: each trigger level raised to 1 and lowered to its bound, the
 // transmit FIFO's depth or the highest receive stage.
 FifoValues _ReadFifoSliders(HWND hDlg, const UartBasicInfo& uart, const FifoSliders& sliders);
+
+// The lines of what was read.
+void TraceFifoValues(const FifoValues& values, TraceName function = __builtin_FUNCTION());

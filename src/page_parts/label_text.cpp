@@ -2,8 +2,10 @@
 
 #include "reporting/module_entry.h"
 #include "reporting/text_operations.h"
+#include "reporting/trace.h"
 
 void _SetTextFromString(HWND control, UINT stringId, u32 value) {
+    TraceOut("----> %s( )\n", __func__);
     WCHAR format[ControlTextCapacity];
     WCHAR text[ControlTextCapacity];
     if (LoadStringW(ModuleInstance, stringId, format, ARRAYSIZE(format)) == 0) {
@@ -11,9 +13,11 @@ void _SetTextFromString(HWND control, UINT stringId, u32 value) {
     }
     FormatText(text, ARRAYSIZE(text), format, value);
     SetWindowTextW(control, text);
+    TraceOut("<---- %s\n", __func__);
 }
 
 void _SetTextFromOwnFormat(HWND hDlg, int controlId, u32 value) {
+    TraceOut("----> %s( )\n", __func__);
     const HWND control = GetDlgItem(hDlg, controlId);
     WCHAR format[ControlTextCapacity];
     WCHAR text[ControlTextCapacity];
@@ -21,4 +25,5 @@ void _SetTextFromOwnFormat(HWND hDlg, int controlId, u32 value) {
         FormatText(text, ARRAYSIZE(text), format, value);
         SetWindowTextW(control, text);
     }
+    TraceOut("<---- %s\n", __func__);
 }

@@ -1,7 +1,9 @@
 #include "reporting/error_reporter.h"
 
 #include "reporting/module_entry.h"
+#include "reporting/statuses.h"
 #include "reporting/text_operations.h"
+#include "reporting/trace.h"
 #include "resources/resource_ids.h"
 
 namespace {
@@ -117,6 +119,7 @@ void ShowFromStrings(HWND owner, UINT stringId, UINT style, WCHAR* text, WCHAR* 
 
 void ErrorBoxShow(u32 oerr, u32 serr, HWND parent, u32 channel, u32 firstNumber, u32 secondNumber,
                   u32* nUserDialogChoice) {
+    TraceOut("----> %s( )\n", __func__);
     if (nUserDialogChoice != nullptr) {
         *nUserDialogChoice = IDNO;
     }
@@ -154,4 +157,5 @@ void ErrorBoxShow(u32 oerr, u32 serr, HWND parent, u32 channel, u32 firstNumber,
     if (caption != nullptr) {
         LocalFree(caption);
     }
+    TraceOut("<---- %s\n", __func__);
 }

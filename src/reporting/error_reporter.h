@@ -40,10 +40,6 @@ enum FailureCode : u32 {
     FailureSortFromTemporary = 406,
 };
 
-// Statuses with a text of their own under the codes that name them.
-constexpr u32 StatusPortOpened = 3;
-constexpr u32 StatusNumberClaimed = 202;
-
 // Shows the box of a failure and returns when it has closed.
 //
 // oerr: the failure code. serr: the status of the failed operation, 0 where there is none. parent: the owner
@@ -51,5 +47,5 @@ constexpr u32 StatusNumberClaimed = 202;
 // numbers for the texts that print them, else 0. nUserDialogChoice: where the answer goes, IDYES, IDNO or
 // IDOK; IDNO from every box that asks nothing. May be null but for the codes that ask or notify: 203, 205 and
 // 305.
-void ErrorBoxShow(u32 oerr, u32 serr, HWND parent, u32 channel, u32 firstNumber, u32 secondNumber,
-                  u32* nUserDialogChoice);
+void ErrorBoxShow(u32 oerr, u32 serr, HWND parent, u32 channel = 0, u32 firstNumber = 0, u32 secondNumber = 0,
+                  u32* nUserDialogChoice = nullptr);

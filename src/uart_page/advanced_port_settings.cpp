@@ -2,13 +2,11 @@
 
 #include "com_numbers/com_port_database.h"
 #include "com_numbers/port_rename.h"
-#include "com_numbers/port_settings_migration.h"
 #include "device_model/device_store.h"
 #include "page_parts/fifo_controls.h"
 #include "page_parts/label_text.h"
 #include "reporting/error_reporter.h"
 #include "reporting/module_entry.h"
-#include "reporting/trace.h"
 #include "resources/resource_ids.h"
 #include "uart_page/parent_title.h"
 
@@ -16,41 +14,68 @@ namespace {
 
 constexpr u32 TitleCapacity = 200;
 
-constexpr RenameFailureCodes RenameCodes = {FailurePortNumberInUse, FailurePortOpened, FailurePortRemap};
+constexpr RenameTerms PortRenameTerms = {FailurePortNumberInUse, FailurePortOpened, FailurePortRemap, true};
 
-// The captions of this dialog are formats for the bounds of the FIFO.
-void FillCaptions(HWND hDlg, const UartBasicInfo& uart, const FifoSliders& sliders) {
-    const struct {
-        int control;
-        u32 value;
-    } captions[] = {
-        {IDC_LARGEFIFO, uart.UartRxFifoSize},
-        {IDC_TRANSMIT_LOW, 1},
-        {IDC_TRANSMIT_HIGH, uart.UartTxFifoSize},
-        {IDC_RECEIVE_LOW, sliders.RxFifo4Stage[0]},
-        {IDC_RECEIVE_HIGH, sliders.RxFifo4Stage[RxFifoStageCount - 1]},
-    };
-    for (const auto& caption : captions) {
-        _SetTextFromOwnFormat(hDlg, caption.control, caption.value);
-    }
+UartAdvancedParams* DialogParams(HWND hDlg) {
+    return reinterpret_cast<UartAdvancedParams*>(GetWindowLongPtrW(hDlg, DWLP_USER));
+}
+
+// A rename asked for in the dialog, with the sheet's title to follow.
+struct RenameInDialog : PortRename {
+    HWND hDlg;
+};
+
+// One direction of the FIFO: the controls, the bounds that its captions, which are formats, are given, and
+// where its slider stands.
+struct FifoDirection {
+    int slider;
+    int low;
+    int high;
+    u32 highestPosition;
+    u32 lowestLevel;
+    u32 highestLevel;
+    u32 position;
+    u32 level;
+};
+
+void ShowDirection(HWND hDlg, const FifoDirection& direction) {
+    SetFifoSliderRange(hDlg, direction.slider, direction.highestPosition);
+    _SetTextFromOwnFormat(hDlg, direction.low, direction.lowestLevel);
+    _SetTextFromOwnFormat(hDlg, direction.high, direction.highestLevel);
+    PutFifoSlider(hDlg, direction.slider, direction.position);
+    ShowFifoLabel(hDlg, direction.low, IDS_LOW, 1);
+    ShowFifoLabel(hDlg, direction.high, IDS_HIGH, direction.level);
+}
+
+void ShowFifo(HWND hDlg, const UartBasicInfo& uart, const FifoSliders& sliders) {
+    const u32 txPosition = sliders.TxFifoPosTranslate;
+    const auto& stages = sliders.RxFifo4Stage;
+    _SetTextFromOwnFormat(hDlg, IDC_LARGEFIFO, uart.UartRxFifoSize);
+    ShowFifoCheckBox(hDlg, uart.UartFifoEnable != 0);
+    ShowDirection(hDlg, {IDC_TRANSMIT_SLIDER, IDC_TRANSMIT_LOW, IDC_TRANSMIT_HIGH, uart.UartTxFifoSize, 1,
+                         uart.UartTxFifoSize, txPosition, txPosition});
+    ShowDirection(hDlg, {IDC_RECEIVE_SLIDER, IDC_RECEIVE_LOW, IDC_RECEIVE_HIGH, RxFifoStageCount, stages[0],
+                         stages[RxFifoStageCount - 1], sliders.RxFifoPos, sliders.RxFifoPosTranslate});
+    _EnableFifoControls(hDlg, uart.UartFifoEnable != 0);
 }
 
 bool _InitializeControls(HWND hDlg, UartAdvancedParams* params, u32* code, u32* status) {
+    TraceOut("----> %s( )\n", __func__);
     const UartBasicInfo& uart = params->UartBasicInfo;
     FifoSliders& sliders = params->Fifo;
     *code = 0;
     RxFifoStages(uart.UartRxFifoSize, sliders.RxFifo4Stage);
     TraceOut("%s - RxFifo4Stage: %d, %d, %d, %d\n", __func__, sliders.RxFifo4Stage[0],
              sliders.RxFifo4Stage[1], sliders.RxFifo4Stage[2], sliders.RxFifo4Stage[3]);
-    FillCaptions(hDlg, uart, sliders);
-    ShowFifoLowLabels(hDlg);
-    ShowFifoSettings(hDlg, uart, &sliders);
+    RememberFifoPositions(uart, &sliders);
+    ShowFifo(hDlg, uart, sliders);
     *status = Kavro_COMPortFillPortNameCombox(hDlg, params->ComName);
-    if (*status != 0) {
+    const bool bSuccess = *status == 0;
+    if (!bSuccess) {
         *code = FailurePortNumberCombo;
-        return false;
     }
-    return true;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
 bool ShowTitle(HWND hDlg, const WCHAR* comName) {
@@ -66,97 +91,106 @@ bool ShowTitle(HWND hDlg, const WCHAR* comName) {
 
 // A dialog that fails to initialise stays as far as it came; its OK and Cancel work.
 bool _OnInitDialog(HWND hDlg, LPARAM lParam) {
+    TraceOut("----> %s( )\n", __func__);
     auto* params = reinterpret_cast<UartAdvancedParams*>(lParam);
     SetWindowLongPtrW(hDlg, DWLP_USER, lParam);
     u32 code = 0;
     u32 sStatus = 0;
-    if (!_InitializeControls(hDlg, params, &code, &sStatus)) {
-        ErrorBoxShow(code, sStatus, hDlg, 0, 0, 0, nullptr);
-        return false;
+    bool bSuccess = _InitializeControls(hDlg, params, &code, &sStatus);
+    if (bSuccess) {
+        bSuccess = ShowTitle(hDlg, params->ComName);
+    } else {
+        ErrorBoxShow(code, sStatus, hDlg);
     }
-    return ShowTitle(hDlg, params->ComName);
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
-void _OnHScroll(HWND hDlg, HWND slider) {
-    auto* params = reinterpret_cast<UartAdvancedParams*>(GetWindowLongPtrW(hDlg, DWLP_USER));
+void _OnHScroll(HWND hDlg, LPARAM lParam) {
+    TraceOut("----> %s( )\n", __func__);
+    UartAdvancedParams* params = DialogParams(hDlg);
     if (params != nullptr) {
-        FifoSliderMoved(hDlg, slider, &params->Fifo);
+        FollowFifoSlider(hDlg, reinterpret_cast<HWND>(lParam), &params->Fifo);
     }
+    TraceOut("<---- %s\n", __func__);
+}
+
+void _FifoEnableClicked(HWND hDlg) {
+    TraceOut("----> %s( )\n", __func__);
+    FollowFifoCheckBox(hDlg, &DialogParams(hDlg)->Fifo);
+    TraceOut("<---- %s\n", __func__);
 }
 
 // Unlike the page's Restore Defaults this one moves the remembered positions too, and the COM number combo
 // back to the port's present name.
 void _RestoreDefaultClicked(HWND hDlg, UartAdvancedParams* params) {
-    const UartBasicInfo& uart = params->UartBasicInfo;
+    TraceOut("----> %s( )\n", __func__);
     FifoSliders& sliders = params->Fifo;
-    ShowFifoDefaults(hDlg, uart, sliders);
+    ShowFifoCheckBox(hDlg, true);
     sliders.RxFifoPos = RxFifoStageCount;
     sliders.RxFifoPosTranslate = RxStageOfPosition(sliders.RxFifo4Stage, sliders.RxFifoPos);
-    sliders.TxFifoPosTranslate = uart.UartTxFifoSize;
+    PutReceiveSlider(hDlg, sliders.RxFifoPos, sliders.RxFifoPosTranslate);
+    sliders.TxFifoPosTranslate = params->UartBasicInfo.UartTxFifoSize;
+    PutTransmitSlider(hDlg, sliders.TxFifoPosTranslate);
+    _EnableFifoControls(hDlg, TRUE);
     const LRESULT found = SendDlgItemMessageW(hDlg, IDC_PORT_NUMBER, CB_FINDSTRING, static_cast<WPARAM>(-1),
                                               reinterpret_cast<LPARAM>(params->ComName));
     SendDlgItemMessageW(hDlg, IDC_PORT_NUMBER, CB_SETCURSEL, LOWORD(found), 0);
+    TraceOut("<---- %s\n", __func__);
 }
 
 // The status of the write; 0 also if the values are those that were read at the opening.
-u32 StoreFifoSettings(HWND hDlg, UartAdvancedParams* params) {
-    const UartBasicInfo& uart = params->UartBasicInfo;
-    const FifoValues values = _ReadFifoSliders(hDlg, uart, params->Fifo);
-    if (values.UartFifoEnable == uart.UartFifoEnable && values.UartTxFifoLowHigh == uart.UartTxFifoLowHigh &&
-        values.UartRxFifoLowHigh == uart.UartRxFifoLowHigh) {
-        TraceOut("%s - fifo settings not change\n", __func__);
+u32 WriteFifoValues(UartAdvancedParams* params, const FifoValues& values,
+                    TraceName function = __builtin_FUNCTION()) {
+    const FifoValues old = FifoValuesOf(params->UartBasicInfo);
+    if (SameFifoValues(values, old)) {
+        TraceOut("%s - fifo settings not change\n", function);
         return 0;
     }
-    TraceOut("%s - fifo settings change\n", __func__);
-    TraceOut("%s - FifoEnable [old:%d, new:%d]\n", __func__, uart.UartFifoEnable, values.UartFifoEnable);
-    TraceOut("%s - TxFifoLowHigh [old:%d, new:%d]\n", __func__, uart.UartTxFifoLowHigh,
+    TraceOut("%s - fifo settings change\n", function);
+    TraceOut("%s - FifoEnable [old:%d, new:%d]\n", function, old.UartFifoEnable, values.UartFifoEnable);
+    TraceOut("%s - TxFifoLowHigh [old:%d, new:%d]\n", function, old.UartTxFifoLowHigh,
              values.UartTxFifoLowHigh);
-    TraceOut("%s - RxFifoLowHigh [old:%d, new:%d]\n", __func__, uart.UartRxFifoLowHigh,
+    TraceOut("%s - RxFifoLowHigh [old:%d, new:%d]\n", function, old.UartRxFifoLowHigh,
              values.UartRxFifoLowHigh);
     return Kavro_RegUartSetFifoSettings(params->DeviceInfoSet, params->DeviceInfoData, values.UartFifoEnable,
                                         values.UartTxFifoLowHigh, values.UartRxFifoLowHigh);
 }
 
-// Enacts a change of the COM number combo; true if there is none.
-bool RenameIfChosen(HWND hDlg, UartAdvancedParams* params) {
-    const u32 oldNumber = ComNumberFromName(params->ComName);
-    const INT selection = static_cast<INT>(SendDlgItemMessageW(hDlg, IDC_PORT_NUMBER, CB_GETCURSEL, 0, 0));
-    const u32 newNumber = selection != CB_ERR ? static_cast<u32>(selection) + 1 : oldNumber;
-    if (newNumber == oldNumber) {
-        TraceOut("%s - COM number not change\n", __func__);
-        return true;
-    }
-    TraceOut("%s - COM number change\n", __func__);
-    TraceOut("%s - COM number [old:%d, new:%d]\n", __func__, oldNumber, newNumber);
-    if (!RenamePortForUser(hDlg, RenameCodes, params->DeviceInfoSet, params->DeviceInfoData, oldNumber,
-                           newNumber, params->NewComName, ComNameCapacity)) {
-        return false;
-    }
-    _ChangeParentTitle(GetParent(hDlg), params->ComName, params->NewComName);
-    Kavro_COMPortMigratePortSettings(params->ComName, params->NewComName);
-    return true;
+// The record's ComName stays the old name until the next opening, and with it the title that names it.
+void ChangeSheetTitle(const PortRename& rename) {
+    const auto& asked = static_cast<const RenameInDialog&>(rename);
+    _ChangeParentTitle(GetParent(asked.hDlg), rename.settingsName, rename.newName);
 }
 
 // The FIFO values are written before the number is looked at, and stay written if the number is refused.
 bool _OkClicked(HWND hDlg, UartAdvancedParams* params) {
-    const u32 sStatus = StoreFifoSettings(hDlg, params);
+    TraceOut("----> %s( )\n", __func__);
+    const FifoValues values = _ReadFifoSliders(hDlg, params->UartBasicInfo, params->Fifo);
+    TraceFifoValues(values);
+    const u32 oldNumber = ComNumberFromName(params->ComName);
+    const RenameInDialog rename = {{params->DeviceInfoSet, params->DeviceInfoData, oldNumber,
+                                    ChosenComNumber(hDlg, oldNumber), params->ComName, params->NewComName,
+                                    nullptr, ComNameCapacity, ChangeSheetTitle},
+                                   hDlg};
+    const u32 sStatus = WriteFifoValues(params, values);
     if (sStatus != 0) {
-        ErrorBoxShow(FailurePortSetFifo, sStatus, hDlg, 0, 0, 0, nullptr);
-        return false;
+        ErrorBoxShow(FailurePortSetFifo, sStatus, hDlg);
     }
-    if (!RenameIfChosen(hDlg, params)) {
-        return false;
+    const bool bSuccess = sStatus == 0 && RenamePortForUser(hDlg, PortRenameTerms, rename);
+    if (bSuccess) {
+        SetupDiCallClassInstaller(DIF_PROPERTYCHANGE, params->DeviceInfoSet, params->DeviceInfoData);
     }
-    SetupDiCallClassInstaller(DIF_PROPERTYCHANGE, params->DeviceInfoSet, params->DeviceInfoData);
-    return true;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
-bool _OnCommand(HWND hDlg, int id, int notifyCode) {
-    TraceOut("----> %s( ), NotifyCode:%d\n", __func__, notifyCode);
-    auto* params = reinterpret_cast<UartAdvancedParams*>(GetWindowLongPtrW(hDlg, DWLP_USER));
+bool _OnCommand(HWND hDlg, int id, LPARAM /*lParam*/, int notifyCode) {
+    UartAdvancedParams* params = DialogParams(hDlg);
     if (params == nullptr) {
-        return false; // not initialised yet
+        return false; // before WM_INITDIALOG
     }
+    TraceOut("----> %s( ), NotifyCode:%d\n", __func__, notifyCode);
     bool bSuccess = false;
     switch (id) {
     case IDOK:
@@ -178,7 +212,7 @@ bool _OnCommand(HWND hDlg, int id, int notifyCode) {
         break;
     case IDC_LARGEFIFO:
         TraceOut("%s - IDC_LARGEFIFO\n", __func__);
-        FifoEnableClicked(hDlg, &params->Fifo);
+        _FifoEnableClicked(hDlg);
         bSuccess = true;
         break;
     default:
@@ -196,10 +230,10 @@ INT_PTR CALLBACK UartAdvancedDlgProc(HWND hDlg, UINT message, WPARAM wParam, LPA
         return _OnInitDialog(hDlg, lParam);
     case WM_COMMAND:
         TraceOut("%s - WM_COMMAND\n", __func__);
-        return _OnCommand(hDlg, LOWORD(wParam), HIWORD(wParam));
+        return _OnCommand(hDlg, LOWORD(wParam), lParam, HIWORD(wParam));
     case WM_HSCROLL:
         TraceOut("%s - WM_HSCROLL\n", __func__);
-        _OnHScroll(hDlg, reinterpret_cast<HWND>(lParam));
+        _OnHScroll(hDlg, lParam);
         return true;
     default:
         return false;
@@ -211,13 +245,13 @@ bool ReadPort(HWND hParent, UartAdvancedParams* params) {
     u32 sStatus = Kavro_RegUartGetCOMName(params->DeviceInfoSet, params->DeviceInfoData, params->ComName,
                                           sizeof(params->ComName));
     if (sStatus != 0) {
-        ErrorBoxShow(FailureDialogPortName, sStatus, hParent, 0, 0, 0, nullptr);
+        ErrorBoxShow(FailureDialogPortName, sStatus, hParent);
         return false;
     }
     params->UartBasicInfo = {};
     sStatus = Kavro_RegUartGetBasic(params->DeviceInfoSet, params->DeviceInfoData, &params->UartBasicInfo);
     if (sStatus != 0) {
-        ErrorBoxShow(FailureUartBasic, sStatus, hParent, 0, 0, 0, nullptr);
+        ErrorBoxShow(FailureUartBasic, sStatus, hParent);
         return false;
     }
     return true;

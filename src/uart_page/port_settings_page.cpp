@@ -1,6 +1,7 @@
 #include "uart_page/port_settings_page.h"
 
 #include "device_model/device_store.h"
+#include "page_parts/page_provider.h"
 #include "reporting/error_reporter.h"
 #include "reporting/trace.h"
 #include "resources/resource_ids.h"
@@ -19,60 +20,84 @@ void NotifySheetOfChange(HWND hDlg) {
     SendMessageW(GetParent(hDlg), PSM_CHANGED, reinterpret_cast<WPARAM>(hDlg), 0);
 }
 
+// Null until the page has been initialised.
+UartPageParams* PageParams(HWND hDlg) {
+    return reinterpret_cast<UartPageParams*>(GetWindowLongPtrW(hDlg, DWLP_USER));
+}
+
 bool _FillSettingsDlg(HWND hDlg, UartPageParams* params, u32* code, u32* status) {
+    TraceOut("----> %s( )\n", __func__);
     *code = 0;
     *status = Kavro_RegUartGetCOMName(params->DeviceInfoSet, params->DeviceInfoData, params->ComName,
                                       sizeof(params->ComName));
-    if (*status != 0) {
-        *code = FailurePagePortName;
-        return false;
-    }
-    _GetSettingsFromRegistryAndApplyToUI(hDlg, params);
-    if (!params->ChangesEnabled) {
-        for (const int combo : SettingsCombos) {
-            EnableWindow(GetDlgItem(hDlg, combo), FALSE);
+    const bool bSuccess = *status == 0;
+    if (bSuccess) {
+        WCHAR key[SettingsKeyCapacity];
+        MakeSettingsKey(key, ARRAYSIZE(key), params->ComName);
+        _GetSettingsFromRegistryAndApplyToUI(hDlg, key, params);
+        if (!params->ChangesEnabled) {
+            for (const int combo : SettingsCombos) {
+                EnableWindow(GetDlgItem(hDlg, combo), FALSE);
+            }
         }
+    } else {
+        *code = FailurePagePortName;
     }
-    return true;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
 // A page that fails to initialise stays as far as it came, without its buttons.
 bool _OnInitDialog(HWND hDlg, LPARAM page) {
+    TraceOut("----> %s( )\n", __func__);
     auto* params = reinterpret_cast<UartPageParams*>(reinterpret_cast<const PROPSHEETPAGEW*>(page)->lParam);
     SetWindowLongPtrW(hDlg, DWLP_USER, reinterpret_cast<LONG_PTR>(params));
     EnableWindow(GetDlgItem(hDlg, IDC_ADVANCED), FALSE);
     EnableWindow(GetDlgItem(hDlg, IDC_RESTORE_PORT), FALSE);
     u32 code = 0;
     u32 sStatus = 0;
-    if (!_FillComboxDlg(hDlg, &code) || !_FillSettingsDlg(hDlg, params, &code, &sStatus)) {
-        ErrorBoxShow(code, sStatus, hDlg, 0, 0, 0, nullptr);
-        return false;
+    const bool bSuccess = _FillComboxDlg(hDlg, &code) && _FillSettingsDlg(hDlg, params, &code, &sStatus);
+    if (bSuccess) {
+        TraceOut("%s - ShowAdvanced:%d, ChangesEnabled:%d\n", __func__, params->ShowAdvanced,
+                 params->ChangesEnabled);
+        EnableWindow(GetDlgItem(hDlg, IDC_ADVANCED), params->ShowAdvanced);
+        EnableWindow(GetDlgItem(hDlg, IDC_RESTORE_PORT), params->ChangesEnabled);
+        params->BasicSettingsDlgInitiateOK = true;
+    } else {
+        ErrorBoxShow(code, sStatus, hDlg);
     }
-    TraceOut("%s - ShowAdvanced:%d, ChangesEnabled:%d\n", __func__, params->ShowAdvanced,
-             params->ChangesEnabled);
-    EnableWindow(GetDlgItem(hDlg, IDC_ADVANCED), params->ShowAdvanced);
-    EnableWindow(GetDlgItem(hDlg, IDC_RESTORE_PORT), params->ChangesEnabled);
-    params->BasicSettingsDlgInitiateOK = true;
-    return true;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
 // A rename in the dialog comes back as a new name, the key of the next save. The saved fields stay: the line
 // has moved with the port.
 void _AdvancedClicked(HWND hDlg, UartPageParams* params) {
+    TraceOut("----> %s( )\n", __func__);
     UartAdvancedParams* advanced = params->AdvancedParams;
     CopyText(advanced->NewComName, ComNameCapacity, params->ComName);
     if (KvrUartAdvancedDlgShow(hDlg, advanced)) {
         CopyText(params->ComName, ComNameCapacity, advanced->NewComName);
     }
+    TraceOut("<---- %s\n", __func__);
+}
+
+void _RestoreDefault(HWND hDlg) {
+    TraceOut("----> %s( )\n", __func__);
+    SelectBaudRate(hDlg, DefaultBaudText);
+    SelectSettings(hDlg, DefaultSettings);
+    TraceOut("<---- %s\n", __func__);
 }
 
 void _RestoreDefaultClicked(HWND hDlg) {
-    SelectBaudRate(hDlg, DefaultBaudText);
-    SelectSettings(hDlg, DefaultSettings);
+    TraceOut("----> %s( )\n", __func__);
+    _RestoreDefault(hDlg);
     NotifySheetOfChange(hDlg);
+    TraceOut("<---- %s\n", __func__);
 }
 
-bool ButtonClicked(HWND hDlg, UartPageParams* params, int id, const char* function) {
+// Of a command that is no change of a selection.
+bool ButtonClicked(HWND hDlg, UartPageParams* params, int id, TraceName function = __builtin_FUNCTION()) {
     switch (id) {
     case IDCANCEL:
         TraceOut("%s - IDCANCEL\n", function);
@@ -92,33 +117,38 @@ bool ButtonClicked(HWND hDlg, UartPageParams* params, int id, const char* functi
     }
 }
 
-bool _OnCommand(HWND hDlg, int id, int notifyCode) {
-    TraceOut("----> %s( ), NotifyCode:%d\n", __func__, notifyCode);
-    auto* params = reinterpret_cast<UartPageParams*>(GetWindowLongPtrW(hDlg, DWLP_USER));
-    bool bSuccess = true;
+bool _OnCommand(HWND hDlg, int id, LPARAM /*lParam*/, int notifyCode) {
+    UartPageParams* params = PageParams(hDlg);
     if (params == nullptr) {
-        bSuccess = false;
-    } else if (notifyCode == CBN_SELCHANGE) {
+        return false; // before WM_INITDIALOG
+    }
+    TraceOut("----> %s( ), NotifyCode:%d\n", __func__, notifyCode);
+    bool bSuccess = true;
+    if (notifyCode == CBN_SELCHANGE) {
         NotifySheetOfChange(hDlg);
     } else {
-        bSuccess = ButtonClicked(hDlg, params, id, __func__);
+        bSuccess = ButtonClicked(hDlg, params, id);
     }
     TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
     return bSuccess;
 }
 
+bool _OkClicked(HWND hDlg, const UartPageParams* params) {
+    TraceOut("----> %s( )\n", __func__);
+    WCHAR key[SettingsKeyCapacity];
+    MakeSettingsKey(key, ARRAYSIZE(key), params->ComName);
+    const bool bSuccess = _SaveSettings(hDlg, key, params);
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
+}
+
 bool _OnNotify(HWND hDlg, LPARAM lParam) {
-    if (reinterpret_cast<const NMHDR*>(lParam)->code != PSN_APPLY) {
-        return false;
-    }
-    const auto* params = reinterpret_cast<const UartPageParams*>(GetWindowLongPtrW(hDlg, DWLP_USER));
+    TraceOut("----> %s( )\n", __func__);
+    const UartPageParams* params = PageParams(hDlg);
     const bool initiated = params != nullptr && params->BasicSettingsDlgInitiateOK;
-    TraceOut("%s - PSN_APPLY, BasicSettingsDlgInitiateOK:%d\n", __func__, initiated);
-    if (initiated) {
-        _SaveSettings(hDlg, params);
-    }
-    SetWindowLongPtrW(hDlg, DWLP_MSGRESULT, PSNRET_NOERROR);
-    return true;
+    const bool bSuccess = AnswerNotify(hDlg, lParam, initiated, [&] { _OkClicked(hDlg, params); });
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
 } // namespace
@@ -130,7 +160,7 @@ INT_PTR CALLBACK UartBasicDlgProc(HWND hDlg, UINT message, WPARAM wParam, LPARAM
         return _OnInitDialog(hDlg, lParam);
     case WM_COMMAND:
         TraceOut("%s - WM_COMMAND\n", __func__);
-        return _OnCommand(hDlg, LOWORD(wParam), HIWORD(wParam));
+        return _OnCommand(hDlg, LOWORD(wParam), lParam, HIWORD(wParam));
     case WM_NOTIFY:
         return _OnNotify(hDlg, lParam);
     default:

@@ -50,13 +50,8 @@ void ReplaceDecimalPoint(WCHAR* item, WCHAR separator) {
     }
 }
 
-// The first character of the string separates its items, whatever it is.
-bool _FillComboFromString(HWND combo, UINT stringId, u32 selection, bool localDecimal) {
-    const WCHAR decimal = localDecimal ? LoadDecimalSeparator() : TEXT('\0');
-    WCHAR list[ListStringCapacity];
-    if (LoadStringW(ModuleInstance, stringId, list, ARRAYSIZE(list)) == 0) {
-        return false;
-    }
+// Adds the items of a list string, which its first character separates, whatever that is.
+void AddItems(HWND combo, WCHAR* list, WCHAR decimal) {
     const WCHAR separator[] = {list[0], 0};
     for (WCHAR* item = list + 1; item != nullptr;) {
         WCHAR* end = ScanComma(item, separator);
@@ -68,13 +63,25 @@ bool _FillComboFromString(HWND combo, UINT stringId, u32 selection, bool localDe
         SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
         item = next;
     }
-    SendMessageW(combo, CB_SETCURSEL, selection, 0);
-    return true;
+}
+
+bool _FillComboFromString(HWND combo, UINT stringId, u32 selection, bool localDecimal) {
+    TraceOut("----> %s( )\n", __func__);
+    const WCHAR decimal = localDecimal ? LoadDecimalSeparator() : TEXT('\0');
+    WCHAR list[ListStringCapacity];
+    const bool bSuccess = LoadStringW(ModuleInstance, stringId, list, ARRAYSIZE(list)) != 0;
+    if (bSuccess) {
+        AddItems(combo, list, decimal);
+        SendMessageW(combo, CB_SETCURSEL, selection, 0);
+    }
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
 } // namespace
 
 bool _FillComboxDlg(HWND hDlg, u32* code) {
+    TraceOut("----> %s( )\n", __func__);
     *code = 0;
     FillComboFromTable(hDlg, IDC_BAUD_RATE, BaudRateTable);
     SelectBaudRate(hDlg, DefaultBaudText);
@@ -84,8 +91,10 @@ bool _FillComboxDlg(HWND hDlg, u32* code) {
         if (!_FillComboFromString(GetDlgItem(hDlg, list.combo), list.stringId, list.selection,
                                   list.localDecimal)) {
             *code = list.failureCode;
-            return false;
+            break;
         }
     }
-    return true;
+    const bool bSuccess = *code == 0;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }

@@ -1,13 +1,11 @@
 #include "uart_page/settings_storage.h"
 
 #include "reporting/text_operations.h"
-#include "reporting/trace.h"
 #include "resources/resource_ids.h"
 
 namespace {
 
 constexpr u32 ComposedLineCapacity = 260;
-constexpr u32 SettingsKeyCapacity = 81;
 constexpr WPARAM BaudTextCapacity = 18;
 
 // The four combos whose index is what the line keeps.
@@ -34,12 +32,22 @@ bool ReadSelections(HWND dialog, PortSettings& settings) {
     return true;
 }
 
+// The line that the five combos say, and its fields; false if one of them says nothing.
+bool ComposeFromCombos(HWND dialog, WCHAR* line, u32 capacity, PortSettings& settings) {
+    if (SendDlgItemMessageW(dialog, IDC_BAUD_RATE, WM_GETTEXT, BaudTextCapacity,
+                            reinterpret_cast<LPARAM>(line)) == 0) {
+        return false;
+    }
+    settings.BaudRate = ParseDecimal(line);
+    return ReadSelections(dialog, settings) && ComposeSettingsLine(line, capacity, settings);
+}
+
 } // namespace
 
-void SelectBaudRate(HWND dialog, const WCHAR* text) {
+void SelectBaudRate(HWND dialog, const WCHAR* text, TraceName function) {
     const LRESULT found = SendDlgItemMessageW(dialog, IDC_BAUD_RATE, CB_FINDSTRING, static_cast<WPARAM>(-1),
                                               reinterpret_cast<LPARAM>(text));
-    TraceOut("%s - Search baudrate index, shIndex:%d\n", __func__, static_cast<INT>(found));
+    TraceOut("%s - Search baudrate index, shIndex:%d\n", function, static_cast<INT>(found));
     SendDlgItemMessageW(dialog, IDC_BAUD_RATE, CB_SETCURSEL, found != CB_ERR ? static_cast<WPARAM>(found) : 0,
                         0);
 }
@@ -50,9 +58,8 @@ void SelectSettings(HWND dialog, const PortSettings& settings) {
     }
 }
 
-void _GetSettingsFromRegistryAndApplyToUI(HWND dialog, UartPageParams* params) {
-    WCHAR key[SettingsKeyCapacity];
-    MakeSettingsKey(key, ARRAYSIZE(key), params->ComName);
+void _GetSettingsFromRegistryAndApplyToUI(HWND dialog, const WCHAR* key, UartPageParams* params) {
+    TraceOut("----> %s( )\n", __func__);
     WCHAR szParms[SettingsLineCapacity] = {};
     GetProfileStringW(PortsSection, key, TEXT(""), szParms, ARRAYSIZE(szParms));
     TraceOut("%s - A, szParms:%ws, lstrlen(szParms):%d\n", __func__, szParms, lstrlenW(szParms));
@@ -65,31 +72,27 @@ void _GetSettingsFromRegistryAndApplyToUI(HWND dialog, UartPageParams* params) {
              params->ComName);
     const WCHAR* baudText = nullptr;
     params->Saved = ParseSettingsLine(szParms, baudText);
-    TraceOut(baudText[0] != 0 ? "%s - BaudRate:%d, use selection\n" : "%s - BaudRate:%d, use default\n",
-             __func__, params->Saved.BaudRate);
+    if (baudText[0] != 0) {
+        TraceOut("%s - BaudRate:%d, use selection\n", __func__, params->Saved.BaudRate);
+    } else {
+        TraceOut("%s - BaudRate:%d, use default\n", __func__, params->Saved.BaudRate);
+    }
     SelectBaudRate(dialog, baudText);
     SelectSettings(dialog, params->Saved);
+    TraceOut("<---- %s\n", __func__);
 }
 
-bool _SaveSettings(HWND dialog, const UartPageParams* params) {
+bool _SaveSettings(HWND dialog, const WCHAR* key, const UartPageParams* params) {
+    TraceOut("----> %s( )\n", __func__);
     WCHAR szParms[ComposedLineCapacity] = {};
     PortSettings settings = {};
-    if (SendDlgItemMessageW(dialog, IDC_BAUD_RATE, WM_GETTEXT, BaudTextCapacity,
-                            reinterpret_cast<LPARAM>(szParms)) == 0) {
-        return false;
+    const bool bSuccess = ComposeFromCombos(dialog, szParms, ARRAYSIZE(szParms), settings);
+    if (bSuccess && !SamePortSettings(settings, params->Saved)) {
+        TraceOut("%s - ComName:%ws, szParms:%ws\n", __func__, params->ComName, szParms);
+        WriteProfileStringW(PortsSection, key, szParms);
+        SendNotifyMessageW(HWND_BROADCAST, WM_WININICHANGE, 0, reinterpret_cast<LPARAM>(PortsSection));
+        SetupDiCallClassInstaller(DIF_PROPERTYCHANGE, params->DeviceInfoSet, params->DeviceInfoData);
     }
-    settings.BaudRate = ParseDecimal(szParms);
-    if (!ReadSelections(dialog, settings) || !ComposeSettingsLine(szParms, ARRAYSIZE(szParms), settings)) {
-        return false;
-    }
-    if (SamePortSettings(settings, params->Saved)) {
-        return true;
-    }
-    TraceOut("%s - ComName:%ws, szParms:%ws\n", __func__, params->ComName, szParms);
-    WCHAR key[SettingsKeyCapacity];
-    MakeSettingsKey(key, ARRAYSIZE(key), params->ComName);
-    WriteProfileStringW(PortsSection, key, szParms);
-    SendNotifyMessageW(HWND_BROADCAST, WM_WININICHANGE, 0, reinterpret_cast<LPARAM>(PortsSection));
-    SetupDiCallClassInstaller(DIF_PROPERTYCHANGE, params->DeviceInfoSet, params->DeviceInfoData);
-    return true;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }

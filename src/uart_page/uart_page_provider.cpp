@@ -1,9 +1,8 @@
 #include "uart_page/uart_page_provider.h"
 
 #include "device_model/device_store.h"
-#include "page_parts/page_creation.h"
+#include "page_parts/page_provider.h"
 #include "reporting/error_reporter.h"
-#include "reporting/trace.h"
 #include "resources/resource_ids.h"
 #include "uart_page/port_settings_page.h"
 #include "uart_page/uart_page_params.h"
@@ -13,18 +12,18 @@ namespace {
 // What the driver publishes as `ChlType` of a UART.
 constexpr u32 ChlTypeUart = 1;
 
-void ReportFailure(u32 oerr, u32 serr, u32 channel) {
-    ErrorBoxShow(oerr, serr, nullptr, channel, 0, 0, nullptr);
-}
-
-void ReleaseUartParams(LPARAM record) {
-    auto* params = reinterpret_cast<UartPageParams*>(record);
-    LocalFree(params->AdvancedParams);
-    LocalFree(params);
-}
-
-UINT CALLBACK UartBasicDlgCallback(HWND, UINT message, LPPROPSHEETPAGEW page) {
-    return AnswerPageCallback(__func__, message, page, ReleaseUartParams);
+bool CheckUart(const SP_PROPSHEETPAGE_REQUEST* request) {
+    ChlBasicInfo basic = {};
+    const u32 sStatus = Kavro_RegChlGetBasic(request->DeviceInfoSet, request->DeviceInfoData, &basic);
+    if (sStatus != 0) {
+        ErrorBoxShow(FailureChannelBasic, sStatus, nullptr);
+        return false;
+    }
+    if (basic.ChlType != ChlTypeUart) {
+        ErrorBoxShow(FailureNotComPort, 0, nullptr, basic.ChlNumber);
+        return false;
+    }
+    return true;
 }
 
 // A set that doesn't tell whose it is counts as local.
@@ -35,55 +34,59 @@ bool IsRemote(HDEVINFO set) {
 }
 
 bool _InitUartParams(UartPageParams* params, const SP_PROPSHEETPAGE_REQUEST* request) {
+    TraceOut("----> %s( )\n", __func__);
     params->DeviceInfoSet = request->DeviceInfoSet;
     params->DeviceInfoData = request->DeviceInfoData;
     params->AdvancedParams = static_cast<UartAdvancedParams*>(LocalAlloc(LPTR, sizeof(UartAdvancedParams)));
-    if (params->AdvancedParams == nullptr) {
+    const bool bSuccess = params->AdvancedParams != nullptr;
+    if (bSuccess) {
+        params->ChangesEnabled = !IsRemote(params->DeviceInfoSet);
+        params->ShowAdvanced = params->ChangesEnabled;
+        params->AdvancedParams->DeviceInfoSet = params->DeviceInfoSet;
+        params->AdvancedParams->DeviceInfoData = params->DeviceInfoData;
+    } else {
         SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return false;
     }
-    params->ChangesEnabled = !IsRemote(params->DeviceInfoSet);
-    params->ShowAdvanced = params->ChangesEnabled;
-    params->AdvancedParams->DeviceInfoSet = params->DeviceInfoSet;
-    params->AdvancedParams->DeviceInfoData = params->DeviceInfoData;
-    return true;
+    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
+    return bSuccess;
 }
 
-bool ProvidePage(const SP_PROPSHEETPAGE_REQUEST* request, LPFNADDPROPSHEETPAGE addPage, LPARAM addPageParam) {
-    ChlBasicInfo basic = {};
-    const u32 sStatus = Kavro_RegChlGetBasic(request->DeviceInfoSet, request->DeviceInfoData, &basic);
-    if (sStatus != 0) {
-        ReportFailure(FailureChannelBasic, sStatus, 0);
-        return false;
+bool InitUartRecord(void* record, const SP_PROPSHEETPAGE_REQUEST* request) {
+    const bool initiated = _InitUartParams(static_cast<UartPageParams*>(record), request);
+    if (!initiated) {
+        ErrorBoxShow(FailureInitPort, 0, nullptr);
     }
-    if (basic.ChlType != ChlTypeUart) {
-        ReportFailure(FailureNotComPort, 0, basic.ChlNumber);
-        return false;
-    }
-    auto* params = static_cast<UartPageParams*>(LocalAlloc(LPTR, sizeof(UartPageParams)));
-    if (params == nullptr) {
-        ReportFailure(FailureNoMemory, 0, 0);
-        return false;
-    }
-    if (request->PageRequested != SPPSR_ENUM_ADV_DEVICE_PROPERTIES) {
-        LocalFree(params);
-        return true;
-    }
-    if (!_InitUartParams(params, request)) {
-        ReportFailure(FailureInitPort, 0, 0);
-        LocalFree(params);
-        return false;
-    }
-    return AddPropertyPage(IDD_PORT_SETTINGS, UartBasicDlgProc, UartBasicDlgCallback, params, addPage,
-                           addPageParam);
+    return initiated;
 }
+
+void ReleaseUartRecord(void* record) {
+    auto* params = static_cast<UartPageParams*>(record);
+    if (params->AdvancedParams != nullptr) {
+        LocalFree(params->AdvancedParams);
+    }
+    LocalFree(params);
+}
+
+UINT CALLBACK UartBasicDlgCallback(HWND, UINT message, LPPROPSHEETPAGEW page) {
+    return AnswerPageCallback(message, page, ReleaseUartRecord);
+}
+
+HPROPSHEETPAGE _InitUartBasicSettingsPage(void* params) {
+    TraceOut("----> %s( )\n", __func__);
+    const HPROPSHEETPAGE page = CreatePage(IDD_PORT_SETTINGS, UartBasicDlgProc, UartBasicDlgCallback, params);
+    TraceOut("<---- %s\n", __func__);
+    return page;
+}
+
+constexpr PageKind UartPage = {sizeof(UartPageParams), CheckUart, InitUartRecord, _InitUartBasicSettingsPage,
+                               ReleaseUartRecord};
 
 } // namespace
 
 extern "C" BOOL WINAPI KvrUartPropPageProvider(PSP_PROPSHEETPAGE_REQUEST request,
                                                LPFNADDPROPSHEETPAGE addPage, LPARAM addPageParam) {
     TraceOut("----> %s( )\n", __func__);
-    const bool bSuccess = ProvidePage(request, addPage, addPageParam);
+    const bool bSuccess = ProvidePage(UartPage, request, addPage, addPageParam);
     TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
     return bSuccess;
 }

@@ -1,0 +1,67 @@
+#include "page_parts/page_provider.h"
+
+#include "reporting/error_reporter.h"
+#include "reporting/module_entry.h"
+
+bool ProvidePage(const PageKind& kind, const SP_PROPSHEETPAGE_REQUEST* request, LPFNADDPROPSHEETPAGE addPage,
+                 LPARAM addPageParam) {
+    if (!kind.checkDevice(request)) {
+        return false;
+    }
+    void* record = LocalAlloc(LPTR, kind.recordBytes);
+    if (record == nullptr) {
+        ErrorBoxShow(FailureNoMemory, 0, nullptr);
+        return false;
+    }
+    if (request->PageRequested != SPPSR_ENUM_ADV_DEVICE_PROPERTIES) {
+        LocalFree(record);
+        return true;
+    }
+    if (!kind.initRecord(record, request)) {
+        kind.releaseRecord(record);
+        return false;
+    }
+    const HPROPSHEETPAGE page = kind.initPage(record);
+    if (page == nullptr) {
+        ErrorBoxShow(FailureCreatePage, 0, nullptr);
+        kind.releaseRecord(record);
+        return false;
+    }
+    if (addPage(page, addPageParam) != 1) {
+        ErrorBoxShow(FailureAddPage, 0, nullptr);
+        DestroyPropertySheetPage(page); // its callback releases the record
+        return false;
+    }
+    return true;
+}
+
+HPROPSHEETPAGE CreatePage(int dialog, DLGPROC procedure, LPFNPSPCALLBACKW callback, void* record) {
+    PropertyPageDescription description = {};
+    PROPSHEETPAGEW& page = description.page;
+    page.dwSize = sizeof(description);
+    page.dwFlags = PSP_USECALLBACK;
+    page.hInstance = ModuleInstance;
+    page.pszTemplate = MAKEINTRESOURCEW(dialog);
+    page.pfnDlgProc = procedure;
+    page.lParam = reinterpret_cast<LPARAM>(record);
+    page.pfnCallback = callback;
+    return CreatePropertySheetPageW(&page);
+}
+
+UINT AnswerPageCallback(UINT message, const PROPSHEETPAGEW* page, void (*releaseRecord)(void* record),
+                        TraceName function) {
+    TraceOut("----> %s( ), Message:%d\n", function, message);
+    UINT nReturn = 1;
+    switch (message) {
+    case PSPCB_CREATE:
+        TraceOut("%s - PSPCB_CREATE\n", function);
+        break;
+    case PSPCB_RELEASE:
+        TraceOut("%s - PSPCB_RELEASE\n", function);
+        releaseRecord(reinterpret_cast<void*>(page->lParam));
+        nReturn = 0;
+        break;
+    }
+    TraceOut("<---- %s, nReturn:%d\n", function, nReturn);
+    return nReturn;
+}
