@@ -103,13 +103,22 @@ sim::Machine MachineFor(const Reading& reading) {
     return machine;
 }
 
+bool HasTerminator(const std::vector<BYTE>& text) {
+    for (std::size_t i = 0; i + 1 < text.size(); i += 2) {
+        if (text[i] == 0 && text[i + 1] == 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
 // What the record holds after the first `count` fields were read into a block that held 0xAA.
 std::vector<BYTE> ExpectedRecord(const Reading& reading, const sim::Machine& machine, std::size_t count) {
     std::vector<BYTE> record(reading.record_bytes, 0xAA);
     for (const Field& field : std::span(reading.fields).first(count)) {
         const std::vector<BYTE>& stored = machine.devices[0].key.Find(sim::FromUtf8(field.name))->data;
         std::ranges::copy(stored, record.begin() + static_cast<std::ptrdiff_t>(field.offset));
-        if (field.IsText()) {
+        if (field.IsText() && !HasTerminator(stored)) {
             const std::size_t end = 2 * std::min(stored.size() / 2, field.bytes / 2 - 1);
             std::fill_n(record.begin() + static_cast<std::ptrdiff_t>(field.offset + end), 2, BYTE{0});
         }
@@ -159,8 +168,15 @@ TEST(DeviceStore, EachReadingTakesItsValuesInOrderWhateverTheirTypeAndLength) {
                 sim::Machine machine = MachineFor(reading);
                 machine.devices[0].key.Set(sim::FromUtf8(field.name), type++ % 12, Pattern(length, i));
                 const bool fits = length <= field.bytes;
+                const std::string of = what + " of " + std::to_string(length) + " bytes";
                 ExpectReading(reading, machine, fits ? 0 : StatusReadFailed, fits ? reading.fields.size() : i,
-                              what + " of " + std::to_string(length) + " bytes");
+                              of);
+                if (field.IsText() && fits && length >= 2) {
+                    std::vector<BYTE> text = Pattern(length, i);
+                    std::fill_n(text.begin() + static_cast<std::ptrdiff_t>(length / 2 * 2 - 2), 2, BYTE{0});
+                    machine.devices[0].key.Set(sim::FromUtf8(field.name), type, text);
+                    ExpectReading(reading, machine, 0, reading.fields.size(), of + " with a terminator");
+                }
             }
         }
     }

@@ -89,12 +89,19 @@ constexpr StoreField UartBasicFields[] = {
     NUMBER(UartBasicInfo, UartRS485Termination),
 };
 
-// A stored text may come without its terminator, or with half a unit: it ends behind its last whole unit, at
-// the latest in the field's last one.
+// A stored text may come without its terminator, or with half a unit. Only then does it get one: after its
+// last whole unit, at the latest in the field's last one.
 void EndText(BYTE* field, u32 fieldBytes, u32 storedBytes) {
+    WCHAR* text = reinterpret_cast<WCHAR*>(field);
     const u32 last = fieldBytes / sizeof(WCHAR) - 1;
-    const u32 end = storedBytes / sizeof(WCHAR);
-    reinterpret_cast<WCHAR*>(field)[end < last ? end : last] = 0;
+    const u32 stored = storedBytes / sizeof(WCHAR);
+    u32 length = 0;
+    while (length < stored && text[length] != 0) {
+        ++length;
+    }
+    if (length == stored) {
+        text[length < last ? length : last] = 0;
+    }
 }
 
 template <SIZE_T Count>
