@@ -54,7 +54,7 @@ class Hardening(unittest.TestCase):
 
     def test_needs_no_start_up(self):
         # Without a runtime's start-up nothing would run a constructor or fill thread-local data.
-        objects = sorted(BUILD.glob("CMakeFiles/kvrpagex64.dir/**/*.obj"))
+        objects = sorted(BUILD.glob("src/CMakeFiles/kvrpagex64.dir/**/*.obj"))
         self.assertTrue(objects)
         for path in objects:
             data = path.read_bytes()
