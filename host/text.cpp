@@ -3,12 +3,11 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdio>
+#include <cstring>
 #include <iterator>
 
 #include <utf8.h>
 #include <utf8/unchecked.h>
-
-#include "host/worlds/world.h"
 
 namespace host {
 namespace {
@@ -75,6 +74,14 @@ Text FromUtf8(std::string_view text) {
     Text result;
     utf8::utf8to16(valid.begin(), valid.end(), std::back_inserter(result));
     return result;
+}
+
+Text TextIn(std::span<const BYTE> data) {
+    Text text(data.size() / sizeof(WCHAR), 0);
+    if (!text.empty()) {
+        std::memcpy(text.data(), data.data(), text.size() * sizeof(WCHAR));
+    }
+    return text.substr(0, text.find(WCHAR{0}));
 }
 
 int ColumnsOf(char32_t character) {
@@ -188,22 +195,29 @@ std::string NameOf(std::string_view caption) {
     return name.substr(std::min(name.size(), name.find_first_not_of(' ')));
 }
 
-std::string Quoted(std::string_view text) {
-    std::string result = "\"";
-    for (const char character : text) {
-        if (character == '\r') {
-            result += "\\r";
-        } else if (character == '\n') {
-            result += "\\n";
-        } else if (static_cast<unsigned char>(character) < ' ') {
+bool IsControl(char32_t character) {
+    return character < ' ' || (character >= 0x7F && character < 0xA0);
+}
+
+std::string Escaped(std::string_view text) {
+    std::string result;
+    for (auto at = text.begin(); at < text.end();) {
+        const char32_t character = Next(at);
+        if (character == '\r' || character == '\n') {
+            result += character == '\r' ? "\\r" : "\\n";
+        } else if (IsControl(character)) {
             char code[8];
             std::snprintf(code, sizeof code, "\\x%02X", static_cast<unsigned>(character));
             result += code;
         } else {
-            result += character;
+            utf8::unchecked::append(character, std::back_inserter(result));
         }
     }
-    return result + '"';
+    return result;
+}
+
+std::string Quoted(std::string_view text) {
+    return '"' + Escaped(text) + '"';
 }
 
 bool ParseNumber(std::string_view text, long& number) {

@@ -2,11 +2,23 @@
 // what a person types is compared with what a window shows.
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "platform/platform.h"
+
 namespace host {
+
+using Text = std::basic_string<WCHAR>;
+
+// Half a surrogate pair passes to UTF-8 in its three-byte form; what is no UTF-8 comes back as U+FFFD.
+std::string ToUtf8(std::basic_string_view<WCHAR> text);
+Text FromUtf8(std::string_view text);
+
+// The text in a value's bytes, up to its terminator or their end.
+Text TextIn(std::span<const BYTE> data);
 
 // The columns that one character takes: 0 for marks that stand on the letter before them, 2 for the wide
 // scripts.
@@ -29,7 +41,13 @@ std::string Folded(std::string_view text);
 // colon or the dots and blanks at its end.
 std::string NameOf(std::string_view caption);
 
-// On one line, in quotes, with line ends and other controls written as \r, \n, \x01.
+// A character that commands a terminal instead of being shown.
+bool IsControl(char32_t character);
+
+// On one line, with line ends and other controls written as \r, \n, \x1B: a text of a device or a file may
+// hold what would command the terminal.
+std::string Escaped(std::string_view text);
+// The same in quotes.
 std::string Quoted(std::string_view text);
 
 // The number, if the whole text is one in decimal and fits.

@@ -1,5 +1,6 @@
 // What a registry export says of a machine, and that a machine written is the machine that is read again.
 #include <algorithm>
+#include <cstring>
 #include <fstream>
 
 #include <rapidcheck.h>
@@ -11,13 +12,22 @@ namespace {
 using namespace machine_files;
 using sim::Text;
 
-std::string Saved(const sim::Machine& machine) {
-    const std::string file = testing::TempDir() + "machine_file_test.reg";
+std::string Saved(const host::MachineFile& file, const sim::Machine& machine) {
+    const std::string path = testing::TempDir() + "machine_file_test.reg";
     std::string error;
-    EXPECT_TRUE(host::SaveMachine(machine, file, error)) << error;
+    EXPECT_TRUE(host::SaveMachine(file, machine, path, error)) << error;
     std::ostringstream content;
-    content << std::ifstream(file, std::ios::binary).rdbuf();
+    content << std::ifstream(path, std::ios::binary).rdbuf();
     return content.str();
+}
+
+// The lines of a file as it is written.
+std::string Lines(const std::string& utf16) {
+    Text text(utf16.size() / sizeof(WCHAR), u' ');
+    std::memcpy(text.data(), utf16.data(), utf16.size());
+    std::string lines = sim::ToUtf8(text.substr(1));
+    std::erase(lines, '\r');
+    return lines;
 }
 
 // All that a file holds of a machine.
@@ -138,7 +148,7 @@ TEST(MachineFile, ChoosesTheControlSetAndHeedsDeletions) {
 TEST(MachineFile, SaysWhyItCannotBeWritten) {
     for (const std::string file : {"/no/such/folder/x.reg", "/dev/full"}) {
         std::string error;
-        EXPECT_FALSE(host::SaveMachine(Loaded(std::string(host::SampleMachine())), file, error));
+        EXPECT_FALSE(host::SaveMachine({}, Loaded(std::string(host::SampleMachine())), file, error));
         EXPECT_TRUE(error.starts_with("can't write " + file + ": ")) << error;
     }
 }
@@ -161,7 +171,56 @@ TEST(MachineFile, BringsASampleThatAgreesWithItself) {
         }
     }
     EXPECT_EQ(ports, machine.serial_map.list.size());
-    EXPECT_EQ(Contents(Loaded(Saved(machine))), Contents(machine));
+    EXPECT_EQ(Contents(Loaded(Saved(Read(std::string(host::SampleMachine())), machine))), Contents(machine));
+}
+
+// Each place alone comes back as it was, and no other with it.
+TEST(MachineFile, WritesNothingThatItHasNotRead) {
+    const std::string system = "\n[HKEY_LOCAL_MACHINE\\SYSTEM\\", set = system + "CurrentControlSet\\",
+                      arbiter = set + "Control\\COM Name Arbiter]\n\"ComDB\"=",
+                      guid = "{86E0D1E0-8089-11D0-9CE4-08003E301F73}";
+    const std::string cases[] = {
+        "",
+        system + "Select]\n\"Current\"=dword:00000003\n" + system + "ControlSet003\\Enum\\A\\B\\C]\n",
+        set + "Enum\\A\\B\\C\\Device Parameters]\n\"PortName\"=hex(1):43,00,4f,00,4d,00,35,00\n",
+        set + "Enum\\A\\B\\C]\n\"DeviceDesc\"=\"@x.inf,%a%;A Port\"\n\"ClassGUID\"=\"" + guid + "\"\n" + set +
+            "Control\\Class\\" + guid + "]\n\"Class\"=\"Ports\"\n" + set + "Control\\DeviceClasses\\" + guid +
+            "\\##?#A#B#C]\n\"DeviceInstance\"=\"a\\\\b\\\\c\"\n",
+        arbiter + "hex:07\n",
+        arbiter + "hex:\n",
+        "\n[HKEY_LOCAL_MACHINE\\HARDWARE\\DEVICEMAP\\SERIALCOMM]\n\"\\\\Device\\\\A\"=\"COM5\"\n",
+        "\n[HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows "
+        "NT\\CurrentVersion\\Ports]\n\"COM5:\"=\"9600\"\n",
+    };
+    for (const std::string& lines : cases) {
+        EXPECT_EQ(Lines(Saved(Read(first_line + lines), Loaded(first_line + lines))), first_line + lines);
+    }
+}
+
+// The database of COM numbers keeps its length and the numbers that no page knows; one that the file does not
+// have is not made up, for whoever imported it would lose all others.
+TEST(MachineFile, KeepsThePortDatabaseWhole) {
+    for (const std::size_t bytes : {1u, 31u, 32u, 33u, 512u}) {
+        Bytes data(bytes, 0x81);
+        host::MachineFile file;
+        file.root.Make(u"SYSTEM\\CurrentControlSet\\Control\\COM Name Arbiter", file.count)
+            .values.Set(u"ComDB", REG_BINARY, data);
+        sim::Machine machine;
+        host::GiveMachine(file, machine);
+        EXPECT_TRUE(sim::IsClaimed(machine.port_usage, static_cast<unsigned>(8 * bytes)));
+        EXPECT_EQ(host::CurrentPortUsage(file, machine), data);
+        sim::SetClaimed(machine.port_usage, 2, true);
+        sim::SetClaimed(machine.port_usage, 250, true);
+        data.resize(std::max<std::size_t>(bytes, 32));
+        data[0] |= 2;
+        data[31] |= 2;
+        EXPECT_EQ(Loaded(Saved(file, machine)).port_usage, machine.port_usage);
+        EXPECT_EQ(host::CurrentPortUsage(file, machine), data);
+    }
+    sim::Machine machine;
+    sim::SetClaimed(machine.port_usage, 2, true);
+    EXPECT_EQ(host::CurrentPortUsage({}, machine), std::nullopt);
+    EXPECT_EQ(Lines(Saved(Read(first_line), machine)).find("ComDB"), std::string::npos);
 }
 
 // Texts of all that has a meaning in a file, and of half surrogates.
@@ -225,9 +284,12 @@ sim::Machine AnyMachine() {
 }
 
 TEST(MachineFile, GivesAnyMachineBackAsItWas) {
-    EXPECT_TRUE(rc::check([] {
+    const host::MachineFile with_database =
+        Read(first_line + "[HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\COM Name Arbiter]\n"
+                          "\"ComDB\"=hex:00\n");
+    EXPECT_TRUE(rc::check([&] {
         const sim::Machine machine = AnyMachine();
-        sim::Machine read = Loaded(Saved(machine));
+        sim::Machine read = Loaded(Saved(with_database, machine));
         read.dos_names.clear(); // which the file holds as the serial map alone
         RC_ASSERT(Contents(read) == Contents(machine));
     }));

@@ -16,13 +16,19 @@ using Bytes = std::vector<BYTE>;
 
 inline const std::string first_line = "Windows Registry Editor Version 5.00\n";
 
-inline sim::Machine Loaded(const std::string& bytes) {
+inline host::MachineFile Read(const std::string& bytes) {
     std::istringstream in(bytes);
-    sim::Machine machine;
+    host::MachineFile file;
     host::Problem problem;
-    EXPECT_TRUE(host::LoadMachine(in, "some.reg", machine, problem))
+    EXPECT_TRUE(host::LoadMachine(in, "some.reg", file, problem))
         << problem.line << ": expected " << problem.expected << "\n"
         << bytes;
+    return file;
+}
+
+inline sim::Machine Loaded(const std::string& bytes) {
+    sim::Machine machine;
+    host::GiveMachine(Read(bytes), machine);
     return machine;
 }
 

@@ -67,9 +67,10 @@ TEST(RegistryExport, TakesEveryFormOfAValue) {
     EXPECT_EQ(Loaded(lines).devices[0].key.list[0].data, BytesOf(u"one\n[two]\n\n"));
     EXPECT_EQ(Loaded(InUtf16(WithReturns(lines))).devices[0].key.list[0].data,
               BytesOf(u"one\r\n[two]\r\n\r\n"));
-    // A key may hold brackets, is known without regard to case, and has none of the values behind its
-    // deletion.
+    // A key may hold brackets and slashes, is known without regard to case, and has none of the values after
+    // its deletion.
     const sim::Machine machine = Loaded(R"(Windows Registry Editor Version 5.00
+[HKEY_LOCAL_MACHINE\SOFTWARE\Classes\MIME\Database\Content Type\text/html]
 [hkey_local_machine\system\CURRENTcontrolSET\enum\A\[b]\c;] ; x
 [-HKEY_LOCAL_MACHINE\SYSTEM\CurrentControlSet\Enum\A\B\C] ; y
 "DeviceDesc"="x"
@@ -87,32 +88,39 @@ TEST(RegistryExport, NamesTheFirstLineThatIsWrong) {
     } cases[] = {
         {"junk", 3, "a key in brackets, a value with its name in quotes, or a comment"},
         {"\n; fine\n  =\"x\"", 5, "a key in brackets, a value with its name in quotes, or a comment"},
-        {"[HKEY_LOCAL_MACHINE\\SYSTEM", 3, "] behind the key"},
-        {"[HKEY_LOCAL_MACHINE\\SYSTEM] x", 3, "the end of the line behind ]"},
-        {"[-SYSTEM]", 3, "a key that begins with HKEY_"},
-        {"\"A=1", 3, "\" behind the value's name"},
-        {"\"A\"\"x\"", 3, "= behind the value's name"},
+        {"[HKEY_LOCAL_MACHINE\\SYSTEM", 3, "] after the key"},
+        {"[HKEY_LOCAL_MACHINE\\SYSTEM] x", 3, "the end of the line after ]"},
+        {"[-SYSTEM]", 3, "a key that begins with HKEY_LOCAL_MACHINE\\ or another root"},
+        {"[HKEY_LOCAL_MACHIN\\SYSTEM]", 3, "a key that begins with HKEY_LOCAL_MACHINE\\ or another root"},
+        {"[HKEY_LOCAL_MACHINE/SYSTEM]", 3, "a key that begins with HKEY_LOCAL_MACHINE\\ or another root"},
+        {"[HKEY_LOCAL_MACHINE\\SYSTEM/Select]", 3, "\\ and not / between the names of a key"},
+        {"[HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001/Enum\\A\\B\\C]", 3,
+         "\\ and not / between the names of a key"},
+        {"[HKEY_LOCAL_MACHINE\\SYSTEM\\ControlSet001\\Control/COM Name Arbiter]", 3,
+         "\\ and not / between the names of a key"},
+        {"\"A=1", 3, "\" after the value's name"},
+        {"\"A\"\"x\"", 3, "= after the value's name"},
         {"\"A\"=", 3, "a text in quotes, dword:, hex: or -"},
         {"\"A\"=Dword:1", 3, "a text in quotes, dword:, hex: or -"},
-        {"\"A\"=- -", 3, "the end of the line behind -"},
-        {"\"A\"=\"x\" y", 3, "the end of the line behind \""},
-        {"\"A\"=\"x\\y\"", 3, "\\ or \" behind \\"},
-        {"\"A\"=\"x\\\n\"", 3, "\\ or \" behind \\"},
-        {"\"A\"=\"x\n\ny\" z", 5, "the end of the line behind \""},
-        {"\"A\"=\"x\n\"B\"=\"y\"", 3, "\" behind the text"},
-        {"\n\"A\"=\"x\n\n", 4, "\" behind the text"},
+        {"\"A\"=- -", 3, "the end of the line after -"},
+        {"\"A\"=\"x\" y", 3, "the end of the line after \""},
+        {"\"A\"=\"x\\y\"", 3, "\\ or \" after \\"},
+        {"\"A\"=\"x\\\n\"", 3, "\\ or \" after \\"},
+        {"\"A\"=\"x\n\ny\" z", 5, "the end of the line after \""},
+        {"\"A\"=\"x\n\"B\"=\"y\"", 3, "\" after the text"},
+        {"\n\"A\"=\"x\n\n", 4, "\" after the text"},
         {"\"A\"=dword:", 3, "one to eight hexadecimal digits"},
         {"\"A\"=dword:123456789", 3, "one to eight hexadecimal digits"},
-        {"\"A\"=hex01", 3, ": behind hex"},
+        {"\"A\"=hex01", 3, ": after hex"},
         {"\"A\"=hex(:01", 3, "one to eight hexadecimal digits"},
-        {"\"A\"=hex(7:01", 3, ") behind the value's type"},
+        {"\"A\"=hex(7:01", 3, ") after the value's type"},
         {"\"A\"=hex:01,02,", 3, "a byte in two hexadecimal digits"},
-        {"\"A\"=hex:0\xC4\xA0,02", 3, "a comma or the end of the line behind the byte"},
-        {"\"A\"=hex:01\\\n02", 3, "a comma or the end of the line behind the byte"},
-        {"\"A\"=hex:01,\\ 02\n02", 3, "the end of the line behind \\"},
-        {"\"A\"=hex:01,\\\n; fine\n02,\\\n0x,\\\n03", 6, "a comma or the end of the line behind the byte"},
+        {"\"A\"=hex:0\xC4\xA0,02", 3, "a comma or the end of the line after the byte"},
+        {"\"A\"=hex:01\\\n02", 3, "a comma or the end of the line after the byte"},
+        {"\"A\"=hex:01,\\ 02\n02", 3, "the end of the line after \\"},
+        {"\"A\"=hex:01,\\\n; fine\n02,\\\n0x,\\\n03", 6, "a comma or the end of the line after the byte"},
         {"\"A\"=hex:01,\\\n\"B\"=\"x\"", 4, "a byte in two hexadecimal digits"},
-        {"\"A\"=hex:01,\\\n", 3, "another line behind \\"},
+        {"\"A\"=hex:01,\\\n", 3, "another line after \\"},
     };
     static const struct {
         std::string bytes;
@@ -122,6 +130,9 @@ TEST(RegistryExport, NamesTheFirstLineThatIsWrong) {
         {"", 1, "the line \"Windows Registry Editor Version 5.00\""},
         {"REGEDIT4\n", 1, "the line \"Windows Registry Editor Version 5.00\""},
         {"Windows Registry Editor Version 5.001\n", 1, "the line \"Windows Registry Editor Version 5.00\""},
+        {std::string("\xFE\xFF\0W\0i", 6), 1, "UTF-16LE or UTF-8 and not UTF-16BE"},
+        {std::string("\0W\0i", 4), 1, "UTF-16LE or UTF-8 and not UTF-16BE"},
+        {first_line + store + std::string("\"A\"=\"x\0y\"", 9), 3, "a text without NUL"},
         {InUtf16(first_line).substr(2), 1, "the line \"Windows Registry Editor Version 5.00\""},
         {first_line + "\"A\"=dword:1", 2, "a key in brackets before the first value"},
         {first_line + "; \xC0\x80\n", 2, "text in UTF-8"},
@@ -129,17 +140,17 @@ TEST(RegistryExport, NamesTheFirstLineThatIsWrong) {
         {first_line + "; \xE2\x82", 2, "text in UTF-8"},
         {InUtf16(first_line + ";") + ' ', 2, "the second byte of the last character"},
     };
-    // Whatever a machine held before, a file that is wrong leaves it so.
+    // Whatever was read before, a file that is wrong leaves it so.
     const auto expect_refusal = [](const std::string& bytes, std::size_t line, const char* expected) {
         std::istringstream in(bytes);
-        sim::Machine machine;
-        machine.devices.resize(3);
+        host::MachineFile file;
+        file.count = 3;
         host::Problem problem;
-        EXPECT_FALSE(host::LoadMachine(in, "some.reg", machine, problem)) << bytes;
+        EXPECT_FALSE(host::LoadMachine(in, "some.reg", file, problem)) << bytes;
         EXPECT_EQ(std::tie(problem.file, problem.line, problem.expected),
                   std::tuple("some.reg", line, expected))
             << bytes;
-        EXPECT_EQ(machine.devices, std::vector<sim::Device>(3));
+        EXPECT_EQ(file.count, 3u);
     };
     // The same in a key that matters and in one that does not.
     for (const std::string& key : {store, std::string("[HKEY_USERS\\A]\n")}) {

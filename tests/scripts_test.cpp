@@ -85,6 +85,7 @@ class ScriptsTest : public testing::TestWithParam<std::string> {};
 TEST_P(ScriptsTest, RunsAsItsTranscriptTells) {
     const std::vector<std::string> lines = LinesOf(ContentOf(scripts / (GetParam() + ".txt")));
     std::string file;
+    host::MachineFile machine_file;
     sim::Machine machine;
     const auto top_end = std::ranges::find_if(lines, [](const auto& line) { return !line.starts_with('#'); });
     for (auto line = lines.begin(); line != top_end; ++line) {
@@ -93,18 +94,18 @@ TEST_P(ScriptsTest, RunsAsItsTranscriptTells) {
         }
     }
     std::string error;
-    ASSERT_TRUE(host::OpenMachine(file, machine, error)) << error;
-    for (auto line = lines.begin(); line != top_end; ++line) {
-        if (const std::string said = Said(*line, "language"); !said.empty()) {
-            machine.language = static_cast<LANGID>(std::stoi(said));
-        } else if (*line == "# remote") {
-            std::ranges::for_each(machine.devices, [](sim::Device& device) { device.remote = true; });
-        }
-    }
+    ASSERT_TRUE(host::OpenMachineFile(file, machine_file, error)) << error;
 
     std::ostringstream out;
     {
-        host::SimulatedWorld world(machine);
+        host::SimulatedWorld world(machine_file, machine);
+        for (auto line = lines.begin(); line != top_end; ++line) {
+            if (const std::string said = Said(*line, "language"); !said.empty()) {
+                machine.language = static_cast<LANGID>(std::stoi(said));
+            } else if (*line == "# remote") {
+                std::ranges::for_each(machine.devices, [](sim::Device& device) { device.remote = true; });
+            }
+        }
         Script script(lines, machine);
         host::Interpreter(world, script, out).Run();
     }
@@ -125,10 +126,11 @@ TEST_P(ScriptsTest, RunsAsItsTranscriptTells) {
 }
 
 TEST(Tour, NoneOfItsCommandsFails) {
+    host::MachineFile file;
     sim::Machine machine;
     std::string error;
-    ASSERT_TRUE(host::OpenMachine({}, machine, error)) << error;
-    host::SimulatedWorld world(machine);
+    ASSERT_TRUE(host::OpenMachineFile({}, file, error)) << error;
+    host::SimulatedWorld world(file, machine);
     std::ostringstream out;
     EXPECT_EQ(host::Interpreter(world, *host::TourLines(), out).Run(), 0) << out.str();
 }

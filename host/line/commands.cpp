@@ -8,6 +8,7 @@
 #include "host/screen/hand.h"
 #include "host/screen/listing.h"
 #include "host/text.h"
+#include "host/worlds/store_values.h"
 
 namespace host {
 
@@ -100,12 +101,6 @@ void Interpreter::Execute(const std::string& line) {
 
 // --- The commands ---
 
-void Interpreter::Write(const std::vector<std::string>& lines, const char* before) {
-    for (const std::string& line : lines) {
-        out_ << before << line << '\n';
-    }
-}
-
 void Interpreter::Help(const Words& words) {
     bool found = false;
     for (const Command& command : commands_) {
@@ -113,16 +108,15 @@ void Interpreter::Help(const Words& words) {
             continue;
         }
         found = true;
-        out_ << "  " << PaddedTo(std::string{command.name} + ' ' + command.arguments, 24) << command.help
-             << '\n';
+        Tell("  " + PaddedTo(std::string{command.name} + ' ' + command.arguments, 24) + command.help);
     }
     if (!found) {
         throw Refusal("no command " + Quoted(words[1]));
     }
     if (words.size() == 1) {
-        out_ << "A CONTROL is named by its caption, by the label before it, or by its number. A caption with "
-                "blanks\n"
-                "stands in \"...\". Lines that begin with # are comments.\n";
+        Tell("A CONTROL is named by its caption, by the label before it, or by its number. A caption with "
+             "blanks");
+        Tell("stands in \"...\". Lines that begin with # are comments.");
     }
 }
 
@@ -159,7 +153,7 @@ void Interpreter::Show(const Words&) {
 void Interpreter::Controls(const Words&) {
     Write(ListControls(Front()));
     for (std::size_t below = windows_.size() - 1; below-- > 0;) {
-        out_ << "  behind: " << windows_[below].told << '\n';
+        Tell("  behind: " + windows_[below].told);
     }
 }
 
@@ -233,7 +227,7 @@ void Interpreter::Journal(const Words&) {
     const std::vector<std::string> lines = world_.Journal();
     Write(lines, "  ");
     if (lines.empty()) {
-        out_ << "  nothing\n";
+        Tell("  nothing");
     }
 }
 

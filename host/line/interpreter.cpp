@@ -9,6 +9,7 @@
 #include "host/screen/hand.h"
 #include "host/screen/listing.h"
 #include "host/text.h"
+#include "host/worlds/store_values.h"
 
 namespace host {
 namespace {
@@ -49,7 +50,7 @@ void Interpreter::Step() {
     }
     const bool comment = line.front() == '#';
     if (!lines_.IsPerson()) {
-        out_ << (comment ? "" : "> ") << line << '\n';
+        Tell((comment ? "" : "> ") + line);
     }
     if (!comment) {
         Execute(line);
@@ -57,9 +58,19 @@ void Interpreter::Step() {
     out_.flush();
 }
 
+void Interpreter::Tell(std::string_view line) {
+    out_ << Escaped(line) << '\n';
+}
+
+void Interpreter::Write(const std::vector<std::string>& lines, const char* before) {
+    for (const std::string& line : lines) {
+        Tell(before + line);
+    }
+}
+
 void Interpreter::Fail(const std::string& reason) {
     ++failed_;
-    out_ << "error: " << reason << '\n';
+    Tell("error: " + reason);
 }
 
 void Interpreter::Attend(HWND front) {
@@ -80,15 +91,13 @@ void Interpreter::Attend(HWND front) {
 void Interpreter::Announce(HWND front) {
     const UINT style = world_.BoxStyle(front);
     const Window window = ReadWindow(front, style != 0);
-    std::string told = KindOf(window) + (": " + Quoted(window.title));
-    out_ << "-- " << told;
+    std::string told = KindOf(window) + (": " + Quoted(window.title)), of_box;
     if (window.kind == WindowKind::Box) {
         char number[16];
         std::snprintf(number, sizeof number, "0x%04X", style);
-        out_ << " | " << Quoted(BoxText(window)) << " | style " << number << " | buttons "
-             << ButtonNames(window);
+        of_box = " | " + Quoted(BoxText(window)) + " | style " + number + " | buttons " + ButtonNames(window);
     }
-    out_ << '\n';
+    Tell("-- " + told + of_box);
     windows_.push_back({front, std::move(told)});
     sheet_opened_ = sheet_opened_ || window.kind == WindowKind::Sheet;
     if (window.kind == WindowKind::Sheet || lines_.IsPerson()) {
@@ -98,7 +107,7 @@ void Interpreter::Announce(HWND front) {
 
 void Interpreter::NoteClosed(bool all) {
     while (!windows_.empty() && (all || !IsOpen(windows_.back().handle))) {
-        out_ << "-- closed: " << windows_.back().told << '\n';
+        Tell("-- closed: " + windows_.back().told);
         windows_.pop_back();
     }
 }

@@ -77,6 +77,8 @@ private:
     void Quit(const Words& words);
 
     void Press(const Control& button);
+    // The only way out: what it writes holds no control character, whatever a device or a file brought.
+    void Tell(std::string_view line);
     void Write(const std::vector<std::string>& lines, const char* before = "");
 
     World& world_;

@@ -6,6 +6,7 @@
 #include <set>
 
 #include "host/text.h"
+#include "host/worlds/store_values.h"
 
 namespace host {
 namespace {
@@ -15,6 +16,7 @@ constexpr std::array<const char*, 8> headings = {"device",   "channel",    "Port
 using Cells = std::array<std::string, headings.size()>;
 
 constexpr const char* disagrees = " !";
+constexpr const char* unknown = "not known";
 
 bool Same(const Text& left, std::string_view right) {
     return Folded(ToUtf8(left)) == Folded(right);
@@ -28,38 +30,57 @@ unsigned long FriendlyNumber(const std::string& name) {
                : PortNumber(std::string_view{name}.substr(open + 1, close - open - 1));
 }
 
-bool IsClaimed(const PortRecords& records, unsigned long number) {
-    return number >= 1 && number <= 256 && (records.usage[(number - 1) / 8] >> (number - 1) % 8 & 1) != 0;
+std::string DosName(const std::string& name, const PortRecords& records, const Text*& target) {
+    for (const auto& [dos_name, its_target] : records.dos_names) {
+        if (Same(dos_name, name)) {
+            target = &its_target;
+            return "-> " + Escaped(ToUtf8(its_target));
+        }
+    }
+    return std::string{"none"} + disagrees;
+}
+
+std::string Mapped(const std::string& name, const PortRecords& records, const Text* target) {
+    if (!records.serial_map) {
+        return unknown;
+    }
+    std::string devices;
+    for (const auto& [device, mapped] : *records.serial_map) {
+        if (Same(mapped, name)) {
+            devices += (devices.empty() ? "" : ", ") + Escaped(ToUtf8(device)) +
+                       (target && Same(device, ToUtf8(*target)) ? "" : disagrees);
+        }
+    }
+    return devices.empty() ? std::string{"none"} + disagrees : devices;
+}
+
+std::string SettingsLine(const std::string& name, const PortRecords& records) {
+    if (!records.settings_lines) {
+        return unknown;
+    }
+    for (const auto& [key, line] : *records.settings_lines) {
+        if (Same(key, name + ':')) {
+            return Quoted(ToUtf8(line));
+        }
+    }
+    return "none";
 }
 
 Cells RowOf(const std::string& name, unsigned long number, const Device& device, const PortRecords& records) {
     Cells row;
-    row[2] = name.empty() ? "none" : name;
+    row[2] = name.empty() ? "none" : Escaped(name);
     const unsigned long friendly = FriendlyNumber(ToUtf8(device.friendly_name));
     row[3] = friendly ? std::to_string(friendly) : "none";
     if (friendly != number) {
         row[3] += disagrees;
     }
-    const auto dos = std::find_if(records.dos_names.begin(), records.dos_names.end(),
-                                  [&](const auto& entry) { return Same(entry.first, name); });
-    const bool has_target = dos != records.dos_names.end();
-    row[4] = has_target ? "-> " + ToUtf8(dos->second) : std::string{"none"} + disagrees;
-    for (const auto& [value, mapped] : records.serial_map) {
-        if (Same(mapped, name)) {
-            row[5] += (row[5].empty() ? "" : ", ") + ToUtf8(value) +
-                      (has_target && Same(value, ToUtf8(dos->second)) ? "" : disagrees);
-        }
-    }
-    if (row[5].empty()) {
-        row[5] = std::string{"none"} + disagrees;
-    }
-    row[6] = IsClaimed(records, number) ? "claimed" : std::string{"free"} + disagrees;
-    row[7] = "none";
-    for (const auto& [key, line] : records.settings_lines) {
-        if (Same(key, name + ':')) {
-            row[7] = Quoted(ToUtf8(line));
-        }
-    }
+    const Text* target = nullptr;
+    row[4] = DosName(name, records, target);
+    row[5] = Mapped(name, records, target);
+    row[6] = !records.usage               ? unknown
+             : IsClaimed(records, number) ? "claimed"
+                                          : std::string{"free"} + disagrees;
+    row[7] = SettingsLine(name, records);
     return row;
 }
 
@@ -103,7 +124,7 @@ Lines PortsTable(World& world) {
         unsigned long channel = 0;
         const StoreValue* const channel_number = FindValue(store, "ChlNumber");
         rows.back()[1] = channel_number && NumberOf(*channel_number, channel) ? std::to_string(channel) : "-";
-        names.insert(Folded(name));
+        names.insert(Folded(Escaped(name)));
         held.insert(number);
     }
     for (auto row = rows.begin() + 1; row != rows.end(); ++row) {
@@ -123,12 +144,15 @@ Lines PortsTable(World& world) {
         lines.push_back(Line(row, widths));
     }
     std::string unheld;
-    for (unsigned long number = 1; number <= 256; ++number) {
+    const std::size_t numbers = records.usage ? 8 * records.usage->size() : 0;
+    for (unsigned long number = 1; number <= numbers; ++number) {
         if (IsClaimed(records, number) && !held.contains(number)) {
             unheld += (unheld.empty() ? "" : ", ") + std::to_string(number);
         }
     }
-    lines.push_back("  claimed without a device: " + (unheld.empty() ? "none" : unheld));
+    lines.push_back("  claimed without a device: " + (!records.usage   ? unknown
+                                                      : unheld.empty() ? "none"
+                                                                       : unheld));
     return lines;
 }
 

@@ -2,118 +2,24 @@
 #include <cstdio>
 #include <cstring>
 #include <optional>
-#include <span>
 
 #include "host/machine_file/guid_text.h"
 #include "host/machine_file/machine_file.h"
+#include "host/machine_file/machine_keeper.h"
 #include "host/machine_file/machine_places.h"
-#include "host/machine_file/registry_tree.h"
+#include "host/text.h"
 
 namespace host {
 namespace {
 
-using sim::Text;
 using TextView = std::u16string_view;
-
-// --- What is kept of the file ---
-
-// The keys that mean something, and which of their values; all of them where none is named. An asterisk
-// stands for any one name.
-struct Place {
-    TextView path;
-    TextView values[4];
-};
-constexpr Place machine_places[] = {
-    {u"SYSTEM\\Select", {u"Current"}},
-    {SerialMapKey, {}},
-    {PortsKey, {}},
-};
-constexpr Place control_set_places[] = {
-    {u"Enum\\*\\*\\*", {u"DeviceDesc", u"FriendlyName", u"Class", u"ClassGUID"}},
-    {u"Enum\\*\\*\\*\\Device Parameters", {}},
-    {u"Control\\DeviceClasses\\*\\*", {u"DeviceInstance"}},
-    {u"Control\\DeviceClasses\\*\\*\\Control", {u"Linked"}},
-    {u"Control\\DeviceClasses\\*\\*\\*", {u"SymbolicLink"}},
-    {u"Control\\DeviceClasses\\*\\*\\*\\Control", {u"Linked"}},
-    {ArbiterKey, {u"ComDB"}},
-    // Newer systems keep the name of a device's class with the class alone.
-    {u"Control\\Class\\*", {u"Class"}},
-};
-
-bool TakePrefix(TextView& path, TextView prefix) {
-    const bool is_there = sim::EqualNoCase(path.substr(0, prefix.size()), prefix);
-    path.remove_prefix(is_there ? prefix.size() : 0);
-    return is_there;
-}
-
-bool Matches(TextView path, TextView pattern) {
-    while (!pattern.empty() && !path.empty()) {
-        const TextView wanted = TakeComponent(pattern), name = TakeComponent(path);
-        if (name.empty() || (wanted != u"*" && !sim::EqualNoCase(wanted, name))) {
-            return false;
-        }
-    }
-    return pattern.empty() && path.empty();
-}
-
-// `path` is below HKEY_LOCAL_MACHINE.
-const Place* FindPlace(TextView path) {
-    const auto find = [&](std::span<const Place> places) {
-        const auto place =
-            std::ranges::find_if(places, [&](const Place& each) { return Matches(path, each.path); });
-        return place == places.end() ? nullptr : &*place;
-    };
-    if (const Place* const place = find(machine_places)) {
-        return place;
-    }
-    if (!TakePrefix(path, u"SYSTEM\\")) {
-        return nullptr;
-    }
-    TakeComponent(path);
-    return find(control_set_places);
-}
-
-class Keeper : public ExportReceiver {
-public:
-    const TreeKey& Root() const { return root_; }
-
-    bool Key(TextView path) override {
-        place_ = TakePrefix(path, LocalMachine) ? FindPlace(path) : nullptr;
-        key_ = place_ ? &root_.Make(path, count_) : nullptr;
-        return key_ != nullptr;
-    }
-    void DeleteKey(TextView path) override {
-        if (TakePrefix(path, LocalMachine)) {
-            root_.Erase(path);
-        }
-    }
-    void SetValue(TextView name, DWORD type, std::span<const BYTE> data) override {
-        if (place_->values[0].empty() || std::ranges::any_of(place_->values, [name](TextView each) {
-                return sim::EqualNoCase(each, name);
-            })) {
-            key_->values.Set(name, type, {data.begin(), data.end()});
-        }
-    }
-    void DeleteValue(TextView name) override { key_->values.Erase(name); }
-
-private:
-    TreeKey root_;
-    std::size_t count_ = 0;
-    const Place* place_ = nullptr; // of the current key
-    TreeKey* key_ = nullptr;
-};
-
-// --- What it says of the machine ---
 
 // What a text holds up to its terminator; none if the value is missing or no text.
 std::optional<Text> TextOf(const sim::Value* value) {
     if (!value || value->type != REG_SZ) {
         return std::nullopt;
     }
-    Text text(value->data.size() / sizeof(WCHAR), u'\0');
-    std::copy_n(value->data.begin(), text.size() * sizeof(WCHAR), reinterpret_cast<BYTE*>(text.data()));
-    text.resize(std::min(text.size(), text.find(u'\0')));
-    return text;
+    return TextIn(value->data);
 }
 
 // Missing values and those that are no numbers are 0.
@@ -126,14 +32,15 @@ DWORD NumberOf(const TreeKey* key, TextView name) {
     return number;
 }
 
-const TreeKey* CurrentControlSet(const TreeKey& root) {
-    if (const TreeKey* const current = root.Find(CurrentSet)) {
-        return current;
+// The path of the control set that the file means.
+Text ControlSetOf(const TreeKey& root) {
+    if (root.Find(CurrentSet) != nullptr) {
+        return Text(CurrentSet);
     }
     const DWORD number = NumberOf(root.Find(u"SYSTEM\\Select"), u"Current");
     char path[32];
     std::snprintf(path, sizeof path, "SYSTEM\\ControlSet%03u", number != 0 ? number : 1);
-    return root.Find(sim::FromUtf8(path));
+    return sim::FromUtf8(path);
 }
 
 // "@file.inf,%name%;Text" names a text of the file, with the text itself for where it can't be had.
@@ -227,11 +134,10 @@ std::vector<sim::Interface> InterfacesOf(const TreeKey& set, const std::vector<s
     return interfaces;
 }
 
-sim::PortUsage PortUsageOf(const TreeKey& set) {
+sim::PortUsage PortUsageOf(const sim::Value* database) {
     sim::PortUsage usage{};
-    const TreeKey* const arbiter = set.Find(ArbiterKey);
-    if (const sim::Value* const value = arbiter ? arbiter->values.Find(u"ComDB") : nullptr) {
-        std::copy_n(value->data.begin(), std::min(value->data.size(), usage.size()), usage.begin());
+    if (database != nullptr) {
+        std::copy_n(database->data.begin(), std::min(database->data.size(), usage.size()), usage.begin());
     }
     return usage;
 }
@@ -252,26 +158,44 @@ std::vector<std::pair<Text, Text>> DosNamesOf(const sim::Values& serial_map) {
 
 } // namespace
 
-bool LoadMachine(std::istream& in, const std::string& name, sim::Machine& machine, Problem& problem) {
-    Keeper keeper;
-    if (!ReadExport(in, name, keeper, problem)) {
-        return false;
-    }
-    const TreeKey& root = keeper.Root();
+const sim::Value* PortDatabase(const MachineFile& file) {
+    const TreeKey* const arbiter = file.root.Find(Below(file.control_set, ArbiterKey));
+    const sim::Value* const value = arbiter ? arbiter->values.Find(ComDb) : nullptr;
+    return value != nullptr && value->type == REG_BINARY && !value->data.empty() ? value : nullptr;
+}
+
+void GiveMachine(const MachineFile& file, sim::Machine& machine) {
     static const TreeKey nothing;
-    const TreeKey* const found = CurrentControlSet(root);
+    const TreeKey* const found = file.root.Find(file.control_set);
     const TreeKey& set = found ? *found : nothing;
     machine.devices = DevicesOf(set);
     machine.interfaces = InterfacesOf(set, machine.devices);
-    machine.port_usage = PortUsageOf(set);
-    const TreeKey* const serial_map = root.Find(SerialMapKey);
+    machine.port_usage = PortUsageOf(PortDatabase(file));
+    const TreeKey* const serial_map = file.root.Find(SerialMapKey);
     machine.serial_map_exists = serial_map != nullptr;
     machine.serial_map = serial_map ? serial_map->values : sim::Values();
     machine.dos_names = DosNamesOf(machine.serial_map);
     machine.profile.clear();
-    if (const TreeKey* const ports = root.Find(PortsKey)) {
+    if (const TreeKey* const ports = file.root.Find(PortsKey)) {
         machine.profile.emplace_back(PortsSection, ports->values);
     }
+}
+
+bool LoadMachine(std::istream& in, const std::string& name, MachineFile& file, Problem& problem) {
+    MachineFile read;
+    MachineKeeper keeper(read.root, read.count);
+    if (!ReadExport(in, name, keeper, problem)) {
+        return false;
+    }
+    read.control_set = ControlSetOf(read.root);
+    // The other sets are those of earlier or of failed starts.
+    if (const auto system = read.root.keys.find(u"SYSTEM"); system != read.root.keys.end()) {
+        const Text kept = read.control_set.substr(read.control_set.find(u'\\') + 1);
+        std::erase_if(system->second.keys, [&](const auto& each) {
+            return !sim::EqualNoCase(each.first, kept) && !sim::EqualNoCase(each.first, u"Select");
+        });
+    }
+    file = std::move(read);
     return true;
 }
 

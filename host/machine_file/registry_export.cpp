@@ -13,7 +13,8 @@ namespace {
 using Text = std::basic_string<WCHAR>;
 using TextView = std::basic_string_view<WCHAR>;
 
-constexpr TextView root_prefix = TEXT("HKEY_");
+constexpr TextView roots[] = {TEXT("HKEY_LOCAL_MACHINE"), TEXT("HKEY_CLASSES_ROOT"),
+                              TEXT("HKEY_CURRENT_USER"), TEXT("HKEY_USERS"), TEXT("HKEY_CURRENT_CONFIG")};
 
 struct Malformed {
     std::size_t line;
@@ -110,17 +111,33 @@ private:
         const bool deletes = Take('-');
         const std::size_t length = TextView(at_, end_).rfind(']');
         if (length == TextView::npos) {
-            Fail("] behind the key");
+            Fail("] after the key");
         }
         const TextView path(at_, length);
-        if (!std::ranges::equal(path.substr(0, root_prefix.size()), root_prefix, {}, UpperLetter)) {
-            Fail("a key that begins with HKEY_");
+        const TextView root = path.substr(0, path.find('\\'));
+        if (std::ranges::none_of(
+                roots, [&](TextView each) { return std::ranges::equal(root, each, {}, UpperLetter); })) {
+            Fail("a key that begins with HKEY_LOCAL_MACHINE\\ or another root");
         }
+        RefuseNul(path);
         at_ += length + 1;
-        EndLine("the end of the line behind ]");
-        state_ = deletes || !receiver_.Key(path) ? State::Unwanted : State::Wanted;
+        EndLine("the end of the line after ]");
         if (deletes) {
+            state_ = State::Unwanted;
             receiver_.DeleteKey(path);
+            return;
+        }
+        const KeyUse use = receiver_.Key(path);
+        if (use == KeyUse::Mistaken) {
+            Fail("\\ and not / between the names of a key");
+        }
+        state_ = use == KeyUse::Wanted ? State::Wanted : State::Unwanted;
+    }
+
+    // No importer takes what follows a NUL.
+    void RefuseNul(TextView text) const {
+        if (text.find(WCHAR{0}) != TextView::npos) {
+            Fail("a text without NUL");
         }
     }
 
@@ -134,11 +151,11 @@ private:
         }
         SkipBlanks();
         if (!Take('=')) {
-            Fail("= behind the value's name");
+            Fail("= after the value's name");
         }
         SkipBlanks();
         if (Take('-')) {
-            EndLine("the end of the line behind -");
+            EndLine("the end of the line after -");
             if (IsWanted()) {
                 receiver_.DeleteValue(name_);
             }
@@ -150,7 +167,7 @@ private:
                     {reinterpret_cast<const BYTE*>(text_.c_str()), (text_.size() + 1) * sizeof(WCHAR)});
         } else if (TakeWord(TEXT("dword:"))) {
             const DWORD number = ReadNumber();
-            EndLine("the end of the line behind the number");
+            EndLine("the end of the line after the number");
             Deliver(REG_DWORD, {reinterpret_cast<const BYTE*>(&number), sizeof number});
         } else if (TakeWord(TEXT("hex"))) {
             const DWORD type = ReadType();
@@ -176,19 +193,20 @@ private:
         for (;;) {
             const WCHAR* const special =
                 std::find_if(at_, end_, [](WCHAR u) { return u == '"' || u == '\\'; });
+            RefuseNul({at_, special});
             if (IsWanted()) {
                 text.append(at_, special);
             }
             at_ = special;
             if (at_ == end_) {
                 if (!is_value) {
-                    Fail("\" behind the value's name");
+                    Fail("\" after the value's name");
                 }
                 if (IsWanted()) {
                     text.append(lines_.End());
                 }
                 if (!NextLine()) {
-                    throw Malformed{first_number, "\" behind the text"};
+                    throw Malformed{first_number, "\" after the text"};
                 }
             } else if (*at_++ == '"') {
                 break;
@@ -207,7 +225,7 @@ private:
         SkipBlanks();
         if (!AtLineEnd()) {
             throw Malformed{is_name ? first_number : lines_.Number(),
-                            is_name ? "\" behind the text" : "the end of the line behind \""};
+                            is_name ? "\" after the text" : "the end of the line after \""};
         }
     }
 
@@ -220,7 +238,7 @@ private:
                 return static_cast<WCHAR>(escape.meaning);
             }
         }
-        Fail("\\ or \" behind \\");
+        Fail("\\ or \" after \\");
     }
 
     DWORD ReadNumber() {
@@ -235,17 +253,17 @@ private:
         return number;
     }
 
-    // Of "hex:" or "hex(type):", what stands behind hex.
+    // Of "hex:" or "hex(type):", what stands after hex.
     DWORD ReadType() {
         DWORD type = REG_BINARY;
         if (Take('(')) {
             type = ReadNumber();
             if (!Take(')')) {
-                Fail(") behind the value's type");
+                Fail(") after the value's type");
             }
         }
         if (!Take(':')) {
-            Fail(": behind hex");
+            Fail(": after hex");
         }
         return type;
     }
@@ -261,10 +279,10 @@ private:
             TakeWholeBytes();
             SkipBlanks();
             while (Take('\\')) {
-                EndLine("the end of the line behind \\");
+                EndLine("the end of the line after \\");
                 do {
                     if (!NextLine()) {
-                        Fail("another line behind \\");
+                        Fail("another line after \\");
                     }
                     SkipBlanks();
                 } while (AtLineEnd());
@@ -280,10 +298,10 @@ private:
             data_.push_back(static_cast<BYTE>(second < 0 ? first : first << 4 | second));
             SkipBlanks();
         } while (Take(','));
-        EndLine("a comma or the end of the line behind the byte");
+        EndLine("a comma or the end of the line after the byte");
     }
 
-    // The bulk of a line: bytes of two digits with a comma behind them.
+    // The bulk of a line: bytes of two digits with a comma after them.
     void TakeWholeBytes() {
         for (; end_ - at_ >= 3 && at_[2] == ','; at_ += 3) {
             const int value = DigitValue(at_[0]) << 4 | DigitValue(at_[1]);

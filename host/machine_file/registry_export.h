@@ -1,9 +1,9 @@
 // The form of a registry export, "Windows Registry Editor Version 5.00": what regedit writes and takes,
 // without regard to what the keys mean. It is read in one pass; what is held of it is the value at hand.
 //
-// Taken are lines of UTF-16LE with a mark or of UTF-8, ended by CR LF or LF; blanks around the parts of a
-// line; comments behind ;, also behind a value and between the lines of one; a text in quotes over several
-// lines, whose ends are part of it. Any other line is an error, in keys of no interest as well.
+// It takes lines of UTF-16LE with a mark or of UTF-8, ended by CR LF or LF; blanks around the parts of a
+// line; comments that begin with ;, also after a value and between the lines of one; a text in quotes over
+// several lines, whose ends are part of it. Any other line is an error, in keys of no interest as well.
 #pragma once
 
 #include <cstddef>
@@ -26,14 +26,17 @@ struct Problem {
     std::string expected;
 };
 
-// Who takes what a file holds, in its order. Texts and data are valid during the call.
+// Takes what a file holds, in its order. Texts and data are valid during the call.
+// What a receiver wants of a key. The values of one that is unwanted are checked and not handed on; one that
+// is mistaken is an error of the file: it has a slash where a backslash is meant.
+enum class KeyUse { Wanted, Unwanted, Mistaken };
+
 class ExportReceiver {
 public:
     virtual ~ExportReceiver() = default;
 
-    // The values that follow belong to this key, "HKEY_LOCAL_MACHINE\...". False if they mean nothing to the
-    // receiver: they are then checked and not handed on.
-    virtual bool Key(std::basic_string_view<WCHAR> path) = 0;
+    // The values that follow belong to this key, "HKEY_LOCAL_MACHINE\...".
+    virtual KeyUse Key(std::basic_string_view<WCHAR> path) = 0;
     // Also what was read of the key before is to go, and of all below it.
     virtual void DeleteKey(std::basic_string_view<WCHAR> path) = 0;
     // The key's default value has no name. A text has its terminator.
@@ -45,8 +48,8 @@ public:
 // it.
 bool ReadExport(std::istream& in, const std::string& file, ExportReceiver& receiver, Problem& problem);
 
-// Writes UTF-16LE with a mark and CR LF, with long values wrapped as regedit does. Whether all went well, the
-// stream knows.
+// Writes UTF-16LE with a mark and CR LF, with long values wrapped as regedit does. The stream tells whether
+// all of it could be written.
 class ExportWriter {
 public:
     explicit ExportWriter(std::ostream& out);

@@ -37,6 +37,7 @@ TreeKey& TreeKey::Make(std::u16string_view path, std::size_t& count) {
         }
         key = &found->second;
     }
+    key->named = true;
     return *key;
 }
 

@@ -15,18 +15,19 @@ struct NameOrder {
     bool operator()(std::u16string_view left, std::u16string_view right) const;
 };
 
-// The part of the path before its first backslash; `path` keeps what is behind it.
+// The part of the path before its first backslash; `path` keeps what follows it.
 std::u16string_view TakeComponent(std::u16string_view& path);
 
 struct TreeKey {
-    std::size_t place = 0; // by which the keys of a tree are told in the order in which they were made
+    std::size_t place = 0; // counts the keys of a tree in the order in which they were made
+    bool named = false;    // stands in the file itself, not only on the way to other keys
     sim::Values values;
     std::map<sim::Text, TreeKey, NameOrder> keys;
 
     // The key at a path below this one; null if there is none.
     const TreeKey* Find(std::u16string_view path) const;
-    // The key at a path below this one, made with those on the way to it where they are missing. `count` is
-    // that of all keys that were made.
+    // The key at a path below this one, made with those on the way to it where they are missing, and named.
+    // `count` is that of all keys that were made.
     TreeKey& Make(std::u16string_view path, std::size_t& count);
     // Removes the key at a path below this one, with all below it.
     void Erase(std::u16string_view path);

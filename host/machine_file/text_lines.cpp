@@ -47,6 +47,10 @@ TextLines::TextLines(std::istream& in) : in_(in), units_(block), bytes_(block) {
         // The third byte is half a unit, which FillUtf16 makes whole.
         bytes_[0] = bytes_[2];
         undecoded_ -= 2;
+    } else if (undecoded_ >= 2 &&
+               (bytes_[0] == 0xFE ? bytes_[1] == 0xFF : bytes_[0] == 0 && bytes_[1] != 0)) {
+        broken_ = "UTF-16LE or UTF-8 and not UTF-16BE";
+        at_end_ = true;
     } else if (undecoded_ == 3 && std::equal(utf8_mark, std::end(utf8_mark), bytes_.data())) {
         undecoded_ = 0;
     }

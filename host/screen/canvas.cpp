@@ -35,7 +35,7 @@ void Canvas::Write(int column, int row, std::string_view text) {
         const auto start = at;
         const char32_t character = utf8::unchecked::next(at);
         const int columns = ColumnsOf(character);
-        const std::string glyph = character < ' ' ? " " : std::string{start, at};
+        const std::string glyph = IsControl(character) ? " " : std::string{start, at};
         if (columns > 0) {
             Put(column, row, glyph, columns);
         } else if (row >= 0 && row < rows() && column > 0 && column <= columns_) {

@@ -4,32 +4,37 @@
 // by the operations of `platform/platform.h`.
 #pragma once
 
-#include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "host/text.h"
 #include "platform/platform.h"
 
 namespace host {
 
-using Text = std::basic_string<WCHAR>;
-
-std::string ToUtf8(std::basic_string_view<WCHAR> text);
-Text FromUtf8(std::string_view text);
-
 enum class DeviceKind { Board, Port };
+
+// What is known and what is not. A registry export holds some of the places in which a number stands, rarely
+// all; a live system may refuse to tell one. An optional without value is a place that is not known: whether
+// it is empty or not nobody can say, and nothing may be concluded from it. An empty list is a place that is
+// known to hold nothing.
 
 // A device whose sheet can be opened: one with the values of a board, or a serial port.
 struct Device {
     std::string id; // the instance id, "PCI\VEN_1B5C&...", UTF-8
     DeviceKind kind = DeviceKind::Board;
-    Text description;   // may be empty
-    Text friendly_name; // may be empty
-    bool present = true;
+    Text description;            // may be empty
+    Text friendly_name;          // may be empty
+    std::optional<bool> present; // not known of a device without interfaces
+    bool has_store = true;       // its hardware key is known
 };
+
+// The friendly name, else the description, else the instance id, as it is shown.
+std::string NameOf(const Device& device);
 
 struct StoreValue {
     Text name;
@@ -37,13 +42,21 @@ struct StoreValue {
     std::vector<BYTE> data;
 };
 
+using NamedTexts = std::vector<std::pair<Text, Text>>;
+
 // Every place outside the devices that holds a port's number.
 struct PortRecords {
-    std::vector<std::pair<Text, Text>> dos_names;      // "COM5" and its target
-    std::vector<std::pair<Text, Text>> serial_map;     // value name and "COM5"
-    std::vector<std::pair<Text, Text>> settings_lines; // "COM5:" and its line
-    std::array<BYTE, 32> usage{};                      // number n is bit (n - 1) % 8 of byte (n - 1) / 8
+    NamedTexts dos_names; // "COM5" and its target
+    // The DOS names of a machine file are those that its serial map makes: shown, but no evidence.
+    bool dos_names_are_derived = false;
+    std::optional<NamedTexts> serial_map;     // value name and "COM5"
+    std::optional<NamedTexts> settings_lines; // "COM5:" and its line
+    // The COM port database: number n is bit (n - 1) % 8 of byte (n - 1) / 8, and free beyond the last byte.
+    std::optional<std::vector<BYTE>> usage;
 };
+
+// Whether the database has claimed a number. False where it is not known.
+bool IsClaimed(const PortRecords& records, unsigned long number);
 
 class World {
 public:

@@ -7,7 +7,6 @@
 #include "board_page/board_page_provider.h"
 #include "host/machine_file/machine_file.h"
 #include "host/machine_file/registry_export.h"
-#include "host/screen/listing.h"
 #include "host/text.h"
 #include "host/worlds/simulated/user_language.h"
 #include "reporting/module_entry.h"
@@ -37,7 +36,9 @@ BOOL CALLBACK AddPage(HPROPSHEETPAGE page, LPARAM pages) {
 
 } // namespace
 
-SimulatedWorld::SimulatedWorld(sim::Machine& machine) : machine_(machine), scope_(machine) {
+SimulatedWorld::SimulatedWorld(MachineFile file, sim::Machine& machine)
+    : file_(std::move(file)), machine_(machine), scope_(machine) {
+    GiveMachine(file_, machine_);
     machine_.journal_reads = false;
     DllMain(sim::LibraryInstance(), DLL_PROCESS_ATTACH, nullptr);
 }
@@ -56,12 +57,13 @@ std::vector<Device> SimulatedWorld::Devices() {
         }
         const auto is_of_device = [index](const sim::Interface& entry) { return entry.device == index; };
         const auto& interfaces = machine_.interfaces;
-        const bool present = std::ranges::none_of(interfaces, is_of_device) ||
-                             std::ranges::any_of(interfaces, [&](const sim::Interface& entry) {
-                                 return is_of_device(entry) && entry.linked;
-                             });
+        std::optional<bool> present;
+        if (std::ranges::any_of(interfaces, is_of_device)) {
+            present = std::ranges::any_of(
+                interfaces, [&](const sim::Interface& entry) { return is_of_device(entry) && entry.linked; });
+        }
         devices.push_back({ToUtf8(device.instance_id), *kind, device.description.value_or(u""),
-                           device.friendly_name.value_or(u""), present});
+                           device.friendly_name.value_or(u""), present, device.has_key});
     }
     std::ranges::sort(devices, [](const Device& left, const Device& right) {
         return left.kind != right.kind ? left.kind == DeviceKind::Board : Folded(left.id) < Folded(right.id);
@@ -83,17 +85,23 @@ std::vector<StoreValue> SimulatedWorld::Store(const std::string& id) {
 }
 
 PortRecords SimulatedWorld::Ports() {
+    const auto texts_of = [](const sim::Values& values) {
+        NamedTexts texts;
+        for (const sim::Value& value : values.list) {
+            texts.emplace_back(value.name, TextIn(value.data));
+        }
+        return texts;
+    };
     PortRecords records;
     records.dos_names = machine_.dos_names;
-    for (const sim::Value& value : machine_.serial_map.list) {
-        records.serial_map.emplace_back(value.name, TextIn(value.data));
+    records.dos_names_are_derived = true;
+    if (machine_.serial_map_exists) {
+        records.serial_map = texts_of(machine_.serial_map);
     }
     if (const sim::Values* lines = machine_.ProfileSection(u"Ports", false)) {
-        for (const sim::Value& value : lines->list) {
-            records.settings_lines.emplace_back(value.name, TextIn(value.data));
-        }
+        records.settings_lines = texts_of(*lines);
     }
-    records.usage = machine_.port_usage;
+    records.usage = CurrentPortUsage(file_, machine_);
     return records;
 }
 
@@ -139,7 +147,25 @@ UINT SimulatedWorld::BoxStyle(HWND box) {
 }
 
 bool SimulatedWorld::Export(const std::string& file, std::string& error) {
-    return SaveMachine(machine_, file, error);
+    return SaveMachine(file_, machine_, file, error);
+}
+
+bool OpenMachineFile(const std::string& path, MachineFile& file, std::string& error) {
+    std::ifstream from_file;
+    std::istringstream sample{std::string{SampleMachine()}};
+    if (!path.empty()) {
+        from_file.open(path, std::ios::binary);
+        if (!from_file) {
+            error = "can't open " + path;
+            return false;
+        }
+    }
+    Problem problem;
+    if (LoadMachine(path.empty() ? static_cast<std::istream&>(sample) : from_file, path, file, problem)) {
+        return true;
+    }
+    error = problem.file + ':' + std::to_string(problem.line) + ": expected " + problem.expected;
+    return false;
 }
 
 namespace {
@@ -148,36 +174,19 @@ struct Owned {
     sim::Machine machine;
 };
 struct OwnWorld : private Owned, SimulatedWorld {
-    explicit OwnWorld(sim::Machine&& loaded) : Owned{std::move(loaded)}, SimulatedWorld(machine) {}
+    explicit OwnWorld(MachineFile file) : SimulatedWorld(std::move(file), machine) {}
 };
 
 } // namespace
 
-bool OpenMachine(const std::string& file, sim::Machine& machine, std::string& error) {
-    std::ifstream from_file;
-    std::istringstream sample{std::string{SampleMachine()}};
-    if (!file.empty()) {
-        from_file.open(file, std::ios::binary);
-        if (!from_file) {
-            error = "can't open " + file;
-            return false;
-        }
-    }
-    Problem problem;
-    if (LoadMachine(file.empty() ? static_cast<std::istream&>(sample) : from_file, file, machine, problem)) {
-        return true;
-    }
-    error = problem.file + ':' + std::to_string(problem.line) + ": expected " + problem.expected;
-    return false;
-}
-
-std::unique_ptr<World> OpenWorld(const std::string& file, LANGID language, std::string& error) {
-    sim::Machine machine;
-    if (!OpenMachine(file, machine, error)) {
+std::unique_ptr<World> OpenWorld(const std::string& path, LANGID language, std::string& error) {
+    MachineFile file;
+    if (!OpenMachineFile(path, file, error)) {
         return nullptr;
     }
-    machine.language = language != 0 ? language : UserLanguage();
-    return std::make_unique<OwnWorld>(std::move(machine));
+    auto world = std::make_unique<OwnWorld>(std::move(file));
+    sim::Current().language = language != 0 ? language : UserLanguage();
+    return world;
 }
 
 } // namespace host

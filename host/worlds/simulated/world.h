@@ -1,20 +1,21 @@
 // The world of a simulated machine: the library is loaded into it, and its pages are run on its windows.
 #pragma once
 
+#include "host/machine_file/machine_file.h"
 #include "host/worlds/world.h"
 #include "platform/simulated/machine.h"
 
 namespace host {
 
-// Reads the machine of a registry export, or the sample machine if `file` is empty. False with a reason in
-// `error`.
-bool OpenMachine(const std::string& file, sim::Machine& machine, std::string& error);
+// Reads the registry export of a machine, or that of the sample machine if `path` is empty. False with a
+// reason in `error`.
+bool OpenMachineFile(const std::string& path, MachineFile& file, std::string& error);
 
 class SimulatedWorld : public World {
 public:
-    // Makes the machine current and loads the library; the machine must outlive the world, and no other be
-    // made current meanwhile. The machine's journal is the world's from then on.
-    explicit SimulatedWorld(sim::Machine& machine);
+    // Gives the machine what the file holds, makes it current and loads the library. The machine must outlive
+    // the world, and no other be made current meanwhile. Its journal is the world's from then on.
+    SimulatedWorld(MachineFile file, sim::Machine& machine);
     ~SimulatedWorld() override;
 
     std::vector<Device> Devices() override;
@@ -26,6 +27,7 @@ public:
     bool Export(const std::string& file, std::string& error) override;
 
 private:
+    MachineFile file_;
     sim::Machine& machine_;
     sim::Scope scope_;
 };

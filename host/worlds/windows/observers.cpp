@@ -9,7 +9,6 @@
 #include "host/text.h"
 #include "host/worlds/windows/import_table.h"
 #include "host/worlds/windows/standins/faults.h"
-#include "host/worlds/world.h"
 
 namespace host {
 namespace {
@@ -57,13 +56,6 @@ std::string Utf8(LPCWSTR text) {
     return text ? ToUtf8(text) : std::string{};
 }
 
-// A text of so many bytes, up to its terminator.
-std::string TextIn(const BYTE* data, DWORD bytes) {
-    Text text(bytes / sizeof(WCHAR), 0);
-    std::memcpy(text.data(), data, text.size() * sizeof(WCHAR));
-    return ToUtf8(text.substr(0, text.find(WCHAR{0})));
-}
-
 std::string Hex(const char* format, unsigned number) {
     char text[16];
     std::snprintf(text, sizeof text, format, number);
@@ -77,7 +69,7 @@ std::string DataShown(DWORD type, const BYTE* data, DWORD bytes) {
         return std::to_string(number);
     }
     if (type == REG_SZ && bytes % sizeof(WCHAR) == 0) {
-        return Quoted(TextIn(data, bytes));
+        return Quoted(ToUtf8(TextIn({data, bytes})));
     }
     std::string hex;
     for (DWORD i = 0; i < bytes; ++i) {
@@ -130,7 +122,7 @@ BOOL WINAPI ObservedSetupDiSetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_D
                                                       const BYTE* buffer, DWORD bytes) {
     return Journaled(
         "SetupDiSetDeviceRegistryPropertyW " + InstanceId(set, data) + ' ' + PropertyShown(property) + " = " +
-            Quoted(TextIn(buffer, bytes)),
+            Quoted(ToUtf8(TextIn({buffer, bytes}))),
         [&] { return NextSetupDiSetDeviceRegistryPropertyW(set, data, property, buffer, bytes); });
 }
 

@@ -1,6 +1,6 @@
 #include "host/worlds/windows/registry.h"
 
-#include "host/screen/listing.h"
+#include "host/worlds/store_values.h"
 
 namespace host {
 

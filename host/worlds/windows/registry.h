@@ -9,6 +9,7 @@
 
 namespace host {
 
+inline constexpr const WCHAR* ArbiterKey = L"SYSTEM\\CurrentControlSet\\Control\\COM Name Arbiter";
 inline constexpr const WCHAR* PortsKey = L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Ports";
 inline constexpr const WCHAR* SerialMapKey = L"HARDWARE\\DEVICEMAP\\SERIALCOMM";
 

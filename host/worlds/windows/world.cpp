@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "host/screen/listing.h"
+#include "host/worlds/store_values.h"
 #include "host/worlds/windows/attendance.h"
 #include "host/worlds/windows/observers.h"
 #include "host/worlds/windows/registry.h"
@@ -57,6 +57,7 @@ std::optional<Device> Describe(HDEVINFO set, SP_DEVINFO_DATA& data) {
     } else if (!key.Has(TEXT("BoardNrController"))) { // what only a board's own device says
         return {};
     }
+    device.has_store = key.Handle() != nullptr;
     device.description = Property(set, data, SPDRP_DEVICEDESC);
     device.friendly_name = Property(set, data, SPDRP_FRIENDLYNAME);
     return device;
@@ -145,7 +146,9 @@ public:
         SP_DEVINFO_DATA data = EmptyDevice();
         for (DWORD index = 0; SetupDiEnumDeviceInfo(set.Handle(), index, &data); ++index) {
             if (std::optional<Device> device = Describe(set.Handle(), data)) {
-                device->present = !among(with_interface, device->id) || among(present, device->id);
+                if (among(with_interface, device->id)) {
+                    device->present = among(present, device->id);
+                }
                 devices.push_back(std::move(*device));
             }
         }
@@ -172,15 +175,18 @@ public:
     PortRecords Ports() override {
         PortRecords records;
         records.dos_names = SerialDosNames();
-        records.serial_map = RegistryKey(HKEY_LOCAL_MACHINE, SerialMapKey, KEY_READ).Texts();
+        if (const RegistryKey map(HKEY_LOCAL_MACHINE, SerialMapKey, KEY_READ); map.Handle()) {
+            records.serial_map = map.Texts();
+        }
         // The section [Ports] of the profile lies there.
-        records.settings_lines = RegistryKey(HKEY_LOCAL_MACHINE, PortsKey, KEY_READ).Texts();
-        HCOMDB database = nullptr;
-        if (ComDBOpen(&database) == ERROR_SUCCESS) {
-            DWORD ports = 0;
-            ComDBGetCurrentPortUsage(database, records.usage.data(), static_cast<DWORD>(records.usage.size()),
-                                     CDB_REPORT_BITS, &ports);
-            ComDBClose(database);
+        if (const RegistryKey ports(HKEY_LOCAL_MACHINE, PortsKey, KEY_READ); ports.Handle()) {
+            records.settings_lines = ports.Texts();
+        }
+        // Read where it lies: to open the database by its own operations would make one where there is none.
+        const std::vector<StoreValue> arbiter = RegistryKey(HKEY_LOCAL_MACHINE, ArbiterKey, KEY_READ).Values();
+        const StoreValue* const usage = FindValue(arbiter, "ComDB");
+        if (usage && usage->type == REG_BINARY && !usage->data.empty()) {
+            records.usage = usage->data;
         }
         return records;
     }

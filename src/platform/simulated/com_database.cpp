@@ -59,7 +59,7 @@ LONG WINAPI ComDBGetCurrentPortUsage(HCOMDB database, BYTE* buffer, DWORD bytes,
         std::copy_n(usage.begin(), std::min<std::size_t>(bytes, usage.size()), buffer);
     }
     if (count) {
-        *count = port_count;
+        *count = buffer ? std::min(port_count, 8 * bytes) : port_count;
     }
     return ERROR_SUCCESS;
 }

@@ -70,8 +70,9 @@ struct Interface {
     friend bool operator==(const Interface&, const Interface&) = default;
 };
 
-// The COM numbers in use, as the database keeps them: number n is bit (n - 1) % 8 of byte (n - 1) / 8.
-using PortUsage = std::array<BYTE, 32>;
+// The COM numbers in use, as the database keeps them: number n, 1 to 4,096, is bit (n - 1) % 8 of byte
+// (n - 1) / 8.
+using PortUsage = std::array<BYTE, 512>;
 bool IsClaimed(const PortUsage& usage, unsigned number);
 void SetClaimed(PortUsage& usage, unsigned number, bool claimed);
 
