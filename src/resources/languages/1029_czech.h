@@ -13,7 +13,7 @@
 #define PORT_SETTINGS_BAUD_RATE_CAPTION_RECT INSTEAD(74, 19, 64, 8)
 #define PORT_SETTINGS_DATA_BITS_CAPTION "&Datové bity:"
 #define PORT_SETTINGS_DATA_BITS_CAPTION_RECT INSTEAD(74, 40, 64, 8)
-#define PORT_SETTINGS_PARITY_CAPTION "&Parita:"
+#define PORT_SETTINGS_PARITY_CAPTION "P&arita:"
 #define PORT_SETTINGS_PARITY_CAPTION_RECT INSTEAD(74, 61, 64, 8)
 #define PORT_SETTINGS_STOP_BITS_CAPTION "Počet &stop-bitů:"
 #define PORT_SETTINGS_STOP_BITS_CAPTION_RECT INSTEAD(74, 82, 64, 8)
@@ -33,14 +33,14 @@
 #define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION_RECT INSTEAD(23, 50, 75, 17)
 #define ADVANCED_PORT_SETTINGS_RECEIVE_LOW "Nízká (%d)"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_LOW_RECT INSTEAD(102, 53, 44, 10)
-#define ADVANCED_PORT_SETTINGS_RECEIVE_SLIDER_RECT INSTEAD(146, 51, 90, 18)
+#define ADVANCED_PORT_SETTINGS_RECEIVE_SLIDER_RECT INSTEAD(147, 51, 89, 18)
 #define ADVANCED_PORT_SETTINGS_RECEIVE_HIGH "Vysoká (%d)"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_HIGH_RECT INSTEAD(244, 53, 50, 10)
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_CAPTION "&Odesílací vyrovnávací paměť:"
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_CAPTION_RECT INSTEAD(23, 76, 75, 17)
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_LOW "Nízká (%d)"
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_LOW_RECT INSTEAD(102, 79, 44, 10)
-#define ADVANCED_PORT_SETTINGS_TRANSMIT_SLIDER_RECT INSTEAD(146, 76, 90, 20)
+#define ADVANCED_PORT_SETTINGS_TRANSMIT_SLIDER_RECT INSTEAD(147, 76, 89, 20)
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_HIGH "Vysoká (%d)"
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_HIGH_RECT INSTEAD(244, 79, 50, 10)
 #define ADVANCED_PORT_SETTINGS_PORT_NUMBER_CAPTION "Číslo portu &COM:"
@@ -69,7 +69,7 @@
 #define PORT_CONTROL_TRANSMIT_SLIDER_RECT INSTEAD(134, 136, 57, 18)
 #define PORT_CONTROL_TRANSMIT_HIGH "Vysoká"
 #define PORT_CONTROL_TRANSMIT_HIGH_RECT INSTEAD(196, 139, 50, 10)
-#define PORT_CONTROL_APPLY "&Použít"
+#define PORT_CONTROL_APPLY "Použí&t"
 #define PORT_CONTROL_APPLY_RECT INSTEAD(17, 165, 60, 14)
 #define PORT_CONTROL_SET_TO_ALL "Nastavit pro vš&echny"
 #define PORT_CONTROL_SET_TO_ALL_RECT INSTEAD(84, 165, 86, 14)
@@ -99,7 +99,7 @@
 
 // Message boxes.
 #define STRING_OUT_OF_MEMORY \
-    "K provedení této operace není dostatek paměti.\r\rUkončete jednu nebo více aplikací systému Windows, aby se zvětšila dostupná paměť."
+    "K provedení této operace není dostatek paměti.\r\rUkončete jednu nebo více aplikací systému Windows, aby se uvolnila paměť."
 #define STRING_OUT_OF_MEMORY_CAPTION "Komunikační port"
 #define STRING_NAME_IN_USE_QUESTION \
     "Tento název portu COM používá jiné zařízení (například jiný port COM nebo modem). Používání duplicitních názvů může vést k nedostupnosti zařízení a ke změně nastavení. Chcete pokračovat?"

@@ -20,7 +20,7 @@
 #define PORT_SETTINGS_STOP_BITS_CAPTION_RECT INSTEAD(82, 82, 56, 8)
 #define PORT_SETTINGS_FLOW_CONTROL_CAPTION "&Flowkontrol:"
 #define PORT_SETTINGS_FLOW_CONTROL_CAPTION_RECT INSTEAD(82, 102, 56, 8)
-#define PORT_SETTINGS_ADVANCED "&Avanceret..."
+#define PORT_SETTINGS_ADVANCED "A&vanceret..."
 #define PORT_SETTINGS_ADVANCED_RECT INSTEAD(81, 130, 65, 14)
 #define PORT_SETTINGS_RESTORE "&Gendan standardværdier"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(150, 130, 100, 14)
@@ -33,14 +33,14 @@
 #define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION_RECT INSTEAD(23, 53, 59, 10)
 #define ADVANCED_PORT_SETTINGS_RECEIVE_LOW "Lav (%d)"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_LOW_RECT INSTEAD(98, 53, 37, 10)
-#define ADVANCED_PORT_SETTINGS_RECEIVE_SLIDER_RECT INSTEAD(135, 51, 115, 18)
+#define ADVANCED_PORT_SETTINGS_RECEIVE_SLIDER_RECT INSTEAD(136, 51, 114, 18)
 #define ADVANCED_PORT_SETTINGS_RECEIVE_HIGH "Høj (%d)"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_HIGH_RECT INSTEAD(258, 53, 36, 10)
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_CAPTION "S&endebuffer:"
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_CAPTION_RECT INSTEAD(23, 79, 59, 10)
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_LOW "Lav (%d)"
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_LOW_RECT INSTEAD(98, 79, 37, 10)
-#define ADVANCED_PORT_SETTINGS_TRANSMIT_SLIDER_RECT INSTEAD(135, 76, 115, 20)
+#define ADVANCED_PORT_SETTINGS_TRANSMIT_SLIDER_RECT INSTEAD(136, 76, 114, 20)
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_HIGH "Høj (%d)"
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_HIGH_RECT INSTEAD(258, 79, 36, 10)
 #define ADVANCED_PORT_SETTINGS_PORT_NUMBER_CAPTION "COM-&portnummer:"
@@ -69,7 +69,7 @@
 #define PORT_CONTROL_TRANSMIT_SLIDER_RECT INSTEAD(111, 136, 94, 18)
 #define PORT_CONTROL_TRANSMIT_HIGH "Høj"
 #define PORT_CONTROL_TRANSMIT_HIGH_RECT INSTEAD(210, 139, 36, 10)
-#define PORT_CONTROL_APPLY "&Anvend"
+#define PORT_CONTROL_APPLY "A&nvend"
 #define PORT_CONTROL_APPLY_RECT INSTEAD(17, 165, 50, 14)
 #define PORT_CONTROL_SET_TO_ALL "Angiv for a&lle"
 #define PORT_CONTROL_SET_TO_ALL_RECT INSTEAD(77, 165, 58, 14)
@@ -104,7 +104,7 @@
     "Der er ikke tilstrækkelig hukommelse til denne handling.\r\rLuk et eller flere Windows-programmer for at frigøre mere hukommelse."
 #define STRING_OUT_OF_MEMORY_CAPTION "Kommunikationsport"
 #define STRING_NAME_IN_USE_QUESTION \
-    "COM-navnet bruges allerede af en anden enhed (f.eks. en anden COM-port eller et modem). Hvis flere enheder har samme navn, kan det medføre, at enheder ikke er tilgængelige, og at indstillinger ændres. Vil du fortsætte?"
+    "Dette COM-navn bruges allerede af en anden enhed (f.eks. en anden COM-port eller et modem). Hvis flere enheder har samme navn, kan det medføre, at enheder ikke er tilgængelige, og at indstillinger ændres. Vil du fortsætte?"
 #define STRING_BOX_CAPTION "Egenskaber for kommunikationsport"
 #define STRING_RENAME_FAILED "Der opstod en fejl under omdøbning af COM-porten."
 

@@ -13,7 +13,7 @@
 #define PORT_SETTINGS_BAUD_RATE_CAPTION_RECT INSTEAD(73, 19, 65, 8)
 #define PORT_SETTINGS_DATA_BITS_CAPTION "&Dátové bity:"
 #define PORT_SETTINGS_DATA_BITS_CAPTION_RECT INSTEAD(73, 40, 65, 8)
-#define PORT_SETTINGS_PARITY_CAPTION "&Parita:"
+#define PORT_SETTINGS_PARITY_CAPTION "P&arita:"
 #define PORT_SETTINGS_PARITY_CAPTION_RECT INSTEAD(73, 61, 65, 8)
 #define PORT_SETTINGS_STOP_BITS_CAPTION "Počet &stop-bitov:"
 #define PORT_SETTINGS_STOP_BITS_CAPTION_RECT INSTEAD(73, 82, 65, 8)
@@ -33,14 +33,14 @@
 #define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION_RECT INSTEAD(23, 50, 79, 17)
 #define ADVANCED_PORT_SETTINGS_RECEIVE_LOW "Nízka (%d)"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_LOW_RECT INSTEAD(106, 53, 44, 10)
-#define ADVANCED_PORT_SETTINGS_RECEIVE_SLIDER_RECT INSTEAD(150, 51, 86, 18)
+#define ADVANCED_PORT_SETTINGS_RECEIVE_SLIDER_RECT INSTEAD(151, 51, 85, 18)
 #define ADVANCED_PORT_SETTINGS_RECEIVE_HIGH "Vysoká (%d)"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_HIGH_RECT INSTEAD(244, 53, 50, 10)
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_CAPTION "Vy&sielacia vyrovnávacia pamäť:"
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_CAPTION_RECT INSTEAD(23, 76, 79, 17)
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_LOW "Nízka (%d)"
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_LOW_RECT INSTEAD(106, 79, 44, 10)
-#define ADVANCED_PORT_SETTINGS_TRANSMIT_SLIDER_RECT INSTEAD(150, 76, 86, 20)
+#define ADVANCED_PORT_SETTINGS_TRANSMIT_SLIDER_RECT INSTEAD(151, 76, 85, 20)
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_HIGH "Vysoká (%d)"
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_HIGH_RECT INSTEAD(244, 79, 50, 10)
 #define ADVANCED_PORT_SETTINGS_PORT_NUMBER_CAPTION "Číslo portu &COM:"
@@ -69,7 +69,7 @@
 #define PORT_CONTROL_TRANSMIT_SLIDER_RECT INSTEAD(138, 136, 53, 18)
 #define PORT_CONTROL_TRANSMIT_HIGH "Vysoká"
 #define PORT_CONTROL_TRANSMIT_HIGH_RECT INSTEAD(196, 139, 50, 10)
-#define PORT_CONTROL_APPLY "&Použiť"
+#define PORT_CONTROL_APPLY "Po&užiť"
 #define PORT_CONTROL_APPLY_RECT INSTEAD(13, 165, 60, 14)
 #define PORT_CONTROL_SET_TO_ALL "Nastaviť pre vš&etky"
 #define PORT_CONTROL_SET_TO_ALL_RECT INSTEAD(78, 165, 80, 14)
@@ -99,7 +99,7 @@
 
 // Message boxes.
 #define STRING_OUT_OF_MEMORY \
-    "Na túto operáciu nie je dostatok pamäte.\r\rAk chcete zväčšiť dostupnú pamäť, ukončite jednu alebo viac aplikácií systému Windows."
+    "Na túto operáciu nie je dostatok pamäte.\r\rAk chcete uvoľniť pamäť, ukončite jednu alebo viac aplikácií systému Windows."
 #define STRING_OUT_OF_MEMORY_CAPTION "Komunikačný port"
 #define STRING_NAME_IN_USE_QUESTION \
     "Tento názov portu COM používa iné zariadenie (napríklad iný port COM alebo modem). Používanie duplicitných názvov môže spôsobiť nedostupnosť zariadení a zmenu nastavení. Chcete pokračovať?"

@@ -9,7 +9,7 @@
 
 // The page of a COM port.
 #define PORT_SETTINGS "Portinnstillingar"
-#define PORT_SETTINGS_BAUD_RATE_CAPTION "&Bitar per sekund:"
+#define PORT_SETTINGS_BAUD_RATE_CAPTION "B&itar per sekund:"
 #define PORT_SETTINGS_BAUD_RATE_CAPTION_RECT INSTEAD(72, 19, 66, 8)
 #define PORT_SETTINGS_DATA_BITS_CAPTION "&Databitar:"
 #define PORT_SETTINGS_DATA_BITS_CAPTION_RECT INSTEAD(72, 40, 66, 8)
@@ -32,14 +32,14 @@
 #define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION_RECT INSTEAD(23, 53, 56, 10)
 #define ADVANCED_PORT_SETTINGS_RECEIVE_LOW "Låg (%d)"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_LOW_RECT INSTEAD(98, 53, 38, 10)
-#define ADVANCED_PORT_SETTINGS_RECEIVE_SLIDER_RECT INSTEAD(136, 51, 112, 18)
+#define ADVANCED_PORT_SETTINGS_RECEIVE_SLIDER_RECT INSTEAD(137, 51, 111, 18)
 #define ADVANCED_PORT_SETTINGS_RECEIVE_HIGH "Høg (%d)"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_HIGH_RECT INSTEAD(256, 53, 38, 10)
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_CAPTION "S&endebuffer:"
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_CAPTION_RECT INSTEAD(23, 79, 56, 10)
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_LOW "Låg (%d)"
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_LOW_RECT INSTEAD(98, 79, 38, 10)
-#define ADVANCED_PORT_SETTINGS_TRANSMIT_SLIDER_RECT INSTEAD(136, 76, 112, 20)
+#define ADVANCED_PORT_SETTINGS_TRANSMIT_SLIDER_RECT INSTEAD(137, 76, 111, 20)
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_HIGH "Høg (%d)"
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_HIGH_RECT INSTEAD(256, 79, 38, 10)
 #define ADVANCED_PORT_SETTINGS_PORT_NUMBER_CAPTION "COM-&portnummer:"
@@ -68,7 +68,7 @@
 #define PORT_CONTROL_TRANSMIT_SLIDER_RECT INSTEAD(108, 136, 95, 18)
 #define PORT_CONTROL_TRANSMIT_HIGH "Høg"
 #define PORT_CONTROL_TRANSMIT_HIGH_RECT INSTEAD(208, 139, 38, 10)
-#define PORT_CONTROL_APPLY "&Bruk"
+#define PORT_CONTROL_APPLY "B&ruk"
 #define PORT_CONTROL_APPLY_RECT INSTEAD(14, 165, 50, 14)
 #define PORT_CONTROL_SET_TO_ALL "Angi for a&lle"
 #define PORT_CONTROL_SET_TO_ALL_RECT INSTEAD(71, 165, 54, 14)
@@ -103,7 +103,7 @@
     "Det er ikkje nok minne til denne operasjonen.\r\rLukk eitt eller fleire Windows-program for å frigjere meir minne."
 #define STRING_OUT_OF_MEMORY_CAPTION "Kommunikasjonsport"
 #define STRING_NAME_IN_USE_QUESTION \
-    "Dette COM-namnet blir alt brukt av ei anna eining (til dømes ein annan COM-port eller eit modem). Bruk av like namn kan føre til at einingar blir utilgjengelege, og at innstillingar blir endra. Vil du halde fram?"
+    "Dette COM-namnet blir allereie brukt av ei anna eining (til dømes ein annan COM-port eller eit modem). Bruk av like namn kan føre til at einingar blir utilgjengelege, og at innstillingar blir endra. Vil du halde fram?"
 #define STRING_BOX_CAPTION "Eigenskapar for kommunikasjonsport"
 #define STRING_RENAME_FAILED "Det oppstod ein feil då COM-porten skulle få nytt namn."
 

@@ -32,14 +32,14 @@
 #define ADVANCED_PORT_SETTINGS_RECEIVE_CAPTION_RECT INSTEAD(23, 53, 75, 10)
 #define ADVANCED_PORT_SETTINGS_RECEIVE_LOW "Låg (%d)"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_LOW_RECT INSTEAD(102, 53, 38, 10)
-#define ADVANCED_PORT_SETTINGS_RECEIVE_SLIDER_RECT INSTEAD(140, 51, 108, 18)
+#define ADVANCED_PORT_SETTINGS_RECEIVE_SLIDER_RECT INSTEAD(141, 51, 107, 18)
 #define ADVANCED_PORT_SETTINGS_RECEIVE_HIGH "Hög (%d)"
 #define ADVANCED_PORT_SETTINGS_RECEIVE_HIGH_RECT INSTEAD(256, 53, 38, 10)
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_CAPTION "Sä&ndningsbuffert:"
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_CAPTION_RECT INSTEAD(23, 79, 75, 10)
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_LOW "Låg (%d)"
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_LOW_RECT INSTEAD(102, 79, 38, 10)
-#define ADVANCED_PORT_SETTINGS_TRANSMIT_SLIDER_RECT INSTEAD(140, 76, 108, 20)
+#define ADVANCED_PORT_SETTINGS_TRANSMIT_SLIDER_RECT INSTEAD(141, 76, 107, 20)
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_HIGH "Hög (%d)"
 #define ADVANCED_PORT_SETTINGS_TRANSMIT_HIGH_RECT INSTEAD(256, 79, 38, 10)
 #define ADVANCED_PORT_SETTINGS_PORT_NUMBER_CAPTION "COM-&portnummer:"
@@ -68,7 +68,7 @@
 #define PORT_CONTROL_TRANSMIT_SLIDER_RECT INSTEAD(127, 136, 76, 18)
 #define PORT_CONTROL_TRANSMIT_HIGH "Hög"
 #define PORT_CONTROL_TRANSMIT_HIGH_RECT INSTEAD(208, 139, 38, 10)
-#define PORT_CONTROL_APPLY "&Verkställ"
+#define PORT_CONTROL_APPLY "V&erkställ"
 #define PORT_CONTROL_APPLY_RECT INSTEAD(19, 165, 50, 14)
 #define PORT_CONTROL_SET_TO_ALL "Ange för a&lla"
 #define PORT_CONTROL_SET_TO_ALL_RECT INSTEAD(79, 165, 56, 14)
@@ -101,7 +101,7 @@
     "Det finns inte tillräckligt med minne för åtgärden.\r\rStäng ett eller flera Windows-program för att frigöra mer minne."
 #define STRING_OUT_OF_MEMORY_CAPTION "Kommunikationsport"
 #define STRING_NAME_IN_USE_QUESTION \
-    "COM-namnet används redan av en annan enhet (t.ex. en annan COM-port eller ett modem). Om flera enheter har samma namn kan de bli oåtkomliga och deras inställningar ändras. Vill du fortsätta?"
+    "Det här COM-namnet används redan av en annan enhet (t.ex. en annan COM-port eller ett modem). Om flera enheter har samma namn kan de bli oåtkomliga och deras inställningar ändras. Vill du fortsätta?"
 #define STRING_BOX_CAPTION "Egenskaper för kommunikationsport"
 #define STRING_RENAME_FAILED "Ett fel uppstod när namnet på COM-porten skulle ändras."
 
