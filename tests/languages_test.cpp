@@ -175,6 +175,14 @@ TEST(Languages, StringsFitTheirBuffersAndListsKeepTheirItems) {
     }
 }
 
+TEST(Languages, OneThatIsMissingIsFoundWithoutItsCountryOrInEnglish) {
+    const std::pair<LANGID, LANGID> found[] = {{0x041D, 29}, {0x081D, 29},   {2058, 1033}, {3079, 1033},
+                                               {5129, 1033}, {0x7FFF, 1033}, {29, 29},     {3084, 3084}};
+    for (const auto& [asked, got] : found) {
+        EXPECT_EQ(sim::CatalogueFor(asked).language, got) << asked;
+    }
+}
+
 TEST(UserLanguage, IsThatOfTheLocaleByCountryBeforeLanguage) {
     const std::pair<const char*, LANGID> locales[] = {
         {"de_DE.UTF-8", 1031},

@@ -13,7 +13,6 @@ namespace {
 
 constexpr LANGID english_united_states = 0x0409;
 constexpr LANGID primary_mask = 0x03FF;
-constexpr LANGID default_sublanguage = 0x0400;
 
 std::vector<const Catalogue*>& Entered() {
     static std::vector<const Catalogue*> catalogues;
@@ -22,12 +21,6 @@ std::vector<const Catalogue*>& Entered() {
 
 const Catalogue* Exactly(LANGID language) {
     const auto found = std::ranges::find(Entered(), language, &Catalogue::language);
-    return found == Entered().end() ? nullptr : *found;
-}
-
-const Catalogue* OfPrimary(LANGID primary) {
-    const auto found = std::ranges::find_if(
-        Entered(), [=](const Catalogue* one) { return (one->language & primary_mask) == primary; });
     return found == Entered().end() ? nullptr : *found;
 }
 
@@ -53,9 +46,7 @@ bool EnterCatalogue(const Catalogue& catalogue) {
 }
 
 const Catalogue& CatalogueFor(LANGID language) {
-    const LANGID primary = language & primary_mask;
-    for (const Catalogue* found :
-         {Exactly(language), Exactly(primary), Exactly(primary | default_sublanguage), OfPrimary(primary)}) {
+    for (const Catalogue* found : {Exactly(language), Exactly(language & primary_mask)}) {
         if (found != nullptr) {
             return *found;
         }
