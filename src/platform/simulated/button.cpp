@@ -17,11 +17,11 @@ struct Button : Window {
         if (IsKind(BS_GROUPBOX) || !IsShown() || !IsOpenToInput()) {
             return;
         }
-        Focus() = handle;
+        MoveFocus(*this);
         if (IsKind(BS_AUTOCHECKBOX)) {
             check ^= BST_CHECKED;
         }
-        parent->Answer(WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(handle));
+        TellParent(*this, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED));
     }
 
     LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam) override {
@@ -36,6 +36,16 @@ struct Button : Window {
         case BM_CLICK:
             Click();
             return 0;
+        case WM_KEYUP:
+            if (wParam == VK_SPACE) {
+                Click();
+            }
+            return 0;
+        case WM_GETDLGCODE:
+            return IsKind(BS_GROUPBOX)       ? DLGC_STATIC
+                   : IsKind(BS_AUTOCHECKBOX) ? DLGC_BUTTON
+                   : IsKind(BS_PUSHBUTTON)   ? DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON
+                                             : DLGC_BUTTON | DLGC_DEFPUSHBUTTON;
         default:
             return Window::Answer(message, wParam, lParam);
         }

@@ -20,8 +20,13 @@ constexpr struct {
     std::u16string_view name;
     std::unique_ptr<Window> (*make)();
 } classes[] = {
-    {u"BUTTON", MakeButton},   {u"STATIC", MakeLabel},           {u"COMBOBOX", MakeComboBox},
-    {u"LISTBOX", MakeListBox}, {u"SysListView32", MakeListView}, {u"msctls_trackbar32", MakeTrackBar},
+    {u"BUTTON", MakeButton},
+    {u"STATIC", MakeLabel},
+    {u"COMBOBOX", MakeComboBox},
+    {u"LISTBOX", MakeListBox},
+    {u"SysListView32", MakeListView},
+    {u"msctls_trackbar32", MakeTrackBar},
+    {u"SysTabControl32", MakeTabControl},
 };
 
 std::unique_ptr<Window> MakeControl(const ControlTemplate& form, Dialog& dialog) {
@@ -47,7 +52,8 @@ Dialog::~Dialog() {
         disabled_->Enable(true);
     }
     if (top_level_) {
-        Focus() = FindWindow(focus_before_) == nullptr ? nullptr : focus_before_;
+        const Window* before = FindWindow(focus_before_);
+        Focus() = before == nullptr || !before->IsOpenToInput() ? nullptr : focus_before_;
         Closed("window");
     }
 }
@@ -81,6 +87,10 @@ void Dialog::Furnish(const DialogTemplate& form) {
             children.push_back(MakeControl(control, *this));
         }
     }
+    const auto by_default = std::ranges::find_if(children, [](const auto& child) {
+        return (child->Answer(WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON) != 0;
+    });
+    default_id = by_default == children.end() ? IDOK : (*by_default)->id;
 }
 
 void Dialog::Initialise(LPARAM parameter) {
@@ -110,12 +120,22 @@ LRESULT Dialog::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
             return message_result;
         }
     }
-    if (message == WM_CLOSE) {
+    switch (message) {
+    case DM_GETDEFID:
+        return static_cast<LRESULT>(MAKELONG(default_id, DC_HASDEFID));
+    case WM_NEXTDLGCTL:
+        GoTo(wParam, LOWORD(lParam) != 0);
+        return 0;
+    case WM_GETDLGCODE:
+        return 0;
+    case WM_CLOSE: {
         const Window* cancel = Child(IDCANCEL);
         return Answer(WM_COMMAND, IDCANCEL,
                       reinterpret_cast<LPARAM>(cancel == nullptr ? nullptr : cancel->handle));
     }
-    return Window::Answer(message, wParam, lParam);
+    default:
+        return Window::Answer(message, wParam, lParam);
+    }
 }
 
 void Dialog::Run(INT_PTR if_left) {
@@ -162,10 +182,12 @@ namespace {
 // A slot that a dialog procedure may use; null for any other index.
 LONG_PTR* SlotOf(HWND handle, int index, std::string_view operation) {
     Dialog* dialog = DialogOf(handle, operation);
-    if (dialog == nullptr || (index != DWLP_USER && index != DWLP_MSGRESULT)) {
+    if (dialog == nullptr || (index != DWLP_USER && index != DWLP_MSGRESULT && index != DWLP_DLGPROC)) {
         return nullptr;
     }
-    return index == DWLP_USER ? &dialog->user : &dialog->message_result;
+    return index == DWLP_USER        ? &dialog->user
+           : index == DWLP_MSGRESULT ? &dialog->message_result
+                                     : reinterpret_cast<LONG_PTR*>(&dialog->procedure);
 }
 
 } // namespace

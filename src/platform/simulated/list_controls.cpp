@@ -1,4 +1,6 @@
 // The list box and the drop-down list: both hold unsorted items, one of them selected or none.
+#include <algorithm>
+
 #include "platform/simulated/window.h"
 
 namespace sim {
@@ -52,7 +54,54 @@ struct Items {
         }
         return CB_ERR;
     }
+    // The item to which a key leads from the selected one, `page` items being in sight; LB_ERR for any other
+    // key and without items.
+    LRESULT Reached(WPARAM key, LRESULT page) const {
+        const LRESULT last = static_cast<LRESULT>(texts.size()) - 1;
+        const LRESULT step = std::max<LRESULT>(page - 1, 1);
+        const struct {
+            WPARAM key;
+            LRESULT wanted;
+        } moves[] = {
+            {VK_UP, selection - 1},
+            {VK_LEFT, selection - 1},
+            {VK_DOWN, selection + 1},
+            {VK_RIGHT, selection + 1},
+            {VK_PRIOR, selection - step},
+            {VK_NEXT, selection + step},
+            {VK_HOME, 0},
+            {VK_END, last},
+        };
+        const auto move = std::ranges::find_if(moves, [&](const auto& one) { return one.key == key; });
+        return move == std::end(moves) || last < 0 ? LB_ERR : std::clamp<LRESULT>(move->wanted, 0, last);
+    }
 };
+
+// The letters typed in one go, as far as an item begins with them.
+struct Typing {
+    Text beginning;
+
+    // The item that begins with what has been typed or, if there is none, the next one with this letter.
+    LRESULT Find(const Items& items, WPARAM letter) {
+        beginning += static_cast<char16_t>(letter);
+        LRESULT found = beginning.size() > 1 ? FindFrom(items, items.selection - 1) : LB_ERR;
+        if (found == LB_ERR) {
+            beginning = static_cast<char16_t>(letter);
+            found = FindFrom(items, items.selection);
+        }
+        return found;
+    }
+
+private:
+    LRESULT FindFrom(const Items& items, LRESULT behind) const {
+        return items.Find(static_cast<WPARAM>(behind), reinterpret_cast<LPARAM>(beginning.c_str()));
+    }
+};
+
+// How many items a place of that height has in sight.
+LRESULT ItemsIn(LONG height) {
+    return height / PixelsDown(8);
+}
 
 // Item indices travel as 32-bit numbers.
 WPARAM Index(WPARAM wParam) {
@@ -61,8 +110,21 @@ WPARAM Index(WPARAM wParam) {
 
 struct ListBox : Window {
     Items items;
+    Typing typing;
 
     ListBox() : Window(u"ListBox") {}
+
+    LRESULT TakeKey(WPARAM key) {
+        typing = {};
+        return Choose(items.Reached(key, ItemsIn(place.bottom - place.top)));
+    }
+    LRESULT Choose(LRESULT item) {
+        if (item != LB_ERR) {
+            items.Select(static_cast<WPARAM>(item));
+            TellParent(*this, WM_COMMAND, MAKEWPARAM(id, LBN_SELCHANGE));
+        }
+        return 0;
+    }
 
     LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam) override {
         switch (message) {
@@ -80,16 +142,72 @@ struct ListBox : Window {
             return items.Length(Index(wParam));
         case LB_GETCOUNT:
             return static_cast<LRESULT>(items.texts.size());
+        case WM_KEYDOWN:
+            return TakeKey(wParam);
+        case WM_CHAR:
+            return Choose(typing.Find(items, wParam));
+        case WM_KILLFOCUS:
+            typing = {};
+            return 0;
+        case WM_GETDLGCODE:
+            return DLGC_WANTARROWS | DLGC_WANTCHARS;
         default:
             return Window::Answer(message, wParam, lParam);
         }
     }
 };
 
+// Dialog units of a combo whose list is shut.
+constexpr int closed_height = 12;
+
 struct ComboBox : Window {
     Items items;
+    Typing typing;
+    bool is_dropped = false;
 
     ComboBox() : Window(u"ComboBox") {}
+
+    void Notify(WORD code) { TellParent(*this, WM_COMMAND, MAKEWPARAM(id, code)); }
+
+    LRESULT Drop(bool drop, WORD end = CBN_SELENDOK) {
+        if (drop != is_dropped) {
+            is_dropped = drop;
+            if (!drop) {
+                Notify(end);
+            }
+            Notify(drop ? CBN_DROPDOWN : CBN_CLOSEUP);
+        }
+        return TRUE;
+    }
+
+    LRESULT Choose(LRESULT item) {
+        if (item != CB_ERR) {
+            items.Select(static_cast<WPARAM>(item));
+            if (!is_dropped) {
+                Notify(CBN_SELENDOK);
+            }
+            Notify(CBN_SELCHANGE);
+        }
+        return 0;
+    }
+
+    LRESULT TakeKey(WPARAM key) {
+        typing = {};
+        if (key == VK_F4) {
+            return Drop(!is_dropped);
+        }
+        if (is_dropped && (key == VK_RETURN || key == VK_ESCAPE)) {
+            return Drop(false, key == VK_RETURN ? CBN_SELENDOK : CBN_SELENDCANCEL);
+        }
+        return Choose(items.Reached(key, ItemsIn(place.bottom - place.top - PixelsDown(closed_height))));
+    }
+
+    // While its list is open, Enter and Esc are its own.
+    LRESULT Code(const MSG* message) const {
+        const bool closes = is_dropped && message != nullptr && message->message == WM_KEYDOWN &&
+                            (message->wParam == VK_RETURN || message->wParam == VK_ESCAPE);
+        return DLGC_WANTARROWS | DLGC_WANTCHARS | (closes ? DLGC_WANTMESSAGE : 0);
+    }
 
     LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam) override {
         switch (message) {
@@ -109,6 +227,21 @@ struct ComboBox : Window {
             return static_cast<LRESULT>(items.texts.size());
         case CB_FINDSTRING:
             return items.Find(Index(wParam), lParam);
+        case CB_SHOWDROPDOWN:
+            return Drop(wParam != FALSE);
+        case CB_GETDROPPEDSTATE:
+            return is_dropped;
+        case WM_KEYDOWN:
+            return TakeKey(wParam);
+        case WM_SYSKEYDOWN:
+            return wParam == VK_DOWN || wParam == VK_UP ? Drop(!is_dropped) : 0;
+        case WM_CHAR:
+            return Choose(typing.Find(items, wParam));
+        case WM_KILLFOCUS:
+            typing = {};
+            return Drop(false, CBN_SELENDCANCEL);
+        case WM_GETDLGCODE:
+            return Code(reinterpret_cast<const MSG*>(lParam));
         // A drop-down list has no text of its own.
         case WM_GETTEXT:
             return CopyOut(items.Selected(), reinterpret_cast<LPWSTR>(lParam), wParam);

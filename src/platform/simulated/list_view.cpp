@@ -106,6 +106,8 @@ struct ListView : Window {
             return SetItem(*reinterpret_cast<const LVITEMW*>(lParam));
         case LVM_GETITEMTEXTW:
             return ReadItem(static_cast<int>(wParam), *reinterpret_cast<const LVITEMW*>(lParam));
+        case WM_GETDLGCODE:
+            return DLGC_WANTARROWS | DLGC_WANTCHARS;
         default:
             return Window::Answer(message, wParam, lParam);
         }

@@ -47,6 +47,7 @@ constexpr int margin = 4;
 constexpr int tab_height = 18;
 constexpr int button_width = 50;
 constexpr int button_height = 14;
+constexpr int tab_number = 0x3020;
 
 struct Sheet : Dialog {
     std::vector<Dialog*> pages; // the first one is in front
@@ -58,11 +59,13 @@ struct Sheet : Dialog {
         constexpr DWORD button = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
         const auto place_of = [=](int from_right) { return cx - from_right * (button_width + margin); };
         const ControlTemplate buttons[] = {
-            {IDOK, u"OK", u"BUTTON", button | BS_DEFPUSHBUTTON, place_of(3), row, button_width,
+            {IDOK, u"OK", u"BUTTON", button | WS_GROUP | BS_DEFPUSHBUTTON, place_of(3), row, button_width,
              button_height},
             {IDCANCEL, u"Cancel", u"BUTTON", button, place_of(2), row, button_width, button_height},
             {ID_APPLY_NOW, u"&Apply", u"BUTTON", button | WS_DISABLED, place_of(1), row, button_width,
              button_height},
+            {tab_number, u"", u"SysTabControl32", button | WS_GROUP, margin, margin, page_cx,
+             tab_height - margin},
         };
         OpenOver(nullptr);
         Furnish({0, title.c_str(), static_cast<DWORD>(WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME), 0,
@@ -118,6 +121,9 @@ struct Sheet : Dialog {
     }
 
     LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (procedure != nullptr) { // whoever watches the sheet has put it there
+            return Dialog::Answer(message, wParam, lParam);
+        }
         switch (message) {
         case PSM_CHANGED:
             Child(ID_APPLY_NOW)->Enable(true);

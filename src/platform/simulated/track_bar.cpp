@@ -1,4 +1,6 @@
 // The slider. Its limits travel as signed 16-bit halves, its position as a whole number.
+#include <algorithm>
+
 #include "platform/simulated/window.h"
 
 namespace sim {
@@ -17,6 +19,37 @@ struct TrackBar : Window {
         position = position > maximum ? maximum : position;
     }
 
+    // What a key does to it as it goes down, told to the parent if that has moved it, and as it goes up.
+    void TakeKey(WPARAM key, bool goes_up) {
+        const LONG page = std::max((maximum - minimum) / 5, 1);
+        const struct {
+            WPARAM key;
+            WORD code;
+            LONG wanted;
+        } moves[] = {
+            {VK_LEFT, TB_LINEUP, position - 1},
+            {VK_UP, TB_LINEUP, position - 1},
+            {VK_RIGHT, TB_LINEDOWN, position + 1},
+            {VK_DOWN, TB_LINEDOWN, position + 1},
+            {VK_PRIOR, TB_PAGEUP, position - page},
+            {VK_NEXT, TB_PAGEDOWN, position + page},
+            {VK_HOME, TB_TOP, minimum},
+            {VK_END, TB_BOTTOM, maximum},
+        };
+        const auto move = std::ranges::find_if(moves, [&](const auto& one) { return one.key == key; });
+        const LONG before = position;
+        if (move == std::end(moves)) {
+            return;
+        }
+        if (goes_up) {
+            return TellParent(*this, WM_HSCROLL, TB_ENDTRACK);
+        }
+        MoveTo(move->wanted);
+        if (position != before) {
+            TellParent(*this, WM_HSCROLL, move->code);
+        }
+    }
+
     LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam) override {
         switch (message) {
         case TBM_GETPOS:
@@ -33,6 +66,12 @@ struct TrackBar : Window {
             maximum = static_cast<SHORT>(HIWORD(lParam));
             MoveTo(position);
             return 0;
+        case WM_KEYDOWN:
+        case WM_KEYUP:
+            TakeKey(wParam, message == WM_KEYUP);
+            return 0;
+        case WM_GETDLGCODE:
+            return DLGC_WANTARROWS;
         default:
             return Window::Answer(message, wParam, lParam);
         }

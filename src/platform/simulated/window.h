@@ -46,6 +46,7 @@ struct Window {
 // A window with a dialog procedure: a dialog, or a page of a sheet.
 struct Dialog : Window {
     DLGPROC procedure = nullptr;
+    int default_id = IDOK;       // of the button that Enter presses where the focus is on none
     LONG_PTR user = 0;           // DWLP_USER
     LONG_PTR message_result = 0; // DWLP_MSGRESULT
     bool ended = false;
@@ -67,6 +68,9 @@ struct Dialog : Window {
     void End(INT_PTR value);
 
 private:
+    // WM_NEXTDLGCTL: to the window that `to` names, or to the next stop or, if it is not 0, the one before.
+    void GoTo(WPARAM to, bool is_handle);
+
     Window* disabled_ = nullptr; // the owner, while this window keeps it disabled
     HWND focus_before_ = nullptr;
     bool top_level_ = false;
@@ -81,12 +85,20 @@ Dialog* DialogOf(HWND handle, std::string_view operation);
 
 // The window with the keyboard focus, or null.
 HWND& Focus();
+// Gives it to another window, or to none, and tells the one that had it. That one's handle.
+HWND PassFocus(HWND window);
+// The same as a key or a click does it: the mark of the default button goes along, to the button that gets
+// the focus or back to the dialog's own.
+void MoveFocus(Window& control);
+// A message to the window that holds the control.
+void TellParent(const Window& control, UINT message, WPARAM wParam);
 
 std::unique_ptr<Window> MakeButton();
 std::unique_ptr<Window> MakeComboBox();
 std::unique_ptr<Window> MakeListBox();
 std::unique_ptr<Window> MakeListView();
 std::unique_ptr<Window> MakeTrackBar();
+std::unique_ptr<Window> MakeTabControl();
 
 // Dialog units to pixels, in the font of the dialogs.
 constexpr LONG PixelsAcross(LONG units) {

@@ -38,6 +38,8 @@ LRESULT Window::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
         return CopyOut(text, reinterpret_cast<LPWSTR>(lParam), wParam);
     case WM_GETTEXTLENGTH:
         return static_cast<LRESULT>(text.size());
+    case WM_GETDLGCODE:
+        return DLGC_STATIC;
     default:
         return 0;
     }
@@ -56,7 +58,7 @@ Window* Window::Child(int number) const {
 void Window::Enable(bool enable) {
     style = enable ? style & ~static_cast<DWORD>(WS_DISABLED) : style | WS_DISABLED;
     if (!enable && Focus() == handle) {
-        Focus() = nullptr;
+        PassFocus(nullptr);
     }
 }
 
@@ -87,6 +89,19 @@ Window* WindowOf(HWND handle, std::string_view operation) {
 HWND& Focus() {
     static HWND focus = nullptr;
     return focus;
+}
+
+HWND PassFocus(HWND window) {
+    const HWND before = std::exchange(Focus(), window);
+    Window* left = before == window ? nullptr : FindWindow(before);
+    if (left != nullptr) {
+        left->Answer(WM_KILLFOCUS, reinterpret_cast<WPARAM>(window), 0);
+    }
+    return before;
+}
+
+void TellParent(const Window& control, UINT message, WPARAM wParam) {
+    control.parent->Answer(message, wParam, reinterpret_cast<LPARAM>(control.handle));
 }
 
 int CopyOut(std::u16string_view text, LPWSTR buffer, std::size_t capacity) {
@@ -177,6 +192,14 @@ BOOL MapDialogRect(HWND handle, RECT* rectangle) {
     return TRUE;
 }
 
+BOOL IsChild(HWND above, HWND handle) {
+    const Window* window = sim::FindWindow(handle);
+    while (window != nullptr && window->parent != nullptr && window->parent->handle != above) {
+        window = window->parent;
+    }
+    return window != nullptr && window->parent != nullptr;
+}
+
 BOOL IsWindow(HWND handle) {
     return sim::FindWindow(handle) != nullptr;
 }
@@ -208,7 +231,7 @@ HWND SetFocus(HWND handle) {
     if (Operation(Reach::Screen, __func__, [=] { return NumberOf(window); }) || is_refused) {
         return nullptr;
     }
-    return std::exchange(sim::Focus(), handle);
+    return sim::PassFocus(handle);
 }
 
 HWND GetFocus() {

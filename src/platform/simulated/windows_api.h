@@ -263,6 +263,7 @@ BOOL SetupDiSetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_DATA* device, DW
 #define IDNO 7
 
 #define DWLP_MSGRESULT 0
+#define DWLP_DLGPROC 8
 #define DWLP_USER 16
 #define GWLP_ID (-12)
 #define GWL_STYLE (-16)
@@ -274,13 +275,48 @@ BOOL SetupDiSetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_DATA* device, DW
 #define WM_SETTEXT 0x000C
 #define WM_GETTEXT 0x000D
 #define WM_GETTEXTLENGTH 0x000E
+#define WM_KILLFOCUS 0x0008
 #define WM_CLOSE 0x0010
 #define WM_WININICHANGE 0x001A
+#define WM_NEXTDLGCTL 0x0028
 #define WM_NOTIFY 0x004E
+#define WM_GETDLGCODE 0x0087
+#define WM_KEYDOWN 0x0100
+#define WM_KEYUP 0x0101
+#define WM_CHAR 0x0102
+#define WM_SYSKEYDOWN 0x0104
+#define WM_SYSKEYUP 0x0105
+#define WM_SYSCHAR 0x0106
 #define WM_INITDIALOG 0x0110
 #define WM_COMMAND 0x0111
 #define WM_HSCROLL 0x0114
 #define WM_USER 0x0400
+#define DM_GETDEFID (WM_USER + 0)
+#define DC_HASDEFID 0x534B
+#define DLGC_WANTARROWS 0x0001
+#define DLGC_WANTTAB 0x0002
+#define DLGC_WANTMESSAGE 0x0004
+#define DLGC_DEFPUSHBUTTON 0x0010
+#define DLGC_UNDEFPUSHBUTTON 0x0020
+#define DLGC_WANTCHARS 0x0080
+#define DLGC_STATIC 0x0100
+#define DLGC_BUTTON 0x2000
+#define VK_BACK 0x08
+#define VK_TAB 0x09
+#define VK_RETURN 0x0D
+#define VK_SHIFT 0x10
+#define VK_MENU 0x12
+#define VK_ESCAPE 0x1B
+#define VK_SPACE 0x20
+#define VK_PRIOR 0x21
+#define VK_NEXT 0x22
+#define VK_END 0x23
+#define VK_HOME 0x24
+#define VK_LEFT 0x25
+#define VK_UP 0x26
+#define VK_RIGHT 0x27
+#define VK_DOWN 0x28
+#define VK_F4 0x73
 #define HWND_BROADCAST (reinterpret_cast<HWND>(static_cast<ULONG_PTR>(0xFFFF)))
 
 #define MB_OK 0x00000000
@@ -314,16 +350,28 @@ BOOL SetupDiSetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_DATA* device, DW
 #define CB_RESETCONTENT 0x014B
 #define CB_FINDSTRING 0x014C
 #define CB_SETCURSEL 0x014E
+#define CB_SHOWDROPDOWN 0x014F
+#define CB_GETDROPPEDSTATE 0x0157
 #define CB_ERR (-1)
 #define CB_ERRSPACE (-2)
 #define CBN_SELCHANGE 1
+#define CBN_DROPDOWN 7
+#define CBN_CLOSEUP 8
+#define CBN_SELENDOK 9
+#define CBN_SELENDCANCEL 10
 
 #define TBM_GETPOS (WM_USER)
 #define TBM_GETRANGEMIN (WM_USER + 1)
 #define TBM_GETRANGEMAX (WM_USER + 2)
 #define TBM_SETPOS (WM_USER + 5)
 #define TBM_SETRANGE (WM_USER + 6)
+#define TB_LINEUP 0
+#define TB_LINEDOWN 1
+#define TB_PAGEUP 2
+#define TB_PAGEDOWN 3
 #define TB_THUMBPOSITION 4
+#define TB_TOP 6
+#define TB_BOTTOM 7
 #define TB_ENDTRACK 8
 
 #define LVM_FIRST 0x1000
@@ -389,6 +437,14 @@ BOOL SetupDiSetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_DATA* device, DW
 
 using DLGPROC = INT_PTR(CALLBACK*)(HWND, UINT, WPARAM, LPARAM);
 
+struct MSG {
+    HWND hwnd;
+    UINT message;
+    WPARAM wParam;
+    LPARAM lParam;
+    DWORD time;
+    POINT pt;
+};
 struct NMHDR {
     HWND hwndFrom;
     UINT_PTR idFrom;
@@ -477,6 +533,12 @@ HWND GetWindow(HWND window, UINT relation);
 int GetClassNameW(HWND window, LPWSTR buffer, int capacity);
 BOOL GetWindowRect(HWND window, RECT* rectangle);
 BOOL MapDialogRect(HWND dialog, RECT* rectangle); // dialog units to those of GetWindowRect
+BOOL IsChild(HWND above, HWND window);
 BOOL IsWindow(HWND window);
 BOOL IsWindowVisible(HWND window);
 BOOL IsWindowEnabled(HWND window);
+
+// For a host only: the keyboard. The message goes where the dialog of the window takes it, or to its window.
+BOOL IsDialogMessageW(HWND dialog, MSG* message);
+BOOL SetKeyboardState(BYTE* keys); // 256 of them, 0x80 for one that is down
+SHORT GetKeyState(int key);

@@ -1,0 +1,23 @@
+// The tabs of a property sheet. There is one page, so there is nothing to turn over: what is left is its
+// place among the stops of the keyboard.
+#include "platform/simulated/window.h"
+
+namespace sim {
+namespace {
+
+struct TabControl : Window {
+    TabControl() : Window(u"SysTabControl32") {}
+
+    LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam) override {
+        return message == WM_GETDLGCODE ? DLGC_WANTARROWS | DLGC_WANTCHARS
+                                        : Window::Answer(message, wParam, lParam);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Window> MakeTabControl() {
+    return std::make_unique<TabControl>();
+}
+
+} // namespace sim
