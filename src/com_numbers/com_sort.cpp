@@ -240,6 +240,7 @@ void SortBoard(HWND dialog, BoardParams* board) {
         ErrorBoxShow(FailureNoMemory, 0, nullptr);
         return;
     }
+    const HWND focus = GetFocus(); // a button loses it by being disabled
     const u32 count = GatherPairs(board, table);
     TraceNumbers(board, "----------------------------------------, BEFORE\n");
     SortComColumn(table, count);
@@ -253,6 +254,7 @@ void SortBoard(HWND dialog, BoardParams* board) {
     LocalFree(table);
     if (buttonsDisabled) {
         EnableSortButtons(dialog, TRUE);
+        SetFocus(focus);
     }
 }
 
