@@ -1,6 +1,6 @@
 #include "tests/windows/programs/first_device.h"
 
-#include "host/screen/listing.h"
+#include "host/worlds/store_values.h"
 
 namespace host {
 
