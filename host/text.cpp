@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstring>
 #include <iterator>
+#include <numeric>
 
 #include <utf8.h>
 #include <utf8/unchecked.h>
@@ -224,6 +225,24 @@ bool ParseNumber(std::string_view text, long& number) {
     const char* const end = text.data() + text.size();
     const auto [stopped, error] = std::from_chars(text.data(), end, number);
     return error == std::errc{} && stopped == end;
+}
+
+std::string Nearest(std::string_view word, const std::vector<std::string>& candidates) {
+    const auto distance = [word](const std::string& candidate) {
+        std::vector<std::size_t> row(candidate.size() + 1);
+        std::iota(row.begin(), row.end(), std::size_t{0});
+        for (const char letter : word) {
+            std::size_t diagonal = row[0]++;
+            for (std::size_t at = 0; at < candidate.size(); ++at) {
+                const std::size_t changed = diagonal + (letter != candidate[at]);
+                diagonal = row[at + 1];
+                row[at + 1] = std::min({changed, diagonal + 1, row[at] + 1});
+            }
+        }
+        return row.back();
+    };
+    const auto nearest = std::ranges::min_element(candidates, {}, distance);
+    return nearest != candidates.end() && 2 * distance(*nearest) <= word.size() ? *nearest : std::string{};
 }
 
 bool SplitWords(std::string_view line, std::vector<std::string>& words) {

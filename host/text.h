@@ -53,6 +53,10 @@ std::string Quoted(std::string_view text);
 // The number, if the whole text is one in decimal and fits.
 bool ParseNumber(std::string_view text, long& number);
 
+// The candidate that a misspelt word means: that with the fewest letters changed, added or lost, the first of
+// several. Empty if that is more than half of its letters.
+std::string Nearest(std::string_view word, const std::vector<std::string>& candidates);
+
 // The words of a line, parted by blanks; "..." keeps the blanks between the quotes. False at an open quote,
 // which then ends with the line.
 bool SplitWords(std::string_view line, std::vector<std::string>& words);

@@ -10,7 +10,7 @@
 
 namespace host {
 
-// The words that may stand behind those given, in a line that is not finished.
+// The words that may follow those given, in a line that is not finished.
 using Continuations = std::function<std::vector<std::string>(const std::vector<std::string>& words)>;
 
 class LineSource {

@@ -6,6 +6,7 @@
 
 #include <utf8.h>
 
+#include "host/screen/drawing.h"
 #include "host/screen/hand.h"
 #include "host/screen/listing.h"
 #include "host/text.h"
@@ -22,7 +23,7 @@ const char* KindOf(const Window& window) {
 
 Interpreter::Interpreter(World& world, LineSource& lines, std::ostream& out)
     : world_(world), lines_(lines), out_(out) {
-    lines_.CompleteBy([this](const Words& words) { return Continue(words); });
+    lines_.CompleteBy([this](const Words& words) { return Completions(*this, words); });
 }
 
 // --- The loop ---
@@ -37,8 +38,7 @@ int Interpreter::Run() {
 void Interpreter::Step() {
     const std::optional<std::string> bytes = lines_.Next(Prompt());
     if (!bytes) {
-        ending_ = true;
-        return;
+        return End();
     }
     had_input_ = true;
     std::string line;
@@ -73,6 +73,35 @@ void Interpreter::Fail(const std::string& reason) {
     Tell("error: " + reason);
 }
 
+void Interpreter::Execute(const std::string& line) {
+    Words words;
+    if (!SplitWords(line, words)) {
+        return Fail("a \" is not closed");
+    }
+    try {
+        const Command& command = FindCommand(words[0]);
+        Words arguments;
+        SplitWords(command.arguments, arguments);
+        const auto optional = static_cast<std::size_t>(
+            std::ranges::count_if(arguments, [](const std::string& each) { return each.starts_with('['); }));
+        if (words.size() > arguments.size() + 1 || words.size() + optional < arguments.size() + 1) {
+            return Fail(std::string{"usage: "} + command.name + ' ' + command.arguments);
+        }
+        command.run(*this, words);
+    } catch (const Refusal& refusal) {
+        Fail(refusal.what());
+    }
+}
+
+void Interpreter::End() {
+    if (lines_.IsPerson() && !asked_ && world_.HasUnsavedChanges()) {
+        asked_ = true;
+        return Tell(
+            "The machine has changed and was not exported: export FILE keeps it, quit once more leaves it.");
+    }
+    ending_ = true;
+}
+
 void Interpreter::Attend(HWND front) {
     NoteClosed(false);
     if (windows_.empty() || windows_.back().handle != front) {
@@ -101,7 +130,7 @@ void Interpreter::Announce(HWND front) {
     windows_.push_back({front, std::move(told)});
     sheet_opened_ = sheet_opened_ || window.kind == WindowKind::Sheet;
     if (window.kind == WindowKind::Sheet || lines_.IsPerson()) {
-        Show({});
+        Show();
     }
 }
 
@@ -154,6 +183,44 @@ const Control& Interpreter::InFront(const Window& front, const std::string& name
         }
         throw;
     }
+}
+
+void Interpreter::Open(const Device& device) {
+    if (!windows_.empty()) {
+        throw Refusal(windows_.back().told + " is open; close it first");
+    }
+    sheet_opened_ = false;
+    if (!world_.RunSheet(device.id, [this](HWND front) { Attend(front); })) {
+        throw Refusal("the device has gone");
+    }
+    NoteClosed(true);
+    if (!sheet_opened_) {
+        throw Refusal("the device's provider gave no page");
+    }
+}
+
+void Interpreter::Show() {
+    if (windows_.empty()) {
+        throw Refusal("no window is open; open DEVICE opens one");
+    }
+    std::vector<Window> windows;
+    for (const OpenWindow& window : windows_) {
+        windows.push_back(Read(window.handle));
+    }
+    Write(Draw(windows), "  |");
+}
+
+void Interpreter::Press(const Control& button) {
+    Click(button);
+    pressed_ = true;
+}
+
+std::vector<std::string> Interpreter::OpenWindows() const {
+    std::vector<std::string> told;
+    for (const OpenWindow& window : windows_) {
+        told.push_back(window.told);
+    }
+    return told;
 }
 
 Device Interpreter::FindDevice(const std::string& name) {

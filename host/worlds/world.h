@@ -93,6 +93,10 @@ public:
     // The style that a message box in front was opened with; 0 if `box` is none.
     virtual UINT BoxStyle(HWND box) = 0;
 
+    // Whether the machine differs from what was read or last exported. Never true of a world whose changes are
+    // made where they last.
+    virtual bool HasUnsavedChanges() = 0;
+
     // Writes the machine as a registry export. False, with a reason in `error`, if the file can't be written
     // or this world has no such form of itself.
     virtual bool Export(const std::string& file, std::string& error) = 0;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <fstream>
 #include <sstream>
+#include <tuple>
 
 #include "board_page/board_page_provider.h"
 #include "host/machine_file/machine_file.h"
@@ -39,6 +40,7 @@ BOOL CALLBACK AddPage(HPROPSHEETPAGE page, LPARAM pages) {
 SimulatedWorld::SimulatedWorld(MachineFile file, sim::Machine& machine)
     : file_(std::move(file)), machine_(machine), scope_(machine) {
     GiveMachine(file_, machine_);
+    KeepAsSaved();
     machine_.journal_reads = false;
     DllMain(sim::LibraryInstance(), DLL_PROCESS_ATTACH, nullptr);
 }
@@ -146,8 +148,26 @@ UINT SimulatedWorld::BoxStyle(HWND box) {
     return sim::BoxStyle(box);
 }
 
+void SimulatedWorld::KeepAsSaved() {
+    saved_.devices = machine_.devices;
+    saved_.serial_map = machine_.serial_map;
+    saved_.port_usage = machine_.port_usage;
+    saved_.profile = machine_.profile;
+}
+
+bool SimulatedWorld::HasUnsavedChanges() {
+    const auto contents = [](const sim::Machine& machine) {
+        return std::tie(machine.devices, machine.serial_map, machine.port_usage, machine.profile);
+    };
+    return contents(machine_) != contents(saved_);
+}
+
 bool SimulatedWorld::Export(const std::string& file, std::string& error) {
-    return SaveMachine(file_, machine_, file, error);
+    if (!SaveMachine(file_, machine_, file, error)) {
+        return false;
+    }
+    KeepAsSaved();
+    return true;
 }
 
 bool OpenMachineFile(const std::string& path, MachineFile& file, std::string& error) {

@@ -24,11 +24,15 @@ public:
     bool RunSheet(const std::string& id, const std::function<void(HWND front)>& attend) override;
     std::vector<std::string> Journal() override;
     UINT BoxStyle(HWND box) override;
+    bool HasUnsavedChanges() override;
     bool Export(const std::string& file, std::string& error) override;
 
 private:
+    void KeepAsSaved();
+
     MachineFile file_;
     sim::Machine& machine_;
+    sim::Machine saved_; // the data of the machine as it was read or last exported
     sim::Scope scope_;
 };
 

@@ -223,6 +223,8 @@ public:
 
     UINT BoxStyle(HWND box) override { return OpenBoxStyle(box); }
 
+    bool HasUnsavedChanges() override { return false; }
+
     bool Export(const std::string&, std::string& error) override {
         error = "a real machine is exported by its own registry editor";
         return false;

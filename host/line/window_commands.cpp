@@ -1,0 +1,120 @@
+#include "host/line/command.h"
+#include "host/line/interpreter.h"
+#include "host/screen/drawing.h"
+#include "host/screen/hand.h"
+#include "host/screen/listing.h"
+#include "host/text.h"
+
+namespace host {
+namespace {
+
+constexpr int apply_now = 0x3021; // the sheet's own Apply button, on every Windows
+
+constexpr struct {
+    const char* word;
+    int id;
+} answers[] = {{"yes", IDYES}, {"no", IDNO}, {"ok", IDOK}},
+  sheet_buttons[] = {{"ok", IDOK}, {"apply", apply_now}, {"cancel", IDCANCEL}};
+
+int IdOf(const auto& table, const std::string& word) {
+    std::string words;
+    for (const auto& entry : table) {
+        if (Folded(word) == entry.word) {
+            return entry.id;
+        }
+        words += std::string{words.empty() ? "" : ", "} + entry.word;
+    }
+    throw Refusal(Quoted(word) + " is none of " + words);
+}
+
+void Open(Interpreter& host, const Words& words) {
+    host.Open(host.FindDevice(words[1]));
+}
+
+void Show(Interpreter& host, const Words&) {
+    host.Show();
+}
+
+void Controls(Interpreter& host, const Words&) {
+    host.Write(ListControls(host.Front()));
+    const std::vector<std::string> open = host.OpenWindows();
+    for (std::size_t below = open.size() - 1; below-- > 0;) {
+        host.Tell("  behind: " + open[below]);
+    }
+}
+
+void PickItem(Interpreter& host, const Words& words) {
+    const Window front = host.Front();
+    Pick(host.InFront(front, words[1]), words[2]);
+}
+
+void CheckOn(Interpreter& host, const Words& words) {
+    const Window front = host.Front();
+    SetCheck(host.InFront(front, words[1]), true);
+}
+
+void CheckOff(Interpreter& host, const Words& words) {
+    const Window front = host.Front();
+    SetCheck(host.InFront(front, words[1]), false);
+}
+
+void SlideTo(Interpreter& host, const Words& words) {
+    const Window front = host.Front();
+    const Control& slider = host.InFront(front, words[1]);
+    long position = 0;
+    if (!ParseNumber(words[2], position)) {
+        throw Refusal(Quoted(words[2]) + " is no number");
+    }
+    Slide(slider, position);
+}
+
+void ClickOn(Interpreter& host, const Words& words) {
+    const Window front = host.Front();
+    host.Press(host.InFront(front, words[1]));
+}
+
+void Answer(Interpreter& host, const Words& words) {
+    const Window front = host.Front();
+    const int id = IdOf(answers, words[1]);
+    if (front.kind != WindowKind::Box) {
+        throw Refusal("no message box is in front");
+    }
+    for (const Control& control : front.controls) {
+        if (control.kind == Kind::Button && control.id == id) {
+            return host.Press(control);
+        }
+    }
+    throw Refusal("the box has only: " + ButtonNames(front));
+}
+
+void Sheet(Interpreter& host, const Words& words) {
+    const Window front = host.Front();
+    const int id = IdOf(sheet_buttons, words[1]);
+    if (front.kind != WindowKind::Sheet) {
+        throw Refusal(host.OpenWindows().back() + " is in front and blocks the sheet");
+    }
+    host.Press(FindButton(front, id));
+}
+
+constexpr Command commands[] = {
+    {"open", "DEVICE", "opens the sheet of a device: its number in the list, COM5, or its instance id",
+     &Open},
+    {"show", "", "draws the screen", &Show},
+    {"controls", "", "lists the controls of the window in front: number, kind, caption, state", &Controls},
+    {"pick", "CONTROL ITEM", "picks an item of a list: by its text, its first word, or #n counted from 0",
+     &PickItem},
+    {"check", "CONTROL", "checks a box", &CheckOn},
+    {"uncheck", "CONTROL", "takes the check from a box", &CheckOff},
+    {"slide", "CONTROL POSITION", "moves a slider", &SlideTo},
+    {"click", "CONTROL", "presses a button of the window in front", &ClickOn},
+    {"answer", "yes|no|ok", "answers a message box", &Answer},
+    {"sheet", "ok|apply|cancel", "presses a button of the sheet itself", &Sheet},
+};
+
+} // namespace
+
+std::span<const Command> WindowCommands() {
+    return commands;
+}
+
+} // namespace host
