@@ -8,6 +8,7 @@
 
 #include "com_numbers/com_sort.h"
 #include "tests/at_work.h"
+#include "tests/random_check.h"
 
 namespace {
 
@@ -102,20 +103,6 @@ void Click(const OpenBoard& board) {
         chl = chl->WalkNext;
     }
     _SortCOMClicked(nullptr, chl);
-}
-
-// One case of a property with a seed that its test names, so that each run is the same.
-template <class Property> void Check(int count, int size, const Property& property) {
-    rc::detail::TestParams params;
-    params.seed = std::hash<std::string>()(testing::UnitTest::GetInstance()->current_test_info()->name());
-    params.maxSuccess = count;
-    params.maxSize = size;
-    const auto result = rc::detail::checkTestable(property, rc::detail::TestMetadata(), params);
-    if (!result.template is<rc::detail::SuccessResult>()) {
-        std::ostringstream report;
-        rc::detail::printResultMessage(result, report);
-        FAIL() << "seed " << params.seed << '\n' << report.str();
-    }
 }
 
 void Sorts(RandomMachine made) {

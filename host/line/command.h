@@ -25,6 +25,7 @@ struct Command {
 };
 
 std::span<const Command> MachineCommands(); // what the machine holds
+std::span<const Command> BenchCommands();   // what is wrong with it, and what mends it
 std::span<const Command> WindowCommands();  // what a hand does to its windows
 std::span<const Command> SessionCommands(); // the session itself
 
@@ -34,6 +35,9 @@ const std::vector<Command>& Commands();
 // The command that a word means: its name, or the beginning of no other. Throws Refusal with what comes
 // nearest.
 const Command& FindCommand(std::string_view word);
+
+// The file of the words, which end in "[--over] FILE". Throws Refusal if it exists and is not to be replaced.
+std::string FileToWrite(const Words& words);
 
 // What may follow the words, in a line that is not finished.
 Words Completions(Interpreter& host, const Words& words);

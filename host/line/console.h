@@ -29,6 +29,9 @@ public:
 // Lines of a stream, which must outlive it. The prompt is not shown.
 std::unique_ptr<LineSource> LinesOf(std::istream& stream);
 
+// Those of a file; null if it can't be opened.
+std::unique_ptr<LineSource> LinesOfFile(const std::string& path);
+
 // The standard input: at a terminal with prompt, history and completion, otherwise plainly.
 std::unique_ptr<LineSource> OpenConsole();
 

@@ -21,8 +21,8 @@ const char* KindOf(const Window& window) {
 
 } // namespace
 
-Interpreter::Interpreter(World& world, LineSource& lines, std::ostream& out)
-    : world_(world), lines_(lines), out_(out) {
+Interpreter::Interpreter(World& world, LineSource& lines, std::ostream& out, const Options& options)
+    : world_(world), lines_(lines), out_(out), bench_(world, options.machine), stop_(options.stop) {
     lines_.CompleteBy([this](const Words& words) { return Completions(*this, words); });
 }
 
@@ -35,8 +35,27 @@ int Interpreter::Run() {
     return failed_;
 }
 
+LineSource& Interpreter::Innermost() {
+    return files_.empty() ? lines_ : *files_.back();
+}
+
+void Interpreter::Source(const std::string& file) {
+    constexpr std::size_t deepest = 16;
+    if (files_.size() == deepest) {
+        throw Refusal("files are sourced no deeper than " + std::to_string(deepest));
+    }
+    std::unique_ptr<LineSource> lines = LinesOfFile(file);
+    if (!lines) {
+        throw Refusal("can't open " + file);
+    }
+    files_.push_back(std::move(lines));
+}
+
 void Interpreter::Step() {
-    const std::optional<std::string> bytes = lines_.Next(Prompt());
+    const std::optional<std::string> bytes = Innermost().Next(Prompt());
+    if (!bytes && !files_.empty()) {
+        return files_.pop_back();
+    }
     if (!bytes) {
         return End();
     }
@@ -49,11 +68,16 @@ void Interpreter::Step() {
         return;
     }
     const bool comment = line.front() == '#';
-    if (!lines_.IsPerson()) {
+    if (!Innermost().IsPerson()) {
         Tell((comment ? "" : "> ") + line);
     }
     if (!comment) {
+        // What happens around a message box belongs to the command that has brought it.
+        const bool answers = !windows_.empty() && world_.BoxStyle(windows_.back().handle) != 0;
         Execute(line);
+        if (!answers) {
+            bench_.history().Note(line);
+        }
     }
     out_.flush();
 }
@@ -70,6 +94,7 @@ void Interpreter::Write(const std::vector<std::string>& lines, const char* befor
 
 void Interpreter::Fail(const std::string& reason) {
     ++failed_;
+    ending_ = ending_ || stop_;
     Tell("error: " + reason);
 }
 

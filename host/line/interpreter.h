@@ -3,11 +3,13 @@
 // other. So the commands of a script run in one order, whatever opens and closes meanwhile.
 #pragma once
 
+#include <memory>
 #include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "host/line/bench.h"
 #include "host/line/command.h"
 #include "host/line/console.h"
 #include "host/screen/naming.h"
@@ -17,8 +19,16 @@ namespace host {
 
 class Interpreter {
 public:
-    // All three must outlive it. What a person does not type is written out before its output.
-    Interpreter(World& world, LineSource& lines, std::ostream& out);
+    struct Options {
+        std::string machine = "the sample machine"; // what a patch says that it was made from
+        bool stop = false;                          // at the first command that fails
+    };
+
+    // The world, the lines and the stream must outlive it. What a person does not type is written out before
+    // its output.
+    Interpreter(World& world, LineSource& lines, std::ostream& out)
+        : Interpreter(world, lines, out, Options()) {}
+    Interpreter(World& world, LineSource& lines, std::ostream& out, const Options& options);
 
     // Runs to the end of the lines or to `quit`, whichever comes first; windows still open then are
     // cancelled, and questions answered with No. A person who ends with changes that were not exported is
@@ -31,6 +41,7 @@ public:
     // --- for the commands
 
     World& world() { return world_; }
+    Bench& bench() { return bench_; }
 
     // The only way out: what it writes holds no control character, whatever a device or a file brought.
     void Tell(std::string_view line);
@@ -51,6 +62,9 @@ public:
     void Press(const Control& button);
     void Show();
 
+    // Goes on with the lines of a file, and comes back at its end. Throws Refusal.
+    void Source(const std::string& file);
+
     void End();
 
 private:
@@ -60,6 +74,7 @@ private:
     };
 
     void Step();
+    LineSource& Innermost();
     void Execute(const std::string& line);
     void Fail(const std::string& reason);
     void Attend(HWND front);
@@ -72,7 +87,10 @@ private:
     World& world_;
     LineSource& lines_;
     std::ostream& out_;
-    std::vector<OpenWindow> windows_; // from the backmost to the one in front
+    Bench bench_;
+    bool stop_;
+    std::vector<std::unique_ptr<LineSource>> files_; // that Source has opened, the innermost last
+    std::vector<OpenWindow> windows_;                // from the backmost to the one in front
     int failed_ = 0;
     bool sheet_opened_ = false; // since the last `open`
     bool had_input_ = false;

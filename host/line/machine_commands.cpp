@@ -30,17 +30,8 @@ void Journal(Interpreter& host, const Words&) {
 }
 
 void Export(Interpreter& host, const Words& words) {
-    const std::string& file = words.back();
-    const bool over = words.size() > 2;
-    if (over && words[1] != "--over") {
-        throw Refusal(Quoted(words[1]) + " is none of --over");
-    }
-    std::error_code none;
-    if (!over && std::filesystem::exists(std::filesystem::path(FromUtf8(file)), none)) {
-        throw Refusal(file + " exists; export --over " + file + " replaces it");
-    }
     std::string error;
-    if (!host.world().Export(file, error)) {
+    if (!host.world().Export(FileToWrite(words), error)) {
         throw Refusal(error);
     }
 }
@@ -55,6 +46,19 @@ constexpr Command commands[] = {
 };
 
 } // namespace
+
+std::string FileToWrite(const Words& words) {
+    const std::string& file = words.back();
+    const bool over = words.size() > 2;
+    if (over && words[1] != "--over") {
+        throw Refusal(Quoted(words[1]) + " is none of --over");
+    }
+    std::error_code none;
+    if (!over && std::filesystem::exists(std::filesystem::path(FromUtf8(file)), none)) {
+        throw Refusal(file + " exists; " + words[0] + " --over " + file + " replaces it");
+    }
+    return file;
+}
 
 std::span<const Command> MachineCommands() {
     return commands;

@@ -2,9 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <set>
 
+#include "host/diagnosis/number_ranges.h"
+#include "host/diagnosis/records.h"
 #include "host/text.h"
 #include "host/worlds/store_values.h"
 
@@ -20,14 +21,6 @@ constexpr const char* unknown = "not known";
 
 bool Same(const Text& left, std::string_view right) {
     return Folded(ToUtf8(left)) == Folded(right);
-}
-
-// The number in the last pair of parentheses of a friendly name.
-unsigned long FriendlyNumber(const std::string& name) {
-    const std::size_t open = name.rfind('('), close = name.rfind(')');
-    return open == std::string::npos || close == std::string::npos || close < open
-               ? 0
-               : PortNumber(std::string_view{name}.substr(open + 1, close - open - 1));
 }
 
 std::string DosName(const std::string& name, const PortRecords& records, const Text*& target) {
@@ -94,16 +87,6 @@ std::string Line(const Cells& cells, const std::array<int, headings.size()>& wid
 
 } // namespace
 
-unsigned long PortNumber(std::string_view name) {
-    unsigned long number = 0;
-    if (name.size() < 4 || Folded(name.substr(0, 3)) != "com") {
-        return 0;
-    }
-    const char* const end = name.data() + name.size();
-    const auto [stopped, error] = std::from_chars(name.data() + 3, end, number);
-    return error == std::errc{} && stopped == end ? number : 0;
-}
-
 Lines PortsTable(World& world) {
     const PortRecords records = world.Ports();
     const std::vector<Device> devices = world.Devices();
@@ -143,16 +126,14 @@ Lines PortsTable(World& world) {
     for (const Cells& row : rows) {
         lines.push_back(Line(row, widths));
     }
-    std::string unheld;
+    std::vector<unsigned long> unheld;
     const std::size_t numbers = records.usage ? 8 * records.usage->size() : 0;
     for (unsigned long number = 1; number <= numbers; ++number) {
         if (IsClaimed(records, number) && !held.contains(number)) {
-            unheld += (unheld.empty() ? "" : ", ") + std::to_string(number);
+            unheld.push_back(number);
         }
     }
-    lines.push_back("  claimed without a device: " + (!records.usage   ? unknown
-                                                      : unheld.empty() ? "none"
-                                                                       : unheld));
+    lines.push_back("  claimed without a device: " + (records.usage ? RangesOf(unheld) : unknown));
     return lines;
 }
 

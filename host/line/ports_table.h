@@ -6,10 +6,6 @@
 
 namespace host {
 
-// The number of a port's name: the digits behind the letters COM, without regard to case; 0 for any other
-// text.
-unsigned long PortNumber(std::string_view name);
-
 // A line a port, then the numbers that the COM port database has claimed though no device holds them.
 Lines PortsTable(World& world);
 

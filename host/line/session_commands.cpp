@@ -27,7 +27,12 @@ void Quit(Interpreter& host, const Words&) {
     host.End();
 }
 
+void Source(Interpreter& host, const Words& words) {
+    host.Source(words[1]);
+}
+
 constexpr Command commands[] = {
+    {"source", "FILE", "does the commands of a file", &Source},
     {"help", "[COMMAND]", "tells the commands", &Help},
     {"quit", "", "cancels what is open and ends; exit does the same", &Quit},
 };

@@ -55,6 +55,9 @@ const sim::Value* PortDatabase(const MachineFile& file);
 // length unless a number beyond its end has been claimed.
 std::optional<std::vector<BYTE>> CurrentPortUsage(const MachineFile& file, const sim::Machine& machine);
 
+// What the file held, with what has changed in the machine since.
+MachineFile Changed(const MachineFile& file, const sim::Machine& machine);
+
 // Writes what the file held, with what has changed in the machine since. A COM port database that the file
 // does not hold is left out even if numbers were claimed or released: to import one that knows of nothing
 // else would free every other number. False if it can't be written, with the reason.

@@ -153,10 +153,15 @@ std::optional<std::vector<BYTE>> CurrentPortUsage(const MachineFile& file, const
     return data;
 }
 
-bool SaveMachine(const MachineFile& file, const sim::Machine& machine, const std::string& path,
-                 std::string& error) {
+MachineFile Changed(const MachineFile& file, const sim::Machine& machine) {
     MachineFile changed = file;
     Changes(changed, machine).Put();
+    return changed;
+}
+
+bool SaveMachine(const MachineFile& file, const sim::Machine& machine, const std::string& path,
+                 std::string& error) {
+    const MachineFile changed = Changed(file, machine);
     errno = 0;
     std::ofstream out(path, std::ios::binary | std::ios::trunc);
     ExportWriter writer(out);

@@ -54,7 +54,10 @@ class ExportWriter {
 public:
     explicit ExportWriter(std::ostream& out);
 
+    // A line behind ; without a line end in it.
+    void Comment(std::basic_string_view<WCHAR> text);
     void Key(std::basic_string_view<WCHAR> path);
+    void DeleteValue(std::basic_string_view<WCHAR> name);
     // What can't stand as a text or a number goes out as bytes, so that any value comes back as it was.
     void SetValue(std::basic_string_view<WCHAR> name, DWORD type, std::span<const BYTE> data);
 

@@ -41,6 +41,15 @@ void AppendQuoted(Text& line, TextView text) {
     line += '"';
 }
 
+// The default value has no name.
+void AppendName(Text& line, TextView name) {
+    if (name.empty()) {
+        line += '@';
+    } else {
+        AppendQuoted(line, name);
+    }
+}
+
 void AppendHex(Text& line, DWORD number, int digits) {
     for (int shift = 4 * digits; (shift -= 4) >= 0;) {
         line += static_cast<WCHAR>("0123456789abcdef"[number >> shift & 0xF]);
@@ -76,13 +85,19 @@ void ExportWriter::Key(TextView path) {
     Write(Text(line_end).append(TEXT("[")).append(path).append(TEXT("]")).append(line_end));
 }
 
+void ExportWriter::Comment(TextView text) {
+    Write(Text(TEXT(";")).append(text.empty() ? TEXT("") : TEXT(" ")).append(text).append(line_end));
+}
+
+void ExportWriter::DeleteValue(TextView name) {
+    Text line;
+    AppendName(line, name);
+    Write(line.append(TEXT("=-")).append(line_end));
+}
+
 void ExportWriter::SetValue(TextView name, DWORD type, std::span<const BYTE> data) {
     Text line;
-    if (name.empty()) {
-        line += '@';
-    } else {
-        AppendQuoted(line, name);
-    }
+    AppendName(line, name);
     line += '=';
     if (type == REG_SZ && IsQuotable(data)) {
         Text text(data.size() / sizeof(WCHAR) - 1, 0);

@@ -58,15 +58,35 @@ struct PortRecords {
 // Whether the database has claimed a number. False where it is not known.
 bool IsClaimed(const PortRecords& records, unsigned long number);
 
+// An interface of one of the five classes by which a board finds its channels; its device may be one without
+// a sheet.
+struct Interface {
+    std::string device;         // the instance id
+    Text description;           // the device's
+    unsigned channel_class = 0; // 1 UART, 2 digital I/O, 3 Mcp251x, 4 Mcp251xFd, 5 CAN
+    bool present = false;
+};
+
+// All that a machine was at one moment.
+struct Moment {
+    virtual ~Moment() = default;
+};
+
 class World {
 public:
     virtual ~World() = default;
+
+    // Whether Devices has them all: a list may also be short because the file has no devices.
+    virtual bool KnowsDevices() = 0;
 
     // Boards first, then ports, each in the order of their instance ids.
     virtual std::vector<Device> Devices() = 0;
 
     // The device store: the values of the hardware key, by name without regard to case.
     virtual std::vector<StoreValue> Store(const std::string& id) = 0;
+
+    // Nothing if they are not known.
+    virtual std::optional<std::vector<Interface>> Interfaces() = 0;
 
     virtual PortRecords Ports() = 0;
 
@@ -93,13 +113,30 @@ public:
     // The style that a message box in front was opened with; 0 if `box` is none.
     virtual UINT BoxStyle(HWND box) = 0;
 
-    // Whether the machine differs from what was read or last exported. Never true of a world whose changes are
-    // made where they last.
+    // Whether the machine differs from what was read or last exported. Never true of a world whose changes
+    // are made where they last.
     virtual bool HasUnsavedChanges() = 0;
 
     // Writes the machine as a registry export. False, with a reason in `error`, if the file can't be written
     // or this world has no such form of itself.
     virtual bool Export(const std::string& file, std::string& error) = 0;
+
+    // Writes what has changed since the machine was read, as a patch for its registry, and beside it what
+    // takes it back, each with its comments at the head. False with a reason as above, or if there is nothing
+    // to write.
+    virtual bool Patch(const std::string& file, const std::vector<std::string>& comments,
+                       const std::string& undo_file, const std::vector<std::string>& undo_comments,
+                       std::string& error) = 0;
+
+    // The machine as it is now, to come back to; null where a machine is not the world's to set back. No
+    // sheet may be open when it is.
+    virtual std::unique_ptr<Moment> Now() = 0;
+    virtual bool IsStill(const Moment& moment) = 0;
+    virtual void ComeBackTo(const Moment& moment) = 0;
+
+    // Lets the n-th call from now of an operation of the system fail, n from 1; without a name, none any
+    // more. False where operations can't be made to fail.
+    virtual bool Fail(const std::string& operation, std::size_t call) = 0;
 };
 
 // The world that the host works on. `file` is the registry export of the machine to simulate, empty for the

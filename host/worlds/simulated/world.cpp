@@ -7,8 +7,10 @@
 
 #include "board_page/board_page_provider.h"
 #include "host/machine_file/machine_file.h"
-#include "host/machine_file/registry_export.h"
+#include "host/machine_file/machine_places.h"
+#include "host/machine_file/patch.h"
 #include "host/text.h"
+#include "host/worlds/channel_classes.h"
 #include "host/worlds/simulated/user_language.h"
 #include "reporting/module_entry.h"
 #include "uart_page/uart_page_provider.h"
@@ -29,6 +31,26 @@ std::optional<DeviceKind> KindOf(const sim::Device& device) {
     return {};
 }
 
+bool Holds(const MachineFile& file, std::u16string_view key) {
+    return file.root.Find(Below(file.control_set, key)) != nullptr;
+}
+
+// What a file holds of the machine, and what follows from that.
+struct MachineMoment : Moment {
+    explicit MachineMoment(const sim::Machine& machine)
+        : devices(machine.devices), interfaces(machine.interfaces), dos_names(machine.dos_names),
+          serial_map(machine.serial_map), serial_map_exists(machine.serial_map_exists),
+          port_usage(machine.port_usage), profile(machine.profile) {}
+
+    std::vector<sim::Device> devices;
+    std::vector<sim::Interface> interfaces;
+    std::vector<std::pair<sim::Text, sim::Text>> dos_names;
+    sim::Values serial_map;
+    bool serial_map_exists;
+    sim::PortUsage port_usage;
+    std::vector<std::pair<sim::Text, sim::Values>> profile;
+};
+
 // As the library's provider calls it: the page goes to the sheet's list.
 BOOL CALLBACK AddPage(HPROPSHEETPAGE page, LPARAM pages) {
     reinterpret_cast<std::vector<HPROPSHEETPAGE>*>(pages)->push_back(page);
@@ -47,6 +69,10 @@ SimulatedWorld::SimulatedWorld(MachineFile file, sim::Machine& machine)
 
 SimulatedWorld::~SimulatedWorld() {
     DllMain(sim::LibraryInstance(), DLL_PROCESS_DETACH, nullptr);
+}
+
+bool SimulatedWorld::KnowsDevices() {
+    return Holds(file_, DevicesKey);
 }
 
 std::vector<Device> SimulatedWorld::Devices() {
@@ -84,6 +110,21 @@ std::vector<StoreValue> SimulatedWorld::Store(const std::string& id) {
     }
     std::ranges::sort(values, {}, [](const StoreValue& value) { return Folded(ToUtf8(value.name)); });
     return values;
+}
+
+std::optional<std::vector<Interface>> SimulatedWorld::Interfaces() {
+    if (!Holds(file_, InterfacesKey)) {
+        return std::nullopt;
+    }
+    std::vector<Interface> interfaces;
+    for (const sim::Interface& one : machine_.interfaces) {
+        const sim::Device& device = machine_.devices[one.device];
+        if (const unsigned channel_class = ChannelClassOf(one.class_guid)) {
+            interfaces.push_back(
+                {ToUtf8(device.instance_id), device.description.value_or(u""), channel_class, one.linked});
+        }
+    }
+    return interfaces;
 }
 
 PortRecords SimulatedWorld::Ports() {
@@ -167,6 +208,56 @@ bool SimulatedWorld::Export(const std::string& file, std::string& error) {
         return false;
     }
     KeepAsSaved();
+    return true;
+}
+
+bool SimulatedWorld::Patch(const std::string& file, const std::vector<std::string>& comments,
+                           const std::string& undo_file, const std::vector<std::string>& undo_comments,
+                           std::string& error) {
+    const MachineFile now = Changed(file_, machine_);
+    const std::vector<KeyChange> changes = KeyChanges(file_, now);
+    if (changes.empty()) {
+        error = "nothing has changed that a patch could hold";
+        return false;
+    }
+    if (!WritePatch(changes, comments, file, error) ||
+        !WritePatch(KeyChanges(now, file_), undo_comments, undo_file, error)) {
+        return false;
+    }
+    saved_ = machine_;
+    return true;
+}
+
+std::unique_ptr<Moment> SimulatedWorld::Now() {
+    return std::make_unique<MachineMoment>(machine_);
+}
+
+bool SimulatedWorld::IsStill(const Moment& moment) {
+    const auto& was = static_cast<const MachineMoment&>(moment);
+    return std::tie(was.devices, was.interfaces, was.dos_names, was.serial_map, was.serial_map_exists,
+                    was.port_usage, was.profile) ==
+           std::tie(machine_.devices, machine_.interfaces, machine_.dos_names, machine_.serial_map,
+                    machine_.serial_map_exists, machine_.port_usage, machine_.profile);
+}
+
+void SimulatedWorld::ComeBackTo(const Moment& moment) {
+    const auto& was = static_cast<const MachineMoment&>(moment);
+    machine_.devices = was.devices;
+    machine_.interfaces = was.interfaces;
+    machine_.dos_names = was.dos_names;
+    machine_.serial_map = was.serial_map;
+    machine_.serial_map_exists = was.serial_map_exists;
+    machine_.port_usage = was.port_usage;
+    machine_.profile = was.profile;
+}
+
+bool SimulatedWorld::Fail(const std::string& operation, std::size_t call) {
+    std::vector<std::pair<std::string, std::size_t>>& plan = machine_.faults.at_call;
+    if (operation.empty()) {
+        plan.clear();
+    } else {
+        plan.emplace_back(operation, machine_.faults.count_by_name[operation] + call);
+    }
     return true;
 }
 

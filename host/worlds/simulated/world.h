@@ -18,14 +18,23 @@ public:
     SimulatedWorld(MachineFile file, sim::Machine& machine);
     ~SimulatedWorld() override;
 
+    bool KnowsDevices() override;
     std::vector<Device> Devices() override;
     std::vector<StoreValue> Store(const std::string& id) override;
+    std::optional<std::vector<Interface>> Interfaces() override;
     PortRecords Ports() override;
     bool RunSheet(const std::string& id, const std::function<void(HWND front)>& attend) override;
     std::vector<std::string> Journal() override;
     UINT BoxStyle(HWND box) override;
     bool HasUnsavedChanges() override;
     bool Export(const std::string& file, std::string& error) override;
+    bool Patch(const std::string& file, const std::vector<std::string>& comments,
+               const std::string& undo_file, const std::vector<std::string>& undo_comments,
+               std::string& error) override;
+    std::unique_ptr<Moment> Now() override;
+    bool IsStill(const Moment& moment) override;
+    void ComeBackTo(const Moment& moment) override;
+    bool Fail(const std::string& operation, std::size_t call) override;
 
 private:
     void KeepAsSaved();

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "host/worlds/channel_classes.h"
 #include "host/worlds/store_values.h"
 #include "host/worlds/windows/attendance.h"
 #include "host/worlds/windows/observers.h"
@@ -134,6 +135,8 @@ public:
     }
     ~System() override { FreeLibrary(library_); }
 
+    bool KnowsDevices() override { return true; }
+
     std::vector<Device> Devices() override {
         std::vector<Device> devices;
         const std::vector<std::string> with_interface = InterfaceOwners(0),
@@ -172,6 +175,26 @@ public:
         return values;
     }
 
+    std::optional<std::vector<Interface>> Interfaces() override {
+        std::vector<Interface> interfaces;
+        for (const GUID& interface_class : ChannelInterfaceClasses) {
+            const DeviceSet set(
+                SetupDiGetClassDevsW(&interface_class, nullptr, nullptr, DIGCF_DEVICEINTERFACE));
+            SP_DEVICE_INTERFACE_DATA one{};
+            one.cbSize = sizeof one;
+            for (DWORD index = 0;
+                 SetupDiEnumDeviceInterfaces(set.Handle(), nullptr, &interface_class, index, &one); ++index) {
+                // Asked for its device alone, the path does not fit.
+                SP_DEVINFO_DATA data = EmptyDevice();
+                SetupDiGetDeviceInterfaceDetailW(set.Handle(), &one, nullptr, 0, nullptr, &data);
+                interfaces.push_back({InstanceId(set.Handle(), &data),
+                                      Property(set.Handle(), data, SPDRP_DEVICEDESC),
+                                      ChannelClassOf(interface_class), (one.Flags & SPINT_ACTIVE) != 0});
+            }
+        }
+        return interfaces;
+    }
+
     PortRecords Ports() override {
         PortRecords records;
         records.dos_names = SerialDosNames();
@@ -183,7 +206,8 @@ public:
             records.settings_lines = ports.Texts();
         }
         // Read where it lies: to open the database by its own operations would make one where there is none.
-        const std::vector<StoreValue> arbiter = RegistryKey(HKEY_LOCAL_MACHINE, ArbiterKey, KEY_READ).Values();
+        const std::vector<StoreValue> arbiter =
+            RegistryKey(HKEY_LOCAL_MACHINE, ArbiterKey, KEY_READ).Values();
         const StoreValue* const usage = FindValue(arbiter, "ComDB");
         if (usage && usage->type == REG_BINARY && !usage->data.empty()) {
             records.usage = usage->data;
@@ -229,6 +253,17 @@ public:
         error = "a real machine is exported by its own registry editor";
         return false;
     }
+
+    bool Patch(const std::string&, const std::vector<std::string>&, const std::string&,
+               const std::vector<std::string>&, std::string& error) override {
+        error = "what is changed here is changed already: a patch is made from an export";
+        return false;
+    }
+
+    std::unique_ptr<Moment> Now() override { return nullptr; }
+    bool IsStill(const Moment&) override { return true; }
+    void ComeBackTo(const Moment&) override {}
+    bool Fail(const std::string&, std::size_t) override { return false; }
 
 private:
     HMODULE library_;
