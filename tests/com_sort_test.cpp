@@ -77,6 +77,12 @@ TEST(ComSort, MakesTheExchangesInThisOrderAndAsksNoPortInItsPlace) {
         EXPECT_EQ(NumbersOf(machine, after.size()), after);
         EXPECT_EQ(board.params.ChlListChanged, !each.moves.empty());
         EXPECT_EQ(Count(machine, "ComDBOpen") == 0, each.moves.empty());
+        const auto first_enabled = std::ranges::find_if(machine.journal, [](const auto& entry) {
+            return entry.name == "EnableWindow" && entry.detail == "1 on";
+        });
+        EXPECT_EQ(std::count_if(first_enabled, machine.journal.end(),
+                                [](const auto& entry) { return entry.name == "LocalFree"; }),
+                  0); // the table is gone before the buttons come back
         for (std::size_t i = 0; i < after.size(); ++i) {
             const BPPCHL* chl = board.Channel(static_cast<u32>(i) + 1);
             EXPECT_EQ(chl->SavedInfo.Uart.PortName, PortName(after[i]));

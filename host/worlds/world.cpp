@@ -1,5 +1,7 @@
 #include "host/worlds/world.h"
 
+#include "platform/port_usage.h"
+
 namespace host {
 
 std::string NameOf(const Device& device) {
@@ -10,7 +12,7 @@ std::string NameOf(const Device& device) {
 
 bool IsClaimed(const PortRecords& records, unsigned long number) {
     return records.usage && number >= 1 && number <= 8 * records.usage->size() &&
-           ((*records.usage)[(number - 1) / 8] >> (number - 1) % 8 & 1) != 0;
+           IsPortClaimed(records.usage->data(), static_cast<u32>(number));
 }
 
 } // namespace host

@@ -45,7 +45,7 @@ void ClearBoxes(HWND hDlg) {
     SetBox(hDlg, IDC_ACS_ENABLE, false, false);
 }
 
-// Of the boxes, which are clear, those that the mode has, with the values of the record.
+// Turns on the boxes that the mode has, with the values of the record. Both are clear before.
 void ShowBoxes(HWND hDlg, const UartBasicInfo& uart, const UartMode& mode) {
     if (HasAny(uart.UartCapability, mode.termination)) {
         const bool terminated =
@@ -58,7 +58,7 @@ void ShowBoxes(HWND hDlg, const UartBasicInfo& uart, const UartMode& mode) {
     }
 }
 
-// The mode whose entry stands at a position of the combo; null if none does.
+// The mode at a position of the combo; null if the position is none of theirs.
 const UartMode* ModeAtEntry(const BPPCHL* chl, u32 position) {
     for (const UartMode& mode : UartModes) {
         if (chl->*mode.comboPos == position) {
@@ -97,7 +97,7 @@ bool _InitializeControls(HWND hDlg, BPPCHL* channel) {
     return bSuccess;
 }
 
-// Earlier clicks on the boxes are gone: they show the record again.
+// The boxes show the record again, and earlier clicks on them are lost.
 bool _InterfaceSelectClicked(HWND hDlg, const BPPCHL* channel) {
     TraceOut("----> %s( )\n", __func__);
     const UartMode* mode = ModeAtEntry(channel, SelectedEntry(hDlg));
@@ -119,7 +119,7 @@ const UartMode* FirstOfferedMode(u32 capability) {
     return nullptr;
 }
 
-// Selects the first mode that the UART offers. Of a UART that offers none the termination box is left alone.
+// Selects the first mode that the UART offers. If it offers none, the termination box is left alone.
 void _RestoreDefaultClicked(HWND hDlg, const BPPCHL* channel) {
     TraceOut("----> %s( )\n", __func__);
     const u32 capability = channel->CurrentInfo.Uart.UartCapability;
@@ -138,7 +138,7 @@ void _RestoreDefaultClicked(HWND hDlg, const BPPCHL* channel) {
     TraceOut("<---- %s\n", __func__);
 }
 
-// Weaker than what offers the entries: it fails only with no offered entry selected.
+// This asks for less than offering an entry does, so it fails only if no offered entry is selected.
 bool IsSupported(const UartMode& mode, u32 capability, TraceName function = __builtin_FUNCTION()) {
     bool supported = true;
     for (u32 bit = 1; bit != 0; bit <<= 1) {
@@ -159,7 +159,7 @@ void TraceSettings(const InterfaceSettings& settings, TraceName function = __bui
     TraceOut("%s - nRS485Termination:%d\n", function, settings.UartRS485Termination);
 }
 
-// The status of the write; 0 also if the store has the settings already.
+// Returns the status of the write, and 0 if the store already has the settings.
 u32 WriteSettings(BPPCHL* channel, const InterfaceSettings& settings,
                   TraceName function = __builtin_FUNCTION()) {
     UartBasicInfo& saved = channel->SavedInfo.Uart;

@@ -3,7 +3,7 @@
 
 #include "device_model/board_params.h"
 
-// Runs the dialog for a UART, modally over `hParent`; true when it has closed, whatever closed it. What its
-// OK chose is stored by then, and what Sort UART moved is in the records, with ChlListChanged of the board
-// set.
+// Runs the dialog for a UART, modally over `hParent`, and returns true when it has closed, whatever closed
+// it. By then the choice of its OK is stored, and the records have the numbers that Sort UART gave, with
+// ChlListChanged of the board set.
 bool KvrBoardUartAdvancedDlgShow(HWND hParent, BPPCHL* channel);

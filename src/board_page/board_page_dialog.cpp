@@ -101,7 +101,7 @@ bool _OnCommand(HWND hDlg, int id, int notifyCode) {
     return bSuccess;
 }
 
-// Enacts a change of the COM number combo for the selected UART.
+// Gives the selected UART the number that the user has chosen in the combo.
 bool RenameUart(HWND hDlg, BPPCHL* chl, TraceName function = __builtin_FUNCTION()) {
     const u32 oldNumber = ComNumberFromName(chl->CurrentInfo.Uart.PortName);
     return RenamePortForUser(hDlg, BoardRename,

@@ -1,7 +1,8 @@
-// The Port Control page's dialog procedure: what each message and command leads to.
+// The dialog procedure of the Port Control page.
 #pragma once
 
 #include "platform/platform.h"
 
-// For dialog IDD_PORT_CONTROL as a property page whose description's lParam is the BoardParams record.
+// Serves dialog IDD_PORT_CONTROL as a property page. The lParam of the page's description is the BoardParams
+// record.
 INT_PTR CALLBACK BoardBasicDlgProc(HWND hDlg, UINT message, WPARAM wParam, LPARAM lParam);

@@ -9,7 +9,7 @@
 
 namespace {
 
-// The values tell only that the device is a board; the record reads them anew.
+// The values only show that the device is a board. The record reads them again.
 bool CheckBoard(const SP_PROPSHEETPAGE_REQUEST* request) {
     BoardBasicInfo basic = {};
     const u32 sStatus = Kavro_RegBoardGetBasic(request->DeviceInfoSet, request->DeviceInfoData, &basic);

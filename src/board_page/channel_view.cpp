@@ -40,7 +40,7 @@ void Select(HWND hDlg, u32 index) {
     SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(static_cast<INT>(index)), 0);
 }
 
-// A combo with one text in it, which the user can't change.
+// Shows a single text in a combo that the user can't change.
 void ShowFixedCombo(HWND hDlg, int combo, int caption, const WCHAR* text) {
     SendDlgItemMessageW(hDlg, combo, CB_RESETCONTENT, 0, 0);
     SendDlgItemMessageW(hDlg, combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));

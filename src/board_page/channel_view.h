@@ -10,9 +10,9 @@ BoardParams* PageParams(HWND hDlg);
 // The list box's selection as a position; all bits set without one.
 u32 SelectedChannel(HWND hDlg);
 
-// Fills the list box in ascending channel number, and tells each channel its position.
+// Fills the list box in ascending order of the channel numbers, and records each channel's position.
 void _FillChannelList(HWND hDlg);
 
-// Makes a position the selected channel and brings the whole page into line with it; a position without a
-// channel, -1 for one, means none. What the controls held and the records don't is lost.
+// Selects the channel at a position and brings the whole page into line with it. A position without a
+// channel, such as -1, selects none. Whatever the controls held and the records don't is lost.
 void _ChlListSelectChange(HWND hDlg, BoardParams* params, u32 index);

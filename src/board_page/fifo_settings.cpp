@@ -9,7 +9,7 @@
 
 namespace {
 
-// What acts on a UART only, beside the FIFO controls and the advanced dialog.
+// The other buttons that act on a UART only.
 constexpr int UartButtons[] = {IDC_APPLY, IDC_SET_TO_ALL, IDC_RESTORE};
 
 BPPCHL* UartAt(const BoardParams* params, u32 index) {
@@ -53,8 +53,9 @@ void ShowNoUart(HWND hDlg) {
     EnableUartButtons(hDlg, FALSE);
 }
 
-// Writes every UART whose pending values differ from the saved ones, in ascending channel number. False at
-// the first write that fails, with its status and the COM number of its port.
+// Writes every UART whose pending values differ from the saved ones, in ascending order of the channel
+// numbers. Stops with false at the first write that fails; `status` is that of the write, and `comNumber` the
+// number of the port.
 bool _SetEachUartUiFifoSettingsIfChange(BoardParams* params, u32* status, u32* comNumber) {
     TraceOut("----> %s( )\n", __func__);
     *status = 0;
@@ -121,7 +122,7 @@ bool _FifoEnableClicked(HWND hDlg, BoardParams* params, u32 index) {
     return bSuccess;
 }
 
-// The controls alone: pending values and remembered positions stay.
+// Changes only the controls. The pending values and the remembered positions stay.
 bool _RestoreDefaultClicked(HWND hDlg, BoardParams* params, u32 index) {
     TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
     const BPPCHL* chl = UartAt(params, index);

@@ -3,8 +3,8 @@
 
 #include "device_model/board_params.h"
 
-// Adds the two columns, once per page. A column whose heading can't be loaded is left out.
+// Adds the two columns, once for each page. A column is left out if its heading can't be loaded.
 void AddResourceColumns(HWND hDlg);
 
-// Shows the resources of a channel; nothing if `channel` is null.
+// Shows the resources of a channel. If `channel` is null the list is left empty.
 void _FillResourceList(HWND hDlg, const BPPCHL* channel);

@@ -1,5 +1,5 @@
-// A UART's electrical interface: the modes, what a UART must be capable of for each, and the values that each
-// stores.
+// The electrical interface of a UART: its modes, the capabilities that each mode needs, and the values that
+// each stores.
 #pragma once
 
 #include "device_model/board_params.h"
@@ -16,7 +16,7 @@ enum UartCapabilityBit : u32 {
     CapRS485Termination = 0x80,
 };
 
-// The six values that a choice of the interface decides.
+// The six values that the choice of a mode sets.
 struct InterfaceSettings {
     u32 UartMode;
     u32 UartAHDC;
@@ -26,8 +26,8 @@ struct InterfaceSettings {
     u32 UartRS485Termination;
 };
 
-// One mode. A capability is a mask: "offered" and "required" need all of its bits, the others any one of
-// them.
+// One mode. Each condition is a mask of capability bits. `offered` and `required` need all of their bits, the
+// others any one of theirs.
 struct UartMode {
     u32 mode; // the value of `UartMode`
     const WCHAR* text;
@@ -42,10 +42,10 @@ struct UartMode {
 
 constexpr u32 UartModeCount = 4;
 
-// In the order in which the combo offers them.
+// The modes, in the order in which the combo offers them.
 extern const UartMode UartModes[UartModeCount];
 
-// The mode of a stored value; null for a value that is none.
+// The mode of a stored value, or null if the value is no mode.
 const UartMode* FindUartMode(u32 mode);
 
 bool HasAll(u32 capability, u32 bits);
@@ -55,6 +55,6 @@ InterfaceSettings SettingsOf(const UartBasicInfo& uart);
 void SetSettings(UartBasicInfo& uart, const InterfaceSettings& settings);
 bool SameSettings(const InterfaceSettings& left, const InterfaceSettings& right);
 
-// The values that a mode stores on a UART of that capability, with the two boxes checked or not. No value is
-// ever 1 without its capability bit.
+// The values that a mode stores on a UART of this capability, depending on the two boxes. A value is 1 only
+// if its capability bit is set.
 InterfaceSettings ChooseSettings(const UartMode& mode, u32 capability, bool termination, bool acs);

@@ -1,5 +1,6 @@
 #include "com_numbers/com_port_database.h"
 
+#include "platform/port_usage.h"
 #include "reporting/module_entry.h"
 #include "reporting/statuses.h"
 #include "reporting/text_operations.h"
@@ -8,17 +9,13 @@
 
 namespace {
 
-// One bit per COM number: number n is bit (n - 1) % 8, from the least significant, of byte (n - 1) / 8.
+// One bit for each COM number.
 using PortUsageBitmap = BYTE[ComNumberMax / 8];
 
-// Units of the text of one number in the combo, and of its suffix alone.
+// Units of an entry of the combo, terminator included. Its suffix alone has the same limit.
 constexpr u32 EntryCapacity = 40;
 
-bool IsClaimed(const PortUsageBitmap& usage, u32 number) {
-    return (usage[(number - 1) / 8] & (1u << ((number - 1) % 8))) != 0;
-}
-
-// 0, StatusNoDatabase or StatusNoUsage.
+// Returns 0, StatusNoDatabase or StatusNoUsage.
 u32 ReadPortUsage(PortUsageBitmap& usage, TraceName function = __builtin_FUNCTION()) {
     HCOMDB database = nullptr;
     u32 sStatus = 0;
@@ -53,7 +50,7 @@ void AddAllNumbers(HWND combo, const PortUsageBitmap& usage, u32 currentNumber, 
     WCHAR entry[EntryCapacity];
     for (u32 number = 1; number <= ComNumberMax; ++number) {
         FormatText(entry, ARRAYSIZE(entry), TEXT("COM%d"), number);
-        if (IsClaimed(usage, number)) {
+        if (IsPortClaimed(usage, number)) {
             if (number == currentNumber) {
                 TraceOut("%s COM%d -> used, is current port number, don't in use\n", function, number);
             } else {
@@ -72,7 +69,7 @@ u32 Kavro_COMPortCheckNumberInUse(u32 number) {
     TraceOut("----> %s( )\n", __func__);
     PortUsageBitmap usage = {};
     u32 sStatus = ReadPortUsage(usage);
-    if (sStatus == 0 && IsClaimed(usage, number)) {
+    if (sStatus == 0 && IsPortClaimed(usage, number)) {
         TraceOut("%s - port has been previously claimed\n", __func__);
         sStatus = StatusNumberClaimed;
     }
@@ -87,7 +84,7 @@ u32 Kavro_COMPortGetMaxNumberAvailable(u32* MaxAvlComNumber) {
     u32 sStatus = ReadPortUsage(usage);
     if (sStatus == 0) {
         u32 number = ComNumberMax;
-        while (number != 0 && IsClaimed(usage, number)) {
+        while (number != 0 && IsPortClaimed(usage, number)) {
             --number;
         }
         if (number != 0) {

@@ -10,10 +10,10 @@ namespace {
 constexpr u32 RemapTextCapacity = 81;
 constexpr u32 DescriptionBytes = 512;
 
-// The steps trace under the name of the transaction that they make up.
+// The steps trace under the name of the transaction.
 constexpr TraceName Transaction = "_EnactComNameChanges";
 
-// One rename: allocated for it, and released when it is over.
+// The record of one rename, which exists only while the rename runs.
 struct Remap {
     HDEVINFO DeviceInfoSet;
     SP_DEVINFO_DATA* DeviceInfoData;
@@ -32,7 +32,7 @@ DWORD TextBytes(const WCHAR* text) {
     return static_cast<DWORD>((lstrlenW(text) + 1) * sizeof(WCHAR));
 }
 
-// Exactly, unit by unit: a map value com5 is not COM5.
+// The comparison is exact: com5 in the map is not COM5.
 bool SameText(const WCHAR* left, const WCHAR* right) {
     while (*left != 0 && *left == *right) {
         ++left;
@@ -45,7 +45,7 @@ bool QueryOldTarget(Remap* remap) {
     return QueryDosDeviceW(remap->OldComName, remap->Buffer1, RemapTextCapacity - 1) != 0;
 }
 
-// Moves the DOS name, whose target the first look has found, to the new name. 0 or StatusNoDosName.
+// Moves the DOS name, which exists, to the new name. Returns 0 or StatusNoDosName.
 u32 MoveDosName(Remap* remap) {
     if (!QueryOldTarget(remap)) {
         TraceOut("%s - this shouldn't happen, QueryDosDevice fail, GetLastError():%d\n", Transaction,
@@ -68,8 +68,8 @@ u32 MoveDosName(Remap* remap) {
     return 0;
 }
 
-// The first value of the serial device map that holds the old name gets the new one. A value that doesn't fit
-// the buffers ends the scan.
+// Writes the new name into the first value of the serial device map that holds the old one. A value that
+// doesn't fit the buffers ends the scan.
 void RenameInSerialMap(Remap* remap, DWORD dwNewComNameLen) {
     if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, TEXT("Hardware\\DeviceMap\\SerialComm"), 0, KEY_READ | KEY_WRITE,
                       &remap->SerialCommKey) != ERROR_SUCCESS) {
@@ -103,7 +103,7 @@ void RenameInDatabase(Remap* remap) {
 }
 
 void WriteFriendlyName(Remap* remap) {
-    // One unit more than is asked for: a description without its terminator gets one.
+    // One unit more than is asked for, so that a description without its terminator gets one.
     WCHAR description[DescriptionBytes / sizeof(WCHAR) + 1] = {};
     if (SetupDiGetDeviceRegistryPropertyW(remap->DeviceInfoSet, remap->DeviceInfoData, SPDRP_DEVICEDESC,
                                           nullptr, reinterpret_cast<BYTE*>(description), DescriptionBytes,
@@ -118,7 +118,7 @@ void WriteFriendlyName(Remap* remap) {
                                       TextBytes(remap->Buffer1));
 }
 
-// With the device key and the database open. 0 or StatusNoDosName.
+// Runs the steps that need the device key and the database open. Returns 0 or StatusNoDosName.
 u32 RenameEverywhere(Remap* remap) {
     TraceOut("%s - ARRAYSIZE(Remap->OldComName):%I64d\n", Transaction, ARRAYSIZE(remap->OldComName));
     FormatText(remap->OldComName, RemapTextCapacity, TEXT("COM%d"), remap->OldComNumber);
@@ -171,7 +171,7 @@ u32 _EnactComNameChanges(Remap* remap) {
 u32 Kavro_COMPortDoRemap(HDEVINFO DeviceInfoSet, SP_DEVINFO_DATA* DeviceInfoData, u32 oldNumber,
                          u32 newNumber) {
     TraceOut("----> %s( )\n", __func__);
-    Remap* remap = static_cast<Remap*>(LocalAlloc(LPTR, sizeof(Remap)));
+    auto* remap = static_cast<Remap*>(LocalAlloc(LPTR, sizeof(Remap)));
     u32 sStatus = StatusNoMemory;
     if (remap != nullptr) {
         remap->DeviceInfoSet = DeviceInfoSet;

@@ -11,7 +11,7 @@
 
 namespace {
 
-// A UART's channel number and a COM number.
+// The channel number of a UART and a COM number.
 struct SortPair {
     u32 channel;
     u32 com;
@@ -23,12 +23,12 @@ struct SortPairTable {
 };
 static_assert(sizeof(SortPairTable) == 2048);
 
-// All steps of a click trace under its name.
+// All steps of the sort trace under the name of the click.
 constexpr TraceName Click = "_SortCOMClicked";
 
 constexpr int SortButtons[] = {IDOK, IDCANCEL, IDC_RESTORE, IDC_SORT_COM};
 
-// One of the three moves of an exchange: what is reported if it fails, and its lines in the trace.
+// One of the three moves of an exchange: the code for its failure, and its lines in the trace.
 struct SortMove {
     u32 failureCode;
     const char* settingsTrace;
@@ -51,7 +51,7 @@ bool NeedsMove(const BPPCHL* chl) {
     return IsUart(chl) && chl->SortCurrentCom != chl->SortNewCom;
 }
 
-// Reads every UART's number from its name and fills the table; the number of pairs.
+// Reads the number of every UART from its name and fills the table. Returns the number of pairs.
 u32 GatherPairs(BoardParams* board, SortPairTable* table) {
     u32 count = 0;
     for (BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
@@ -118,7 +118,7 @@ bool AnyNeedsMove(const BoardParams* board) {
     return any;
 }
 
-// Every port that will move is closed; the first that isn't is reported.
+// True if every port that will move is closed. The first that isn't is reported in a box.
 bool AllMovingPortsClosed(HWND dialog, BoardParams* board) {
     for (BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
         if (!NeedsMove(chl)) {
@@ -140,8 +140,8 @@ void EnableSortButtons(HWND dialog, BOOL enable) {
     }
 }
 
-// The port that holds the number which the channel wants; the last in the walk's order, null if none holds
-// it.
+// The port that holds the number which the channel wants, or null. If several hold it, the last in the order
+// of the walk.
 BPPCHL* FindPartner(BoardParams* board, const BPPCHL* chl) {
     BPPCHL* partner = nullptr;
     for (BPPCHL* other = board->WalkFirst; other != nullptr; other = other->WalkNext) {
@@ -152,7 +152,7 @@ BPPCHL* FindPartner(BoardParams* board, const BPPCHL* chl) {
     return partner;
 }
 
-// A move of the sort on the road of every rename.
+// A move of the sort, as a rename.
 struct PortMove : PortRename {
     BPPCHL* port;
     const SortMove* move;
@@ -164,8 +164,8 @@ void PortNamed(const PortRename& rename) {
     TraceOut(moved.move->settingsTrace, Click, moved.port->SortChlNumber, rename.savedName, rename.newName);
 }
 
-// Moves one port to another number and keeps its records true to it. False, after a box, if the rename
-// failed.
+// Moves one port to another number, and its records with it. False if the rename failed, and a box has said
+// so.
 bool MovePort(HWND dialog, BPPCHL* port, u32 to, const SortMove& move) {
     const u32 from = port->SortCurrentCom;
     PortMove moved = {RenameOfChannel(port, from, to), port, &move};
@@ -179,7 +179,7 @@ bool MovePort(HWND dialog, BPPCHL* port, u32 to, const SortMove& move) {
     return true;
 }
 
-// Brings the channel to its number and its partner, who holds that number, to the channel's.
+// Exchanges the numbers of a channel and of its partner, which holds the number that the channel wants.
 bool ExchangePorts(HWND dialog, BPPCHL* chl, BPPCHL* partner, u32 temporary) {
     TraceOut("%s - ----------------------------------------\n", Click);
     TraceOut("%s - S1_1, CHL%d to AVL, COM%d -> COM%d\n", Click, partner->SortChlNumber,
@@ -202,7 +202,8 @@ bool ExchangePorts(HWND dialog, BPPCHL* chl, BPPCHL* partner, u32 temporary) {
     return true;
 }
 
-// One pass is enough, whatever the cycles: a channel that has its number is nobody's partner any more.
+// One pass is enough for cycles of any length, because a channel that has its number is never a partner
+// again.
 void ExchangeAll(HWND dialog, BoardParams* board, u32 temporary) {
     for (BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
         if (!NeedsMove(chl)) {
@@ -216,8 +217,8 @@ void ExchangeAll(HWND dialog, BoardParams* board, u32 temporary) {
     TraceNumbers(board, "----------------------------------------, DONE\n");
 }
 
-// With ports to change. Nothing moves unless a temporary number is free and every port that moves is closed.
-// True if the buttons have been disabled.
+// Moves the ports that need it. Nothing moves unless a temporary number is free and every port that moves is
+// closed. True if the buttons have been disabled.
 bool MovePorts(HWND dialog, BoardParams* board) {
     u32 avlMaxTempComNumber = 0;
     const u32 sStatus = Kavro_COMPortGetMaxNumberAvailable(&avlMaxTempComNumber);

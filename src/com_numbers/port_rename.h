@@ -1,11 +1,11 @@
-// The one road of every rename of a port: checks, remap, notice to the device, the caller's records, move of
-// the settings. What the callers differ in is data of the record, or its one call.
+// Every rename of a port takes the same road: checks, remap, notice to the device, the caller's records, move
+// of the settings. Where callers differ, the record says how.
 #pragma once
 
 #include "device_model/board_params.h"
 #include "reporting/trace.h"
 
-// A port and the number that it is to get. The names belong to the caller, `nameCapacity` units each.
+// A port and its new number. The names belong to the caller.
 struct PortRename {
     HDEVINFO DeviceInfoSet;
     SP_DEVINFO_DATA* DeviceInfoData;
@@ -18,15 +18,15 @@ struct PortRename {
     void (*named)(const PortRename& rename); // called between the two; null if there is nothing to do
 };
 
-// The rename of a board's UART, whose two copies hold its names.
+// The rename of a UART of a board, whose `SavedInfo` and `CurrentInfo` hold the names.
 PortRename RenameOfChannel(BPPCHL* channel, u32 oldNumber, u32 newNumber);
 
-// Walks the road from the remap on. 0, or the status of Kavro_COMPortDoRemap: then the caller's records are
-// as they were.
+// Takes the road from the remap on. Returns the status of Kavro_COMPortDoRemap. Unless that is 0, the
+// caller's records have not changed.
 u32 RenamePort(const PortRename& rename);
 
-// What a dialog says when a user's rename fails, by step, and whether the user may take a number that is
-// claimed: then the first box asks.
+// What a dialog reports when a step of a user's rename fails, and whether the user may take a number that is
+// claimed. If so, the box of the first code asks.
 struct RenameTerms {
     u32 numberInUse; // failure codes
     u32 portOpened;
@@ -34,11 +34,10 @@ struct RenameTerms {
     bool mayTakeClaimed;
 };
 
-// The number that is selected in the combo IDC_PORT_NUMBER of a dialog; `oldNumber` without a selection.
+// The number that is selected in the combo IDC_PORT_NUMBER of a dialog, or `oldNumber` if none is.
 u32 ChosenComNumber(HWND dialog, u32 oldNumber);
 
-// Walks the whole road for a user who has chosen a number in `dialog`. True if the port has it, which is so
-// at once if the number is the old one; otherwise a box over the dialog has said why, and nothing has
-// changed.
+// Takes the whole road for a user who has chosen a number in `dialog`. True if the port now has that number,
+// or had it before. False if it hasn't; a box over the dialog has said why, and nothing has changed.
 bool RenamePortForUser(HWND dialog, const RenameTerms& terms, const PortRename& rename,
                        TraceName function = __builtin_FUNCTION());

@@ -5,17 +5,17 @@
 
 namespace {
 
-// The caller frees the key; null without memory.
+// Returns null if there is no memory. The caller frees the key.
 WCHAR* AllocateSettingsKey(const WCHAR* portName) {
     const u32 capacity = static_cast<u32>(lstrlenW(portName)) + 2;
-    WCHAR* key = static_cast<WCHAR*>(LocalAlloc(LPTR, capacity * sizeof(WCHAR)));
+    auto* key = static_cast<WCHAR*>(LocalAlloc(LPTR, capacity * sizeof(WCHAR)));
     if (key != nullptr) {
         MakeSettingsKey(key, capacity, portName);
     }
     return key;
 }
 
-// Applications are told while both keys are there.
+// Applications are notified while both keys exist.
 void MoveSettingsLine(const WCHAR* oldKey, const WCHAR* newKey) {
     WCHAR value[SettingsLineCapacity];
     value[0] = 0;

@@ -9,8 +9,8 @@ constexpr const WCHAR* PortsSection = TEXT("Ports");
 // Units of a line as it is read, terminator included.
 constexpr u32 SettingsLineCapacity = 81;
 
-// What a port without a line gets.
+// The line for a port that has none.
 constexpr const WCHAR* DefaultSettingsLine = TEXT("9600,n,8,1");
 
-// The key of a port's line: "COM3:" for the name COM3. Cut at `capacity` units.
+// Makes the key of a port's line, "COM3:" for the name COM3. It is cut at `capacity` units.
 void MakeSettingsKey(WCHAR* key, u32 capacity, const WCHAR* portName);

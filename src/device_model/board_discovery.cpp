@@ -21,7 +21,7 @@ constexpr GUID GUID_DEVINTERFACE_BOARD_MCP251XFD = {
 constexpr GUID GUID_DEVINTERFACE_BOARD_CAN = {
     0xBD052268, 0xEA5E, 0x4FD3, {0xB7, 0xE4, 0x39, 0x97, 0x8E, 0xA8, 0x5C, 0xC9}};
 
-// The class of a ChannelClass stands at its index less one.
+// Indexed by ChannelClass less one.
 constexpr GUID InterfaceClasses[ChannelClassCount] = {
     GUID_DEVINTERFACE_COMPORT,         GUID_DEVINTERFACE_BOARD_DIO, GUID_DEVINTERFACE_BOARD_MCP251X,
     GUID_DEVINTERFACE_BOARD_MCP251XFD, GUID_DEVINTERFACE_BOARD_CAN,
@@ -83,13 +83,14 @@ bool BelongsToBoard(const BoardParams* board, const ChannelInfo& info) {
     return false;
 }
 
-// A copy of the path that the caller owns; null without memory for it. `capacity` in units bounds the path.
+// Returns a copy of the path for the caller to free, or null if there is no memory. The path ends within
+// `capacity` units.
 WCHAR* CopyDevicePath(const WCHAR* path, u32 capacity) {
     u32 length = 0;
     while (length < capacity && path[length] != 0) {
         ++length;
     }
-    WCHAR* copy = static_cast<WCHAR*>(LocalAlloc(LPTR, (length + 1) * sizeof(WCHAR)));
+    auto* copy = static_cast<WCHAR*>(LocalAlloc(LPTR, (length + 1) * sizeof(WCHAR)));
     if (copy != nullptr) {
         CopyText(copy, length + 1, path);
     }
@@ -98,7 +99,7 @@ WCHAR* CopyDevicePath(const WCHAR* path, u32 capacity) {
 
 void AddChannel(BoardParams* board, HDEVINFO set, const SP_DEVINFO_DATA& data, u32 channelClass,
                 const ChannelInfo& info, const WCHAR* path, u32 pathCapacity) {
-    BPPCHL* chl = static_cast<BPPCHL*>(LocalAlloc(LPTR, sizeof(BPPCHL)));
+    auto* chl = static_cast<BPPCHL*>(LocalAlloc(LPTR, sizeof(BPPCHL)));
     if (chl == nullptr) {
         return;
     }
@@ -121,7 +122,8 @@ void AddChannel(BoardParams* board, HDEVINFO set, const SP_DEVINFO_DATA& data, u
              channelClass);
 }
 
-// A set is kept at once, so that BoardDeinitiate releases as many as were opened. 0 or StatusNoInterfaceSet.
+// Keeps each set at once, so that BoardDeinitiate releases what was opened. Returns 0 or
+// StatusNoInterfaceSet.
 u32 OpenInterfaceSets(BoardParams* board) {
     for (u32 i = 0; i < ChannelClassCount; ++i) {
         board->InterfaceSet[i] = SetupDiGetClassDevsW(&InterfaceClasses[i], nullptr, nullptr,
@@ -133,9 +135,9 @@ u32 OpenInterfaceSets(BoardParams* board) {
     return 0;
 }
 
-// With the sets open: the board's own values, then its channels.
+// Reads the board's own values and then its channels, from the sets that are open.
 u32 ReadBoardAndChannels(BoardParams* board) {
-    BYTE* buffer = static_cast<BYTE*>(LocalAlloc(LPTR, DetailBufferBytes));
+    auto* buffer = static_cast<BYTE*>(LocalAlloc(LPTR, DetailBufferBytes));
     if (buffer == nullptr) {
         return StatusNoMemory;
     }
@@ -195,7 +197,7 @@ void BoardEnumClass(BoardParams* board, BYTE* buffer, u32 bufferSize, HDEVINFO s
 void BoardDeinitiate(BoardParams* board) {
     TraceOut("----> %s( )\n", __func__);
     while (!ChlListIsEmpty(&board->ChlList)) {
-        BPPCHL* chl = static_cast<BPPCHL*>(ChlListFirst(&board->ChlList));
+        auto* chl = static_cast<BPPCHL*>(ChlListFirst(&board->ChlList));
         TraceOut("BPPCHL (%d, x%p, x%p, T:%d), TERMINATE\n", chl->CurrentInfo.ChlBasic.ChlNumber, chl,
                  chl->DevicePath, chl->Class);
         ChlListRemove(chl);

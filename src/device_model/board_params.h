@@ -1,23 +1,24 @@
 // The device model: what is known of one board and its channels.
 //
-// One Port Control page works on one `BoardParams`. The page owns it; it owns its `BPPCHL` records and its
-// five interface sets, and each record owns its device path. The device of the provider's request is
-// borrowed. The records live from `BoardInitiate` to `BoardDeinitiate`, and the sets stay open as long, since
-// a record's device means something only in its set. Nothing refreshes them in between: the store is read
-// once.
+// Each Port Control page works on one `BoardParams` and owns it. The `BoardParams` owns its `BPPCHL` records
+// and five interface sets, and each record owns its device path. The device of the provider's request is
+// borrowed. The records live from `BoardInitiate` to `BoardDeinitiate`, and the sets stay open as long,
+// because the device of a record means something only in its set. The store is read once and never again in
+// between.
 //
-// Of a channel's values there are two copies. `SavedInfo` mirrors the store and follows only a successful
-// write; `CurrentInfo` holds what the page means to store. All readers but the comparison before a write use
-// `CurrentInfo`.
+// A channel's values are held twice. `SavedInfo` mirrors the store and changes only after a successful write.
+// `CurrentInfo` holds what the page means to store. Only the comparison before a write reads `SavedInfo`, and
+// the move of a port's settings takes the old name from it.
 //
-// All records are plain and zero-filled at creation. Texts have a terminator within their field.
+// All records are plain and zero-filled at creation. Every text ends within its field.
 #pragma once
 
 #include "device_model/fifo_stages.h"
 #include "platform/platform.h"
 #include "reporting/text_operations.h"
 
-// Through which interface class a channel was found: its type, whatever the driver publishes as `ChlType`.
+// The interface class through which a channel was found. This is its type, whatever the driver publishes as
+// `ChlType`.
 enum ChannelClass : u32 {
     ClassUart = 1,
     ClassDio = 2,
@@ -27,10 +28,10 @@ enum ChannelClass : u32 {
 };
 constexpr u32 ChannelClassCount = 5;
 
-// Units of a text field; a stored text has at most twice as many bytes, terminator included.
+// Units of a text field. A stored text has at most twice as many bytes, terminator included.
 constexpr u32 StoreTextCapacity = 64;
 
-// The identity of a board: a channel belongs to the board whose two values equal its own.
+// The identity of a board. A channel belongs to the board whose two values equal its own.
 struct BoardBasicInfo {
     u32 BoardPciBusNumber;
     u32 BoardIrq;
@@ -120,7 +121,7 @@ struct CanBasicInfo {
     u32 KvrCanFifoRXMMax;
 };
 
-// All values of one channel. `Class` of the record says which of the last five is valid.
+// All values of one channel. `Class` of its BPPCHL says which of the last five is valid.
 struct ChannelInfo {
     BoardBasicInfo BoardBasic;
     ChlBasicInfo ChlBasic;
@@ -132,6 +133,12 @@ struct ChannelInfo {
         CanBasicInfo Can;
     };
 };
+
+// `{}` clears only the first member of the union, so no other may be larger.
+static_assert(sizeof(UartBasicInfo) >= sizeof(DioBasicInfo) &&
+              sizeof(UartBasicInfo) >= sizeof(Mcp251xBasicInfo) &&
+              sizeof(UartBasicInfo) >= sizeof(Mcp251xFdBasicInfo) &&
+              sizeof(UartBasicInfo) >= sizeof(CanBasicInfo));
 
 struct ChlListEntry {
     ChlListEntry* Next;
@@ -159,8 +166,8 @@ struct BPPCHL : ChlListEntry {
     u32 RS422ComboxPos;
     u32 RS485ComboxPos;
     u32 AutoRS422485ComboxPos;
-    // Working values of one click on Sort UART: the channel's number, the COM number that it holds, and the
-    // one that it gets.
+    // Working values of a click on Sort UART: the channel's number, the COM number that it has, and the one
+    // that it gets.
     u32 SortChlNumber;
     u32 SortCurrentCom;
     u32 SortNewCom;

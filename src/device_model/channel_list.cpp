@@ -43,7 +43,7 @@ void BoardChlWalkInsert(BoardParams* board, BPPCHL* record) {
 
 BPPCHL* BoardChlByListIndex(const BoardParams* board, u32 index) {
     for (ChlListEntry* entry = ChlListFirst(&board->ChlList); entry != &board->ChlList; entry = entry->Next) {
-        BPPCHL* chl = static_cast<BPPCHL*>(entry);
+        auto* chl = static_cast<BPPCHL*>(entry);
         if (chl->ListIndex == index) {
             return chl;
         }
@@ -53,7 +53,7 @@ BPPCHL* BoardChlByListIndex(const BoardParams* board, u32 index) {
 
 BPPCHL* BoardChlByNumber(const BoardParams* board, u32 number) {
     for (ChlListEntry* entry = ChlListFirst(&board->ChlList); entry != &board->ChlList; entry = entry->Next) {
-        BPPCHL* chl = static_cast<BPPCHL*>(entry);
+        auto* chl = static_cast<BPPCHL*>(entry);
         if (chl->CurrentInfo.ChlBasic.ChlNumber == number) {
             return chl;
         }

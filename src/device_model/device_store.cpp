@@ -6,7 +6,7 @@
 
 namespace {
 
-// One value that is read: its name, and the field of the record that it lands in.
+// One value to be read: its name, and the field of the record that takes it.
 struct StoreField {
     const WCHAR* name;
     u32 offset;
@@ -89,10 +89,10 @@ constexpr StoreField UartBasicFields[] = {
     NUMBER(UartBasicInfo, UartRS485Termination),
 };
 
-// A stored text may come without its terminator, or with half a unit. Only then does it get one: after its
-// last whole unit, at the latest in the field's last one.
+// Terminates a text that was stored without its terminator: after its last whole unit, or in the last unit of
+// a full field. A text that has one is left alone.
 void EndText(BYTE* field, u32 fieldBytes, u32 storedBytes) {
-    WCHAR* text = reinterpret_cast<WCHAR*>(field);
+    auto* text = reinterpret_cast<WCHAR*>(field);
     const u32 last = fieldBytes / sizeof(WCHAR) - 1;
     const u32 stored = storedBytes / sizeof(WCHAR);
     u32 length = 0;
@@ -113,7 +113,7 @@ u32 ReadValues(HDEVINFO set, SP_DEVINFO_DATA* data, const StoreField (&fields)[C
     }
     u32 sStatus = 0;
     for (const StoreField& field : fields) {
-        BYTE* destination = static_cast<BYTE*>(record) + field.offset;
+        auto* destination = static_cast<BYTE*>(record) + field.offset;
         DWORD length = field.bytes;
         const LSTATUS lStatus = RegQueryValueExW(key, field.name, nullptr, nullptr, destination, &length);
         if (lStatus != ERROR_SUCCESS) {
@@ -129,7 +129,7 @@ u32 ReadValues(HDEVINFO set, SP_DEVINFO_DATA* data, const StoreField (&fields)[C
     return sStatus;
 }
 
-// One value that is written, a REG_DWORD.
+// One value to be written, as a REG_DWORD.
 struct StoreNumber {
     const WCHAR* name;
     u32 value;

@@ -1,48 +1,48 @@
-// The FIFO controls that the Port Control page and the Advanced Port Settings dialog share, on the same
-// numbers: the check box, and a slider with three labels for each direction. What their values are written to
-// is the dialogs' own.
+// The FIFO controls that the Port Control page and the Advanced Port Settings dialog have in common, with the
+// same numbers: the check box, and for each direction a slider with three labels. Each dialog decides itself
+// where the values go.
 //
-// The receive slider stands at a stage, 1 to 4; the transmit slider at the trigger level itself, 1 to the
-// depth of the FIFO. A high label shows the level that its slider stands at.
+// The position of the receive slider is a stage, 1 to 4. That of the transmit slider is the trigger level
+// itself, 1 to the depth of the FIFO. A high label shows the level at which its slider stands.
 #pragma once
 
 #include "page_parts/fifo_values.h"
 #include "reporting/trace.h"
 
-// The slider positions that show a UART's stored or pending values; the stages must be set.
+// Sets the slider positions for a UART's values. The stages must be set.
 void RememberFifoPositions(const UartBasicInfo& uart, FifoSliders* sliders);
 
 // Enables or disables both sliders with their labels.
 void _EnableFifoControls(HWND hDlg, BOOL enable);
 
-// The check box enabled, and checked or not.
+// Enables the check box and checks or unchecks it.
 void ShowFifoCheckBox(HWND hDlg, bool checked);
 
-// One of the four labels with a number, from IDS_LOW or IDS_HIGH.
+// Shows a number on one of the four labels, in the text IDS_LOW or IDS_HIGH.
 void ShowFifoLabel(HWND hDlg, int label, UINT stringId, u32 value);
 
-// A slider's range, 1 to `highest`, which travels in 16 bits.
+// Sets the range of a slider to 1 to `highest`, of which the low 16 bits count.
 void SetFifoSliderRange(HWND hDlg, int slider, u32 highest);
 
-// A slider at a position; its label stays.
+// Moves a slider to a position and leaves its label alone.
 void PutFifoSlider(HWND hDlg, int slider, u32 position);
 
-// A slider at a position with its high label at the trigger level.
+// Move a slider to a position and show its trigger level on the high label.
 void PutTransmitSlider(HWND hDlg, u32 position);
 void PutReceiveSlider(HWND hDlg, u32 position, u32 level);
 
-// After a click on the check box: the sliders go to the remembered positions, or to 1 with their positions
-// remembered.
+// Brings the sliders into line with the check box after a click: to the remembered positions, or to 1. The
+// remembered positions stay.
 void FollowFifoCheckBox(HWND hDlg, FifoSliders* sliders, TraceName function = __builtin_FUNCTION());
 
-// After a slider has moved, WM_HSCROLL: its position is remembered and its high label follows. Nothing for a
-// control that is none of the two.
+// Remembers the position of a slider that has moved, and shows its level on the high label. Any other control
+// is ignored.
 void FollowFifoSlider(HWND hDlg, HWND slider, FifoSliders* sliders,
                       TraceName function = __builtin_FUNCTION());
 
-// The one way from the controls to values: each trigger level raised to 1 and lowered to its bound, the
-// transmit FIFO's depth or the highest receive stage.
+// Reads the values from the controls. Each trigger level is raised to at least 1 and lowered to its bound,
+// which is the depth of the transmit FIFO or the highest receive stage.
 FifoValues _ReadFifoSliders(HWND hDlg, const UartBasicInfo& uart, const FifoSliders& sliders);
 
-// The lines of what was read.
+// Traces the values that were read.
 void TraceFifoValues(const FifoValues& values, TraceName function = __builtin_FUNCTION());

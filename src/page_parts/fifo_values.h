@@ -1,9 +1,9 @@
-// The three values of a UART's FIFO that a user sets, taken from a record, put into one, and compared.
+// The three FIFO settings of a UART: taken from a record, put into one, and compared.
 #pragma once
 
 #include "device_model/board_params.h"
 
-// Use of the FIFO, 0 or 1, and two trigger levels in bytes; 0, 1, 1 with the FIFO off.
+// The use of the FIFO, 0 or 1, and two trigger levels in bytes. With the FIFO off they are 0, 1 and 1.
 struct FifoValues {
     u32 UartFifoEnable;
     u32 UartTxFifoLowHigh;

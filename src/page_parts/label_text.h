@@ -3,11 +3,13 @@
 
 #include "platform/platform.h"
 
-// Units of every text that is loaded for, read from or shown on a page's control, terminator included.
+// Units of every text that is loaded for a control, read from it or shown on it, terminator included.
 constexpr u32 ControlTextCapacity = 260;
 
-// The control's text becomes the string with the number in it; "(%d)" stands for a string that is missing.
+// Sets the control's text to the string with the number in it. If the string is missing, "(%d)" takes its
+// place.
 void _SetTextFromString(HWND control, UINT stringId, u32 value);
 
-// The control's own text is the format for the number. A text without a placeholder stays as it is.
+// Puts the number into the control's own text, which is the format. A text without a placeholder stays as it
+// is.
 void _SetTextFromOwnFormat(HWND hDlg, int controlId, u32 value);

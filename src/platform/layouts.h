@@ -1,11 +1,11 @@
-// What both systems must agree on: the integer types of the records, the form of a page description, and the
-// size of every structure that is passed to the system.
+// What must be the same on both systems: the integer types of the records, the form of a page description,
+// and the size of every structure that is passed to the system.
 #pragma once
 
 using u32 = DWORD;
 using u64 = ULONGLONG;
 
-// A page description as the pages pass it: the header bitmap stands last, after the members that every
+// The page description that the pages pass. The header bitmap comes last, after the members that every
 // version of the structure has. `page.dwSize` is the size of the whole.
 struct PropertyPageDescription {
     PROPSHEETPAGEW page;

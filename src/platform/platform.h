@@ -1,6 +1,6 @@
-// The one door to the operating system. The logic includes this header and nothing else of the system:
-// on Windows it opens on the system's own headers, elsewhere on the simulated system that answers under
-// the same names, signatures and sizes. Only this file knows which of the two it is.
+// The one door to the operating system. The logic includes no other header of the system. On Windows this one
+// includes the system's own headers, elsewhere those of the simulated system, which has the same names,
+// signatures and sizes. Only this file knows which of the two it is.
 #pragma once
 
 #ifdef _WIN32

@@ -13,7 +13,7 @@ constexpr u32 BoxCapacity = 512;
 
 enum class Box { OutOfMemory, Plain, Question, Notice };
 
-// What fills a text's placeholders.
+// The values that a text can print.
 enum Argument : u32 { Nothing, Oerr, Serr, Channel, FirstNumber, SecondNumber, ArgumentKinds };
 
 struct Failure {
@@ -107,7 +107,7 @@ void ShowOutOfMemory(HWND owner) {
     MessageBoxW(owner, OutOfMemoryText, OutOfMemoryCaption, ErrorStyle);
 }
 
-// A box whose text and caption come from the resources; its answer goes to the caller.
+// Shows a box whose text and caption come from the resources, and passes on its answer.
 void ShowFromStrings(HWND owner, UINT stringId, UINT style, WCHAR* text, WCHAR* caption,
                      u32* nUserDialogChoice) {
     LoadStringW(ModuleInstance, stringId, text, BoxCapacity);
@@ -124,8 +124,8 @@ void ErrorBoxShow(u32 oerr, u32 serr, HWND parent, u32 channel, u32 firstNumber,
         *nUserDialogChoice = IDNO;
     }
     const HWND owner = parent != nullptr ? parent : GetFocus();
-    WCHAR* text = static_cast<WCHAR*>(LocalAlloc(LPTR, BoxCapacity * sizeof(WCHAR)));
-    WCHAR* caption = static_cast<WCHAR*>(LocalAlloc(LPTR, BoxCapacity * sizeof(WCHAR)));
+    auto* text = static_cast<WCHAR*>(LocalAlloc(LPTR, BoxCapacity * sizeof(WCHAR)));
+    auto* caption = static_cast<WCHAR*>(LocalAlloc(LPTR, BoxCapacity * sizeof(WCHAR)));
     if (text == nullptr || caption == nullptr) {
         ShowOutOfMemory(owner);
     } else {

@@ -1,16 +1,16 @@
-// What the library does when it is loaded, and the little state that belongs to the module as a whole. The
-// state is written at attach and read-only afterwards.
+// What the library does when it is loaded, and the state of the module as a whole, which is written at attach
+// and read-only afterwards.
 #pragma once
 
 #include "platform/platform.h"
 
-// The library's instance, for every template and string that is loaded.
+// The instance of the library, from which every template and string is loaded.
 extern HINSTANCE ModuleInstance;
 
-// The out-of-memory box, loaded at attach so that it needs neither memory nor resources when it is shown.
-// Empty if the string was missing.
+// The text and caption of the out-of-memory box. They are loaded at attach, so that the box needs neither
+// memory nor resources when it is shown. Empty if the string was missing.
 extern WCHAR OutOfMemoryText[200];
 extern WCHAR OutOfMemoryCaption[30];
 
-// The entry point, called by the system for attach and detach. Always TRUE.
+// The entry point, which the system calls at attach and detach. Always returns TRUE.
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID reserved);

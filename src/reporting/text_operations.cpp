@@ -14,7 +14,7 @@ constexpr Conversion Conversions[] = {
     {TEXT("I64X"), FormatArgument::Number64},
 };
 
-// What is being formatted; `room` does not count the terminator.
+// The text being formatted. `room` does not count the terminator.
 struct Output {
     WCHAR* text;
     u32 room;
@@ -65,7 +65,7 @@ void PutValue(Output& output, const FormatArgument& argument) {
     }
 }
 
-// The conversion that the text begins with, or null; `after` is the place behind it.
+// The conversion that the text begins with, or null. `after` then points past it.
 const Conversion* FindConversion(const WCHAR* text, const WCHAR*& after) {
     for (const Conversion& conversion : Conversions) {
         u32 matched = 0;

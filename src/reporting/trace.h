@@ -1,9 +1,8 @@
-// The trace: calls stand at the entry and exit of functions and at their decisions, with all that decides the
-// run. It goes nowhere.
+// The trace. Functions call it at their entry, their exit and their decisions. It goes nowhere.
 #pragma once
 
-// Whose line it is. A helper that traces for the function which calls it takes that function's name without
-// being told, as its last parameter: `TraceName function = __builtin_FUNCTION()`.
+// The function under whose name a line stands. A helper that traces for its caller takes the caller's name
+// without being told, by a last parameter `TraceName function = __builtin_FUNCTION()`.
 using TraceName = const char*;
 
 // `format` is narrow, "%s" stands for a narrow name and "%ws" for UTF-16 text; every line ends in a line

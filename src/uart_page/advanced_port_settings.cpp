@@ -20,13 +20,13 @@ UartAdvancedParams* DialogParams(HWND hDlg) {
     return reinterpret_cast<UartAdvancedParams*>(GetWindowLongPtrW(hDlg, DWLP_USER));
 }
 
-// A rename asked for in the dialog, with the sheet's title to follow.
+// A rename from this dialog, after which the title of the sheet follows.
 struct RenameInDialog : PortRename {
     HWND hDlg;
 };
 
-// One direction of the FIFO: the controls, the bounds that its captions, which are formats, are given, and
-// where its slider stands.
+// One direction of the FIFO: its controls, the bounds for its captions, which are formats in this dialog, and
+// the position of its slider.
 struct FifoDirection {
     int slider;
     int low;
@@ -89,7 +89,7 @@ bool ShowTitle(HWND hDlg, const WCHAR* comName) {
     return true;
 }
 
-// A dialog that fails to initialise stays as far as it came; its OK and Cancel work.
+// If the initialisation fails, the dialog stays open as far as it was filled. Its OK and Cancel work.
 bool _OnInitDialog(HWND hDlg, LPARAM lParam) {
     TraceOut("----> %s( )\n", __func__);
     auto* params = reinterpret_cast<UartAdvancedParams*>(lParam);
@@ -121,8 +121,8 @@ void _FifoEnableClicked(HWND hDlg) {
     TraceOut("<---- %s\n", __func__);
 }
 
-// Unlike the page's Restore Defaults this one moves the remembered positions too, and the COM number combo
-// back to the port's present name.
+// Unlike Restore Defaults of the Port Control page, this also sets the remembered positions and moves the COM
+// number combo back to the port's present name.
 void _RestoreDefaultClicked(HWND hDlg, UartAdvancedParams* params) {
     TraceOut("----> %s( )\n", __func__);
     FifoSliders& sliders = params->Fifo;
@@ -139,7 +139,7 @@ void _RestoreDefaultClicked(HWND hDlg, UartAdvancedParams* params) {
     TraceOut("<---- %s\n", __func__);
 }
 
-// The status of the write; 0 also if the values are those that were read at the opening.
+// Returns the status of the write, and 0 if the values are those that were read when the dialog opened.
 u32 WriteFifoValues(UartAdvancedParams* params, const FifoValues& values,
                     TraceName function = __builtin_FUNCTION()) {
     const FifoValues old = FifoValuesOf(params->UartBasicInfo);
@@ -157,13 +157,13 @@ u32 WriteFifoValues(UartAdvancedParams* params, const FifoValues& values,
                                         values.UartTxFifoLowHigh, values.UartRxFifoLowHigh);
 }
 
-// The record's ComName stays the old name until the next opening, and with it the title that names it.
+// The sheet's title names the port.
 void ChangeSheetTitle(const PortRename& rename) {
     const auto& asked = static_cast<const RenameInDialog&>(rename);
     _ChangeParentTitle(GetParent(asked.hDlg), rename.settingsName, rename.newName);
 }
 
-// The FIFO values are written before the number is looked at, and stay written if the number is refused.
+// The FIFO values are written before the number is checked, and stay written if the number is refused.
 bool _OkClicked(HWND hDlg, UartAdvancedParams* params) {
     TraceOut("----> %s( )\n", __func__);
     const FifoValues values = _ReadFifoSliders(hDlg, params->UartBasicInfo, params->Fifo);
@@ -240,7 +240,7 @@ INT_PTR CALLBACK UartAdvancedDlgProc(HWND hDlg, UINT message, WPARAM wParam, LPA
     }
 }
 
-// The port's name and values from the store; false, after a box, if they can't be read.
+// Reads the port's name and values from the store. False if that fails, and a box has said so.
 bool ReadPort(HWND hParent, UartAdvancedParams* params) {
     u32 sStatus = Kavro_RegUartGetCOMName(params->DeviceInfoSet, params->DeviceInfoData, params->ComName,
                                           sizeof(params->ComName));

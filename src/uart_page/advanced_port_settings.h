@@ -1,9 +1,9 @@
-// The Advanced Port Settings dialog: one port's FIFO settings and its COM number, both stored at its OK.
+// The Advanced Port Settings dialog: the FIFO settings and the COM number of one port. Its OK stores both.
 #pragma once
 
 #include "uart_page/uart_page_params.h"
 
-// Runs the dialog, modally over `hParent`, with the port's name and values read afresh. False, after a box,
-// if they can't be read; true once it has closed, whatever closed it. `NewComName` of the record is then the
-// port's new name, if it got one.
+// Reads the port's name and values and runs the dialog, modally over `hParent`. True when it has closed,
+// whatever closed it; if the port was renamed, `NewComName` of the record is its new name. False if the
+// values can't be read, and a box has said so.
 bool KvrUartAdvancedDlgShow(HWND hParent, UartAdvancedParams* params);

@@ -10,7 +10,7 @@ WCHAR* AllocateText(u32 capacity) {
     return static_cast<WCHAR*>(LocalAlloc(LPTR, capacity * sizeof(WCHAR)));
 }
 
-// `title` holds the old name at `place`, `capacity` units in all.
+// `title`, of `capacity` units, has the old name at `place`.
 void SetTitleWith(HWND hWindow, WCHAR* title, u32 capacity, WCHAR* place, const WCHAR* oldName,
                   const WCHAR* newName) {
     const u32 oldLength = static_cast<u32>(lstrlenW(oldName));

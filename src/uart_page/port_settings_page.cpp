@@ -20,7 +20,7 @@ void NotifySheetOfChange(HWND hDlg) {
     SendMessageW(GetParent(hDlg), PSM_CHANGED, reinterpret_cast<WPARAM>(hDlg), 0);
 }
 
-// Null until the page has been initialised.
+// The record of the page; null until WM_INITDIALOG has stored it.
 UartPageParams* PageParams(HWND hDlg) {
     return reinterpret_cast<UartPageParams*>(GetWindowLongPtrW(hDlg, DWLP_USER));
 }
@@ -47,7 +47,7 @@ bool _FillSettingsDlg(HWND hDlg, UartPageParams* params, u32* code, u32* status)
     return bSuccess;
 }
 
-// A page that fails to initialise stays as far as it came, without its buttons.
+// If the initialisation fails, the page stays as far as it was filled, with its buttons disabled.
 bool _OnInitDialog(HWND hDlg, LPARAM page) {
     TraceOut("----> %s( )\n", __func__);
     auto* params = reinterpret_cast<UartPageParams*>(reinterpret_cast<const PROPSHEETPAGEW*>(page)->lParam);
@@ -70,8 +70,8 @@ bool _OnInitDialog(HWND hDlg, LPARAM page) {
     return bSuccess;
 }
 
-// A rename in the dialog comes back as a new name, the key of the next save. The saved fields stay: the line
-// has moved with the port.
+// The dialog hands back a new name after a rename. It is the key of the next save. The saved fields stay,
+// because the line has moved with the port.
 void _AdvancedClicked(HWND hDlg, UartPageParams* params) {
     TraceOut("----> %s( )\n", __func__);
     UartAdvancedParams* advanced = params->AdvancedParams;
@@ -96,7 +96,7 @@ void _RestoreDefaultClicked(HWND hDlg) {
     TraceOut("<---- %s\n", __func__);
 }
 
-// Of a command that is no change of a selection.
+// Handles the commands other than a change of a selection.
 bool ButtonClicked(HWND hDlg, UartPageParams* params, int id, TraceName function = __builtin_FUNCTION()) {
     switch (id) {
     case IDCANCEL:

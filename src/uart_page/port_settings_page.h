@@ -1,7 +1,8 @@
-// The Port Settings page's dialog procedure.
+// The dialog procedure of the Port Settings page.
 #pragma once
 
 #include "platform/platform.h"
 
-// For dialog IDD_PORT_SETTINGS as a property page whose description's lParam is the UartPageParams record.
+// Serves dialog IDD_PORT_SETTINGS as a property page. The lParam of the page's description is the
+// UartPageParams record.
 INT_PTR CALLBACK UartBasicDlgProc(HWND hDlg, UINT message, WPARAM wParam, LPARAM lParam);

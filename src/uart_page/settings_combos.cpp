@@ -11,7 +11,7 @@ namespace {
 
 constexpr u32 ListStringCapacity = 258;
 
-// A combo whose items come from a string.
+// A combo whose items come from a string of the resources.
 struct ListCombo {
     int combo;
     UINT stringId;
@@ -33,7 +33,7 @@ template <typename Number> void FillComboFromTable(HWND hDlg, int combo, const N
     }
 }
 
-// The user's decimal separator; 0 if there is none, or one longer than a character.
+// The user's decimal separator, or 0 if it is not a single character.
 WCHAR LoadDecimalSeparator() {
     WCHAR decimal[2] = {};
     const bool loaded =
@@ -50,7 +50,7 @@ void ReplaceDecimalPoint(WCHAR* item, WCHAR separator) {
     }
 }
 
-// Adds the items of a list string, which its first character separates, whatever that is.
+// Adds the items of a list string. Its first character is the separator.
 void AddItems(HWND combo, WCHAR* list, WCHAR decimal) {
     const WCHAR separator[] = {list[0], 0};
     for (WCHAR* item = list + 1; item != nullptr;) {

@@ -8,7 +8,7 @@ const WORD DataBitsTable[6] = {4, 5, 6, 7, 8, 0};
 
 namespace {
 
-// The number of a line that names none, whatever the default line says.
+// The rate that an empty field stands for, whatever the default line says.
 constexpr u32 MissingBaudIndex = 3;
 
 constexpr const WCHAR* ParitySuffixes[] = {TEXT(",e"), TEXT(",o"), TEXT(",n"), TEXT(",m"), TEXT(",s")};
@@ -16,13 +16,14 @@ constexpr const WCHAR* DataBitsSuffixes[] = {TEXT(",4"), TEXT(",5"), TEXT(",6"),
 constexpr const WCHAR* StopBitsSuffixes[] = {TEXT(",1"), TEXT(",1.5"), TEXT(",2 ")};
 constexpr const WCHAR* FlowControlSuffixes[] = {TEXT(",x"), TEXT(",p"), TEXT(" ")};
 
-// What the first characters and fields mean, by index.
+// The first characters and the fields, by index.
 constexpr const WCHAR* ParityLetters = TEXT("eonms");
 constexpr const WCHAR* DataBitsDigits = TEXT("45678");
 constexpr const WCHAR* FlowControlLetters = TEXT("xp");
 constexpr const WCHAR* StopBitsFields[] = {TEXT("1"), TEXT("1.5"), TEXT("2")};
 
-// Ends the field at the text's first comma; the place behind it, or the terminator without one.
+// Ends the field at the first comma of the text. Returns the place after the comma, or the terminator if
+// there is none.
 WCHAR* SplitField(WCHAR* text) {
     WCHAR* comma = ScanComma(text, TEXT(","));
     if (*comma == 0) {
@@ -32,7 +33,7 @@ WCHAR* SplitField(WCHAR* text) {
     return comma + 1;
 }
 
-// The next field, trimmed; `rest` moves behind it.
+// Takes the next field, trimmed. `rest` then points past it.
 WCHAR* NextField(WCHAR*& rest) {
     WCHAR* field = rest;
     rest = SplitField(field);
@@ -40,7 +41,7 @@ WCHAR* NextField(WCHAR*& rest) {
     return field;
 }
 
-// The place of a field's first character among `letters`.
+// The index of a field's first character in `letters`, or `fallback`.
 u32 IndexOfFirst(const WCHAR* field, const WCHAR* letters, u32 fallback) {
     for (u32 i = 0; field[0] != 0 && letters[i] != 0; ++i) {
         if (letters[i] == field[0]) {

@@ -8,7 +8,7 @@ namespace {
 constexpr u32 ComposedLineCapacity = 260;
 constexpr WPARAM BaudTextCapacity = 18;
 
-// The four combos whose index is what the line keeps.
+// The four combos whose selected index the line records.
 struct IndexCombo {
     int combo;
     u32 PortSettings::*index;
@@ -20,7 +20,7 @@ constexpr IndexCombo IndexCombos[] = {
     {IDC_FLOW_CONTROL, &PortSettings::FlowControlIndex},
 };
 
-// The selections of the four combos; false if one has none.
+// Reads the selections of the four combos. False if one has none.
 bool ReadSelections(HWND dialog, PortSettings& settings) {
     for (const IndexCombo& combo : IndexCombos) {
         const LRESULT selection = SendDlgItemMessageW(dialog, combo.combo, CB_GETCURSEL, 0, 0);
@@ -32,7 +32,7 @@ bool ReadSelections(HWND dialog, PortSettings& settings) {
     return true;
 }
 
-// The line that the five combos say, and its fields; false if one of them says nothing.
+// Composes the line from the five combos, with its fields. False if one of the combos gives nothing.
 bool ComposeFromCombos(HWND dialog, WCHAR* line, u32 capacity, PortSettings& settings) {
     if (SendDlgItemMessageW(dialog, IDC_BAUD_RATE, WM_GETTEXT, BaudTextCapacity,
                             reinterpret_cast<LPARAM>(line)) == 0) {

@@ -1,6 +1,6 @@
-// The records of one port's page and of its advanced dialog. The page owns both; the set and device of the
-// provider's request are borrowed. A page sees a snapshot: the settings line is read once, and the dialog
-// reads the store at each opening.
+// The records of a port's page and of its advanced dialog. The page owns both. The set and device of the
+// provider's request are borrowed. The page reads the settings line once; the dialog reads the store at each
+// opening.
 #pragma once
 
 #include "device_model/board_params.h"
@@ -9,7 +9,7 @@
 // Units of a port's name on these pages, terminator included.
 constexpr u32 ComNameCapacity = 20;
 
-// Of the Advanced Port Settings dialog; reused for each opening.
+// The record of the Advanced Port Settings dialog, reused for each opening.
 struct UartAdvancedParams {
     HDEVINFO DeviceInfoSet;
     SP_DEVINFO_DATA* DeviceInfoData;
@@ -19,7 +19,7 @@ struct UartAdvancedParams {
     FifoSliders Fifo;
 };
 
-// Of the Port Settings page.
+// The record of the Port Settings page.
 struct UartPageParams {
     HDEVINFO DeviceInfoSet;
     SP_DEVINFO_DATA* DeviceInfoData;

@@ -26,7 +26,7 @@ bool CheckUart(const SP_PROPSHEETPAGE_REQUEST* request) {
     return true;
 }
 
-// A set that doesn't tell whose it is counts as local.
+// A set counts as local if it can't be asked.
 bool IsRemote(HDEVINFO set) {
     SP_DEVINFO_LIST_DETAIL_DATA_W detail = {};
     detail.cbSize = sizeof(detail);

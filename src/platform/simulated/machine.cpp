@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "platform/port_usage.h"
 #include "platform/simulated/stage.h"
 
 namespace sim {
@@ -55,13 +56,13 @@ bool Values::Erase(std::u16string_view name) {
 }
 
 bool IsClaimed(const PortUsage& usage, unsigned number) {
-    return IsPortNumber(number) && (usage[(number - 1) / 8] >> (number - 1) % 8 & 1) != 0;
+    return IsPortNumber(number) && IsPortClaimed(usage.data(), number);
 }
 
 void SetClaimed(PortUsage& usage, unsigned number, bool claimed) {
     if (IsPortNumber(number)) {
-        BYTE& byte = usage[(number - 1) / 8];
-        const auto bit = static_cast<BYTE>(1u << (number - 1) % 8);
+        BYTE& byte = usage[PortUsageByte(number)];
+        const BYTE bit = PortUsageMask(number);
         byte = static_cast<BYTE>(claimed ? byte | bit : byte & ~bit);
     }
 }

@@ -70,8 +70,7 @@ struct Interface {
     friend bool operator==(const Interface&, const Interface&) = default;
 };
 
-// The COM numbers in use, as the database keeps them: number n, 1 to 4,096, is bit (n - 1) % 8 of byte
-// (n - 1) / 8.
+// The COM numbers in use, 1 to 4,096, as the database keeps them: see platform/port_usage.h.
 using PortUsage = std::array<BYTE, 512>;
 bool IsClaimed(const PortUsage& usage, unsigned number);
 void SetClaimed(PortUsage& usage, unsigned number, bool claimed);
