@@ -3,10 +3,7 @@
 brought in by its own importer, and its transcript must be the one kept of the simulated machine, line by line but for
 the drawings.
 
-    compare_worlds.py [SCRIPT...]
-
-Differences that the stand-in of Windows alone explains stand in known_differences.txt, each as an exact text with its
-reason. A known difference that does not occur any more fails too."""
+    compare_worlds.py [SCRIPT...]"""
 import difflib
 import os
 import pathlib
@@ -16,7 +13,6 @@ from concurrent.futures import ThreadPoolExecutor
 from wine import ROOT, Prefix, Screen, template
 
 SCRIPTS = ROOT / "tests" / "scripts"
-KNOWN = ROOT / "tests" / "windows" / "known_differences.txt"
 
 
 def said(lines, name):
@@ -43,22 +39,6 @@ def run(script):
         return comparable(transcript)
 
 
-def known_differences():
-    """(script, simulated lines, lines here) to the reason."""
-    known, reason = {}, []
-    entry = None
-    for line in KNOWN.read_text().splitlines():
-        if line.startswith("#"):
-            reason = [] if entry else reason
-            reason.append(line[1:].strip())
-            entry = None
-        elif line.startswith("@ "):
-            entry = known.setdefault(line[2:], {"reason": " ".join(reason), "lines": []})
-        elif line and entry is not None:
-            entry["lines"].append(line)
-    return {(script, tuple(entry["lines"])): entry["reason"] for script, entry in known.items()}
-
-
 def differences(expected, got):
     """The hunks in which the transcripts differ, each the lines with - and + before them."""
     hunk = []
@@ -66,10 +46,10 @@ def differences(expected, got):
         if line.startswith(("- ", "+ ")):
             hunk.append(line)
         elif line.startswith("  ") and hunk:
-            yield tuple(hunk)
+            yield hunk
             hunk = []
     if hunk:
-        yield tuple(hunk)
+        yield hunk
 
 
 def main(names):
@@ -78,27 +58,18 @@ def main(names):
     Screen.name()
     with ThreadPoolExecutor(int(os.environ.get("KVR_JOBS", 2))) as pool:
         transcripts = list(pool.map(run, scripts))
-    known = known_differences() if KNOWN.exists() else {}
-    met, failed, lines = set(), 0, 0
+    failed, lines = 0, 0
     for script, got in zip(scripts, transcripts):
         expected = comparable(script.with_suffix(".out").read_bytes())
         lines += len(expected)
-        new = []
-        for hunk in differences(expected, got):
-            if (script.stem, hunk) in known:
-                met.add((script.stem, hunk))
-            else:
-                new.append(hunk)
-        if new:
+        hunks = list(differences(expected, got))
+        if hunks:
             failed += 1
             print(f"{script.stem}: differs (- simulated, + here)")
-            for hunk in new:
+            for hunk in hunks:
                 print("\n".join(hunk), end="\n\n")
-    stale = [key for key in known if key not in met and (not names or key[0] in names)]
-    for script, hunk in stale:
-        print(f"{script}: a known difference does not occur any more:", *hunk, sep="\n")
-    print(f"{len(scripts)} scripts, {lines} lines compared, {failed} differ, {len(met)} known differences")
-    return 1 if failed or stale or not scripts else 0
+    print(f"{len(scripts)} scripts, {lines} lines compared, {failed} differ")
+    return 1 if failed or not scripts else 0
 
 
 if __name__ == "__main__":

@@ -28,11 +28,15 @@ class Image:
             name, size, address, raw_size, raw, _, _, _, flags = unpack("8sIIIIIIII", data, at)
             self.sections.append(Section(name.rstrip(b"\0").decode(), address, max(size, raw_size), raw, flags))
 
-    def offset(self, address):
+    def section(self, address):
         for section in self.sections:
             if section.address <= address < section.address + section.size:
-                return address - section.address + section.offset
+                return section
         raise ValueError(f"no section holds {address:#x}")
+
+    def offset(self, address):
+        section = self.section(address)
+        return address - section.address + section.offset
 
     def text(self, address):
         at = self.offset(address)
@@ -41,8 +45,9 @@ class Image:
     def exports(self):
         """Ordinal to name, or to None where an export has no name."""
         at = self.offset(self.directories[0][0])
-        base, functions, names, _, name_table, ordinal_table = unpack("IIIIII", self.data, at + 16)
-        exports = {base + i: None for i in range(functions)}
+        base, functions, names, table, name_table, ordinal_table = unpack("IIIIII", self.data, at + 16)
+        addresses = unpack(f"{functions}I", self.data, self.offset(table))
+        exports = {base + i: None for i, address in enumerate(addresses) if address}
         for i in range(names):
             ordinal, = unpack("H", self.data, self.offset(ordinal_table) + 2 * i)
             name, = unpack("I", self.data, self.offset(name_table) + 4 * i)

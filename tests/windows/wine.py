@@ -13,6 +13,7 @@ import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 BUILD = pathlib.Path(os.environ.get("KVR_WINDOWS_BUILD", ROOT / "build" / "windows"))
+TEMPLATES = ROOT / "build" / "wine"
 PROGRAMS = ["kvrpagex64.dll", "kvrhost.exe", "kvrfit.exe", "kvrpictures.exe", "kvrlifetime.exe", "kvrkeys.exe", "standins/msports.dll"]
 
 # "MS Shell Dlg" is Microsoft Sans Serif on Windows, which has every script. Here each script has its own font; of
@@ -160,8 +161,15 @@ class Prefix:
 
 def template():
     """The prefix that all others are made from: installed once for each version of the system."""
+    TEMPLATES.mkdir(parents=True, exist_ok=True)
+    with open(TEMPLATES / "lock", "w") as lock:
+        fcntl.flock(lock, fcntl.LOCK_EX)
+        return made_template()
+
+
+def made_template():
     version = subprocess.run(["wine", "--version"], capture_output=True, text=True).stdout.strip()
-    place = BUILD / "wine" / re.sub(r"[^\w.]+", "-", version).strip("-")
+    place = TEMPLATES / re.sub(r"[^\w.]+", "-", version).strip("-")
     if place.exists():
         return place
     making = place.with_name("making")

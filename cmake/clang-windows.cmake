@@ -1,0 +1,16 @@
+# clang and lld for Windows, with the headers and libraries of mingw-w64.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(CMAKE_CXX_COMPILER clang++)
+set(CMAKE_CXX_COMPILER_TARGET x86_64-w64-windows-gnu)
+set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
+set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32)
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+# clang looks for these in folders that Debian names differently.
+file(GLOB RUNTIME /usr/lib/gcc/x86_64-w64-mingw32/*-posix)
+set(CMAKE_CXX_STANDARD_INCLUDE_DIRECTORIES ${RUNTIME}/include/c++ ${RUNTIME}/include/c++/x86_64-w64-mingw32)
+set(LINK_WITH_LLD "-fuse-ld=lld -L${RUNTIME} -B${RUNTIME}")
+set(CMAKE_EXE_LINKER_FLAGS_INIT ${LINK_WITH_LLD})
+set(CMAKE_SHARED_LINKER_FLAGS_INIT ${LINK_WITH_LLD})

@@ -1,0 +1,114 @@
+#!/usr/bin/env python3
+"""The library that ships: what its loader and its debuggers are told, read by llvm's own tools.
+
+Takes the folder of the build from KVR_WINDOWS_BUILD; build/windows without it."""
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import tempfile
+import unittest
+
+import pe
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+BUILD = pathlib.Path(os.environ.get("KVR_WINDOWS_BUILD", ROOT / "build" / "windows"))
+LIBRARY, SYMBOLS = BUILD / "kvrpagex64.dll", BUILD / "kvrpagex64.pdb"
+
+
+def said(*command):
+    return subprocess.run(list(map(str, command)), capture_output=True, text=True, check=True).stdout
+
+
+def build_elsewhere(place, version=None):
+    """The library of the same sources, built in another folder; of another release if a version is given."""
+    tree = pathlib.Path(place) / "elsewhere"
+    if not tree.exists():
+        shutil.copytree(ROOT, tree, ignore=shutil.ignore_patterns(".git", "build"))
+    if version:
+        lists = tree / "CMakeLists.txt"
+        lists.write_text(re.sub(r"(project\(\w+ VERSION) \S+", rf"\1 {version}", lists.read_text()))
+    for step in (["cmake", "--preset", "windows"],
+                 ["cmake", "--build", "build/windows", "--target", "kvrpagex64", "-j", "2"]):
+        subprocess.run(step, cwd=tree, check=True, stdout=subprocess.DEVNULL)
+    return tree / "build/windows"
+
+
+class Package(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.headers = said("llvm-readobj-14", "--file-headers", "--sections", "--coff-load-config",
+                           "--coff-debug-directory", LIBRARY)
+
+    def number(self, name):
+        return int(re.search(rf"{name}: (\S+)", self.headers)[1], 0)
+
+    def test_every_indirect_call_is_guarded(self):
+        self.assertIn("IMAGE_DLL_CHARACTERISTICS_GUARD_CF", self.headers)
+        self.assertEqual(self.number("GuardFlags"), 0x500)
+        self.assertGreater(self.number("GuardCFFunctionCount"), 10)
+        self.assertNotEqual(self.number("GuardCFFunctionTable"), 0)
+        guards = [self.number("GuardCFCheckFunction"), self.number("GuardCFCheckDispatch")]
+        image, base = pe.Image(LIBRARY), self.number("ImageBase")
+        for pointer in guards:
+            target, = pe.unpack("Q", image.data, image.offset(pointer - base))
+            self.assertEqual(image.section(target - base).name, ".text")
+        # The code reaches the second pointer through a read-only address of it.
+        needle, at, references = guards[1].to_bytes(8, "little"), 0, set()
+        while (at := image.data.find(needle, at + 1)) != -1:
+            references |= {base + section.address + at - section.offset for section in image.sections
+                           if section.name == ".rdata" and 0 <= at - section.offset < section.size}
+        code = said("llvm-objdump-14", "-d", "--no-show-raw-insn", LIBRARY)
+        self.assertTrue(any(f"# {reference:#x}" in code for reference in references))
+
+    def test_its_libraries_come_from_the_system_folder_only(self):
+        self.assertEqual(self.number("DependentLoadFlags"), 0x800)
+
+    def test_shadow_stacks_are_allowed(self):
+        self.assertIn("IMAGE_DLL_CHARACTERISTICS_EX_CET_COMPAT", self.headers)
+
+    def test_only_data_is_writable(self):
+        writable = [section.name for section in pe.Image(LIBRARY).sections if section.flags & pe.WRITABLE]
+        self.assertEqual(writable, [".data"])
+
+    def test_checksum_is_that_of_the_file(self):
+        data = bytearray(LIBRARY.read_bytes())
+        field = data.index(b"PE\0\0") + 88
+        entered = int.from_bytes(data[field:field + 4], "little")
+        data[field:field + 4] = bytes(4)
+        total = 0
+        for at in range(0, len(data), 2):
+            total += int.from_bytes(data[at:at + 2], "little")
+            total = (total & 0xFFFF) + (total >> 16)
+        self.assertEqual(entered, total + len(data))
+
+    def test_symbols_tell_lines_and_local_functions(self):
+        symbols = said("llvm-pdbutil-14", "dump", "--symbols", SYMBOLS)
+        self.assertRegex(symbols, r"S_LPROC32 .* `.*anonymous namespace'::")
+        lines = said("llvm-pdbutil-14", "dump", "-l", SYMBOLS)
+        self.assertIn("uart_page_provider.cpp", lines)
+        place = said("llvm-symbolizer-14", f"--obj={LIBRARY}", hex(self.number("ImageBase")
+                                                                    + self.number("AddressOfEntryPoint")))
+        self.assertRegex(place, r"DllMain.*\n\S*module_entry\.cpp:\d+")
+
+    def test_no_path_of_the_building_machine_comes_in(self):
+        for file in (LIBRARY, SYMBOLS):
+            for place in (ROOT, BUILD, pathlib.Path.home()):
+                for form in (str(place), str(place).replace("/", "\\")):
+                    if len(form) > 5:
+                        self.assertNotIn(form.encode(), file.read_bytes(), file)
+
+    def test_same_sources_give_the_same_bytes_and_another_release_another_identity(self):
+        with tempfile.TemporaryDirectory() as place:
+            elsewhere = build_elsewhere(place)
+            for file in (LIBRARY, SYMBOLS):
+                self.assertEqual((elsewhere / file.name).read_bytes(), file.read_bytes(), file.name)
+            elsewhere = build_elsewhere(place, version="1.0.1")
+            identity = [re.search(r"PDBGUID: (.*)", said("llvm-readobj-14", "--coff-debug-directory", file))[1]
+                        for file in (LIBRARY, elsewhere / LIBRARY.name)]
+            self.assertNotEqual(*identity)
+
+
+if __name__ == "__main__":
+    unittest.main()
