@@ -3,7 +3,7 @@
 #include <map>
 #include <set>
 
-#include "host/worlds/simulated/user_language.h"
+#include "host/languages.h"
 #include "platform/simulated/catalogue.h"
 #include "tests/sheets.h"
 
@@ -201,6 +201,16 @@ TEST(UserLanguage, IsThatOfTheLocaleByCountryBeforeLanguage) {
     };
     for (const auto& [locale, language] : locales) {
         EXPECT_EQ(host::LanguageOfLocale(locale), language) << locale;
+    }
+    const std::pair<const char*, LANGID> called[] = {{"1031", 1031},    {"de", 1031},     {"German", 1031},
+                                                     {"ger", 1031},     {"pt_pt", 2070},  {"english", 1033},
+                                                     {"29", 29},        {"norwegian", 0}, {"", 0},
+                                                     {"english de", 0}, {"1034", 0},      {"99999999999", 0}};
+    for (const auto& [name, language] : called) {
+        EXPECT_EQ(host::FindLanguage(name), language) << name;
+    }
+    for (const LANGID language : languages) {
+        EXPECT_EQ(host::FindLanguage(std::to_string(language)), language);
     }
 }
 

@@ -16,8 +16,9 @@
 #include <gtest/gtest.h>
 
 #include "host/line/interpreter.h"
-#include "host/line/tour.h"
+#include "host/worlds/simulated/tour.h"
 #include "host/worlds/simulated/world.h"
+#include "platform/simulated/catalogue.h"
 
 namespace {
 
@@ -125,14 +126,27 @@ TEST_P(ScriptsTest, RunsAsItsTranscriptTells) {
         << "\n  now:  " << (right == got.end() ? "(end)" : *right);
 }
 
-TEST(Tour, NoneOfItsCommandsFails) {
-    host::MachineFile file;
-    sim::Machine machine;
-    std::string error;
-    ASSERT_TRUE(host::OpenMachineFile({}, file, error)) << error;
-    host::SimulatedWorld world(file, machine);
-    std::ostringstream out;
-    EXPECT_EQ(host::Interpreter(world, *host::TourLines(), out).Run(), 0) << out.str();
+// By the numbers of the controls: the same commands in every language, and what they lead to.
+TEST(Tour, SortsAndRenamesInEveryLanguage) {
+    std::string lines, ports;
+    for (const std::string& line : host::TourOfSample()) {
+        lines += line + '\n';
+    }
+    for (const sim::Catalogue* const catalogue : sim::Catalogues()) {
+        host::MachineFile file;
+        sim::Machine machine;
+        std::string error;
+        ASSERT_TRUE(host::OpenMachineFile({}, file, error)) << error;
+        host::SimulatedWorld world(file, machine);
+        machine.language = catalogue->language;
+        std::istringstream tour(lines);
+        std::ostringstream out;
+        EXPECT_EQ(host::Interpreter(world, *host::LinesOf(tour), out).Run(), 0) << out.str();
+        const std::string last = out.str().substr(out.str().rfind("> ports"));
+        EXPECT_NE(last.find("COM14"), std::string::npos);
+        ports = ports.empty() ? last : ports;
+        EXPECT_EQ(last, ports) << catalogue->language;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Scripts, ScriptsTest, testing::ValuesIn(Names()),

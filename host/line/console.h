@@ -26,7 +26,7 @@ public:
     virtual void CompleteBy(Continuations) {}
 };
 
-// Lines of a stream, which must outlive it. The prompt is not shown.
+// Lines of a stream, which must outlive the source. The prompt is not shown.
 std::unique_ptr<LineSource> LinesOf(std::istream& stream);
 
 // Those of a file; null if it can't be opened.

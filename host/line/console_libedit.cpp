@@ -1,10 +1,12 @@
 // The standard input as a terminal, by libedit: prompt, history, completion by the tabulator key.
 #include <algorithm>
 #include <clocale>
+#include <csignal>
 #include <cstdio>
 #include <iostream>
 
 #include <histedit.h>
+#include <langinfo.h>
 #include <unistd.h>
 
 #include "host/line/console.h"
@@ -13,10 +15,16 @@
 namespace host {
 namespace {
 
+volatile std::sig_atomic_t interrupted = 0;
+
 class Terminal : public LineSource {
 public:
     Terminal() {
+        // A locale without a character set of its own, such as C, must not take letters from a name.
         std::setlocale(LC_CTYPE, "");
+        if (std::string_view{nl_langinfo(CODESET)} != "UTF-8") {
+            std::setlocale(LC_CTYPE, "C.UTF-8");
+        }
         edit_ = el_init("kvrhost", stdin, stdout, stderr);
         history_ = history_init();
         HistEvent event;
@@ -29,6 +37,10 @@ public:
         el_wset(edit_, EL_ADDFN, L"complete", L"Completes the word", &Terminal::Complete);
         el_set(edit_, EL_BIND, "^I", "complete", nullptr);
         el_set(edit_, EL_SIGNAL, 1);
+        // Ctrl-C ends what is typed and nothing else; the editor passes the signal on and stops reading.
+        struct sigaction interrupt {};
+        interrupt.sa_handler = [](int) { interrupted = 1; };
+        sigaction(SIGINT, &interrupt, nullptr);
     }
     ~Terminal() override {
         el_end(edit_);
@@ -40,8 +52,14 @@ public:
     std::optional<std::string> Next(const std::string& prompt) override {
         std::cout.flush();
         prompt_ = prompt;
+        interrupted = 0;
         int count = 0;
         const char* const typed = el_gets(edit_, &count);
+        if (interrupted) {
+            el_reset(edit_);
+            std::cout << "^C\n";
+            return std::string{};
+        }
         if (!typed || count <= 0) {
             std::cout << '\n';
             return {};

@@ -72,6 +72,7 @@ void Interpreter::Step() {
         Tell((comment ? "" : "> ") + line);
     }
     if (!comment) {
+        ++commands_;
         // What happens around a message box belongs to the command that has brought it.
         const bool answers = !windows_.empty() && world_.BoxStyle(windows_.back().handle) != 0;
         Execute(line);
@@ -119,8 +120,9 @@ void Interpreter::Execute(const std::string& line) {
 }
 
 void Interpreter::End() {
-    if (lines_.IsPerson() && !asked_ && world_.HasUnsavedChanges()) {
-        asked_ = true;
+    const bool was_asked = asked_at_ >= 0 && commands_ - asked_at_ <= 1;
+    if (lines_.IsPerson() && !was_asked && world_.HasUnsavedChanges()) {
+        asked_at_ = commands_;
         return Tell(
             "The machine has changed and was not exported: export FILE keeps it, quit once more leaves it.");
     }

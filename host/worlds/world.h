@@ -76,6 +76,13 @@ class World {
 public:
     virtual ~World() = default;
 
+    // What a person is told of this machine at the start.
+    virtual std::string Greeting() = 0;
+
+    // The commands to show it by when it is started without any input, a line each; none but of a machine on
+    // which nothing can be harmed.
+    virtual std::vector<std::string> Tour() { return {}; }
+
     // Whether Devices has them all: a list may also be short because the file has no devices.
     virtual bool KnowsDevices() = 0;
 

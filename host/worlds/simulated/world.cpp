@@ -6,12 +6,13 @@
 #include <tuple>
 
 #include "board_page/board_page_provider.h"
+#include "host/languages.h"
 #include "host/machine_file/machine_file.h"
 #include "host/machine_file/machine_places.h"
 #include "host/machine_file/patch.h"
 #include "host/text.h"
 #include "host/worlds/channel_classes.h"
-#include "host/worlds/simulated/user_language.h"
+#include "host/worlds/simulated/tour.h"
 #include "reporting/module_entry.h"
 #include "uart_page/uart_page_provider.h"
 
@@ -284,8 +285,18 @@ namespace {
 struct Owned {
     sim::Machine machine;
 };
-struct OwnWorld : private Owned, SimulatedWorld {
-    explicit OwnWorld(MachineFile file) : SimulatedWorld(std::move(file), machine) {}
+class OwnWorld : private Owned, public SimulatedWorld {
+public:
+    OwnWorld(MachineFile file, std::string path)
+        : SimulatedWorld(std::move(file), machine), path_(std::move(path)) {}
+
+    std::string Greeting() override { return path_.empty() ? "The sample machine" : path_; }
+    std::vector<std::string> Tour() override {
+        return path_.empty() ? TourOfSample() : std::vector<std::string>{};
+    }
+
+private:
+    std::string path_;
 };
 
 } // namespace
@@ -295,7 +306,7 @@ std::unique_ptr<World> OpenWorld(const std::string& path, LANGID language, std::
     if (!OpenMachineFile(path, file, error)) {
         return nullptr;
     }
-    auto world = std::make_unique<OwnWorld>(std::move(file));
+    auto world = std::make_unique<OwnWorld>(std::move(file), path);
     sim::Current().language = language != 0 ? language : UserLanguage();
     return world;
 }

@@ -18,6 +18,7 @@ public:
     SimulatedWorld(MachineFile file, sim::Machine& machine);
     ~SimulatedWorld() override;
 
+    std::string Greeting() override { return "A simulated machine"; }
     bool KnowsDevices() override;
     std::vector<Device> Devices() override;
     std::vector<StoreValue> Store(const std::string& id) override;

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <memory>
+
+#include "host/line/console.h"
+
+namespace host {
+
+using OpenLines = std::unique_ptr<LineSource> (*)();
+
+// The program: opens the machine that the command line names and runs the commands that come from the
+// console, or tells what is wrong with a machine. The exit status: 0 if all is well, 1 if a command failed or
+// something is wrong with the machine, 2 if it can't be read; another one if the command line is wrong.
+int RunProgram(int argc, char** argv, OpenLines open_console);
+
+} // namespace host

@@ -1,0 +1,44 @@
+#!/usr/bin/env python3
+"""The host's line commands at a terminal, as a person meets them."""
+import os
+import subprocess
+import sys
+import tempfile
+
+import pexpect
+
+HOST = sys.argv[1]
+
+
+def main():
+    with tempfile.TemporaryDirectory() as folder:
+        # A locale that knows no letters beyond ASCII, and a folder that is the caller's own.
+        host = pexpect.spawn(HOST, cwd=folder, encoding="utf-8", timeout=20, dimensions=(50, 200),
+                             env={**os.environ, "LC_ALL": "C", "TERM": "xterm"})
+        host.expect_exact("The sample machine")
+        host.send("export gone")
+        host.sendintr()
+        host.expect_exact("^C")
+        host.sendline("export Übung.reg")
+        host.sendline("uncheck 1")
+        host.expect_exact("no window is open")
+        assert os.listdir(folder) == ["Übung.reg"], os.listdir(folder)
+        host.sendline("export Übung.reg")
+        host.expect_exact("exists; export --over")
+        for line in ("open 1", "uncheck 1039", "click 1041", "sheet ok", "quit"):
+            host.sendline(line)
+        host.expect_exact("was not exported")
+        host.sendline("export --over Übung.reg")
+        host.sendline("q")
+        host.expect(pexpect.EOF)
+        host.close()
+        assert host.exitstatus == 1, host.exitstatus
+        # Where no person can be asked, the errors tell it. The file has what was exported: the box unchecked.
+        script = "open 1\ncheck 1039\nclick 1041\nsheet ok\n"
+        done = subprocess.run([HOST, "Übung.reg"], cwd=folder, input=script, capture_output=True, encoding="utf-8")
+        assert done.returncode == 0 and "was not exported" in done.stderr, done
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
