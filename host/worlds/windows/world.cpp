@@ -124,6 +124,19 @@ void ShowSheet(const Text& title, std::vector<HPROPSHEETPAGE>& pages) {
     DestroyWindow(sheet);
 }
 
+bool IsElevated() {
+    HANDLE token = nullptr;
+    if (!OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token)) {
+        return false;
+    }
+    TOKEN_ELEVATION elevation{};
+    DWORD bytes = 0;
+    const bool known =
+        GetTokenInformation(token, TokenElevation, &elevation, sizeof elevation, &bytes) != FALSE;
+    CloseHandle(token);
+    return known && elevation.TokenIsElevated != 0;
+}
+
 class System : public World {
 public:
     explicit System(HMODULE library) : library_(library) {
@@ -134,6 +147,12 @@ public:
         Observe(library);
     }
     ~System() override { FreeLibrary(library_); }
+
+    std::string Greeting() override {
+        return IsElevated() ? "This machine, live, as administrator: what the pages change is changed here"
+                            : "This machine, live, without an administrator's rights: the pages can't open the "
+                              "device keys, so no sheet has a page and nothing can be changed";
+    }
 
     bool KnowsDevices() override { return true; }
 
