@@ -164,7 +164,7 @@ TEST(PortRename, EveryOperationMayFailOnceAndLeavesTheStateOfItsStep) {
     for (bool hit = true; hit;) {
         sim::Machine machine = BoardOn({5, 6});
         const AtWork at_work(machine);
-        machine.faults.at = ++at;
+        machine.faults.at = {++at};
         const bool done = RenameFrom5To7();
         hit = machine.faults.hits != 0;
         const auto failed = FailedCall(machine);

@@ -336,7 +336,7 @@ TEST(BoardDiscovery, EveryOperationMayFailOnceAndAllIsGivenBack) {
     for (bool hit = true; hit;) {
         sim::Machine machine = OneOfEach();
         const AtWork at_work(machine);
-        machine.faults.at = ++at;
+        machine.faults.at = {++at};
         std::size_t channels = 0;
         std::size_t without_path = 0;
         const OpenBoard board;

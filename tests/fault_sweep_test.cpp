@@ -33,7 +33,7 @@ std::set<std::string> Sweep(Page page, std::size_t device, const User& user) {
         sim::Machine machine = BoardOn({7, 5});
         machine.journal_reads = false;
         const AtWork at_work(machine);
-        machine.faults.at = at;
+        machine.faults.at = {at};
         Open(page, device, user);
         if (machine.faults.hits == 0) {
             EXPECT_GT(at, 500u);

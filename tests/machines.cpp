@@ -1,6 +1,7 @@
 #include "tests/machines.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <map>
 #include <sstream>
 
@@ -233,6 +234,10 @@ OpenBoard::OpenBoard(std::size_t index) : device(index) {
 
 OpenBoard::~OpenBoard() {
     BoardDeinitiate(&params);
+}
+
+bool IsLongRun() {
+    return std::getenv("KVR_LONG") != nullptr;
 }
 
 void Forget(sim::Machine& machine) {

@@ -91,6 +91,9 @@ struct OpenBoard {
     bool initiated = false;
 };
 
+// Whether the tests run for as long as it takes to leave nothing to chance, which no daily run waits for.
+bool IsLongRun();
+
 // A fresh journal, no boxes, no faults.
 void Forget(sim::Machine& machine);
 

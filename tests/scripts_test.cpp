@@ -59,7 +59,9 @@ public:
         std::string operation;
         std::size_t call = 0;
         if (said >> operation >> call) {
-            machine_.faults.at_call.emplace_back(operation, machine_.faults.count_by_name[operation] + call);
+            const auto seen = machine_.faults.count_by_name.find(operation);
+            machine_.faults.at_call.emplace_back(
+                operation, call + (seen != machine_.faults.count_by_name.end() ? seen->second : 0));
         }
         return line;
     }

@@ -18,14 +18,11 @@ bool IsJournaled(Reach reach) {
 
 // Counts the operation; true if its place among all, or among those of its name, makes it fail.
 bool FailsByCount(FaultPlan& faults, std::string_view name) {
-    auto by_name = faults.count_by_name.find(name);
-    if (by_name == faults.count_by_name.end()) {
-        by_name = faults.count_by_name.emplace(name, 0).first;
-    }
-    ++by_name->second;
+    const std::size_t of_its_name = ++faults.count_by_name[name];
     ++faults.count;
-    return faults.at == faults.count || std::ranges::any_of(faults.at_call, [&](const auto& rule) {
-               return rule.first == name && (rule.second == 0 || rule.second == by_name->second);
+    return std::ranges::find(faults.at, faults.count) != faults.at.end() ||
+           std::ranges::any_of(faults.at_call, [&](const auto& rule) {
+               return rule.first == name && (rule.second == 0 || rule.second == of_its_name);
            });
 }
 
