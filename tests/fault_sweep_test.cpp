@@ -2,6 +2,8 @@
 // or leaks, the sheet always ends, the user is told only what the system has words for, and the next opening
 // works.
 #include <cctype>
+#include <optional>
+#include <random>
 #include <set>
 
 #include "tests/sheets.h"
@@ -24,30 +26,76 @@ std::string WithoutNumbers(const std::string& text) {
     return shape;
 }
 
-// Opens and operates the page of a machine with two UARTs once for each operation that this takes; the shapes
-// of all boxes.
-std::set<std::string> Sweep(Page page, std::size_t device, const User& user) {
+// Opens and operates the page of a machine with two UARTs and a port that is none while the operations at
+// these places fail; the shapes of all boxes, nothing if not all of the places were met. `then` looks at what
+// is left.
+std::optional<std::set<std::string>> Survive(Page page, std::size_t device, const User& user,
+                                             const std::vector<std::size_t>& at,
+                                             const std::function<void(sim::Machine&)>& then,
+                                             const std::function<bool(const sim::JournalEntry&)>& when = {}) {
+    SCOPED_TRACE(testing::Message() << "operations " << testing::PrintToString(at));
+    sim::Machine machine = BoardOn({7, 5});
+    machine.journal_reads = false;
+    const AtWork at_work(machine);
+    const std::size_t foreign = AddMainboardPort(machine, 9);
+    const Places foreign_places = PlacesOf(machine, foreign);
+    machine.faults.at = at;
+    machine.faults.when = when;
+    Open(page, device, user);
+    if (machine.faults.hits < at.size()) {
+        return {};
+    }
     std::set<std::string> shapes;
-    for (std::size_t at = 1;; ++at) {
-        SCOPED_TRACE(testing::Message() << "operation " << at);
-        sim::Machine machine = BoardOn({7, 5});
-        machine.journal_reads = false;
-        const AtWork at_work(machine);
-        machine.faults.at = {at};
+    for (const std::string& text : Boxes()) {
+        shapes.insert(WithoutNumbers(text));
+    }
+    machine.faults = {};
+    EXPECT_EQ(Open(page, device, {}), "left");
+    EXPECT_EQ(Boxes(), Lines{});
+    EXPECT_EQ(PlacesOf(machine, foreign), foreign_places);
+    then(machine);
+    return shapes;
+}
+
+// Each operation of the page's whole life; the shapes of all boxes. Of the entries of a list, 256 at each
+// opening, only some: they are told apart by nothing.
+std::set<std::string> Sweep(Page page, std::size_t device, const User& user) {
+    std::vector<bool> adds; // an entry to a list
+    const auto list = [&](const sim::JournalEntry& entry) {
+        adds.push_back(entry.detail.find("ADDSTRING") != std::string::npos);
+        return false;
+    };
+    Survive(
+        page, device, user, {}, [](sim::Machine&) {}, list);
+    EXPECT_GT(adds.size(), 500u);
+    std::set<std::string> shapes;
+    for (std::size_t i = 0; i < adds.size() && !testing::Test::HasFailure(); ++i) {
+        const bool within_list = adds[i] && i % 50 != 0 && adds[i - 1] && adds[i + 1];
+        if (!within_list) {
+            const auto met = Survive(page, device, user, {i + 1}, [](sim::Machine&) {});
+            EXPECT_TRUE(met.has_value());
+            shapes.insert(met->begin(), met->end());
+        }
+    }
+    return shapes;
+}
+
+// Pairs of operations of a user who asks for the same each time, the same pairs in every run: whatever has
+// failed, the next time brings both ports' settings where an undisturbed first time would have.
+void SweepPairs(Page page, std::size_t device, const User& user, const std::string& settings) {
+    const auto once_more = [&](sim::Machine&) {
         Open(page, device, user);
-        if (machine.faults.hits == 0) {
-            EXPECT_GT(at, 500u);
-            return shapes;
-        }
-        for (const std::string& text : Boxes()) {
-            shapes.insert(WithoutNumbers(text));
-        }
-        machine.faults = {};
-        EXPECT_EQ(Open(page, device, {}), "left");
-        EXPECT_EQ(Boxes(), Lines{});
-        if (testing::Test::HasFailure()) {
-            return shapes;
-        }
+        EXPECT_EQ(StoredFifo(1) + ", " + StoredMode(1) + "; " + StoredFifo(2) + ", " + StoredMode(2),
+                  settings);
+    };
+    Survive(page, device, user, {}, once_more);
+    std::mt19937 random(1);
+    std::size_t met = 0;
+    const std::size_t wanted = IsLongRun() ? 20000 : 100;
+    while (met < wanted && !testing::Test::HasFailure()) {
+        const std::size_t one = 1 + random() % 3000;
+        const std::size_t two = one + 1 + random() % (random() % 2 ? 20 : 1500);
+        met += Survive(page, device, user, {one, two}, once_more) ? 1 : 0;
     }
 }
 
@@ -88,6 +136,19 @@ TEST(FaultSweep, ThePortsPage) {
         in_use_question};
     // clang-format on
     EXPECT_EQ(Sweep(Page::Port, 1, user), expected);
+}
+
+TEST(FaultSweep, TwoOperationsOfThePages) {
+    const auto at_board = [](HWND page) {
+        Do(page, "defaults tx50 rx2 apply all select1 advanced select0 advanced com20");
+    };
+    const auto at_mode = [](HWND dialog) { Do(dialog, "mode2 ok ok"); };
+    SweepPairs(Page::Board, 0, {.at_page = at_board, .at_dialog = at_mode, .leaves_by = ok},
+               "1 50 32, 410000; 1 50 32, 410000");
+    const auto at_port = [](HWND page) { Do(page, "restore advanced sheet-apply"); };
+    const auto at_fifo = [](HWND dialog) { Do(dialog, "defaults tx50 rx2 com20 ok ok"); };
+    SweepPairs(Page::Port, 1, {.at_page = at_port, .at_dialog = at_fifo, .leaves_by = ok, .answers = IDYES},
+               "1 50 32, 100000; 1 128 112, 100000");
 }
 
 } // namespace

@@ -210,15 +210,16 @@ std::size_t Count(const sim::Machine& machine, std::string_view name) {
     return static_cast<std::size_t>(std::ranges::count(machine.journal, name, &sim::JournalEntry::name));
 }
 
-std::pair<std::string_view, std::size_t> FailedCall(const sim::Machine& machine) {
+std::vector<std::pair<std::string_view, std::size_t>> FailedCalls(const sim::Machine& machine) {
+    std::vector<std::pair<std::string_view, std::size_t>> failed;
     std::map<std::string_view, std::size_t> calls;
     for (const sim::JournalEntry& entry : machine.journal) {
         ++calls[entry.name];
         if (entry.failed) {
-            return {entry.name, calls[entry.name]};
+            failed.emplace_back(entry.name, calls[entry.name]);
         }
     }
-    return {};
+    return failed;
 }
 
 OpenDevice::~OpenDevice() {

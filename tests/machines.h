@@ -64,8 +64,8 @@ Places PlacesAt(const sim::Machine& machine, std::size_t device, u32 number);
 std::vector<std::string> Journal(const sim::Machine& machine, std::initializer_list<sim::Reach> reaches);
 // How often an operation stands in the journal.
 std::size_t Count(const sim::Machine& machine, std::string_view name);
-// The operation that the fault plan has let fail, and which of its calls that was; "" without one.
-std::pair<std::string_view, std::size_t> FailedCall(const sim::Machine& machine);
+// The operations that the fault plan has let fail, and which of its name's calls each was.
+std::vector<std::pair<std::string_view, std::size_t>> FailedCalls(const sim::Machine& machine);
 
 // A device of a machine as the device manager passes it, open while it lasts.
 struct OpenDevice {
