@@ -221,6 +221,8 @@ std::vector<Call> ExpectOutcomeWithFailures(const std::vector<std::size_t>& at) 
     SCOPED_TRACE(testing::PrintToString(failed));
     EXPECT_EQ(done, expected.done);
     EXPECT_EQ(State(machine), expected.state);
+    // Whatever of the property change fails, each step of it is made.
+    EXPECT_EQ(Count(machine, "SetupDiSetClassInstallParamsW"), done ? 1u : 0u);
     EXPECT_EQ(Count(machine, "SetupDiCallClassInstaller"), done ? 1u : 0u);
     // The second may be one of the box that tells of the first.
     const bool is_untold =

@@ -101,7 +101,11 @@ BOOL SetupDiSetClassInstallParamsW(HDEVINFO set, SP_DEVINFO_DATA* data, SP_CLASS
     if (!device || !sim::HasItsSize(params, __func__)) {
         return FALSE;
     }
-    if (params->InstallFunction != DIF_PROPERTYCHANGE || bytes != sizeof(SP_PROPCHANGE_PARAMS)) {
+    // Of all changes the one of which a device is told that its properties are others, in all profiles.
+    const auto* const change = reinterpret_cast<const SP_PROPCHANGE_PARAMS*>(params);
+    if (params->InstallFunction != DIF_PROPERTYCHANGE || bytes != sizeof *change ||
+        change->StateChange != DICS_PROPCHANGE || change->Scope != DICS_FLAG_GLOBAL ||
+        change->HwProfile != 0) {
         sim::Misuse("SetupDiSetClassInstallParamsW: not the parameters of a property change");
         return sim::Fail(ERROR_INVALID_PARAMETER);
     }
@@ -162,6 +166,7 @@ BOOL SetupDiSetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_DATA* data, DWOR
     if (!property) {
         return sim::Fail(ERROR_INVALID_REG_PROPERTY);
     }
+    sim::ExpectItsTerminator(buffer, bytes, __func__);
     device->*property->text = text;
     return TRUE;
 }

@@ -122,6 +122,9 @@ LSTATUS RegSetValueExW(HKEY handle, LPCWSTR name, DWORD, DWORD type, const BYTE*
                                      [&] { return Place(key, name) + " = " + Shown(type, data, bytes); })) {
         return status;
     }
+    if (type == REG_SZ) {
+        sim::ExpectItsTerminator(data, bytes, __func__);
+    }
     key->Values().Set(name ? name : u"", type, {data, data + bytes});
     return ERROR_SUCCESS;
 }

@@ -115,6 +115,12 @@ bool EqualNoCase(std::u16string_view left, std::u16string_view right) {
     return true;
 }
 
+void ExpectItsTerminator(const void* data, std::size_t bytes, std::string_view operation) {
+    if (bytes != (TextIn(data, bytes).size() + 1) * sizeof(WCHAR)) {
+        Misuse(std::string(operation) + ": a text whose size does not end at its terminator");
+    }
+}
+
 Text TextIn(const void* data, std::size_t bytes) {
     Text text(bytes / sizeof(WCHAR), u'\0');
     if (!text.empty()) {
