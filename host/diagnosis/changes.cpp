@@ -36,14 +36,14 @@ void Compare(ChangeList& changes, ChangedPlace place, const std::string& where, 
              const Entries& after) {
     Entries all = before;
     all.insert(after.begin(), after.end());
-    for (const auto& [folded, entry] : all) {
-        const auto text = [&](const Entries& entries, const char* missing) {
-            const auto found = entries.find(folded);
+    for (const auto& each : all) {
+        const auto text = [&each](const Entries& entries, const char* missing) {
+            const auto found = entries.find(each.first);
             return found == entries.end() ? missing : found->second.second;
         };
         const std::string was = text(before, "not there"), is = text(after, "gone");
         if (was != is) {
-            changes.push_back({place, where + Escaped(entry.first) + ": " + was + " -> " + is});
+            changes.push_back({place, where + Escaped(each.second.first) + ": " + was + " -> " + is});
         }
     }
 }

@@ -1,8 +1,6 @@
 // Stands in for the COM port database where the system has none: the same value of the registry, and the five
 // operations on it that a rename needs. A number that is not in the database is no number.
-#include <windows.h>
-
-#include <ddk/msports.h>
+#include "platform/platform.h"
 
 #include <algorithm>
 #include <vector>
