@@ -28,8 +28,8 @@ constexpr Command commands[] = {
     {"changes", "", "lists what differs from the machine as it was read", &Do<&Bench::Changes>},
     {"undo", "", "takes back the last command that changed something", &DoAlone<&Bench::Undo>},
     {"reload", "", "takes back all", &DoAlone<&Bench::Reload>},
-    {"patch", "[--over] FILE", "writes what has changed as a file to import there, and one that takes it back",
-     &Do<&Bench::Patch>},
+    {"patch", "[--over] FILE",
+     "writes what has changed as a file to import there, and one that takes it back", &Do<&Bench::Patch>},
     {"fail", "OPERATION [N]", "lets the n-th call of an operation from now fail; fail off ends that",
      &Do<&Bench::Fail>},
 };

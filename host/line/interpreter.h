@@ -94,8 +94,8 @@ private:
     int failed_ = 0;
     bool sheet_opened_ = false; // since the last `open`
     bool had_input_ = false;
-    int commands_ = 0;  // that were given
-    int asked_at_ = -1; // at which of them a person was asked whether to end without an export
+    int commands_ = 0;     // that were given
+    int asked_at_ = -1;    // at which of them a person was asked whether to end without an export
     bool ending_ = false;  // no more commands: what is open is closed
     bool pressed_ = false; // a button was pressed: whether its window has ended is for the world to find out
 };

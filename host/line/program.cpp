@@ -13,6 +13,7 @@
 #include "host/languages.h"
 #include "host/line/interpreter.h"
 #include "host/text.h"
+#include "version.h"
 
 namespace host {
 namespace {
@@ -116,6 +117,7 @@ int RunProgram(int argc, char** argv, OpenLines open_console) {
     CLI::App app{
         "Opens the property sheets of a board and its ports, and operates them by commands: typed at a\n"
         "terminal, or from the standard input, one a line. The command help lists them."};
+    app.set_version_flag("--version", "kvrhost " VERSION_TEXT);
     Session session;
     app.add_option("machine", session.file, "registry export of the machine; without it, the sample machine");
     app.add_option("--language", session.language,

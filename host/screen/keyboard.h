@@ -1,5 +1,6 @@
-// What a person's key causes. The system's own handling of a dialog decides: here a key only becomes the messages that
-// a keyboard sends, to the window with the focus. A modal window that opens in consequence runs inside the operation.
+// What a person's key causes. The system's own handling of a dialog decides: here a key only becomes the
+// messages that a keyboard sends, to the window with the focus. A modal window that opens in consequence runs
+// inside the operation.
 #pragma once
 
 #include "platform/platform.h"

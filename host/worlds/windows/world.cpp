@@ -149,9 +149,10 @@ public:
     ~System() override { FreeLibrary(library_); }
 
     std::string Greeting() override {
-        return IsElevated() ? "This machine, live, as administrator: what the pages change is changed here"
-                            : "This machine, live, without an administrator's rights: the pages can't open the "
-                              "device keys, so no sheet has a page and nothing can be changed";
+        return IsElevated()
+                   ? "This machine, live, as administrator: what the pages change is changed here"
+                   : "This machine, live, without an administrator's rights: the pages can't open the "
+                     "device keys, so no sheet has a page and nothing can be changed";
     }
 
     bool KnowsDevices() override { return true; }

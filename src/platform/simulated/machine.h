@@ -96,12 +96,12 @@ struct JournalEntry {
 // operations of `windows_api.h` and may change the machine's data; like an operator's, its calls are not
 // journaled. Counts run from 1 and restart with `Machine::faults = {}`.
 struct FaultPlan {
-    std::vector<std::size_t> at;                              // the n-th operations of all
-    std::vector<std::pair<std::string, std::size_t>> at_call; // the n-th call of a name; 0: each call
-    std::function<bool(const JournalEntry&)> when;            // any other rule
-    std::size_t count = 0;                                    // operations seen so far
+    std::vector<std::size_t> at;                                     // the n-th operations of all
+    std::vector<std::pair<std::string, std::size_t>> at_call;        // the n-th call of a name; 0: each call
+    std::function<bool(const JournalEntry&)> when;                   // any other rule
+    std::size_t count = 0;                                           // operations seen so far
     std::unordered_map<std::string_view, std::size_t> count_by_name; // names are those of functions
-    std::size_t hits = 0; // operations failed so far
+    std::size_t hits = 0;                                            // operations failed so far
 };
 
 // --- The person in front of the screen --------------------------------------------------------------------

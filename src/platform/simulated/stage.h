@@ -104,7 +104,8 @@ template <class Structure> bool HasItsSize(const Structure* structure, std::stri
     Misuse(std::string(operation) + ": a structure without its size");
     return Fail(ERROR_INVALID_USER_BUFFER);
 }
-// Adds a line to `misuse` unless a text to be stored ends with its terminator, and nothing stands behind that.
+// Adds a line to `misuse` unless a text to be stored ends with its terminator, and nothing stands behind
+// that.
 void ExpectItsTerminator(const void* data, std::size_t bytes, std::string_view operation);
 // The text in a buffer: up to its terminator, or all of it without one.
 Text TextIn(const void* data, std::size_t bytes);

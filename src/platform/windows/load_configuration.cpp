@@ -1,8 +1,9 @@
-// The load configuration: what the library asks of the loader before any of its code runs. Its imports come from the
-// system folder only, and each indirect call is checked against the table of functions whose address is taken.
+// The load configuration: what the library asks of the loader before any of its code runs. Its imports come
+// from the system folder only, and each indirect call is checked against the table of functions whose address
+// is taken.
 //
-// The loader replaces the two guard pointers by its own functions where the process guards its calls. The functions
-// here serve where it does not: one lets every target pass, the other also goes there.
+// The loader replaces the two guard pointers by its own functions where the process guards its calls. The
+// functions here serve where it does not: one lets every target pass, the other also goes there.
 #include "platform/platform.h"
 
 extern "C" {
