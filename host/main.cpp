@@ -1,5 +1,6 @@
 #include "host/line/program.h"
 
 int main(int argc, char** argv) {
+    host::OpenOutput();
     return host::RunProgram(argc, argv, host::OpenConsole);
 }

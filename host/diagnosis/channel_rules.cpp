@@ -9,8 +9,6 @@
 namespace host {
 namespace {
 
-constexpr unsigned uart_class = 1;
-
 unsigned long Number(const Model& model, std::size_t device, std::string_view name) {
     return StoredNumber(model.records.devices[device].store, name);
 }

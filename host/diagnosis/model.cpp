@@ -27,9 +27,7 @@ Model::Model(const Records& machine) : records(machine), numbers(NumbersOf(machi
             if (!one.present) {
                 continue;
             }
-            // A serial port that says nothing of a board is some other driver's.
-            if (one.channel_class == 1 && !FindValue(devices[index].store, "BoardPciBusNumber") &&
-                !FindValue(devices[index].store, "ChlNumber")) {
+            if (one.channel_class == uart_class && !IsChannel(devices[index].store)) {
                 continue;
             }
             const auto board = std::ranges::find_if(boards, [&](std::size_t each) {

@@ -79,6 +79,10 @@ std::vector<ValueFault> FaultsOf(const std::vector<StoreValue>& store, std::init
 
 } // namespace
 
+bool IsChannel(const std::vector<StoreValue>& store) {
+    return FindValue(store, "BoardPciBusNumber") || FindValue(store, "ChlNumber");
+}
+
 std::vector<ValueFault> BoardFaults(const std::vector<StoreValue>& store) {
     return FaultsOf(store, {board_identity, board_other, channel_basic, board_config});
 }
@@ -101,6 +105,26 @@ std::string ToldShortly(const std::vector<ValueFault>& faults) {
         told += "; and " + std::to_string(faults.size() - most) + " more";
     }
     return told;
+}
+
+std::string WhyNoPage(DeviceKind kind, const std::vector<StoreValue>& store) {
+    const bool is_board = kind == DeviceKind::Board;
+    if (!is_board && !IsChannel(store)) {
+        return "it is no channel of a board";
+    }
+    const std::vector<ValueFault> faults = is_board ? BoardFaults(store) : PortFaults(store);
+    if (!faults.empty()) {
+        return ToldShortly(faults);
+    }
+    const unsigned long type = StoredNumber(store, "ChlType");
+    return is_board || type == 1 ? std::string() : "its ChlType is " + std::to_string(type) + ", not 1";
+}
+
+std::vector<ValueFault> StoreFaults(DeviceKind kind, const std::vector<StoreValue>& store) {
+    if (kind == DeviceKind::Board) {
+        return BoardFaults(store);
+    }
+    return IsChannel(store) ? ChannelFaults(store, uart_class) : std::vector<ValueFault>();
 }
 
 } // namespace host

@@ -22,6 +22,11 @@ struct ValueFault {
     std::string what; // "is missing", "is too long: texts of 300 bytes, at most 128 are read"
 };
 
+inline constexpr unsigned uart_class = 1;
+
+// Whether a port says that it belongs to a board at all: others are some other driver's.
+bool IsChannel(const std::vector<StoreValue>& store);
+
 // Of a board's own device.
 std::vector<ValueFault> BoardFaults(const std::vector<StoreValue>& store);
 // Of a channel of a class from 1 to 5, as its board's page reads it.
@@ -31,5 +36,11 @@ std::vector<ValueFault> PortFaults(const std::vector<StoreValue>& store);
 
 // "UartMode is missing; ChlNumber is too long: ..."; of many the first ones, and how many more there are.
 std::string ToldShortly(const std::vector<ValueFault>& faults);
+
+// Why the library has no page for a device with a sheet; empty if it has one.
+std::string WhyNoPage(DeviceKind kind, const std::vector<StoreValue>& store);
+// What of the values that its driver must publish can't be read, a board's or a port's. None of a port that
+// is no channel of a board.
+std::vector<ValueFault> StoreFaults(DeviceKind kind, const std::vector<StoreValue>& store);
 
 } // namespace host

@@ -23,6 +23,9 @@ public:
     // Whether a person types the lines: they are then on the screen already.
     virtual bool IsPerson() const { return false; }
 
+    // How wide the screen is that the person sees; 0 where there is none, or nobody knows.
+    virtual int Width() const { return 0; }
+
     virtual void CompleteBy(Continuations) {}
 };
 
@@ -31,6 +34,9 @@ std::unique_ptr<LineSource> LinesOf(std::istream& stream);
 
 // Those of a file; null if it can't be opened.
 std::unique_ptr<LineSource> LinesOfFile(const std::string& path);
+
+// Makes the standard output take UTF-8, its lines ended by LF alone. Called before anything is written.
+void OpenOutput();
 
 // The standard input: at a terminal with prompt, history and completion, otherwise plainly.
 std::unique_ptr<LineSource> OpenConsole();

@@ -7,6 +7,7 @@
 
 #include <histedit.h>
 #include <langinfo.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include "host/line/console.h"
@@ -73,6 +74,10 @@ public:
         return line;
     }
     bool IsPerson() const override { return true; }
+    int Width() const override {
+        winsize size{};
+        return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
+    }
     void CompleteBy(Continuations continuations) override { continuations_ = std::move(continuations); }
 
 private:
@@ -141,5 +146,7 @@ std::unique_ptr<LineSource> OpenConsole() {
     }
     return LinesOf(std::cin);
 }
+
+void OpenOutput() {}
 
 } // namespace host

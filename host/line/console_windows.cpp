@@ -19,7 +19,6 @@ class Console : public LineSource {
 public:
     Console() {
         SetConsoleCP(CP_UTF8);
-        SetConsoleOutputCP(CP_UTF8);
         // Reads a line each time it is asked to; it may still wait for one when the program ends.
         std::thread([this] {
             for (bool open = true; open;) {
@@ -99,10 +98,14 @@ std::unique_ptr<LineSource> OpenConsole() {
     if (_isatty(_fileno(stdin)) && _isatty(_fileno(stdout))) {
         return std::make_unique<Console>();
     }
-    // The lines end as they do everywhere else.
+    return std::make_unique<Script>();
+}
+
+// The lines end as they do everywhere else.
+void OpenOutput() {
+    SetConsoleOutputCP(CP_UTF8);
     _setmode(_fileno(stdin), _O_BINARY);
     _setmode(_fileno(stdout), _O_BINARY);
-    return std::make_unique<Script>();
 }
 
 } // namespace host

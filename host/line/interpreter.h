@@ -47,6 +47,9 @@ public:
     void Tell(std::string_view line);
     void Write(const std::vector<std::string>& lines, const char* before = "");
 
+    // How wide a line may be; 0 for any width.
+    int Width() const { return lines_.Width(); }
+
     // By its number in the list, COM5, or its instance id; throws Refusal if that is none or more than one.
     Device FindDevice(const std::string& name);
 

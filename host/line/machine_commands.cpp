@@ -1,5 +1,6 @@
 #include <filesystem>
 
+#include "host/diagnosis/published_values.h"
 #include "host/line/command.h"
 #include "host/line/interpreter.h"
 #include "host/line/ports_table.h"
@@ -10,15 +11,28 @@ namespace host {
 namespace {
 
 void Devices(Interpreter& host, const Words&) {
-    host.Write(ListDevices(host.world().Devices()));
+    const std::vector<Device> devices = host.world().Devices();
+    Lines lines = ListDevices(devices);
+    for (std::size_t index = 0; index < devices.size(); ++index) {
+        const std::string reason = WhyNoPage(devices[index].kind, host.world().Store(devices[index].id));
+        if (!reason.empty()) {
+            lines[index] += "  (no page: " + reason + ')';
+        }
+    }
+    host.Write(lines);
 }
 
 void Store(Interpreter& host, const Words& words) {
-    host.Write(ListStore(host.world().Store(host.FindDevice(words[1]).id)));
+    const Device device = host.FindDevice(words[1]);
+    const std::vector<StoreValue> store = host.world().Store(device.id);
+    host.Write(ListStore(store));
+    for (const ValueFault& fault : StoreFaults(device.kind, store)) {
+        host.Tell("  " + std::string{fault.name} + ' ' + fault.what);
+    }
 }
 
 void Ports(Interpreter& host, const Words&) {
-    host.Write(PortsTable(host.world()));
+    host.Write(PortsTable(host.world(), host.Width()));
 }
 
 void Journal(Interpreter& host, const Words&) {
@@ -37,9 +51,9 @@ void Export(Interpreter& host, const Words& words) {
 }
 
 constexpr Command commands[] = {
-    {"devices", "", "lists the devices: number, kind, name, instance id", &Devices},
-    {"store", "DEVICE", "lists what the device store holds", &Store},
-    {"ports", "", "lists all places that hold a port's number; ! marks what disagrees", &Ports},
+    {"devices", "", "lists the devices: number, kind, name, instance id, and why one has no page", &Devices},
+    {"store", "DEVICE", "lists what the device store holds, and what of it is missing or too long", &Store},
+    {"ports", "", "lists all places that hold a port's number, and what disagrees", &Ports},
     {"journal", "", "tells what the library has changed outside itself since the last time", &Journal},
     {"export", "[--over] FILE", "writes the machine as a registry file; --over replaces one that exists",
      &Export},

@@ -14,9 +14,11 @@ namespace {
 
 constexpr std::array<const char*, 8> headings = {"device",   "channel",    "PortName", "friendly",
                                                  "DOS name", "serial map", "database", "settings line"};
+constexpr std::size_t dos_names = 4; // the column that is left out where room is short
 using Cells = std::array<std::string, headings.size()>;
 
-constexpr const char* disagrees = " !";
+constexpr const char* differs = " differs";
+constexpr const char* missing = "missing";
 constexpr const char* unknown = "not known";
 
 bool Same(const Text& left, std::string_view right) {
@@ -30,7 +32,7 @@ std::string DosName(const std::string& name, const PortRecords& records, const T
             return "-> " + Escaped(ToUtf8(its_target));
         }
     }
-    return std::string{"none"} + disagrees;
+    return missing;
 }
 
 std::string Mapped(const std::string& name, const PortRecords& records, const Text* target) {
@@ -41,10 +43,10 @@ std::string Mapped(const std::string& name, const PortRecords& records, const Te
     for (const auto& [device, mapped] : *records.serial_map) {
         if (Same(mapped, name)) {
             devices += (devices.empty() ? "" : ", ") + Escaped(ToUtf8(device)) +
-                       (target && Same(device, ToUtf8(*target)) ? "" : disagrees);
+                       (target && Same(device, ToUtf8(*target)) ? "" : differs);
         }
     }
-    return devices.empty() ? std::string{"none"} + disagrees : devices;
+    return devices.empty() ? missing : devices;
 }
 
 std::string SettingsLine(const std::string& name, const PortRecords& records) {
@@ -64,15 +66,13 @@ Cells RowOf(const std::string& name, unsigned long number, const Device& device,
     row[2] = name.empty() ? "none" : Escaped(name);
     const unsigned long friendly = FriendlyNumber(ToUtf8(device.friendly_name));
     row[3] = friendly ? std::to_string(friendly) : "none";
-    if (friendly != number) {
-        row[3] += disagrees;
+    if (friendly != 0 && friendly != number) {
+        row[3] += differs;
     }
     const Text* target = nullptr;
     row[4] = DosName(name, records, target);
     row[5] = Mapped(name, records, target);
-    row[6] = !records.usage               ? unknown
-             : IsClaimed(records, number) ? "claimed"
-                                          : std::string{"free"} + disagrees;
+    row[6] = !records.usage ? unknown : IsClaimed(records, number) ? "claimed" : "not claimed";
     row[7] = SettingsLine(name, records);
     return row;
 }
@@ -80,14 +80,14 @@ Cells RowOf(const std::string& name, unsigned long number, const Device& device,
 std::string Line(const Cells& cells, const std::array<int, headings.size()>& widths) {
     std::string line;
     for (std::size_t column = 0; column < cells.size(); ++column) {
-        line += "  " + PaddedTo(cells[column], widths[column]);
+        line += widths[column] != 0 ? "  " + PaddedTo(cells[column], widths[column]) : "";
     }
     return line.substr(0, line.find_last_not_of(' ') + 1);
 }
 
 } // namespace
 
-Lines PortsTable(World& world) {
+Lines PortsTable(World& world, int columns) {
     const PortRecords records = world.Ports();
     const std::vector<Device> devices = world.Devices();
     std::vector<Cells> rows{{}};
@@ -111,8 +111,10 @@ Lines PortsTable(World& world) {
         held.insert(number);
     }
     for (auto row = rows.begin() + 1; row != rows.end(); ++row) {
-        if (PortNumber((*row)[2]) == 0 || names.count(Folded((*row)[2])) > 1) {
-            (*row)[2] += disagrees;
+        if (PortNumber((*row)[2]) == 0 && (*row)[2] != "none") {
+            (*row)[2] += " is no COM";
+        } else if (names.count(Folded((*row)[2])) > 1) {
+            (*row)[2] += " twice";
         }
     }
 
@@ -123,8 +125,20 @@ Lines PortsTable(World& world) {
         }
     }
     Lines lines;
-    for (const Cells& row : rows) {
-        lines.push_back(Line(row, widths));
+    const auto write = [&] {
+        lines.clear();
+        for (const Cells& row : rows) {
+            lines.push_back(Line(row, widths));
+        }
+    };
+    write();
+    const auto too_wide = [&] {
+        return columns != 0 &&
+               std::ranges::any_of(lines, [&](const std::string& line) { return Columns(line) > columns; });
+    };
+    if (too_wide()) {
+        widths[dos_names] = 0;
+        write();
     }
     std::vector<unsigned long> unheld;
     const std::size_t numbers = records.usage ? 8 * records.usage->size() : 0;
@@ -134,6 +148,9 @@ Lines PortsTable(World& world) {
         }
     }
     lines.push_back("  claimed without a device: " + (records.usage ? RangesOf(unheld) : unknown));
+    if (too_wide()) {
+        std::ranges::transform(lines, lines.begin(), [&](const auto& line) { return CutTo(line, columns); });
+    }
     return lines;
 }
 

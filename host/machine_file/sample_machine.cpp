@@ -3,11 +3,11 @@
 
 // SAMPLE_MACHINE is the path of the file.
 asm(R"(
-    .pushsection .rodata
+    .section .rodata
 sample_machine_begin:
     .incbin ")" SAMPLE_MACHINE R"("
 sample_machine_end:
-    .popsection
+    .text
 )");
 
 extern const char sample_machine_begin[], sample_machine_end[];

@@ -1,9 +1,9 @@
-// The one door to the operating system. The logic includes no other header of the system. On Windows this one
-// includes the system's own headers, elsewhere those of the simulated system, which has the same names,
-// signatures and sizes. Only this file knows which of the two it is.
+// The one door to the operating system. The logic includes no other header of the system. This one includes
+// Windows' own headers or, where the build defines KVR_SIMULATED, those of the simulated system, which has the
+// same names, signatures and sizes. Only this file knows which of the two it is.
 #pragma once
 
-#ifdef _WIN32
+#ifndef KVR_SIMULATED
 #include <windows.h>
 
 #include <commctrl.h>

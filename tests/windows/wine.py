@@ -14,7 +14,7 @@ import tempfile
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 BUILD = pathlib.Path(os.environ.get("KVR_WINDOWS_BUILD", ROOT / "build" / "windows"))
 TEMPLATES = ROOT / "build" / "wine"
-PROGRAMS = ["kvrpagex64.dll", "kvrhost.exe", "kvrfit.exe", "kvrpictures.exe", "kvrlifetime.exe", "kvrkeys.exe", "standins/msports.dll"]
+PROGRAMS = ["kvrpagex64.dll", "kvrhost.exe", "kvrfit.exe", "kvrpictures.exe", "kvrlifetime.exe", "kvrkeys.exe", "kvrbench.exe", "standins/msports.dll"]
 
 # "MS Shell Dlg" is Microsoft Sans Serif on Windows, which has every script. Here each script has its own font; of
 # those that are small, the ones that come nearest.

@@ -40,7 +40,7 @@ std::vector<Window*> Behind(std::vector<Window*> controls, const Window* from, b
     }
     const auto place = std::ranges::find(controls, from);
     if (place != controls.end()) {
-        std::ranges::rotate(controls, std::next(place));
+        std::rotate(controls.begin(), std::next(place), controls.end());
     }
     return controls;
 }
@@ -62,7 +62,7 @@ Window* NextInGroup(const Window& top_level, const Window& from, bool backwards)
     const auto found = std::ranges::find_if(before, starts);
     const Window* start = starts(&from) || found == before.end() ? &from : *found;
     auto group = Behind(controls, start, false);
-    std::ranges::rotate(group, std::prev(group.end()));
+    std::rotate(group.begin(), std::prev(group.end()), group.end());
     group.erase(std::find_if(std::next(group.begin()), group.end(), starts), group.end());
     const auto around = Behind(std::move(group), &from, backwards);
     const auto next = std::ranges::find_if(around, [](const Window* one) { return IsLive(*one); });

@@ -1,8 +1,6 @@
 // Text: UTF-8 and UTF-16, comparison without case, text in buffers, and Windows' own text operations.
 #include <algorithm>
 #include <cstring>
-#include <cwctype>
-#include <locale.h>
 
 #include "platform/simulated/stage.h"
 
@@ -89,17 +87,6 @@ Text FromUtf8(std::string_view utf8) {
         }
     }
     return text;
-}
-
-// Windows folds each unit by itself, through a table that does not depend on the user's language and that
-// never maps a letter outside ASCII to one inside.
-char16_t Upper(char16_t unit) {
-    if (unit < 0x80) {
-        return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - 0x20) : unit;
-    }
-    static const locale_t unicode = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
-    const wint_t upper = unicode ? towupper_l(unit, unicode) : unit;
-    return upper < 0x80 || upper > 0xFFFF ? unit : static_cast<char16_t>(upper);
 }
 
 bool EqualNoCase(std::u16string_view left, std::u16string_view right) {

@@ -1,0 +1,44 @@
+// The standard input of a program that has no live windows of its own to attend to: the console edits the
+// line.
+#include <windows.h>
+
+#include <fcntl.h>
+#include <io.h>
+
+#include <iostream>
+
+#include "host/line/console.h"
+
+namespace host {
+namespace {
+
+class Console : public LineSource {
+public:
+    std::optional<std::string> Next(const std::string& prompt) override {
+        std::cout << prompt << std::flush;
+        return lines_->Next(prompt);
+    }
+    bool IsPerson() const override { return true; }
+
+private:
+    std::unique_ptr<LineSource> lines_ = LinesOf(std::cin);
+};
+
+} // namespace
+
+std::unique_ptr<LineSource> OpenConsole() {
+    SetConsoleCP(CP_UTF8);
+    if (_isatty(_fileno(stdin)) && _isatty(_fileno(stdout))) {
+        return std::make_unique<Console>();
+    }
+    return LinesOf(std::cin);
+}
+
+// The lines end as they do everywhere else.
+void OpenOutput() {
+    SetConsoleOutputCP(CP_UTF8);
+    _setmode(_fileno(stdin), _O_BINARY);
+    _setmode(_fileno(stdout), _O_BINARY);
+}
+
+} // namespace host

@@ -1,0 +1,63 @@
+#!/usr/bin/env python3
+"""The bench on Windows: it answers every operator script with the bytes that are kept of the same bench elsewhere, and
+what it patches is imported by the system's own importer into the machine that it was made from, and taken back."""
+import pathlib
+import sys
+
+from compare_worlds import SCRIPTS, said
+from wine import ROOT, Prefix, Screen, template
+
+SAMPLE = ROOT / "host" / "machines" / "sample.reg"
+
+
+def windows_path(path):
+    return "Z:" + str(pathlib.Path(path).resolve()).replace("/", "\\")
+
+
+def same_transcript(prefix, script):
+    """A script's "# fail: OPERATION N" is a command here, and is no part of the transcript."""
+    lines = script.read_text().splitlines()
+    typed = [line.replace("# fail: ", "fail ") if line.startswith("# fail: ") else line for line in lines]
+    machine = ROOT / (said(lines, "machine") or "host/machines/sample.reg")
+    got, _ = prefix.run("kvrbench.exe", windows_path(machine), "--language", said(lines, "language") or "1033",
+                        input="\n".join(typed).encode() + b"\n")
+    kept = script.with_suffix(".out").read_bytes()
+    return got.replace(b"\n> fail ", b"\n# fail: ") == kept
+
+
+def told(prefix):
+    """What is found wrong with the live machine."""
+    return prefix.run("kvrhost.exe", "diagnose")[0].decode()
+
+
+def patch_goes_there_and_back(prefix):
+    prefix.import_machine(SAMPLE)
+    before = told(prefix)
+    patch = prefix.programs / "fix.reg"
+    answer, code = prefix.run("kvrbench.exe", windows_path(SAMPLE), "-c", "mend", "open 1", "click Advanced",
+                              'click "Sort UART"', "click Cancel", "sheet ok", "patch " + windows_path(patch))
+    prefix.import_machine(patch)
+    mended = told(prefix)
+    prefix.import_machine(prefix.programs / "fix-undo.reg")
+    after = told(prefix)
+    for text, wanted in ((before, True), (mended, False), (after, True)):
+        for sentence in ("COM9 is in use and nothing is there", "do not ascend"):
+            if (sentence in text) != wanted:
+                print(f"{'missing' if wanted else 'still there'}: {sentence}\n{answer.decode()}\n{text}")
+                return False
+    return code == 0 and before == after
+
+
+def main():
+    template()
+    Screen.name()
+    with Prefix() as prefix:
+        scripts = [script for script in sorted(SCRIPTS.glob("*.txt")) if "# remote" not in script.read_text()]
+        failed = [script.stem for script in scripts if not same_transcript(prefix, script)]
+        if failed:
+            print("other bytes than kept:", *failed)
+        return 1 if failed or not patch_goes_there_and_back(prefix) else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
