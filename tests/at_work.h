@@ -5,6 +5,7 @@
 
 #include "reporting/module_entry.h"
 #include "tests/machines.h"
+#include "tests/trace_reader.h"
 
 namespace machines {
 
@@ -14,14 +15,17 @@ inline constexpr const char* in_use_question =
     "This COM name is being used by another device (such as another com port or modem).  Using duplicate "
     "names can lead to inaccessible devices and changed settings.  Do you want to continue?";
 
-// Attached while it lasts, with the trace of that gone. At its end all must be given back and nothing
-// misused.
+// Attached while it lasts, with the marks of that gone. Every line that the library traces is read; at the
+// end all must be given back, left and nothing misused.
 struct AtWork {
     explicit AtWork(sim::Machine& machine) : machine_(machine), scope_(machine) {
+        machine.trace = [this](std::string_view line) { trace_.Read(line); };
         DllMain(sim::LibraryInstance(), DLL_PROCESS_ATTACH, nullptr);
         Forget(machine);
     }
     ~AtWork() {
+        machine_.trace = nullptr;
+        EXPECT_EQ(trace_.open(), std::vector<std::string>{});
         for (const auto& [kind, count] : machine_.open) {
             ADD_FAILURE() << count << ' ' << kind << " not given back";
         }
@@ -35,6 +39,7 @@ struct AtWork {
 private:
     sim::Machine& machine_;
     sim::Scope scope_;
+    TraceReader trace_;
 };
 
 } // namespace machines

@@ -25,6 +25,7 @@ struct Command {
 };
 
 std::span<const Command> MachineCommands(); // what the machine holds
+std::span<const Command> TraceCommands();   // what the library tells of itself
 std::span<const Command> BenchCommands();   // what is wrong with it, and what mends it
 std::span<const Command> WindowCommands();  // what a hand does to its windows
 std::span<const Command> SessionCommands(); // the session itself

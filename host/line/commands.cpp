@@ -9,7 +9,8 @@ namespace host {
 const std::vector<Command>& Commands() {
     static const std::vector<Command> all = [] {
         std::vector<Command> commands;
-        for (const auto group : {MachineCommands(), BenchCommands(), WindowCommands(), SessionCommands()}) {
+        for (const auto group :
+             {MachineCommands(), TraceCommands(), BenchCommands(), WindowCommands(), SessionCommands()}) {
             commands.insert(commands.end(), group.begin(), group.end());
         }
         return commands;

@@ -32,6 +32,7 @@ int Interpreter::Run() {
     while (!ending_) {
         Step();
     }
+    world_.HearTrace(nullptr);
     return failed_;
 }
 

@@ -117,6 +117,12 @@ public:
     //   SendNotifyMessageW WM_WININICHANGE "Ports"
     virtual std::vector<std::string> Journal() = 0;
 
+    // From now on `hear` is told each line of the library's trace, without its line feed, and between them,
+    // at its place, each line that the journal gets, `change` being true. An empty one ends it. False if this
+    // library traces nothing.
+    using TraceListener = std::function<void(const std::string& line, bool change)>;
+    virtual bool HearTrace(TraceListener hear) = 0;
+
     // The style that a message box in front was opened with; 0 if `box` is none.
     virtual UINT BoxStyle(HWND box) = 0;
 

@@ -139,34 +139,33 @@ void _RestoreDefaultClicked(HWND hDlg, const BPPCHL* channel) {
 }
 
 // This asks for less than offering an entry does, so it fails only if no offered entry is selected.
-bool IsSupported(const UartMode& mode, u32 capability, TraceName function = __builtin_FUNCTION()) {
+bool IsSupported(const UartMode& mode, u32 capability) {
     bool supported = true;
     for (u32 bit = 1; bit != 0; bit <<= 1) {
         if ((mode.required & bit) != 0 && (capability & bit) == 0) {
-            TraceOut(mode.unsupported, function, capability);
+            TraceOut(mode.unsupported, TraceOperation(), capability);
             supported = false;
         }
     }
     return supported;
 }
 
-void TraceSettings(const InterfaceSettings& settings, TraceName function = __builtin_FUNCTION()) {
-    TraceOut("%s - nMode:%d\n", function, settings.UartMode);
-    TraceOut("%s - nAHDC:%d\n", function, settings.UartAHDC);
-    TraceOut("%s - nCS:%d\n", function, settings.UartCS);
-    TraceOut("%s - nAutoRS422485:%d\n", function, settings.UartAutoRS422485);
-    TraceOut("%s - nRS422Termination:%d\n", function, settings.UartRS422Termination);
-    TraceOut("%s - nRS485Termination:%d\n", function, settings.UartRS485Termination);
+void TraceSettings(const InterfaceSettings& settings) {
+    TraceOut("%s - nMode:%d\n", TraceOperation(), settings.UartMode);
+    TraceOut("%s - nAHDC:%d\n", TraceOperation(), settings.UartAHDC);
+    TraceOut("%s - nCS:%d\n", TraceOperation(), settings.UartCS);
+    TraceOut("%s - nAutoRS422485:%d\n", TraceOperation(), settings.UartAutoRS422485);
+    TraceOut("%s - nRS422Termination:%d\n", TraceOperation(), settings.UartRS422Termination);
+    TraceOut("%s - nRS485Termination:%d\n", TraceOperation(), settings.UartRS485Termination);
 }
 
 // Returns the status of the write, and 0 if the store already has the settings.
-u32 WriteSettings(BPPCHL* channel, const InterfaceSettings& settings,
-                  TraceName function = __builtin_FUNCTION()) {
+u32 WriteSettings(BPPCHL* channel, const InterfaceSettings& settings) {
     UartBasicInfo& saved = channel->SavedInfo.Uart;
     if (SameSettings(settings, SettingsOf(saved))) {
         return 0;
     }
-    TraceOut("%s - Chl:%d, uart advance settings change\n", function,
+    TraceOut("%s - Chl:%d, uart advance settings change\n", TraceOperation(),
              channel->CurrentInfo.ChlBasic.ChlNumber);
     const u32 sStatus =
         Kavro_RegUartSetAdvanceSettings(channel->DeviceInfoSet, &channel->DeviceInfoData, settings.UartMode,

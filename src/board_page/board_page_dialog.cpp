@@ -102,10 +102,10 @@ bool _OnCommand(HWND hDlg, int id, int notifyCode) {
 }
 
 // Gives the selected UART the number that the user has chosen in the combo.
-bool RenameUart(HWND hDlg, BPPCHL* chl, TraceName function = __builtin_FUNCTION()) {
+bool RenameUart(HWND hDlg, BPPCHL* chl) {
     const u32 oldNumber = ComNumberFromName(chl->CurrentInfo.Uart.PortName);
     return RenamePortForUser(hDlg, BoardRename,
-                             RenameOfChannel(chl, oldNumber, ChosenComNumber(hDlg, oldNumber)), function);
+                             RenameOfChannel(chl, oldNumber, ChosenComNumber(hDlg, oldNumber)));
 }
 
 bool _OkClicked(HWND hDlg, BoardParams* params, u32 index) {

@@ -46,7 +46,10 @@ void ReleaseBoardRecord(void* record) {
 }
 
 UINT CALLBACK BoardBasicDlgCallback(HWND, UINT message, LPPROPSHEETPAGEW page) {
-    return AnswerPageCallback(message, page, ReleaseBoardRecord);
+    TraceOut("----> %s( ), Message:%d\n", __func__, message);
+    const UINT nReturn = AnswerPageCallback(message, page, ReleaseBoardRecord);
+    TraceOut("<---- %s, nReturn:%d\n", __func__, nReturn);
+    return nReturn;
 }
 
 HPROPSHEETPAGE _InitBoardBasicSettingsPage(void* params) {

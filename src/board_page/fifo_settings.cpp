@@ -17,9 +17,9 @@ BPPCHL* UartAt(const BoardParams* params, u32 index) {
     return chl != nullptr && chl->Class == ClassUart ? chl : nullptr;
 }
 
-FifoValues ReadPage(HWND hDlg, const BPPCHL* chl, TraceName function = __builtin_FUNCTION()) {
+FifoValues ReadPage(HWND hDlg, const BPPCHL* chl) {
     const FifoValues values = _ReadFifoSliders(hDlg, chl->CurrentInfo.Uart, chl->Fifo);
-    TraceFifoValues(values, function);
+    TraceFifoValues(values);
     return values;
 }
 
@@ -165,8 +165,8 @@ bool _ApplyClicked(HWND hDlg, BoardParams* params, u32 index) {
     return bSuccess;
 }
 
-void TakeFifoSettings(HWND hDlg, BPPCHL* channel, TraceName function) {
-    SetFifoValues(channel->CurrentInfo.Uart, ReadPage(hDlg, channel, function));
+void TakeFifoSettings(HWND hDlg, BPPCHL* channel) {
+    SetFifoValues(channel->CurrentInfo.Uart, ReadPage(hDlg, channel));
 }
 
 bool StorePendingFifo(HWND hDlg, BoardParams* params) {

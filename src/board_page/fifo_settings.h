@@ -26,7 +26,7 @@ bool _SetToAllClicked(HWND hDlg, BoardParams* params, u32 index);
 bool _ApplyClicked(HWND hDlg, BoardParams* params, u32 index);
 
 // Makes the page's values pending for the selected UART.
-void TakeFifoSettings(HWND hDlg, BPPCHL* channel, TraceName function = __builtin_FUNCTION());
+void TakeFifoSettings(HWND hDlg, BPPCHL* channel);
 
 // Stores what is pending. False if a write failed, and a box over `hDlg` has said so. That UART and those
 // after it stay pending.

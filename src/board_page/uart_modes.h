@@ -3,6 +3,7 @@
 #pragma once
 
 #include "device_model/board_params.h"
+#include "reporting/trace.h"
 
 // Bits of `UartCapability`.
 enum UartCapabilityBit : u32 {
@@ -31,13 +32,14 @@ struct InterfaceSettings {
 struct UartMode {
     u32 mode; // the value of `UartMode`
     const WCHAR* text;
-    u32 BPPCHL::*comboPos;   // where the record keeps the mode's place in the combo
-    u32 offered;             // the mode can be chosen
-    u32 required;            // the mode can be stored; tested bit by bit
-    u32 termination;         // the termination box is enabled
-    u32 acs;                 // the ACS box is enabled
-    u32 settings;            // the values that the mode can set, by their capability bits
-    const char* unsupported; // the trace line for a missing required bit
+    u32 BPPCHL::*comboPos; // where the record keeps the mode's place in the combo
+    u32 offered;           // the mode can be chosen
+    u32 required;          // the mode can be stored; tested bit by bit
+    u32 termination;       // the termination box is enabled
+    u32 acs;               // the ACS box is enabled
+    u32 settings;          // the values that the mode can set, by their capability bits
+    // The trace line for a missing required bit, with the capability.
+    [[no_unique_address]] TraceFormatFor<TraceName, u32> unsupported;
 };
 
 constexpr u32 UartModeCount = 4;

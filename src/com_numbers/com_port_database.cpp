@@ -16,16 +16,16 @@ using PortUsageBitmap = BYTE[ComNumberMax / 8];
 constexpr u32 EntryCapacity = 40;
 
 // Returns 0, StatusNoDatabase or StatusNoUsage.
-u32 ReadPortUsage(PortUsageBitmap& usage, TraceName function = __builtin_FUNCTION()) {
+u32 ReadPortUsage(PortUsageBitmap& usage) {
     HCOMDB database = nullptr;
     u32 sStatus = 0;
     DWORD portCount = 0;
     if (ComDBOpen(&database) != ERROR_SUCCESS) {
-        TraceOut("%s - ComDBOpen fail, GetLastError():%d\n", function, GetLastError());
+        TraceOut("%s - ComDBOpen fail, GetLastError():%d\n", TraceOperation(), GetLastError());
         sStatus = StatusNoDatabase;
     } else if (ComDBGetCurrentPortUsage(database, usage, sizeof(usage), CDB_REPORT_BITS, &portCount) !=
                ERROR_SUCCESS) {
-        TraceOut("%s - ComDBGetCurrentPortUsage fail, GetLastError():%d\n", function, GetLastError());
+        TraceOut("%s - ComDBGetCurrentPortUsage fail, GetLastError():%d\n", TraceOperation(), GetLastError());
         sStatus = StatusNoUsage;
     }
     if (database != nullptr) {
@@ -45,16 +45,16 @@ void LoadInUseSuffix(WCHAR (&suffix)[EntryCapacity]) {
     }
 }
 
-void AddAllNumbers(HWND combo, const PortUsageBitmap& usage, u32 currentNumber, const WCHAR* suffix,
-                   TraceName function = __builtin_FUNCTION()) {
+void AddAllNumbers(HWND combo, const PortUsageBitmap& usage, u32 currentNumber, const WCHAR* suffix) {
     WCHAR entry[EntryCapacity];
     for (u32 number = 1; number <= ComNumberMax; ++number) {
         FormatText(entry, ARRAYSIZE(entry), TEXT("COM%d"), number);
         if (IsPortClaimed(usage, number)) {
             if (number == currentNumber) {
-                TraceOut("%s COM%d -> used, is current port number, don't in use\n", function, number);
+                TraceOut("%s COM%d -> used, is current port number, don't in use\n", TraceOperation(),
+                         number);
             } else {
-                TraceOut("%s COM%d -> used\n", function, number);
+                TraceOut("%s COM%d -> used\n", TraceOperation(), number);
                 AppendText(entry, ARRAYSIZE(entry), suffix);
             }
         }

@@ -10,9 +10,6 @@ namespace {
 constexpr u32 RemapTextCapacity = 81;
 constexpr u32 DescriptionBytes = 512;
 
-// The steps trace under the name of the transaction.
-constexpr TraceName Transaction = "_EnactComNameChanges";
-
 // The record of one rename, which exists only while the rename runs.
 struct Remap {
     HDEVINFO DeviceInfoSet;
@@ -48,18 +45,18 @@ bool QueryOldTarget(Remap* remap) {
 // Moves the DOS name, which exists, to the new name. Returns 0 or StatusNoDosName.
 u32 MoveDosName(Remap* remap) {
     if (!QueryOldTarget(remap)) {
-        TraceOut("%s - this shouldn't happen, QueryDosDevice fail, GetLastError():%d\n", Transaction,
+        TraceOut("%s - this shouldn't happen, QueryDosDevice fail, GetLastError():%d\n", TraceOperation(),
                  GetLastError());
         return StatusNoDosName;
     }
-    TraceOut("%s - Remap->OldComName:%ws, Remap->Buffer1:%ws\n", Transaction, remap->OldComName,
+    TraceOut("%s - Remap->OldComName:%ws, Remap->Buffer1:%ws\n", TraceOperation(), remap->OldComName,
              remap->Buffer1);
     const BOOL bRemoved = DefineDosDeviceW(DDD_REMOVE_DEFINITION, remap->OldComName, nullptr);
     TraceOut("%s - DefineDosDevice, bRemoved:%d, OldComName:%ws, Buffer1:%ws, GetLastError():%d\n",
-             Transaction, bRemoved, remap->OldComName, remap->Buffer1, GetLastError());
+             TraceOperation(), bRemoved, remap->OldComName, remap->Buffer1, GetLastError());
     if (!DefineDosDeviceW(DDD_RAW_TARGET_PATH, remap->NewComName, remap->Buffer1)) {
         TraceOut("%s - DefineDosDevice fail, Remap->NewComName:%ws, Remap->Buffer1:%ws, GetLastError():%d\n",
-                 Transaction, remap->NewComName, remap->Buffer1, GetLastError());
+                 TraceOperation(), remap->NewComName, remap->Buffer1, GetLastError());
         if (bRemoved) {
             DefineDosDeviceW(DDD_RAW_TARGET_PATH, remap->OldComName, remap->Buffer1);
         }
@@ -112,7 +109,7 @@ void WriteFriendlyName(Remap* remap) {
     } else {
         CopyText(remap->Buffer1, RemapTextCapacity, remap->NewComName);
     }
-    TraceOut("%s - friendly name:%ws\n", Transaction, remap->Buffer1);
+    TraceOut("%s - friendly name:%ws\n", TraceOperation(), remap->Buffer1);
     SetupDiSetDeviceRegistryPropertyW(remap->DeviceInfoSet, remap->DeviceInfoData, SPDRP_FRIENDLYNAME,
                                       reinterpret_cast<const BYTE*>(remap->Buffer1),
                                       TextBytes(remap->Buffer1));
@@ -120,17 +117,17 @@ void WriteFriendlyName(Remap* remap) {
 
 // Runs the steps that need the device key and the database open. Returns 0 or StatusNoDosName.
 u32 RenameEverywhere(Remap* remap) {
-    TraceOut("%s - ARRAYSIZE(Remap->OldComName):%I64d\n", Transaction, ARRAYSIZE(remap->OldComName));
+    TraceOut("%s - ARRAYSIZE(Remap->OldComName):%I64d\n", TraceOperation(), ARRAYSIZE(remap->OldComName));
     FormatText(remap->OldComName, RemapTextCapacity, TEXT("COM%d"), remap->OldComNumber);
     const bool dosNameExists = QueryOldTarget(remap);
     if (!dosNameExists) {
-        TraceOut("%s - QueryDosDevice 1 fail, GetLastError():%d\n", Transaction, GetLastError());
+        TraceOut("%s - QueryDosDevice 1 fail, GetLastError():%d\n", TraceOperation(), GetLastError());
     }
-    TraceOut("%s - Remap->OldComName:%ws, Remap->Buffer1:%ws\n", Transaction, remap->OldComName,
+    TraceOut("%s - Remap->OldComName:%ws, Remap->Buffer1:%ws\n", TraceOperation(), remap->OldComName,
              remap->Buffer1);
     FormatText(remap->NewComName, RemapTextCapacity, TEXT("COM%d"), remap->NewComNumber);
     const DWORD dwNewComNameLen = TextBytes(remap->NewComName);
-    TraceOut("%s - Remap->NewComName:%ws, dwNewComNameLen:%d\n", Transaction, remap->NewComName,
+    TraceOut("%s - Remap->NewComName:%ws, dwNewComNameLen:%d\n", TraceOperation(), remap->NewComName,
              dwNewComNameLen);
 
     const u32 sStatus = dosNameExists ? MoveDosName(remap) : 0;

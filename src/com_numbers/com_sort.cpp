@@ -23,16 +23,16 @@ struct SortPairTable {
 };
 static_assert(sizeof(SortPairTable) == 2048);
 
-// All steps of the sort trace under the name of the click.
-constexpr TraceName Click = "_SortCOMClicked";
-
 constexpr int SortButtons[] = {IDOK, IDCANCEL, IDC_RESTORE, IDC_SORT_COM};
+
+// The port's channel, and its names in the two copies of its record.
+using PortNamesTrace = TraceFormatFor<TraceName, u32, const WCHAR*, const WCHAR*>;
 
 // One of the three moves of an exchange: the code for its failure, and its lines in the trace.
 struct SortMove {
     u32 failureCode;
-    const char* settingsTrace;
-    const char* namesTrace;
+    [[no_unique_address]] PortNamesTrace settingsTrace;
+    [[no_unique_address]] PortNamesTrace namesTrace;
 };
 constexpr SortMove PartnerToTemporary = {FailureSortToTemporary,
                                          "%s - S1_2, CHL%d, move port settings, %ws -> %ws\n",
@@ -92,7 +92,7 @@ void AssignNewNumbers(BoardParams* board, const SortPairTable* table, u32 count)
     }
 }
 
-void TraceNumbers(const BoardParams* board, const char* heading) {
+void TraceNumbers(const BoardParams* board, TraceFormatFor<> heading) {
     TraceOut(heading);
     for (const BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
         if (IsUart(chl)) {
@@ -107,13 +107,13 @@ bool AnyNeedsMove(const BoardParams* board) {
     bool any = false;
     for (const BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
         if (NeedsMove(chl)) {
-            TraceOut("%s - ChlNumber:%d - COM%d -> COM%d\n", Click, chl->SortChlNumber, chl->SortCurrentCom,
-                     chl->SortNewCom);
+            TraceOut("%s - ChlNumber:%d - COM%d -> COM%d\n", TraceOperation(), chl->SortChlNumber,
+                     chl->SortCurrentCom, chl->SortNewCom);
             any = true;
         }
     }
     if (!any) {
-        TraceOut("%s - Don't need to swap COM number\n", Click);
+        TraceOut("%s - Don't need to swap COM number\n", TraceOperation());
     }
     return any;
 }
@@ -161,7 +161,8 @@ struct PortMove : PortRename {
 void PortNamed(const PortRename& rename) {
     const auto& moved = static_cast<const PortMove&>(rename);
     moved.port->SortCurrentCom = rename.newNumber;
-    TraceOut(moved.move->settingsTrace, Click, moved.port->SortChlNumber, rename.savedName, rename.newName);
+    TraceOut(moved.move->settingsTrace, TraceOperation(), moved.port->SortChlNumber, rename.savedName,
+             rename.newName);
 }
 
 // Moves one port to another number, and its records with it. False if the rename failed, and a box has said
@@ -175,30 +176,30 @@ bool MovePort(HWND dialog, BPPCHL* port, u32 to, const SortMove& move) {
         ErrorBoxShow(move.failureCode, sStatus, dialog, port->SortChlNumber, from, to);
         return false;
     }
-    TraceOut(move.namesTrace, Click, port->SortChlNumber, moved.savedName, moved.newName);
+    TraceOut(move.namesTrace, TraceOperation(), port->SortChlNumber, moved.savedName, moved.newName);
     return true;
 }
 
 // Exchanges the numbers of a channel and of its partner, which holds the number that the channel wants.
 bool ExchangePorts(HWND dialog, BPPCHL* chl, BPPCHL* partner, u32 temporary) {
-    TraceOut("%s - ----------------------------------------\n", Click);
-    TraceOut("%s - S1_1, CHL%d to AVL, COM%d -> COM%d\n", Click, partner->SortChlNumber,
+    TraceOut("%s - ----------------------------------------\n", TraceOperation());
+    TraceOut("%s - S1_1, CHL%d to AVL, COM%d -> COM%d\n", TraceOperation(), partner->SortChlNumber,
              partner->SortCurrentCom, temporary);
     if (!MovePort(dialog, partner, temporary, PartnerToTemporary)) {
         return false;
     }
     const u32 old = chl->SortCurrentCom;
-    TraceOut("%s - S2_1, CHL%d to CHL%d, COM%d -> COM%d\n", Click, chl->SortChlNumber, partner->SortChlNumber,
-             old, chl->SortNewCom);
+    TraceOut("%s - S2_1, CHL%d to CHL%d, COM%d -> COM%d\n", TraceOperation(), chl->SortChlNumber,
+             partner->SortChlNumber, old, chl->SortNewCom);
     if (!MovePort(dialog, chl, chl->SortNewCom, ChannelToFinal)) {
         return false;
     }
-    TraceOut("%s - S3_1, AVL to CHL%d, COM%d -> COM%d\n", Click, partner->SortChlNumber,
+    TraceOut("%s - S3_1, AVL to CHL%d, COM%d -> COM%d\n", TraceOperation(), partner->SortChlNumber,
              partner->SortCurrentCom, old);
     if (!MovePort(dialog, partner, old, PartnerFromTemporary)) {
         return false;
     }
-    TraceOut("%s - ----------------------------------------\n", Click);
+    TraceOut("%s - ----------------------------------------\n", TraceOperation());
     return true;
 }
 
@@ -222,7 +223,7 @@ void ExchangeAll(HWND dialog, BoardParams* board, u32 temporary) {
 bool MovePorts(HWND dialog, BoardParams* board) {
     u32 avlMaxTempComNumber = 0;
     const u32 sStatus = Kavro_COMPortGetMaxNumberAvailable(&avlMaxTempComNumber);
-    TraceOut("%s - avlMaxTempComNumber:%d\n", Click, avlMaxTempComNumber);
+    TraceOut("%s - avlMaxTempComNumber:%d\n", TraceOperation(), avlMaxTempComNumber);
     if (sStatus != 0) {
         ErrorBoxShow(FailureSortNoNumber, sStatus, dialog);
         return false;

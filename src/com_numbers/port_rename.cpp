@@ -44,20 +44,20 @@ u32 ChosenComNumber(HWND dialog, u32 oldNumber) {
     return selection != CB_ERR ? static_cast<u32>(selection) + 1 : oldNumber;
 }
 
-bool RenamePortForUser(HWND dialog, const RenameTerms& terms, const PortRename& rename, TraceName function) {
+bool RenamePortForUser(HWND dialog, const RenameTerms& terms, const PortRename& rename) {
     if (rename.newNumber == rename.oldNumber) {
-        TraceOut("%s - COM number not change\n", function);
+        TraceOut("%s - COM number not change\n", TraceOperation());
         return true;
     }
-    TraceOut("%s - COM number change\n", function);
-    TraceOut("%s - COM number [old:%d, new:%d]\n", function, rename.oldNumber, rename.newNumber);
+    TraceOut("%s - COM number change\n", TraceOperation());
+    TraceOut("%s - COM number [old:%d, new:%d]\n", TraceOperation(), rename.oldNumber, rename.newNumber);
     u32 nUserDialogChoice = IDNO;
     u32* answer = terms.mayTakeClaimed ? &nUserDialogChoice : nullptr;
     u32 sStatus = Kavro_COMPortCheckNumberInUse(rename.newNumber);
     if (sStatus != 0) {
         ErrorBoxShow(terms.numberInUse, sStatus, dialog, 0, 0, 0, answer);
         if (answer != nullptr) {
-            TraceOut("%s - 1, nUserDialogChoice:%d\n", function, nUserDialogChoice);
+            TraceOut("%s - 1, nUserDialogChoice:%d\n", TraceOperation(), nUserDialogChoice);
         }
         if (nUserDialogChoice != IDYES) {
             return false;
@@ -67,7 +67,7 @@ bool RenamePortForUser(HWND dialog, const RenameTerms& terms, const PortRename& 
     if (sStatus != 0) {
         ErrorBoxShow(terms.portOpened, sStatus, dialog, 0, 0, 0, answer);
         if (answer != nullptr) {
-            TraceOut("%s - 2, nUserDialogChoice:%d\n", function, nUserDialogChoice);
+            TraceOut("%s - 2, nUserDialogChoice:%d\n", TraceOperation(), nUserDialogChoice);
         }
         return false;
     }

@@ -39,5 +39,4 @@ u32 ChosenComNumber(HWND dialog, u32 oldNumber);
 
 // Takes the whole road for a user who has chosen a number in `dialog`. True if the port now has that number,
 // or had it before. False if it hasn't; a box over the dialog has said why, and nothing has changed.
-bool RenamePortForUser(HWND dialog, const RenameTerms& terms, const PortRename& rename,
-                       TraceName function = __builtin_FUNCTION());
+bool RenamePortForUser(HWND dialog, const RenameTerms& terms, const PortRename& rename);

@@ -168,6 +168,7 @@ bool BoardInitiate(BoardParams* board, u32* status) {
 
 void BoardEnumClass(BoardParams* board, BYTE* buffer, u32 bufferSize, HDEVINFO set,
                     const GUID* interfaceClass, u32 channelClass) {
+    TraceOut("----> %s( )\n", __func__);
     auto* detail = reinterpret_cast<SP_DEVICE_INTERFACE_DETAIL_DATA_W*>(buffer);
     const u32 pathCapacity =
         (bufferSize - offsetof(SP_DEVICE_INTERFACE_DETAIL_DATA_W, DevicePath)) / sizeof(WCHAR);
@@ -192,6 +193,7 @@ void BoardEnumClass(BoardParams* board, BYTE* buffer, u32 bufferSize, HDEVINFO s
             AddChannel(board, set, data, channelClass, info, detail->DevicePath, pathCapacity);
         }
     }
+    TraceOut("<---- %s\n", __func__);
 }
 
 void BoardDeinitiate(BoardParams* board) {

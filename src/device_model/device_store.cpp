@@ -104,29 +104,20 @@ void EndText(BYTE* field, u32 fieldBytes, u32 storedBytes) {
     }
 }
 
-template <SIZE_T Count>
-u32 ReadValues(HDEVINFO set, SP_DEVINFO_DATA* data, const StoreField (&fields)[Count], void* record,
-               TraceName function = __builtin_FUNCTION()) {
-    const HKEY key = OpenDeviceKey(set, data, function);
-    if (key == INVALID_HANDLE_VALUE) {
-        return StatusNoKey;
-    }
-    u32 sStatus = 0;
+template <SIZE_T Count> u32 ReadFrom(HKEY key, const StoreField (&fields)[Count], void* record) {
     for (const StoreField& field : fields) {
         auto* destination = static_cast<BYTE*>(record) + field.offset;
         DWORD length = field.bytes;
         const LSTATUS lStatus = RegQueryValueExW(key, field.name, nullptr, nullptr, destination, &length);
         if (lStatus != ERROR_SUCCESS) {
-            TraceOut("%s - RegQueryValueEx() fail, %ws, lStatus:%d\n", function, field.name, lStatus);
-            sStatus = StatusReadFailed;
-            break;
+            TraceOut("%s - RegQueryValueEx() fail, %ws, lStatus:%d\n", TraceOperation(), field.name, lStatus);
+            return StatusReadFailed;
         }
         if (field.text) {
             EndText(destination, field.bytes, length);
         }
     }
-    RegCloseKey(key);
-    return sStatus;
+    return 0;
 }
 
 // One value to be written, as a REG_DWORD.
@@ -135,34 +126,55 @@ struct StoreNumber {
     u32 value;
 };
 
-template <SIZE_T Count>
-u32 WriteValues(HDEVINFO set, SP_DEVINFO_DATA* data, const StoreNumber (&numbers)[Count],
-                TraceName function = __builtin_FUNCTION()) {
-    const HKEY key = OpenDeviceKey(set, data, function);
-    if (key == INVALID_HANDLE_VALUE) {
-        return StatusNoKey;
-    }
-    u32 sStatus = 0;
+template <SIZE_T Count> u32 WriteTo(HKEY key, const StoreNumber (&numbers)[Count]) {
     for (const StoreNumber& number : numbers) {
         const LSTATUS lStatus =
             RegSetValueExW(key, number.name, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&number.value),
                            sizeof(number.value));
         if (lStatus != ERROR_SUCCESS) {
-            TraceOut("%s - RegSetValueEx() fail, %ws, lStatus:%d\n", function, number.name, lStatus);
-            sStatus = StatusWriteFailed;
-            break;
+            TraceOut("%s - RegSetValueEx() fail, %ws, lStatus:%d\n", TraceOperation(), number.name, lStatus);
+            return StatusWriteFailed;
         }
     }
-    RegCloseKey(key);
+    return 0;
+}
+
+// The whole of an operation that reads; `operation` is its name.
+template <SIZE_T Count>
+u32 ReadValues(HDEVINFO set, SP_DEVINFO_DATA* data, const StoreField (&fields)[Count], void* record,
+               TraceName operation = __builtin_FUNCTION()) {
+    TraceOut("----> %s( )\n", operation);
+    u32 sStatus = StatusNoKey;
+    const HKEY key = OpenDeviceKey(set, data);
+    if (key != INVALID_HANDLE_VALUE) {
+        sStatus = ReadFrom(key, fields, record);
+        RegCloseKey(key);
+    }
+    TraceOut("<---- %s, sStatus:%d\n", operation, sStatus);
+    return sStatus;
+}
+
+// The same for one that writes.
+template <SIZE_T Count>
+u32 WriteValues(HDEVINFO set, SP_DEVINFO_DATA* data, const StoreNumber (&numbers)[Count],
+                TraceName operation = __builtin_FUNCTION()) {
+    TraceOut("----> %s( )\n", operation);
+    u32 sStatus = StatusNoKey;
+    const HKEY key = OpenDeviceKey(set, data);
+    if (key != INVALID_HANDLE_VALUE) {
+        sStatus = WriteTo(key, numbers);
+        RegCloseKey(key);
+    }
+    TraceOut("<---- %s, sStatus:%d\n", operation, sStatus);
     return sStatus;
 }
 
 } // namespace
 
-HKEY OpenDeviceKey(HDEVINFO set, SP_DEVINFO_DATA* data, TraceName function) {
+HKEY OpenDeviceKey(HDEVINFO set, SP_DEVINFO_DATA* data) {
     const HKEY key = SetupDiOpenDevRegKey(set, data, DICS_FLAG_GLOBAL, 0, DIREG_DEV, KEY_ALL_ACCESS);
     if (key == INVALID_HANDLE_VALUE) {
-        TraceOut("%s - SetupDiOpenDevRegKey() fail, GetLastError:%d\n", function, GetLastError());
+        TraceOut("%s - SetupDiOpenDevRegKey() fail, GetLastError:%d\n", TraceOperation(), GetLastError());
     }
     return key;
 }

@@ -34,4 +34,4 @@ u32 Kavro_RegUartSetAdvanceSettings(HDEVINFO set, SP_DEVINFO_DATA* data, u32 Uar
                                     u32 UartRS485Termination);
 
 // Opens a device's hardware key with full access. INVALID_HANDLE_VALUE on failure; the caller closes the key.
-HKEY OpenDeviceKey(HDEVINFO set, SP_DEVINFO_DATA* data, TraceName function = __builtin_FUNCTION());
+HKEY OpenDeviceKey(HDEVINFO set, SP_DEVINFO_DATA* data);

@@ -63,34 +63,35 @@ void PutReceiveSlider(HWND hDlg, u32 position, u32 level) {
     ShowFifoLabel(hDlg, IDC_RECEIVE_HIGH, IDS_HIGH, level);
 }
 
-void FollowFifoCheckBox(HWND hDlg, FifoSliders* sliders, TraceName function) {
+void FollowFifoCheckBox(HWND hDlg, FifoSliders* sliders) {
     const bool checked = IsDlgButtonChecked(hDlg, IDC_LARGEFIFO) == BST_CHECKED;
     if (checked) {
-        TraceOut("%s - FifoEnable CHECKED, RxFifoPos:%d, TxFifoPosTranslate:%d\n", function,
+        TraceOut("%s - FifoEnable CHECKED, RxFifoPos:%d, TxFifoPosTranslate:%d\n", TraceOperation(),
                  sliders->RxFifoPos, sliders->TxFifoPosTranslate);
         PutTransmitSlider(hDlg, sliders->TxFifoPosTranslate);
         sliders->RxFifoPosTranslate = RxStageOfPosition(sliders->RxFifo4Stage, sliders->RxFifoPos);
         PutReceiveSlider(hDlg, sliders->RxFifoPos, sliders->RxFifoPosTranslate);
     } else {
-        TraceOut("%s - FifoEnable UNCHECKED\n", function);
+        TraceOut("%s - FifoEnable UNCHECKED\n", TraceOperation());
         PutTransmitSlider(hDlg, 1);
         PutReceiveSlider(hDlg, 1, 1);
     }
     _EnableFifoControls(hDlg, checked);
 }
 
-void FollowFifoSlider(HWND hDlg, HWND slider, FifoSliders* sliders, TraceName function) {
+void FollowFifoSlider(HWND hDlg, HWND slider, FifoSliders* sliders) {
     switch (GetDlgCtrlID(slider)) {
     case IDC_RECEIVE_SLIDER:
         sliders->RxFifoPos = SliderPosition(hDlg, IDC_RECEIVE_SLIDER);
         sliders->RxFifoPosTranslate = RxStageOfPosition(sliders->RxFifo4Stage, sliders->RxFifoPos);
-        TraceOut("%s - IDC_RECEIVE_SLIDER, RxFifoPos:%d, RxFifoPosTranslate:%d\n", function,
+        TraceOut("%s - IDC_RECEIVE_SLIDER, RxFifoPos:%d, RxFifoPosTranslate:%d\n", TraceOperation(),
                  sliders->RxFifoPos, sliders->RxFifoPosTranslate);
         ShowFifoLabel(hDlg, IDC_RECEIVE_HIGH, IDS_HIGH, sliders->RxFifoPosTranslate);
         break;
     case IDC_TRANSMIT_SLIDER:
         sliders->TxFifoPosTranslate = SliderPosition(hDlg, IDC_TRANSMIT_SLIDER);
-        TraceOut("%s - IDC_TRANSMIT_SLIDER, TxFifoPosTranslate:%d\n", function, sliders->TxFifoPosTranslate);
+        TraceOut("%s - IDC_TRANSMIT_SLIDER, TxFifoPosTranslate:%d\n", TraceOperation(),
+                 sliders->TxFifoPosTranslate);
         ShowFifoLabel(hDlg, IDC_TRANSMIT_HIGH, IDS_HIGH, sliders->TxFifoPosTranslate);
         break;
     }
@@ -112,8 +113,8 @@ FifoValues _ReadFifoSliders(HWND hDlg, const UartBasicInfo& uart, const FifoSlid
     return values;
 }
 
-void TraceFifoValues(const FifoValues& values, TraceName function) {
-    TraceOut("%s - nFifoEnable:%d\n", function, values.UartFifoEnable);
-    TraceOut("%s - nTxFifoLowHigh:%d\n", function, values.UartTxFifoLowHigh);
-    TraceOut("%s - nRxFifoLowHigh:%d\n", function, values.UartRxFifoLowHigh);
+void TraceFifoValues(const FifoValues& values) {
+    TraceOut("%s - nFifoEnable:%d\n", TraceOperation(), values.UartFifoEnable);
+    TraceOut("%s - nTxFifoLowHigh:%d\n", TraceOperation(), values.UartTxFifoLowHigh);
+    TraceOut("%s - nRxFifoLowHigh:%d\n", TraceOperation(), values.UartRxFifoLowHigh);
 }

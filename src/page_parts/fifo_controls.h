@@ -33,16 +33,15 @@ void PutReceiveSlider(HWND hDlg, u32 position, u32 level);
 
 // Brings the sliders into line with the check box after a click: to the remembered positions, or to 1. The
 // remembered positions stay.
-void FollowFifoCheckBox(HWND hDlg, FifoSliders* sliders, TraceName function = __builtin_FUNCTION());
+void FollowFifoCheckBox(HWND hDlg, FifoSliders* sliders);
 
 // Remembers the position of a slider that has moved, and shows its level on the high label. Any other control
 // is ignored.
-void FollowFifoSlider(HWND hDlg, HWND slider, FifoSliders* sliders,
-                      TraceName function = __builtin_FUNCTION());
+void FollowFifoSlider(HWND hDlg, HWND slider, FifoSliders* sliders);
 
 // Reads the values from the controls. Each trigger level is raised to at least 1 and lowered to its bound,
 // which is the depth of the transmit FIFO or the highest receive stage.
 FifoValues _ReadFifoSliders(HWND hDlg, const UartBasicInfo& uart, const FifoSliders& sliders);
 
 // Traces the values that were read.
-void TraceFifoValues(const FifoValues& values, TraceName function = __builtin_FUNCTION());
+void TraceFifoValues(const FifoValues& values);

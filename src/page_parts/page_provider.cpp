@@ -48,20 +48,17 @@ HPROPSHEETPAGE CreatePage(int dialog, DLGPROC procedure, LPFNPSPCALLBACKW callba
     return CreatePropertySheetPageW(&page);
 }
 
-UINT AnswerPageCallback(UINT message, const PROPSHEETPAGEW* page, void (*releaseRecord)(void* record),
-                        TraceName function) {
-    TraceOut("----> %s( ), Message:%d\n", function, message);
+UINT AnswerPageCallback(UINT message, const PROPSHEETPAGEW* page, void (*releaseRecord)(void* record)) {
     UINT nReturn = 1;
     switch (message) {
     case PSPCB_CREATE:
-        TraceOut("%s - PSPCB_CREATE\n", function);
+        TraceOut("%s - PSPCB_CREATE\n", TraceOperation());
         break;
     case PSPCB_RELEASE:
-        TraceOut("%s - PSPCB_RELEASE\n", function);
+        TraceOut("%s - PSPCB_RELEASE\n", TraceOperation());
         releaseRecord(reinterpret_cast<void*>(page->lParam));
         nReturn = 0;
         break;
     }
-    TraceOut("<---- %s, nReturn:%d\n", function, nReturn);
     return nReturn;
 }

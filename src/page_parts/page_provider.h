@@ -25,18 +25,15 @@ bool ProvidePage(const PageKind& kind, const SP_PROPSHEETPAGE_REQUEST* request, 
 HPROPSHEETPAGE CreatePage(int dialog, DLGPROC procedure, LPFNPSPCALLBACKW callback, void* record);
 
 // Answers a message to a page's callback. At PSPCB_RELEASE `releaseRecord` gets the page's record.
-UINT AnswerPageCallback(UINT message, const PROPSHEETPAGEW* page, void (*releaseRecord)(void* record),
-                        TraceName function = __builtin_FUNCTION());
+UINT AnswerPageCallback(UINT message, const PROPSHEETPAGEW* page, void (*releaseRecord)(void* record));
 
 // Answers WM_NOTIFY to a page. At PSN_APPLY, the sheet's OK or Apply, `okClicked` runs if the page has been
 // initialised, and the sheet may close whatever its outcome. Any other notification gets false.
-template <typename Handler>
-bool AnswerNotify(HWND hDlg, LPARAM lParam, bool initiated, Handler okClicked,
-                  TraceName function = __builtin_FUNCTION()) {
+template <typename Handler> bool AnswerNotify(HWND hDlg, LPARAM lParam, bool initiated, Handler okClicked) {
     if (reinterpret_cast<const NMHDR*>(lParam)->code != PSN_APPLY) {
         return false;
     }
-    TraceOut("%s - PSN_APPLY, BasicSettingsDlgInitiateOK:%d\n", function, initiated);
+    TraceOut("%s - PSN_APPLY, BasicSettingsDlgInitiateOK:%d\n", TraceOperation(), initiated);
     if (initiated) {
         okClicked();
     }

@@ -1,10 +1,155 @@
-// The trace. Functions call it at their entry, their exit and their decisions. It goes nowhere.
+// The trace: what the library decides, a line each, at the entry and exit of its operations and where they
+// choose. The library that ships has none of it; a build with TRACE_LIVE passes each line to the sink that it
+// links (`trace_line.h`).
+//
+// A line begins with the name of its operation, or of none. "----> name" opens an operation and "<---- name"
+// closes it, on every path, so that lines nest like brackets; what a helper traces in between stands under
+// the name of the operation that it works for, `TraceOperation()`. Text operations, lookups and what only
+// computes trace nothing.
 #pragma once
 
-// The function under whose name a line stands. A helper that traces for its caller takes the caller's name
-// without being told, by a last parameter `TraceName function = __builtin_FUNCTION()`.
-using TraceName = const char*;
+#include <type_traits>
 
-// `format` is narrow, "%s" stands for a narrow name and "%ws" for UTF-16 text; every line ends in a line
-// feed.
-template <typename... Arguments> void TraceOut(const char* /*format*/, const Arguments&... /*arguments*/) {}
+#include "platform/platform.h"
+
+#ifdef TRACE_LIVE
+inline constexpr bool TraceIsLive = true;
+#else
+inline constexpr bool TraceIsLive = false;
+#endif
+
+struct NoTraceText {
+    constexpr NoTraceText(const char*) {}
+};
+// A narrow text of the trace; nothing where the trace is not live. A helper that is the whole of the
+// operation which calls it takes that one's name by a last parameter, `= __builtin_FUNCTION()`.
+using TraceName = std::conditional_t<TraceIsLive, const char*, NoTraceText>;
+
+// What a line can take. A bool, an enumeration and a number of 32 bits are Number32.
+enum class TraceKind : u32 { Narrow, Wide, Number32, Number64, Pointer };
+
+struct TraceConversion {
+    const char* letters; // behind the %
+    TraceKind kind;      // "p" takes a text's address too
+    u32 base;
+    u32 digits; // at least so many
+};
+inline constexpr TraceConversion TraceConversions[] = {
+    {"s", TraceKind::Narrow, 0, 0},       {"ws", TraceKind::Wide, 0, 0},
+    {"d", TraceKind::Number32, 10, 1},    {"03d", TraceKind::Number32, 10, 3},
+    {"08X", TraceKind::Number32, 16, 8},  {"I64d", TraceKind::Number64, 10, 1},
+    {"I64X", TraceKind::Number64, 16, 1}, {"p", TraceKind::Pointer, 16, 16},
+};
+
+// The conversion that stands behind a %, and in `after` the place behind it; null for any other.
+constexpr const TraceConversion* FindTraceConversion(const char* text, const char*& after) {
+    for (const TraceConversion& conversion : TraceConversions) {
+        const char* letter = conversion.letters;
+        const char* at = text;
+        while (*letter != 0 && *letter == *at) {
+            ++letter;
+            ++at;
+        }
+        if (*letter == 0) {
+            after = at;
+            return &conversion;
+        }
+    }
+    return nullptr;
+}
+
+template <typename Argument> consteval TraceKind TraceKindOf() {
+    using Plain = std::decay_t<Argument>;
+    if constexpr (std::is_same_v<Plain, TraceName>) {
+        return TraceKind::Narrow;
+    } else if constexpr (std::is_pointer_v<Plain>) {
+        using Pointed = std::remove_cv_t<std::remove_pointer_t<Plain>>;
+        static_assert(!std::is_function_v<Pointed>);
+        return std::is_same_v<Pointed, char>    ? TraceKind::Narrow
+               : std::is_same_v<Pointed, WCHAR> ? TraceKind::Wide
+                                                : TraceKind::Pointer;
+    } else {
+        static_assert(std::is_integral_v<Plain> || std::is_enum_v<Plain>);
+        static_assert(std::is_same_v<Plain, bool> || sizeof(Plain) == 4 || sizeof(Plain) == 8);
+        return sizeof(Plain) == 8 ? TraceKind::Number64 : TraceKind::Number32;
+    }
+}
+
+// Never defined: a wrong format calls one of them while it is checked, and does not compile.
+void TraceFormatHasUnknownConversion();
+void TraceFormatNeedsAnotherArgument();
+void TraceFormatNeedsArgumentOfAnotherKind();
+void TraceFormatLeavesArgumentsOver();
+void TraceFormatNeedsLineFeedAtItsEnd();
+
+consteval void CheckTraceFormat(const char* format, const TraceKind* kinds, u32 count) {
+    u32 next = 0;
+    char last = 0;
+    while (*format != 0) {
+        last = *format++;
+        if (last != '%') {
+            continue;
+        }
+        const TraceConversion* conversion = FindTraceConversion(format, format);
+        if (conversion == nullptr) {
+            return TraceFormatHasUnknownConversion();
+        }
+        if (next == count) {
+            return TraceFormatNeedsAnotherArgument();
+        }
+        const TraceKind kind = kinds[next++];
+        const bool isAddress = kind == TraceKind::Narrow || kind == TraceKind::Wide;
+        if (conversion->kind != kind && !(conversion->kind == TraceKind::Pointer && isAddress)) {
+            return TraceFormatNeedsArgumentOfAnotherKind();
+        }
+    }
+    if (next != count) {
+        return TraceFormatLeavesArgumentsOver();
+    }
+    if (last != '\n') {
+        return TraceFormatNeedsLineFeedAtItsEnd();
+    }
+}
+
+// A format, checked when it is compiled against the kinds of its arguments. It keeps its text only where the
+// trace is live; elsewhere it is empty.
+template <TraceKind... Kinds> struct TraceFormat {
+    [[no_unique_address]] TraceName text;
+
+    consteval TraceFormat(const char* format) : text(format) {
+        constexpr TraceKind kinds[] = {Kinds..., TraceKind::Pointer};
+        CheckTraceFormat(format, kinds, sizeof...(Kinds));
+    }
+};
+
+template <typename... Arguments> using TraceFormatFor = TraceFormat<TraceKindOf<Arguments>()...>;
+
+// One value of a line.
+union TraceArgument {
+    const void* pointer;
+    u64 number;
+
+    TraceArgument(const void* value) : pointer(value) {}
+    template <typename T>
+    requires(!std::is_pointer_v<T>) TraceArgument(T value) : number(static_cast<u64>(value)) {}
+};
+
+// The name of the innermost operation that is open; "" outside all.
+const char* TraceOperation();
+void TraceLine(const char* format, const TraceArgument* arguments);
+
+template <typename... Arguments>
+void TraceLineOf(const TraceFormatFor<Arguments...>& format, const Arguments&... arguments) {
+    const TraceArgument list[] = {arguments..., 0u};
+    TraceLine(format.text, list);
+}
+
+// TraceOut(format, arguments...) traces one line. Conversions: "%s" a narrow name, "%ws" a UTF-16 text, "%d",
+// "%03d" and "%08X" 32 bits, "%I64d" and "%I64X" 64 bits, "%p" a pointer. Where the trace is not live the
+// arguments are checked, but not evaluated.
+#define TraceOut(...)                                                                                        \
+    do {                                                                                                     \
+        if constexpr (TraceIsLive) {                                                                         \
+            TraceLineOf(__VA_ARGS__);                                                                        \
+        }                                                                                                    \
+    } while (false)

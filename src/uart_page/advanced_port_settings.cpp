@@ -140,18 +140,18 @@ void _RestoreDefaultClicked(HWND hDlg, UartAdvancedParams* params) {
 }
 
 // Returns the status of the write, and 0 if the values are those that were read when the dialog opened.
-u32 WriteFifoValues(UartAdvancedParams* params, const FifoValues& values,
-                    TraceName function = __builtin_FUNCTION()) {
+u32 WriteFifoValues(UartAdvancedParams* params, const FifoValues& values) {
     const FifoValues old = FifoValuesOf(params->UartBasicInfo);
     if (SameFifoValues(values, old)) {
-        TraceOut("%s - fifo settings not change\n", function);
+        TraceOut("%s - fifo settings not change\n", TraceOperation());
         return 0;
     }
-    TraceOut("%s - fifo settings change\n", function);
-    TraceOut("%s - FifoEnable [old:%d, new:%d]\n", function, old.UartFifoEnable, values.UartFifoEnable);
-    TraceOut("%s - TxFifoLowHigh [old:%d, new:%d]\n", function, old.UartTxFifoLowHigh,
+    TraceOut("%s - fifo settings change\n", TraceOperation());
+    TraceOut("%s - FifoEnable [old:%d, new:%d]\n", TraceOperation(), old.UartFifoEnable,
+             values.UartFifoEnable);
+    TraceOut("%s - TxFifoLowHigh [old:%d, new:%d]\n", TraceOperation(), old.UartTxFifoLowHigh,
              values.UartTxFifoLowHigh);
-    TraceOut("%s - RxFifoLowHigh [old:%d, new:%d]\n", function, old.UartRxFifoLowHigh,
+    TraceOut("%s - RxFifoLowHigh [old:%d, new:%d]\n", TraceOperation(), old.UartRxFifoLowHigh,
              values.UartRxFifoLowHigh);
     return Kavro_RegUartSetFifoSettings(params->DeviceInfoSet, params->DeviceInfoData, values.UartFifoEnable,
                                         values.UartTxFifoLowHigh, values.UartRxFifoLowHigh);

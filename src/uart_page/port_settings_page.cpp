@@ -97,22 +97,22 @@ void _RestoreDefaultClicked(HWND hDlg) {
 }
 
 // Handles the commands other than a change of a selection.
-bool ButtonClicked(HWND hDlg, UartPageParams* params, int id, TraceName function = __builtin_FUNCTION()) {
+bool ButtonClicked(HWND hDlg, UartPageParams* params, int id) {
     switch (id) {
     case IDCANCEL:
-        TraceOut("%s - IDCANCEL\n", function);
+        TraceOut("%s - IDCANCEL\n", TraceOperation());
         EndDialog(hDlg, 0);
         return true;
     case IDC_ADVANCED:
-        TraceOut("%s - IDC_ADVANCED\n", function);
+        TraceOut("%s - IDC_ADVANCED\n", TraceOperation());
         _AdvancedClicked(hDlg, params);
         return true;
     case IDC_RESTORE_PORT:
-        TraceOut("%s - IDC_RESTORE_PORT\n", function);
+        TraceOut("%s - IDC_RESTORE_PORT\n", TraceOperation());
         _RestoreDefaultClicked(hDlg);
         return true;
     default:
-        TraceOut("%s - DEFAULT:%d\n", function, id);
+        TraceOut("%s - DEFAULT:%d\n", TraceOperation(), id);
         return false;
     }
 }

@@ -44,10 +44,10 @@ bool ComposeFromCombos(HWND dialog, WCHAR* line, u32 capacity, PortSettings& set
 
 } // namespace
 
-void SelectBaudRate(HWND dialog, const WCHAR* text, TraceName function) {
+void SelectBaudRate(HWND dialog, const WCHAR* text) {
     const LRESULT found = SendDlgItemMessageW(dialog, IDC_BAUD_RATE, CB_FINDSTRING, static_cast<WPARAM>(-1),
                                               reinterpret_cast<LPARAM>(text));
-    TraceOut("%s - Search baudrate index, shIndex:%d\n", function, static_cast<INT>(found));
+    TraceOut("%s - Search baudrate index, shIndex:%d\n", TraceOperation(), static_cast<INT>(found));
     SendDlgItemMessageW(dialog, IDC_BAUD_RATE, CB_SETCURSEL, found != CB_ERR ? static_cast<WPARAM>(found) : 0,
                         0);
 }

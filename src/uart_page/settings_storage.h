@@ -18,7 +18,7 @@ bool _SaveSettings(HWND dialog, const WCHAR* key, const UartPageParams* params);
 
 // Selects the first item of the baud rate combo that begins with `text`, or the first item of all if none
 // does.
-void SelectBaudRate(HWND dialog, const WCHAR* text, TraceName function = __builtin_FUNCTION());
+void SelectBaudRate(HWND dialog, const WCHAR* text);
 
 // Selects the items of the other four combos.
 void SelectSettings(HWND dialog, const PortSettings& settings);

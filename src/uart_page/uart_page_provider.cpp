@@ -68,7 +68,10 @@ void ReleaseUartRecord(void* record) {
 }
 
 UINT CALLBACK UartBasicDlgCallback(HWND, UINT message, LPPROPSHEETPAGEW page) {
-    return AnswerPageCallback(message, page, ReleaseUartRecord);
+    TraceOut("----> %s( ), Message:%d\n", __func__, message);
+    const UINT nReturn = AnswerPageCallback(message, page, ReleaseUartRecord);
+    TraceOut("<---- %s, nReturn:%d\n", __func__, nReturn);
+    return nReturn;
 }
 
 HPROPSHEETPAGE _InitUartBasicSettingsPage(void* params) {

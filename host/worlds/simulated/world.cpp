@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <iterator>
 #include <sstream>
 #include <tuple>
 
@@ -56,6 +57,10 @@ struct MachineMoment : Moment {
 BOOL CALLBACK AddPage(HPROPSHEETPAGE page, LPARAM pages) {
     reinterpret_cast<std::vector<HPROPSHEETPAGE>*>(pages)->push_back(page);
     return TRUE;
+}
+
+std::string JournalLine(const sim::JournalEntry& entry) {
+    return std::string{entry.name} + ' ' + entry.detail + (entry.failed ? " (failed)" : "");
 }
 
 } // namespace
@@ -179,11 +184,24 @@ bool SimulatedWorld::RunSheet(const std::string& id, const std::function<void(HW
 
 std::vector<std::string> SimulatedWorld::Journal() {
     std::vector<std::string> lines;
-    for (const sim::JournalEntry& entry : machine_.journal) {
-        lines.push_back(std::string{entry.name} + ' ' + entry.detail + (entry.failed ? " (failed)" : ""));
-    }
+    std::ranges::transform(machine_.journal, std::back_inserter(lines), JournalLine);
     machine_.journal.clear();
+    told_ = 0;
     return lines;
+}
+
+bool SimulatedWorld::HearTrace(TraceListener hear) {
+    told_ = machine_.journal.size();
+    machine_.trace = nullptr;
+    if (hear) {
+        machine_.trace = [this, hear = std::move(hear)](std::string_view line) {
+            for (; told_ < machine_.journal.size(); ++told_) {
+                hear(JournalLine(machine_.journal[told_]), true);
+            }
+            hear(std::string(line.substr(0, line.find('\n'))), false);
+        };
+    }
+    return true;
 }
 
 UINT SimulatedWorld::BoxStyle(HWND box) {

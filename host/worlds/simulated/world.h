@@ -26,6 +26,7 @@ public:
     PortRecords Ports() override;
     bool RunSheet(const std::string& id, const std::function<void(HWND front)>& attend) override;
     std::vector<std::string> Journal() override;
+    bool HearTrace(TraceListener hear) override;
     UINT BoxStyle(HWND box) override;
     bool HasUnsavedChanges() override;
     bool Export(const std::string& file, std::string& error) override;
@@ -44,6 +45,7 @@ private:
     sim::Machine& machine_;
     sim::Machine saved_; // the data of the machine as it was read or last exported
     sim::Scope scope_;
+    std::size_t told_ = 0; // lines of the journal that whoever hears the trace has been told
 };
 
 } // namespace host

@@ -14,6 +14,7 @@ namespace host {
 namespace {
 
 std::vector<std::string> journal;
+World::TraceListener trace_listener;
 std::map<HKEY, std::string> keys; // the keys that the library holds, by what the journal calls them
 
 struct OpenBox {
@@ -38,6 +39,7 @@ NEXT(ComDBClaimPort);
 NEXT(WriteProfileStringW);
 NEXT(SendNotifyMessageW);
 NEXT(MessageBoxW);
+NEXT(OutputDebugStringA);
 #undef NEXT
 
 // Writes the line down and makes the call.
@@ -48,6 +50,9 @@ template <class Call> auto Journaled(std::string line, const Call& call) {
     const auto result = call();
     if (TakeFault()) {
         journal[at] += " (failed)";
+    }
+    if (trace_listener) {
+        trace_listener(journal[at], true);
     }
     return result;
 }
@@ -191,6 +196,14 @@ int WINAPI ObservedMessageBoxW(HWND owner, LPCWSTR text, LPCWSTR caption, UINT s
     return answer;
 }
 
+void WINAPI ObservedOutputDebugStringA(LPCSTR text) {
+    if (trace_listener) {
+        const std::string line = text;
+        trace_listener(line.substr(0, line.find('\n')), false);
+    }
+    NextOutputDebugStringA(text);
+}
+
 template <class Function>
 void ObserveCall(HMODULE library, const char* name, Function* observer, Function*& next) {
     if (void* const stood = Redirect(library, name, reinterpret_cast<void*>(observer))) {
@@ -221,11 +234,17 @@ void Observe(HMODULE library) {
     OBSERVE(WriteProfileStringW);
     OBSERVE(SendNotifyMessageW);
     OBSERVE(MessageBoxW);
+    OBSERVE(OutputDebugStringA);
 #undef OBSERVE
 }
 
 std::vector<std::string> TakeJournal() {
     return std::exchange(journal, {});
+}
+
+bool ObserveTrace(World::TraceListener hear) {
+    trace_listener = std::move(hear);
+    return NextOutputDebugStringA != nullptr;
 }
 
 UINT OpenBoxStyle(HWND box) {

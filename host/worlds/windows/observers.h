@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/platform.h"
+#include "host/worlds/world.h"
 
 namespace host {
 
@@ -14,6 +14,9 @@ void Observe(HMODULE library);
 
 // The lines since the last call.
 std::vector<std::string> TakeJournal();
+
+// As `World::HearTrace`.
+bool ObserveTrace(World::TraceListener hear);
 
 // The style that an open message box was opened with, 0 if `box` is none.
 UINT OpenBoxStyle(HWND box);

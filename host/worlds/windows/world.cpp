@@ -265,6 +265,8 @@ public:
 
     std::vector<std::string> Journal() override { return TakeJournal(); }
 
+    bool HearTrace(TraceListener hear) override { return ObserveTrace(std::move(hear)); }
+
     UINT BoxStyle(HWND box) override { return OpenBoxStyle(box); }
 
     bool HasUnsavedChanges() override { return false; }

@@ -135,6 +135,7 @@ struct Machine {
 
     std::vector<JournalEntry> journal;
     bool journal_reads = true; // false: only Reach::Write is journaled, for long runs; everything is counted
+    std::function<void(std::string_view line)> trace; // hears each line of the library's trace
     FaultPlan faults;
     Operator user;
     std::vector<ShownBox> boxes;

@@ -1,0 +1,11 @@
+// The trace of the library on the simulated machine: whoever set `Machine::trace` hears it.
+#include "platform/simulated/machine.h"
+#include "reporting/live_trace/trace_line.h"
+
+bool TraceIsHeard() {
+    return sim::Current().trace != nullptr;
+}
+
+void PassTraceLine(const char* line, u32 length) {
+    sim::Current().trace(std::string_view(line, length));
+}

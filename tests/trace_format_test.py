@@ -1,0 +1,61 @@
+#!/usr/bin/env python3
+"""A line whose format and arguments disagree does not compile, whether the trace is live or not.
+
+    trace_format_test.py COMPILER"""
+import pathlib
+import re
+import subprocess
+import sys
+import unittest
+
+SOURCE = pathlib.Path(__file__).resolve().parents[1] / "src"
+COMPILER = sys.argv.pop(1)
+IS_CLANG = "clang" in subprocess.run([*COMPILER.split(), "--version"], capture_output=True, text=True).stdout
+
+# The lines stand in a function of these.
+FUNCTION = """#include "reporting/trace.h"
+struct Row { u32 number; TraceFormat<TraceKind::Narrow, TraceKind::Number32> format; };
+constexpr Row rows[] = {{1, "%%s - %%d\\n"}};
+void Function(WCHAR* text, u64 wide, bool flag, BYTE small, Row* record) {
+    WCHAR buffer[4] = {};
+    %s
+}
+"""
+RIGHT = [
+    r'"----> %s( )\n", __func__',
+    r'"%s - %ws, %ws, %d\n", TraceOperation(), text, buffer, flag',
+    r'"%03d %08X %I64d %I64X\n", 1, 2u, wide, sizeof(wide)',
+    r'"x%p, x%p\n", record, text',
+    r'rows[0].format, __func__, GetLastError()',
+    r'"-----\n"',
+]
+WRONG = [
+    r'"%s\n"', r'"%d, %d\n", 1', r'"%s\n", __func__, 1',
+    r'"%s\n", text', r'"%ws\n", __func__', r'"%d\n", __func__', r'"%s\n", 1',
+    r'"%d\n", wide', r'"%I64d\n", 1', r'"%I64X\n", 1u', r'"%d\n", small', r'"%d\n", 1.0',
+    r'"%p\n", 1', r'"%d\n", record', r'"%x\n", 1', r'"%02d\n", 1', r'"100%\n"',
+    r'"%s - no line feed", __func__', r'reinterpret_cast<const char*>(record), 1', r'rows[0].format, 1, 1',
+]
+
+
+
+def compiled(lines, live):
+    """Whether a function of these lines compiles, and the lines that the compiler complains of."""
+    source = FUNCTION % "\n    ".join(f"TraceOut({line});" for line in lines)
+    done = subprocess.run([*COMPILER.split(), "-std=c++20", f"-I{SOURCE}", "-fsyntax-only", "-x", "c++", "-",
+                           *(["-DTRACE_LIVE"] if live else []), *(["-ferror-limit=0"] if IS_CLANG else [])],
+                          input=source, capture_output=True, text=True)
+    named = {int(number) for number in re.findall(r"<stdin>:(\d+):", done.stderr)}
+    return done.returncode == 0, {line[len("    TraceOut("):-len(");")] for number, line in enumerate(source.splitlines(), 1)
+                                  if number in named and "TraceOut(" in line}
+
+
+class TraceFormats(unittest.TestCase):
+    def test_wrong_lines_do_not_compile_and_right_ones_do(self):
+        for live in (False, True):
+            self.assertEqual(compiled(RIGHT, live), (True, set()))
+            self.assertEqual(compiled(WRONG, live), (False, set(WRONG)))
+
+
+if __name__ == "__main__":
+    unittest.main()
