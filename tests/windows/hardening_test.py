@@ -4,6 +4,7 @@
 Takes the folder of the build from KVR_WINDOWS_BUILD; build/windows without it."""
 import os
 import pathlib
+import re
 import unittest
 
 import pe
@@ -68,6 +69,18 @@ class Hardening(unittest.TestCase):
         version = resources[pe.RT_VERSION, 1, 1033]
         signature, _, high, low = pe.unpack("IIII", version, version.index(b"\xbd\x04\xef\xfe"))
         self.assertEqual((signature, high, low), (0xFEEF04BD, 0x00010000, 0))
+
+    def test_traces_nothing(self):
+        table = re.sub(r'"\s+"', "", (ROOT / "tests/trace_reader.cpp").read_text())
+        rows = re.findall(r'\{"([^"]*)\\n",\s*"([^"]*)"\}', table)
+        self.assertEqual(len(rows), 115)
+        exported = set(self.image.exports().values())
+        for form, names in rows:
+            for piece in [*re.split(r"%(?:ws|s|03d|08X|I64d|d|p)", form), *(set(names.split()) - exported)]:
+                if len(piece) > 5 and piece != ", COM%d":
+                    self.assertNotIn(piece.rstrip("*").encode(), self.image.data, form)
+        # Only lines of the trace tell the last error.
+        self.assertNotIn("GetLastError", [name for names in self.image.imports().values() for name in names])
 
     def test_is_small_and_holds_no_trace_of_its_making(self):
         data = self.image.data

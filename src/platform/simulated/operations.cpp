@@ -36,7 +36,9 @@ Machine& Current() {
     return *current;
 }
 
-Scope::Scope(Machine& machine) : before_(std::exchange(current, &machine)) {}
+Scope::Scope(Machine& machine) : before_(std::exchange(current, &machine)) {
+    SetLastError(ERROR_SUCCESS);
+}
 Scope::~Scope() {
     current = before_;
 }
