@@ -42,7 +42,7 @@ WRONG = [
 def compiled(lines, live):
     """Whether a function of these lines compiles, and the lines that the compiler complains of."""
     source = FUNCTION % "\n    ".join(f"TraceOut({line});" for line in lines)
-    done = subprocess.run([*COMPILER.split(), "-std=c++20", f"-I{SOURCE}", "-fsyntax-only", "-x", "c++", "-",
+    done = subprocess.run([*COMPILER.split(), "-std=c++20", "-DKVR_SIMULATED", f"-I{SOURCE}", "-fsyntax-only", "-x", "c++", "-",
                            *(["-DTRACE_LIVE"] if live else []), *(["-ferror-limit=0"] if IS_CLANG else [])],
                           input=source, capture_output=True, text=True)
     named = {int(number) for number in re.findall(r"<stdin>:(\d+):", done.stderr)}
