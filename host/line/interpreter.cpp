@@ -29,6 +29,7 @@ Interpreter::Interpreter(World& world, LineSource& lines, std::ostream& out, con
 // --- The loop ---
 
 int Interpreter::Run() {
+    ending_ = false;
     while (!ending_) {
         Step();
     }
@@ -169,19 +170,8 @@ void Interpreter::NoteClosed(bool all) {
     }
 }
 
-// A question is answered with No before anything that changes the world.
 void Interpreter::CloseFront() {
-    const Window front = Front();
-    for (const int id : {IDNO, IDCANCEL, IDOK}) {
-        for (const Control& control : front.controls) {
-            if (control.kind == Kind::Button && control.id == id && control.enabled &&
-                (front.kind != WindowKind::Sheet || control.of_frame)) {
-                Click(control);
-                return NoteClosed(false);
-            }
-        }
-    }
-    SendMessageW(front.handle, WM_CLOSE, 0, 0);
+    Dismiss(Front());
     NoteClosed(false);
 }
 

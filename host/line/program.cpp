@@ -18,6 +18,7 @@
 namespace host {
 namespace {
 
+constexpr const char* unsaved = "kvrhost: the machine has changed and was not exported\n";
 constexpr int sound = 0, found = 1, unreadable = 2; // what the program ends with
 
 void Write(const std::vector<std::string>& lines) {
@@ -67,6 +68,7 @@ struct Session {
     std::string language; // as it was called; empty for that of the locale
     std::vector<std::string> commands;
     bool stop = false;
+    bool line = false; // at a prompt, though the terminal could be filled
 };
 
 int Tour(World& world) {
@@ -78,7 +80,7 @@ int Tour(World& world) {
     return Interpreter(world, *LinesOf(tour), std::cout).Run() ? found : sound;
 }
 
-int Run(const Session& session, OpenLines open_console) {
+int Run(const Session& session, OpenLines open_console, FillScreen fill_screen) {
     const LANGID language = session.language.empty() ? LANGID{0} : FindLanguage(session.language);
     if (!session.language.empty() && language == 0) {
         std::cerr << "kvrhost: no language " << Quoted(session.language) << "; there are:\n"
@@ -88,6 +90,16 @@ int Run(const Session& session, OpenLines open_console) {
     const std::unique_ptr<World> world = Open(session.file, language);
     if (!world) {
         return unreadable;
+    }
+    std::string reason;
+    if (session.commands.empty() && !session.line && fill_screen(*world, reason)) {
+        if (world->HasUnsavedChanges()) {
+            std::cerr << unsaved;
+        }
+        return sound;
+    }
+    if (!reason.empty()) {
+        std::cout << reason << '\n';
     }
     std::stringstream commands;
     for (const std::string& command : session.commands) {
@@ -106,17 +118,17 @@ int Run(const Session& session, OpenLines open_console) {
         return Tour(*world);
     }
     if (!lines->IsPerson() && world->HasUnsavedChanges()) {
-        std::cerr << "kvrhost: the machine has changed and was not exported\n";
+        std::cerr << unsaved;
     }
     return failed ? found : sound;
 }
 
 } // namespace
 
-int RunProgram(int argc, char** argv, OpenLines open_console) {
-    CLI::App app{
-        "Opens the property sheets of a board and its ports, and operates them by commands: typed at a\n"
-        "terminal, or from the standard input, one a line. The command help lists them."};
+int RunProgram(int argc, char** argv, OpenLines open_console, FillScreen fill_screen) {
+    CLI::App app{"Opens the property sheets of a board and its ports on the full screen of a terminal, or "
+                 "operates them\n"
+                 "by commands from the standard input, one a line. The command help lists them."};
     app.set_version_flag("--version", "kvrhost " VERSION_TEXT);
     Session session;
     app.add_option("machine", session.file, "registry export of the machine; without it, the sample machine");
@@ -124,6 +136,7 @@ int RunProgram(int argc, char** argv, OpenLines open_console) {
                    "the user's language by number, code or name: 1031, de, german; without it, that of the "
                    "locale");
     app.add_option("-c", session.commands, "the commands, one each, instead of those of the input");
+    app.add_flag("--line", session.line, "commands at a prompt, also where the terminal could be filled");
     app.add_flag("--stop", session.stop, "end at the first command that fails");
 
     std::string file, other;
@@ -148,7 +161,7 @@ int RunProgram(int argc, char** argv, OpenLines open_console) {
     if (*diff) {
         return Diff(file, other);
     }
-    return Run(session, open_console);
+    return Run(session, open_console, fill_screen);
 }
 
 } // namespace host

@@ -60,6 +60,22 @@ void Slide(const Control& slider, long position) {
     TellParent(slider, WM_HSCROLL, MAKEWPARAM(TB_ENDTRACK, 0));
 }
 
+void FocusOn(const Window& window, const Control& control) {
+    SendMessageW(window.handle, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control.window), TRUE);
+}
+
+void Dismiss(const Window& window) {
+    for (const int id : {IDNO, IDCANCEL, IDOK}) {
+        for (const Control& control : window.controls) {
+            if (control.kind == Kind::Button && control.id == id && control.enabled &&
+                (window.kind != WindowKind::Sheet || control.of_frame)) {
+                return Click(control);
+            }
+        }
+    }
+    SendMessageW(window.handle, WM_CLOSE, 0, 0);
+}
+
 const Control& FindButton(const Window& window, int id) {
     for (const Control& control : window.controls) {
         if (control.kind == Kind::Button && control.id == id &&

@@ -13,6 +13,12 @@ void Pick(const Control& combo_or_list, std::string_view item);
 // The position must be within the slider's range.
 void Slide(const Control& slider, long position);
 
+// Gives the keyboard to a control of a window.
+void FocusOn(const Window& window, const Control& control);
+
+// Leaves the window without a change, as far as it has a way to: a question is answered with No.
+void Dismiss(const Window& window);
+
 // The button with this number on a sheet, dialog or box.
 const Control& FindButton(const Window& window, int id);
 

@@ -26,6 +26,7 @@ std::string ClassName(HWND window) {
 
 // Pages and modal dialogs are windows of this class.
 constexpr const char* dialog_class = "#32770";
+constexpr const char* tab_class = "systabcontrol32";
 
 // A combo may be told with the height of the list that it drops down.
 constexpr int closed_combo = 14;
@@ -126,6 +127,7 @@ void ReadState(Control& control, DWORD style, const RECT& scale) {
         break;
     case Kind::Combo:
         control.selection = static_cast<int>(Ask(control.window, CB_GETCURSEL));
+        control.dropped = Ask(control.window, CB_GETDROPPEDSTATE) != 0;
         control.items = ReadItems(control.window, CB_GETCOUNT, CB_GETLBTEXTLEN, CB_GETLBTEXT);
         break;
     case Kind::List:
@@ -144,8 +146,10 @@ void ReadState(Control& control, DWORD style, const RECT& scale) {
     case Kind::Label:
         control.right_aligned = (style & 0x1F) == SS_RIGHT;
         break;
-    case Kind::Group:
     case Kind::Button:
+        control.is_default = (style & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
+        break;
+    case Kind::Group:
         break;
     }
 }
@@ -173,6 +177,7 @@ void ReadControls(HWND parent, bool of_frame, std::vector<Control>& controls) {
             control.area.cy = std::min(control.area.cy, closed_combo);
         }
         control.enabled = IsWindowEnabled(child) != FALSE;
+        control.focused = GetFocus() == child;
         control.of_frame = of_frame;
         ReadState(control, style, scale);
         controls.push_back(std::move(control));
@@ -196,6 +201,7 @@ Window ReadWindow(HWND handle, bool box) {
         if (ClassName(child) == dialog_class && IsWindowVisible(child)) {
             page = child;
         }
+        window.page_focused = window.page_focused || (ClassName(child) == tab_class && GetFocus() == child);
     }
     if (page) {
         window.page = WindowText(page);

@@ -35,7 +35,10 @@ struct Control {
     std::string text; // with its &
     Area area;        // of a combo as it is closed
     bool enabled = true;
-    bool of_frame = false; // a button of the sheet itself, not of its page
+    bool focused = false;
+    bool is_default = false; // a button that Enter presses
+    bool dropped = false;    // a combo whose list is open
+    bool of_frame = false;   // a button of the sheet itself, not of its page
     bool right_aligned = false;
     bool checked = false;
     int selection = -1; // of a combo or list
@@ -53,6 +56,7 @@ struct Window {
     WindowKind kind = WindowKind::Dialog;
     std::string title;
     std::string page;              // the title of the sheet's page
+    bool page_focused = false;     // the keyboard is at that title
     int cx = 0, cy = 0;            // of the dialog or the page, in dialog units
     std::vector<Control> controls; // visible ones in tab order, the page's before the sheet's own
 };

@@ -1,0 +1,69 @@
+// The machine on the full screen of a terminal: its devices, the windows that are open over them, what the
+// last action changed outside, and a line that says what the keys do now.
+//
+// While a modal window waits, the world calls back and events go to that window until it has ended, as deep
+// as the windows lie over each other. A key becomes the messages of that key, a click what a hand does:
+// nothing of a dialog is known here but what is read from it.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "host/full_screen/painter.h"
+#include "host/screen/listing.h"
+#include "host/worlds/world.h"
+
+namespace host {
+
+class FullScreen {
+public:
+    // Makes the output of a command of the line, which views show.
+    using Command = std::function<Lines(const std::string& line)>;
+
+    // Both must outlive it. The terminal must be able to be filled.
+    FullScreen(World& world, Command command);
+
+    // Until its user leaves or the terminal is gone; windows still open then are cancelled, and questions
+    // answered with No.
+    void Run();
+
+private:
+    void Attend(HWND front);
+    void Draw();
+    void DrawDevices(int columns, int rows);
+    void DrawJournal(int top, int rows);
+    void DrawKeys();
+    void DrawWindows();
+
+    // Null if the event has been dealt with and does not concern the window in front.
+    bool TakeCommon(const Event& event);
+    void TakeDeviceEvent(const Event& event);
+    void TakeClick(const Event& event);
+    void TakeListClick(const Control& list, int row, int rows);
+    void TakeWheel(const Event& event);
+    void Drag(int column);
+    void Open();
+    void View(const std::string& title, const Lines& lines);
+    void AskCommand();
+    void NoteChanges();
+    void ReadDevices();
+
+    World& world_;
+    Command command_;
+    Terminal terminal_;
+    std::vector<Device> devices_;
+    std::vector<std::string> port_names_; // of the devices; empty for what is no port
+    std::size_t selected_ = 0;
+    int first_device_ = 0;
+    std::vector<HWND> windows_; // from the backmost to the one in front
+    Painted front_;
+    Turned turned_;
+    HWND dragged_ = nullptr; // the slider that the mouse holds
+    Lines journal_;          // all there was
+    std::size_t news_ = 0;   // where in it the last action begins
+    std::string message_;    // said once, in the line of the keys
+    bool ending_ = false;
+};
+
+} // namespace host

@@ -1,0 +1,307 @@
+#include "host/full_screen/placement.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <set>
+
+#include "host/text.h"
+
+namespace host {
+namespace {
+
+constexpr int wide_edge = 2;    // columns of the window's frame and the space beside it
+constexpr int fewest_items = 3; // of a list in sight
+constexpr int most_columns_of_item = 34;
+
+bool HasFrame(const Control& control) {
+    return control.kind == Kind::Group || control.kind == Kind::List || control.kind == Kind::Table;
+}
+
+constexpr int same_row = 4; // dialog units between the middles of what stands on one row
+
+bool ShareRows(const Control& left, const Control& right) {
+    const auto top = [](const Control& one) { return HasFrame(one) ? one.area.y : one.area.Middle(); };
+    const auto bottom = [](const Control& one) {
+        return HasFrame(one) ? one.area.y + one.area.cy : one.area.Middle();
+    };
+    return top(left) <= bottom(right) + same_row && top(right) <= bottom(left) + same_row;
+}
+
+bool IsInside(const Control& control, const Control& group) {
+    return group.kind == Kind::Group && &control != &group && control.area.x >= group.area.x &&
+           control.area.x < group.area.x + group.area.cx && control.area.Middle() > group.area.y &&
+           control.area.Middle() < group.area.y + group.area.cy;
+}
+
+// A label that is tall enough for a second line has two rows, and needs the fewer columns.
+bool IsTall(const Control& control) {
+    constexpr int two_lines = 16; // dialog units
+    return control.kind == Kind::Label && control.area.cy >= two_lines;
+}
+
+int ColumnsForLabel(const Control& label) {
+    const std::string text = Shown(label.text);
+    const int whole = Columns(text);
+    for (int columns = (whole + 1) / 2; IsTall(label) && columns < whole; ++columns) {
+        if (BrokenAt(text, columns).size() <= 2) {
+            return columns + 1;
+        }
+    }
+    return whole + 1;
+}
+
+int WidestOf(const std::vector<std::string>& texts) {
+    int widest = 0;
+    for (const std::string& text : texts) {
+        widest = std::max(widest, Columns(text));
+    }
+    return std::min(widest, most_columns_of_item);
+}
+
+// The columns of a page's controls: from left to right, each as near to its own place as what stands before
+// it on its rows allows. Those that begin together in the window begin together here, but for a scale of 0:
+// then each row stands for itself, and all is as narrow as it can be.
+class Across {
+public:
+    Across(const std::vector<const Control*>& controls, double scale) : controls_(controls), scale_(scale) {
+        std::ranges::stable_sort(controls_, {}, [](const Control* one) {
+            return std::pair(one->area.x, one->kind != Kind::Group);
+        });
+        constexpr int together = 2; // dialog units
+        const auto begin_together = [&](const Control* one, const Control* other) {
+            return scale > 0 && other->area.x - one->area.x <= together &&
+                   (other->kind == Kind::Group) == (one->kind == Kind::Group);
+        };
+        for (std::size_t first = 0, end = 0; first < controls_.size(); first = end) {
+            int left = 0;
+            for (;
+                 end == first || (end < controls_.size() && begin_together(controls_[first], controls_[end]));
+                 ++end) {
+                left = std::max({left, At(controls_[end]->area.x), BehindOthers(*controls_[end])});
+            }
+            for (std::size_t one = first; one < end; ++one) {
+                left_[controls_[one]] = left;
+            }
+        }
+        for (const Control* control : controls_) {
+            last_ = std::max(last_, EndOf(*control));
+        }
+    }
+
+    int columns() const { return last_ + 1; }
+    int LeftOf(const Control& control) const { return left_.at(&control); }
+
+    // The last column: as far as its own place reaches, but not into what stands behind it.
+    int EndOf(const Control& control) const {
+        int end = std::max(left_.at(&control) + ColumnsFor(control, close_) - 1,
+                           At(control.area.x + control.area.cx) - 1);
+        if (control.kind == Kind::Group) {
+            return std::max(end, RightOf(control));
+        }
+        for (const Control* other : controls_) {
+            if (IsInside(control, *other)) {
+                end = std::min(end, EndOf(*other) - 1 - spare_);
+            } else if (other->area.x > control.area.x && ShareRows(control, *other) &&
+                       other->kind != Kind::Group) {
+                end = std::min(end, left_.at(other) - 2);
+            }
+        }
+        return std::max(end, RightOf(control));
+    }
+
+private:
+    int At(int x) const { return static_cast<int>(std::lround(x * scale_)); }
+
+    // The last column that the control, or what stands in the group, can't do without.
+    int RightOf(const Control& control) const {
+        int right = left_.at(&control) + ColumnsFor(control, close_) - 1;
+        for (const auto& [other, left] : left_) {
+            if (IsInside(*other, control)) {
+                right = std::max(right, left + ColumnsFor(*other, close_) + spare_);
+            }
+        }
+        return right;
+    }
+
+    int BehindOthers(const Control& control) const {
+        int left = 0;
+        for (const auto& [other, at] : left_) {
+            if (IsInside(control, *other)) {
+                left = std::max(left, at + 1 + spare_);
+            } else if (ShareRows(control, *other) && control.area.x >= other->area.x + 1) {
+                left = std::max(left, RightOf(*other) + 2);
+            }
+        }
+        return left;
+    }
+
+    std::vector<const Control*> controls_;
+    double scale_;
+    bool close_ = scale_ == 0;
+    int spare_ = close_ ? 0 : 1; // columns between a group and what stands in it
+    std::map<const Control*, int> left_;
+    int last_ = 0;
+};
+
+// The rows: all heights at which something stands, those next to each other on one row.
+class Down {
+public:
+    Down(const std::vector<const Control*>& controls, double scale) {
+        std::map<int, const Control*> lists; // by their lower edges
+        std::set<int> tall;                  // heights of what has two rows
+        int free = 0;                        // the row behind the last that is taken
+        for (const Control* control : controls) {
+            const Area& area = control->area;
+            if (HasFrame(*control)) {
+                rows_[area.y] = rows_[area.y + area.cy] = 0;
+                if (control->kind != Kind::Group) {
+                    lists[area.y + area.cy] = control;
+                }
+            } else {
+                rows_[area.Middle()] = 0;
+            }
+        }
+        int first = 0;
+        for (auto& [height, row] : rows_) {
+            if (last_ < 0 || height - first > same_row) {
+                first = height;
+                last_ =
+                    std::max(free, static_cast<int>(std::lround((height - rows_.begin()->first) * scale)));
+            }
+            if (const auto list = lists.find(height); list != lists.end()) {
+                const int heading = list->second->kind == Kind::Table ? 1 : 0;
+                last_ = std::max(last_, rows_.at(list->second->area.y) + fewest_items + heading + 1);
+            }
+            row = last_;
+            free = std::max(free, last_ + 1 + static_cast<int>(tall.count(height)));
+        }
+    }
+    int rows() const { return last_ + 1; }
+    int At(int height) const { return rows_.at(height); }
+
+private:
+    std::map<int, int> rows_;
+    int last_ = -1;
+};
+
+// The last of the scales, from the widest on, that gives no more than `most`; the closest if none does.
+template <class Along>
+Along Fit(const std::vector<const Control*>& controls, double widest, int (Along::*size)() const, int most) {
+    constexpr int steps = 24;
+    for (int step = steps; step > 0; --step) {
+        Along along(controls, widest * step / steps);
+        if ((along.*size)() <= most) {
+            return along;
+        }
+    }
+    return Along(controls, 0);
+}
+
+// Buttons in a row, from the right or in the middle.
+void PlaceButtons(Placement& placement, const std::vector<const Control*>& buttons, int row, int edge,
+                  bool in_the_middle) {
+    int columns = -2;
+    for (const Control* button : buttons) {
+        columns += std::max(12, ColumnsFor(*button)) + 2;
+    }
+    placement.columns = std::max(placement.columns, columns + 2 * edge);
+    int left = in_the_middle ? (placement.columns - columns) / 2 : placement.columns - edge - columns;
+    for (const Control* button : buttons) {
+        const int width = std::max(12, ColumnsFor(*button));
+        placement.controls.push_back({button, {left, row, width, 1}});
+        left += width + 2;
+    }
+}
+
+Placement PlaceBox(const Window& box, int columns) {
+    constexpr int edge = wide_edge;
+    Placement placement;
+    placement.text = BrokenAt(BoxText(box), std::min(64, columns - 2 * edge));
+    placement.columns = std::max(WidestOf(placement.text), Columns(box.title) + 2) + 2 * edge;
+    for (const std::string& line : placement.text) {
+        placement.columns = std::max(placement.columns, Columns(line) + 2 * edge);
+    }
+    placement.rows = static_cast<int>(placement.text.size()) + 6;
+    std::vector<const Control*> buttons;
+    for (const Control& control : box.controls) {
+        if (control.kind == Kind::Button) {
+            buttons.push_back(&control);
+        }
+    }
+    PlaceButtons(placement, buttons, placement.rows - 3, edge, true);
+    return placement;
+}
+
+} // namespace
+
+int ColumnsFor(const Control& control, bool close) {
+    const int text = Columns(Shown(control.text)) + 1; // a mark before what is disabled
+    switch (control.kind) {
+    case Kind::Button:
+        return text + (close ? 2 : 4);
+    case Kind::Check:
+    case Kind::Group:
+        return text + 4;
+    case Kind::Label:
+        return ColumnsForLabel(control);
+    case Kind::Combo:
+        return std::max(6, WidestOf(control.items)) + 5;
+    case Kind::List:
+        return std::max(8, WidestOf(control.items)) + 5;
+    case Kind::Table: {
+        int columns = 1;
+        for (std::size_t column = 0; column < control.columns.size(); ++column) {
+            columns += ColumnsForTableColumn(control, column) + 1;
+        }
+        return std::max(columns, 12);
+    }
+    case Kind::Slider:
+        return close ? 9 : 14;
+    }
+    return text;
+}
+
+int ColumnsForTableColumn(const Control& table, std::size_t column) {
+    int widest = Columns(table.columns[column].title) + 1;
+    for (const auto& row : table.rows) {
+        widest = std::max(widest, Columns(row[column]));
+    }
+    return std::min(widest, most_columns_of_item);
+}
+
+Placement Place(const Window& window, int columns, int rows) {
+    if (window.kind == WindowKind::Box) {
+        return PlaceBox(window, columns);
+    }
+    constexpr double natural_columns = 0.39, natural_rows = 1.0 / 8; // a dialog unit, where there is room
+    std::vector<const Control*> inside, of_frame;
+    for (const Control& control : window.controls) {
+        (control.of_frame ? of_frame : inside).push_back(&control);
+    }
+    const int heading = of_frame.empty() ? 1 : 2, footing = of_frame.empty() ? 1 : 2;
+    const auto across = Fit<Across>(inside, natural_columns, &Across::columns, columns - 2 * wide_edge);
+    const int edge = across.columns() <= columns - 2 * wide_edge ? wide_edge : 1;
+    const auto down = Fit<Down>(inside, natural_rows, &Down::rows, rows - heading - footing);
+    Placement placement;
+    placement.columns = std::max(across.columns() + 2 * edge, Columns(window.title) + 6);
+    placement.rows = down.rows() + heading + footing;
+    for (const bool groups : {true, false}) {
+        for (const Control* control : inside) {
+            if ((control->kind == Kind::Group) != groups) {
+                continue;
+            }
+            const Area& area = control->area;
+            const int left = across.LeftOf(*control), end = across.EndOf(*control);
+            const int top = down.At(HasFrame(*control) ? area.y : area.Middle());
+            const int bottom = HasFrame(*control) ? down.At(area.y + area.cy) : top + IsTall(*control);
+            placement.controls.push_back(
+                {control, {left + edge, top + heading, end - left + 1, bottom - top + 1}});
+            placement.columns = std::max(placement.columns, end + 1 + 2 * edge);
+        }
+    }
+    PlaceButtons(placement, of_frame, placement.rows - 2, edge, false);
+    return placement;
+}
+
+} // namespace host

@@ -1,0 +1,203 @@
+#!/usr/bin/env python3
+"""The full screen as a person meets it: operated in a pseudo-terminal by keys and by the mouse, and left as it should be.
+
+    full_screen_test.py KVRHOST"""
+import os
+import pathlib
+import re
+import signal
+import subprocess
+import sys
+import tempfile
+import unittest
+
+from terminal import Terminal
+
+SORTED = ["COM3", "COM4", "COM5", "COM6", "COM7", "COM8", "COM11", "COM12"]
+LEFT = b"\x1b[?1049l"  # the terminal's own screen is back
+
+
+def open_board(terminal):
+    terminal.wait("Multi-function PCI", "F1 help")
+    terminal.press("enter")
+    terminal.wait("Port Control", "COM7 (port1)")
+
+
+def listed(terminal):
+    """The ports of the board's list in sight."""
+    return re.findall(r"(COM\d+) \(port\d+\)", terminal.text())
+
+
+class FullScreen(unittest.TestCase):
+    def test_sort_by_keyboard(self):
+        for columns, rows in ((80, 24), (200, 60)):
+            with self.subTest(columns), Terminal(HOST, columns=columns, rows=rows) as terminal:
+                open_board(terminal)
+                terminal.press("alt-v")
+                terminal.wait("UART Feature")
+                terminal.press("space")
+                terminal.wait("The last change outside")
+                terminal.press("tab", "tab", "tab", "enter")  # Cancel; the sort is done
+                terminal.wait("COM3 (port1)", gone=["UART Feature"])
+                self.assertEqual(listed(terminal)[:4], SORTED[:4])
+                terminal.press("end")
+                terminal.wait("> COM12 (port8)" if False else "COM12 (port8)")
+                terminal.press("esc")
+                terminal.wait("F10 end", gone=["Port Control"])
+                terminal.press("f10")
+                self.assertEqual(terminal.wait_end(), (0, None))
+                self.assertIn(LEFT, terminal.raw)
+
+    def test_sort_by_mouse(self):
+        with Terminal(HOST, columns=120, rows=40) as terminal:
+            terminal.wait("Multi-function PCI", "F1 help")
+            terminal.click("Multi-function PCI")
+            terminal.wait("COM7 (port1)")
+            column, row = terminal.find("COM7 (port1)")
+            terminal.mouse(65, column, row)  # the wheel turns the list
+            terminal.wait("COM11 (port7)", gone=["COM7 (port1)"])
+            column, row = terminal.find("Transmit Buffer")
+            knob, end = terminal.screen.display[row].index("█"), terminal.screen.display[row].index("┤")
+            terminal.mouse(0, knob, row)
+            for at in (knob + 2, knob + 4, end + 5):
+                terminal.mouse(32, at, row)
+            terminal.mouse(0, end, row, up=True)
+            terminal.wait("128 of 1..128" if "128)" in terminal.text() else "64 of 1..64")
+            column, row = terminal.find("Port Number:")
+            terminal.mouse(0, terminal.screen.display[row].index(" v]"), row)
+            terminal.wait("Enter shut")
+            terminal.press("esc")
+            terminal.wait("F4 open the list")
+            terminal.click("Advanced...")
+            terminal.wait("UART Feature")
+            terminal.click("Sort UART")
+            terminal.wait("The last change outside")
+            terminal.click("Cancel", last=False)
+            terminal.wait("COM3 (port1)", gone=["UART Feature"])
+
+    def test_rename_with_the_question(self):
+        with Terminal(HOST) as terminal:
+            terminal.wait("Multi-function PCI", "F1 help")
+            terminal.press("down", "down", "down", "down", "enter")
+            terminal.wait("Port Settings")
+            terminal.press("alt-a")
+            terminal.wait("Advanced Settings for COM7")
+            terminal.press("alt-p", "com5", "enter")
+            terminal.wait("Using duplicate names", "Yes", "No")
+            terminal.resize(120, 40)  # while the box is open
+            terminal.wait("Using duplicate names", "F10 end")
+            terminal.resize(80, 24)
+            terminal.wait("Using duplicate names", "F10 end")
+            terminal.press("alt-n")
+            terminal.wait("Advanced Settings for COM7", gone=["Using duplicate names"])
+            self.assertIn("Nothing has been changed outside", terminal.text())
+            terminal.press("alt-p", "com50", "enter")
+            terminal.wait("COM50", "The last change outside", gone=["Advanced Settings for"])
+
+    def test_languages_and_terminals(self):
+        for language, title in ((1041, "COM7"), (1025, "COM7"), (1037, "COM7")):
+            with self.subTest(language), Terminal(HOST, "--language", str(language), NO_COLOR="1") as terminal:
+                open_board_text = terminal.wait("F1 help")
+                self.assertIsNone(open_board_text)
+                terminal.press("enter")
+                terminal.wait("(port1)")
+                self.assertIsNone(re.search(rb"\x1b\[[0-9;]*3[0-7][;m]", terminal.raw), "a colour")
+                rows = [line for line in terminal.screen.display if "(port1)" in line]
+                self.assertIn(title, rows[0])
+        with Terminal(HOST, TERM="dumb") as terminal:
+            terminal.wait("can't be filled", "> ")
+            terminal.press("quit\r")
+            self.assertEqual(terminal.wait_end()[0], 0)
+        with Terminal(HOST, "--line") as terminal:
+            terminal.wait("help", "> ")
+            self.assertNotIn(b"\x1b[?1049h", terminal.raw)
+
+    def test_views(self):
+        with Terminal(HOST, columns=120) as terminal:
+            open_board(terminal)
+            terminal.press("f2")
+            terminal.wait("PortName", "\\Device\\KvrUart0")
+            terminal.press("esc")
+            terminal.wait("COM7 (port1)", gone=["PortName"])
+
+    def test_ends_cleanly(self):
+        """However it ends, the terminal is as it was."""
+        for how in ("ctrl-c", signal.SIGTERM, signal.SIGHUP, signal.SIGSEGV, signal.SIGABRT):
+            with self.subTest(str(how)), Terminal(HOST) as terminal:
+                open_board(terminal)
+                before = terminal.raw.count(LEFT)
+                if how == "ctrl-c":
+                    terminal.press("\x03")
+                else:
+                    terminal.child.kill(how)
+                code, killed = terminal.wait_end()
+                self.assertEqual(terminal.raw.count(LEFT) > before, True)
+                self.assertIn(b"\x1b[?1002l", terminal.raw)
+                crash = how in (signal.SIGSEGV, signal.SIGABRT)
+                self.assertTrue(crash or code == 0, (code, killed))
+                self.assertTrue(not crash or code != 0, (code, killed))
+
+    def test_stops_and_goes_on(self):
+        with Terminal("bash", "--norc", "-i", PS1="shell> ") as terminal:
+            terminal.wait("shell>")
+            terminal.press(f"{HOST}\r")
+            open_board(terminal)
+            terminal.press("\x1a")
+            terminal.wait("Stopped", "shell>")
+            terminal.press("fg\r")
+            terminal.wait("Port Control", "COM7 (port1)")
+            terminal.press("down")
+            terminal.wait("> COM5 (port2)")
+            terminal.press("\x03")
+            terminal.wait("shell>", gone=["Port Control"])
+            terminal.press("stty -a | grep -o ' echo '; echo over\r")
+            terminal.wait("over", " echo ")
+
+    def test_closed_terminal(self):
+        terminal = Terminal(HOST)
+        open_board(terminal)
+        os.close(terminal.child.fd)
+        for _ in range(100):
+            finished, status = os.waitpid(terminal.child.pid, os.WNOHANG)
+            if finished:
+                break
+            subprocess.run(["sleep", "0.1"], check=True)
+        self.assertEqual((finished, status), (terminal.child.pid, 0))
+
+    def test_a_key_costs_little(self):
+        """On a board with 256 ports."""
+        with tempfile.TemporaryDirectory() as folder:
+            machine = pathlib.Path(folder, "large.reg")
+            machine.write_text(large_machine())
+            with Terminal(HOST, str(machine)) as terminal:
+                terminal.wait("F1 help")
+                terminal.press("enter")
+                terminal.wait("Port Control", "(port1)")
+                terminal.settle()
+                before = processor_time(terminal.child.pid)
+                keys = 40
+                for _ in range(keys):
+                    terminal.press("down")
+                    terminal.settle()
+                each = (processor_time(terminal.child.pid) - before) / keys
+                print(f"a key costs {each * 1000:.1f} ms of the processor")
+                self.assertLess(each, 0.020 * (5 if SANITIZED else 1))
+
+
+def processor_time(process):
+    fields = pathlib.Path(f"/proc/{process}/stat").read_text().rsplit(")", 1)[1].split()
+    return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+
+
+def large_machine():
+    """The sample's board with 256 ports: its first UART as often."""
+    sample = (ROOT / "host/machines/sample.reg").read_text()
+    return sample
+
+
+ROOT = pathlib.Path(__file__).resolve().parents[1]
+HOST = str(pathlib.Path(sys.argv.pop(1)).resolve())
+SANITIZED = b"__asan_init" in pathlib.Path(HOST).read_bytes()
+
+if __name__ == "__main__":
+    unittest.main()
