@@ -221,16 +221,13 @@ Event Terminal::Suspend() {
 // Esc alone is a key; the letter behind it is a hot key, whether the terminal sends the two for Alt or a hand
 // does.
 Event Terminal::OfEscape() {
-    if (const auto next = Read(escape_wait)) {
-        if (next->kind == Event::Kind::Key &&
-            (next->key.letter != 0 || next->key.code == VK_DOWN || next->key.code == VK_UP)) {
-            Event event = *next;
-            event.key.alt = true;
-            return event;
-        }
-        if (next->kind != Event::Kind::Key) {
-            return *next;
-        }
+    pending_ = Read(escape_wait);
+    const bool is_key = pending_ && pending_->kind == Event::Kind::Key;
+    if (is_key &&
+        (pending_->key.letter != 0 || pending_->key.code == VK_DOWN || pending_->key.code == VK_UP)) {
+        Event event = *std::exchange(pending_, {});
+        event.key.alt = true;
+        return event;
     }
     return *OfKey({VK_ESCAPE});
 }
@@ -248,7 +245,8 @@ std::optional<Event> Terminal::OfMouse() {
     } else if (mouse.bstate & BUTTON5_PRESSED) {
         event.kind = Event::Kind::WheelDown;
     } else if (mouse.bstate & BUTTON1_PRESSED) {
-        event.kind = std::exchange(pressed_, true) ? Event::Kind::Drag : Event::Kind::Press;
+        pressed_ = true;
+        event.kind = Event::Kind::Press;
     } else if (mouse.bstate & BUTTON1_RELEASED) {
         pressed_ = false;
         event.kind = Event::Kind::Release;
@@ -262,6 +260,9 @@ std::optional<Event> Terminal::OfMouse() {
 
 // The next event; nothing if there is none so long. A negative time waits for ever.
 std::optional<Event> Terminal::Read(int milliseconds) {
+    if (pending_) {
+        return std::exchange(pending_, {});
+    }
     for (;;) {
         if (ending) {
             return EndEvent();

@@ -65,6 +65,7 @@ private:
     Event OfEscape();
     std::optional<Event> OfMouse();
 
+    std::optional<Event> pending_; // what came behind an Esc that was none of its own
     bool cursor_ = false;
     bool pressed_ = false; // the mouse's button is down
 };

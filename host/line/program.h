@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "host/line/console.h"
+#include "host/worlds/world.h"
 
 namespace host {
 
