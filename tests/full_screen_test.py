@@ -39,6 +39,7 @@ class FullScreen(unittest.TestCase):
                 terminal.wait("The last change outside")
                 terminal.press("tab", "tab", "tab", "enter")  # Cancel; the sort is done
                 terminal.wait("COM3 (port1)", gone=["UART Feature"])
+                terminal.settle()
                 self.assertEqual(listed(terminal)[:4], SORTED[:4])
                 terminal.press("home", "com12")
                 terminal.wait("> COM12 (port8)")
@@ -84,13 +85,13 @@ class FullScreen(unittest.TestCase):
             terminal.press("alt-a")
             terminal.wait("Advanced Settings for COM7")
             terminal.press("alt-p", "home", "com5", "enter")
-            terminal.wait("Using duplicate names", "Yes", "No")
+            terminal.wait("This COM name is being", "Yes", "No")
             terminal.resize(120, 40)  # while the box is open
-            terminal.wait("Using duplicate names", "F10 end")
+            terminal.wait("This COM name is being", "F10 end")
             terminal.resize(80, 24)
-            terminal.wait("Using duplicate names", "F10 end")
+            terminal.wait("This COM name is being", "F10 end")
             terminal.press("alt-n")
-            terminal.wait("Advanced Settings for COM7", gone=["Using duplicate names"])
+            terminal.wait("Advanced Settings for COM7", gone=["This COM name is being"])
             self.assertIn("Nothing has been changed outside", terminal.text())
             terminal.press("alt-p", "home", "com50", "enter")
             terminal.wait("COM50", "The last change outside", gone=["Advanced Settings for"])
@@ -192,9 +193,19 @@ def processor_time(process):
 
 
 def large_machine():
-    """The sample's board with 256 ports: its first UART as often."""
+    """The sample machine with more ports on its first board: 256 in all, each made like the first."""
     sample = (ROOT / "host/machines/sample.reg").read_text()
-    return sample
+    board, rest = sample.split('"BoardNrController"=dword:0000000e', 1)
+    port = re.search(r"^\[[^\n]*KVRBUS.UART.5&2B7D41E6&0&01\]\n.*?(?=^\[[^\n]*UART.5&2B7D41E6&0&02\])", sample, re.S | re.M)[0]
+    entry = re.compile(r"(^\[[^\n]*##\?#KVRBUS#UART#5&2B7D41E6&0&)01(#.*?)(?=^\[[^\n]*##\?#KVRBUS#UART#5&2B7D41E6&0&02#)", re.S | re.M)
+    made = []
+    for number in range(14, 257):
+        here = port.replace("5&2B7D41E6&0&01", f"5&2B7D41E6&0&{number:03}").replace("COM7", f"COM{number}")
+        made.append(re.sub(r'"ChlNumber"=dword:0*1\b', f'"ChlNumber"=dword:{number:08x}', here))
+        found = entry.search(sample)
+        if found:
+            made.append(found[0].replace("5&2B7D41E6&0&01", f"5&2B7D41E6&0&{number:03}"))
+    return board + '"BoardNrController"=dword:00000101' + rest + "\n" + "\n".join(made)
 
 
 ROOT = pathlib.Path(__file__).resolve().parents[1]

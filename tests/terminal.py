@@ -65,6 +65,8 @@ class Terminal:
         self.child.send(f"\x1b[<{button};{column + 1};{row + 1}{'m' if up else 'M'}")
 
     def click(self, text, last=False):
+        self.wait(text)
+        self.settle()
         column, row = self.find(text, last)
         self.mouse(0, column, row)
         self.mouse(0, column, row, up=True)

@@ -353,8 +353,7 @@ void FullScreen::DrawJournal(int top, int rows) {
 }
 
 void FullScreen::DrawKeys() {
-    std::string keys = "Up/Down choose  Enter open  F1 help  F2 ports  F3 store  F5 journal  F6 command  F7 "
-                       "diagnosis  F10 end";
+    std::string keys = "Up/Down choose  Enter open  F1 help  F2 ports  F3 store  F5 journal  F10 end";
     if (!windows_.empty()) {
         keys = KeysOf(FocusedOf(front_.window));
         keys += (keys.empty() ? "" : "  ") +
