@@ -51,12 +51,8 @@ int ColumnsForLabel(const Control& label) {
     return whole + 1;
 }
 
-int WidestOf(const std::vector<std::string>& texts) {
-    int widest = 0;
-    for (const std::string& text : texts) {
-        widest = std::max(widest, Columns(text));
-    }
-    return std::min(widest, most_columns_of_item);
+int WidestItem(const Control& list) {
+    return std::min(list.widest_item, most_columns_of_item);
 }
 
 // The columns of a page's controls: from left to right, each as near to its own place as what stands before
@@ -218,7 +214,7 @@ Placement PlaceBox(const Window& box, int columns) {
     constexpr int edge = wide_edge;
     Placement placement;
     placement.text = BrokenAt(BoxText(box), std::min(64, columns - 2 * edge));
-    placement.columns = std::max(WidestOf(placement.text), Columns(box.title) + 2) + 2 * edge;
+    placement.columns = Columns(box.title) + 2 + 2 * edge;
     for (const std::string& line : placement.text) {
         placement.columns = std::max(placement.columns, Columns(line) + 2 * edge);
     }
@@ -246,9 +242,9 @@ int ColumnsFor(const Control& control, bool close) {
     case Kind::Label:
         return ColumnsForLabel(control);
     case Kind::Combo:
-        return std::max(6, WidestOf(control.items)) + 5;
+        return std::max(6, WidestItem(control)) + 5;
     case Kind::List:
-        return std::max(8, WidestOf(control.items)) + 5;
+        return std::max(8, WidestItem(control)) + 5;
     case Kind::Table: {
         int columns = 1;
         for (std::size_t column = 0; column < control.columns.size(); ++column) {

@@ -180,6 +180,9 @@ void ReadControls(HWND parent, bool of_frame, std::vector<Control>& controls) {
         control.focused = GetFocus() == child;
         control.of_frame = of_frame;
         ReadState(control, style, scale);
+        for (const std::string& item : control.items) {
+            control.widest_item = std::max(control.widest_item, Columns(item));
+        }
         controls.push_back(std::move(control));
     }
 }

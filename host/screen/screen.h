@@ -43,6 +43,7 @@ struct Control {
     bool checked = false;
     int selection = -1; // of a combo or list
     std::vector<std::string> items;
+    int widest_item = 0; // columns
     bool ticks = false;
     int position = 0, minimum = 0, maximum = 0; // of a slider
     std::vector<TableColumn> columns;
