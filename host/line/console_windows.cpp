@@ -5,12 +5,10 @@
 
 #include <algorithm>
 #include <iostream>
-#include <sstream>
 #include <thread>
 
 #include "host/line/console.h"
 #include "host/worlds/windows/attendance.h"
-#include "host/worlds/windows/standins/faults.h"
 
 namespace host {
 namespace {
@@ -18,12 +16,18 @@ namespace {
 class Console : public LineSource {
 public:
     Console() {
-        SetConsoleCP(CP_UTF8);
+        // Ctrl-C gives the line up and ends nothing.
+        SetConsoleCtrlHandler([](DWORD event) -> BOOL { return event == CTRL_C_EVENT; }, TRUE);
         // Reads a line each time it is asked to; it may still wait for one when the program ends.
         std::thread([this] {
             for (bool open = true; open;) {
                 WaitForSingleObject(wanted_, INFINITE);
+                line_.clear();
                 open = static_cast<bool>(std::getline(std::cin, line_));
+                if (!open && GetLastError() == ERROR_OPERATION_ABORTED) {
+                    std::cin.clear();
+                    open = true;
+                }
                 at_end_ = !open;
                 SetEvent(typed_);
             }
@@ -68,28 +72,23 @@ private:
     bool waiting_ = false; // a line has been asked for and not yet come
 };
 
-// A script can say what trouble it wants: "# fail: DefineDosDeviceW 2" makes the second call of that
-// operation from there on fail, "# remote" puts its devices on another machine.
-class Script : public LineSource {
+// The console speaks UTF-8 for the life of the program and is left as it was found.
+class Utf8Console {
 public:
-    std::optional<std::string> Next(const std::string& prompt) override {
-        std::optional<std::string> line = lines_->Next(prompt);
-        if (line && line->starts_with("# fail: ")) {
-            std::istringstream words(line->substr(8));
-            std::string operation;
-            int count = 1;
-            words >> operation >> count;
-            if (!FailCall(operation, std::max(count, 1))) {
-                std::cerr << "kvrhost: nothing makes " << operation << " fail\n";
-            }
-        } else if (line == "# remote") {
-            PretendRemote();
-        }
-        return line;
+    Utf8Console() {
+        SetConsoleCP(CP_UTF8);
+        SetConsoleOutputCP(CP_UTF8);
     }
+    ~Utf8Console() {
+        SetConsoleCP(input_before_);
+        SetConsoleOutputCP(output_before_);
+    }
+    Utf8Console(const Utf8Console&) = delete;
+    Utf8Console& operator=(const Utf8Console&) = delete;
 
 private:
-    std::unique_ptr<LineSource> lines_ = LinesOf(std::cin);
+    const UINT input_before_ = GetConsoleCP();
+    const UINT output_before_ = GetConsoleOutputCP();
 };
 
 } // namespace
@@ -98,12 +97,12 @@ std::unique_ptr<LineSource> OpenConsole() {
     if (_isatty(_fileno(stdin)) && _isatty(_fileno(stdout))) {
         return std::make_unique<Console>();
     }
-    return std::make_unique<Script>();
+    return LinesOf(std::cin);
 }
 
 // The lines end as they do everywhere else.
 void OpenOutput() {
-    SetConsoleOutputCP(CP_UTF8);
+    static const Utf8Console utf8;
     _setmode(_fileno(stdin), _O_BINARY);
     _setmode(_fileno(stdout), _O_BINARY);
 }

@@ -35,7 +35,7 @@ def run(script):
         prefix.import_machine(ROOT / (said(lines, "machine") or "host/machines/sample.reg"))
         language = said(lines, "language")
         options = ["--language", language] if language else []
-        transcript, _ = prefix.run("kvrhost.exe", *options, input=script.read_bytes(), timeout=120)
+        transcript, _ = prefix.run("kvrhost_test.exe", *options, input=script.read_bytes(), timeout=120)
         return comparable(transcript)
 
 

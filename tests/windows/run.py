@@ -13,7 +13,7 @@ from wine import ROOT, Prefix
 def main(machine):
     with Prefix(display=os.environ.get("DISPLAY")) as prefix:
         prefix.import_machine(machine)
-        return subprocess.run(["wine", "C:\\kvr\\kvrhost.exe"], env=prefix.environment()).returncode
+        return subprocess.run(["wine", "C:\\kvr\\kvrhost_test.exe"], env=prefix.environment()).returncode
 
 
 if __name__ == "__main__":

@@ -14,7 +14,8 @@ import tempfile
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 BUILD = pathlib.Path(os.environ.get("KVR_WINDOWS_BUILD", ROOT / "build" / "windows"))
 TEMPLATES = ROOT / "build" / "wine"
-PROGRAMS = ["kvrpagex64.dll", "kvrhost.exe", "kvrfit.exe", "kvrpictures.exe", "kvrlifetime.exe", "kvrkeys.exe", "kvrbench.exe", "standins/msports.dll"]
+PROGRAMS = ["kvrpagex64.dll", "kvrhost.exe", "kvrhost_test.exe", "kvrfit.exe", "kvrpictures.exe", "kvrlifetime.exe",
+            "kvrkeys.exe", "kvrbench.exe"]
 
 # "MS Shell Dlg" is Microsoft Sans Serif on Windows, which has every script. Here each script has its own font; of
 # those that are small, the ones that come nearest.
@@ -122,11 +123,14 @@ class Prefix:
         (place / "dosdevices").mkdir()
         (place / "dosdevices" / "c:").symlink_to("../drive_c")
         (place / "dosdevices" / "z:").symlink_to("/")
-        for folder, own in (("drive_c", {"windows", "kvr"}), ("drive_c/windows", {"win.ini", "temp"})):
+        for folder, own in (("drive_c", {"windows", "kvr"}), ("drive_c/windows", {"win.ini", "temp", "system32"}),
+                            ("drive_c/windows/system32", {"msports.dll"})):
             (place / folder).mkdir()
             for entry in (origin / folder).iterdir():
                 if entry.name not in own:
                     (place / folder / entry.name).symlink_to(entry)
+        # Where the system's own would be.
+        shutil.copy(BUILD / "standins" / "msports.dll", place / "drive_c" / "windows" / "system32")
 
     def environment(self):
         return {**os.environ, "WINEPREFIX": str(self.place), "WINEDEBUG": "-all", "LC_ALL": "C.UTF-8",

@@ -8,13 +8,13 @@
 
 #include "host/text.h"
 #include "host/worlds/windows/import_table.h"
-#include "host/worlds/windows/standins/faults.h"
 
 namespace host {
 namespace {
 
 std::vector<std::string> journal;
 World::TraceListener trace_listener;
+constexpr std::size_t no_call = static_cast<std::size_t>(-1);
 std::map<HKEY, std::string> keys; // the keys that the library holds, by what the journal calls them
 
 struct OpenBox {
@@ -42,17 +42,16 @@ NEXT(MessageBoxW);
 NEXT(OutputDebugStringA);
 #undef NEXT
 
+std::size_t being_made = no_call; // the line of the call that is being made
+
 // Writes the line down and makes the call.
 template <class Call> auto Journaled(std::string line, const Call& call) {
-    const std::size_t at = journal.size();
     journal.push_back(std::move(line));
-    TakeFault(); // one of a call that is not written down
+    const std::size_t outer = std::exchange(being_made, journal.size() - 1);
     const auto result = call();
-    if (TakeFault()) {
-        journal[at] += " (failed)";
-    }
+    const std::size_t made = std::exchange(being_made, outer);
     if (trace_listener) {
-        trace_listener(journal[at], true);
+        trace_listener(journal[made], true);
     }
     return result;
 }
@@ -236,6 +235,12 @@ void Observe(HMODULE library) {
     OBSERVE(MessageBoxW);
     OBSERVE(OutputDebugStringA);
 #undef OBSERVE
+}
+
+void NoteFailure() {
+    if (being_made != no_call) {
+        journal[being_made] += " (failed)";
+    }
 }
 
 std::vector<std::string> TakeJournal() {

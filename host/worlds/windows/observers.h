@@ -12,6 +12,9 @@ namespace host {
 // Observes a library from here on. One library at a time.
 void Observe(HMODULE library);
 
+// Marks the line of the call that is being made as failed: for whoever makes calls fail below the observers.
+void NoteFailure();
+
 // The lines since the last call.
 std::vector<std::string> TakeJournal();
 

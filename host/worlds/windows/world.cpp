@@ -10,8 +10,7 @@
 #include "host/worlds/windows/attendance.h"
 #include "host/worlds/windows/observers.h"
 #include "host/worlds/windows/registry.h"
-#include "host/worlds/windows/standins/faults.h"
-#include "host/worlds/windows/standins/standins.h"
+#include "host/worlds/windows/system.h"
 
 namespace host {
 namespace {
@@ -139,13 +138,7 @@ bool IsElevated() {
 
 class System : public World {
 public:
-    explicit System(HMODULE library) : library_(library) {
-        if (IsStandInSystem()) {
-            UseStandIns(library);
-        }
-        AllowFaults(library);
-        Observe(library);
-    }
+    explicit System(HMODULE library) : library_(library) { AttachTo(library); }
     ~System() override { FreeLibrary(library_); }
 
     std::string Greeting() override {
@@ -298,6 +291,8 @@ std::unique_ptr<World> OpenWorld(const std::string& file, LANGID language, std::
         error = "the machine is the one at hand; bring " + file + " in by the registry editor";
         return nullptr;
     }
+    // Whatever lies beside the program or in the folder at hand, the system's libraries are the system's own.
+    SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
     if (language != 0 && !UseLanguage(language)) {
         error = "the system knows no language " + std::to_string(language);
         return nullptr;
@@ -306,7 +301,7 @@ std::unique_ptr<World> OpenWorld(const std::string& file, LANGID language, std::
     const DWORD length = GetModuleFileNameW(nullptr, path, ARRAYSIZE(path));
     const Text program(path, length);
     const Text library = program.substr(0, program.rfind(TEXT('\\')) + 1) + TEXT("kvrpagex64.dll");
-    const HMODULE loaded = LoadLibraryW(library.c_str());
+    const HMODULE loaded = LoadLibraryExW(library.c_str(), nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
     if (!loaded) {
         error = "can't load " + ToUtf8(library) + ": error " + std::to_string(GetLastError());
         return nullptr;

@@ -1,15 +1,13 @@
-#include "host/worlds/windows/standins/faults.h"
+#include "tests/windows/standins/faults.h"
 
 #include <algorithm>
 #include <iterator>
-#include <utility>
 
 #include "host/worlds/windows/import_table.h"
+#include "host/worlds/windows/observers.h"
 
 namespace host {
 namespace {
-
-bool fault = false;
 
 // An operation that can be made to fail: what it gives then, and the error that it leaves.
 template <class Function, int Place> struct Fault;
@@ -21,7 +19,7 @@ template <class Result, class... Arguments, int Place> struct Fault<Result(WINAP
 
     static Result WINAPI Call(Arguments... arguments) {
         if (calls_left != 0 && --calls_left == 0) {
-            fault = true;
+            NoteFailure();
             SetLastError(error);
             return failure;
         }
@@ -110,10 +108,6 @@ bool FailCall(const std::string& name, int count) {
 
 void PretendRemote() {
     remote = true;
-}
-
-bool TakeFault() {
-    return std::exchange(fault, false);
 }
 
 } // namespace host

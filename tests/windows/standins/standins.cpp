@@ -1,10 +1,16 @@
-#include "host/worlds/windows/standins/standins.h"
+// The live system as the tests' host sees it: what the stand-in of Windows lacks is answered within this
+// program, from the serial map and the [Ports] values of the registry as they are when the library is
+// attached: the DOS names of serial ports, the two class installer calls, and the registry's share in the
+// profile.
+#include "host/worlds/windows/system.h"
 
 #include <algorithm>
 #include <cwchar>
 
 #include "host/worlds/windows/import_table.h"
+#include "host/worlds/windows/observers.h"
 #include "host/worlds/windows/registry.h"
+#include "tests/windows/standins/faults.h"
 
 namespace host {
 namespace {
@@ -102,11 +108,7 @@ BOOL WINAPI StandInWriteProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR val
 
 } // namespace
 
-bool IsStandInSystem() {
-    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-}
-
-void UseStandIns(HMODULE library) {
+void AttachTo(HMODULE library) {
     dos_names.clear();
     for (const auto& [device, port] : RegistryKey(HKEY_LOCAL_MACHINE, SerialMapKey, KEY_READ).Texts()) {
         if (!port.empty() && FindDosName(port.c_str()) == dos_names.end()) {
@@ -124,29 +126,17 @@ void UseStandIns(HMODULE library) {
     for (const auto& [name, function] : replacements) {
         Redirect(library, name, function);
     }
+    AllowFaults(library);
+    Observe(library);
 }
 
 std::vector<std::pair<std::wstring, std::wstring>> SerialDosNames() {
-    if (IsStandInSystem()) {
-        return dos_names;
-    }
-    std::vector<std::pair<std::wstring, std::wstring>> names;
-    for (int number = 1; number <= 256; ++number) {
-        const std::wstring name = L"COM" + std::to_wstring(number);
-        WCHAR target[MAX_PATH];
-        if (QueryDosDeviceW(name.c_str(), target, ARRAYSIZE(target))) {
-            names.emplace_back(name, target);
-        }
-    }
-    return names;
+    return dos_names;
 }
 
+// The stand-in looks resources up by the thread's locale, and makes a language without a country one with its
+// default country. So the locale goes to its place in the thread's block itself.
 bool UseLanguage(LANGID language) {
-    if (!IsStandInSystem()) {
-        return SetThreadUILanguage(language) == language;
-    }
-    // The stand-in looks resources up by the thread's locale, and makes a language without a country one with
-    // its default country. So the locale goes to its place in the thread's block itself.
     const LCID locale = MAKELCID(language, SORT_DEFAULT);
     if (!IsValidLocale(locale, LCID_INSTALLED)) {
         return false;

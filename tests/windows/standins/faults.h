@@ -17,7 +17,4 @@ bool FailCall(const std::string& operation, int count);
 // Lets every device pass for one of another machine.
 void PretendRemote();
 
-// Whether a call has been made to fail since the last time.
-bool TakeFault();
-
 } // namespace host

@@ -1,0 +1,44 @@
+#!/usr/bin/env python3
+"""The host that ships on a machine that is alive: without input it changes nothing, and of the libraries that lie
+beside it it does not take the port database."""
+import re
+import shutil
+import subprocess
+import sys
+
+from wine import BUILD, ROOT, Prefix
+
+
+def registry(prefix):
+    """All values of the machine, by lines."""
+    prefix.run("regedit", "/E", "Z:" + str(prefix.place / "all.reg").replace("/", "\\"), "HKEY_LOCAL_MACHINE")
+    return (prefix.place / "all.reg").read_bytes().decode("utf-16").splitlines()
+
+
+def main():
+    with Prefix() as prefix:
+        prefix.import_machine(ROOT / "host/machines/sample.reg")
+        prefix.run("kvrhost.exe", input=b"devices\n")  # the stand-in respells what it lists for the first time
+        before = registry(prefix)
+        said, code = prefix.run("kvrhost.exe")
+        after = registry(prefix)
+        changed = set(before) ^ set(after)
+        print(f"{len(before)} lines of the registry, {len(changed)} changed without input")
+        failed = bool(changed or said or code or not any("UartFifoEnable" in line for line in before))
+
+        listed, code = prefix.run("kvrhost.exe", input=b"devices\n# fail: LocalAlloc 1\nopen 1\n")
+        if b"board" not in listed or b"-- sheet" not in listed:
+            print("a comment of a script was obeyed, or no page opened:", listed.decode(errors="replace"))
+            failed = True
+        shutil.copy(BUILD / "standins" / "msports.dll", prefix.programs)
+        run = subprocess.run(["wine", "C:\\kvr\\kvrhost.exe"], input=b"open 1\nsheet cancel\n", capture_output=True,
+                             env={**prefix.environment(), "WINEDEBUG": "+loaddll"})
+        loaded = re.findall(r'Loaded L"([^"]+)"', run.stderr.decode(errors="replace"))
+        database = [path for path in loaded if "msports" in path.lower()]
+        print("the port database's library:", *database)
+        failed |= not database or any("kvr\\" in path for path in database)
+    return failed
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,45 @@
+// The host of the tests: the one that ships, on what stands in for Windows, with the trouble that a script
+// asks for.
+#include <algorithm>
+#include <iostream>
+#include <sstream>
+
+#include "host/line/program.h"
+#include "tests/windows/standins/faults.h"
+
+namespace {
+
+using host::LineSource, host::OpenConsole, host::FailCall, host::PretendRemote;
+
+// A script can say what trouble it wants: "# fail: DefineDosDeviceW 2" makes the second call of that
+// operation from there on fail, "# remote" puts its devices on another machine.
+class Script : public LineSource {
+public:
+    std::optional<std::string> Next(const std::string& prompt) override {
+        std::optional<std::string> line = lines_->Next(prompt);
+        if (line && line->starts_with("# fail: ")) {
+            std::istringstream words(line->substr(8));
+            std::string operation;
+            int count = 1;
+            words >> operation >> count;
+            if (!FailCall(operation, std::max(count, 1))) {
+                std::cerr << "kvrhost: nothing makes " << operation << " fail\n";
+            }
+        } else if (line == "# remote") {
+            PretendRemote();
+        }
+        return line;
+    }
+    bool IsPerson() const override { return lines_->IsPerson(); }
+
+private:
+    std::unique_ptr<LineSource> lines_ = OpenConsole();
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    host::OpenOutput();
+    return host::RunProgram(argc, argv,
+                            [] { return std::unique_ptr<LineSource>(std::make_unique<Script>()); });
+}
