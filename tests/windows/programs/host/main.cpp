@@ -4,6 +4,7 @@
 #include <iostream>
 #include <sstream>
 
+#include "host/full_screen/start.h"
 #include "host/line/program.h"
 #include "tests/windows/standins/faults.h"
 
@@ -40,6 +41,7 @@ private:
 
 int main(int argc, char** argv) {
     host::OpenOutput();
-    return host::RunProgram(argc, argv,
-                            [] { return std::unique_ptr<LineSource>(std::make_unique<Script>()); });
+    return host::RunProgram(
+        argc, argv, [] { return std::unique_ptr<LineSource>(std::make_unique<Script>()); },
+        host::RunFullScreen);
 }
