@@ -41,10 +41,12 @@ inline constexpr TraceConversion TraceConversions[] = {
     {"I64X", TraceKind::Number64, 16, 1}, {"p", TraceKind::Pointer, 16, 16},
 };
 
-// The conversion that stands behind a %, and in `after` the place behind it; null for any other.
-constexpr const TraceConversion* FindTraceConversion(const char* text, const char*& after) {
-    for (const TraceConversion& conversion : TraceConversions) {
-        const char* letter = conversion.letters;
+// The index of the conversion that follows a %, with the place after it in `after`; the count for any other.
+// An index and no pointer, because a sanitized g++ compares no address while it compiles.
+constexpr u32 TraceConversionCount = ARRAYSIZE(TraceConversions);
+constexpr u32 FindTraceConversion(const char* text, const char*& after) {
+    for (u32 index = 0; index < TraceConversionCount; ++index) {
+        const char* letter = TraceConversions[index].letters;
         const char* at = text;
         while (*letter != 0 && *letter == *at) {
             ++letter;
@@ -52,10 +54,10 @@ constexpr const TraceConversion* FindTraceConversion(const char* text, const cha
         }
         if (*letter == 0) {
             after = at;
-            return &conversion;
+            return index;
         }
     }
-    return nullptr;
+    return TraceConversionCount;
 }
 
 template <typename Argument> consteval TraceKind TraceKindOf() {
@@ -90,16 +92,17 @@ consteval void CheckTraceFormat(const char* format, const TraceKind* kinds, u32 
         if (last != '%') {
             continue;
         }
-        const TraceConversion* conversion = FindTraceConversion(format, format);
-        if (conversion == nullptr) {
+        const u32 conversion = FindTraceConversion(format, format);
+        if (conversion == TraceConversionCount) {
             return TraceFormatHasUnknownConversion();
         }
         if (next == count) {
             return TraceFormatNeedsAnotherArgument();
         }
         const TraceKind kind = kinds[next++];
+        const TraceKind wanted = TraceConversions[conversion].kind;
         const bool isAddress = kind == TraceKind::Narrow || kind == TraceKind::Wide;
-        if (conversion->kind != kind && !(conversion->kind == TraceKind::Pointer && isAddress)) {
+        if (wanted != kind && !(wanted == TraceKind::Pointer && isAddress)) {
             return TraceFormatNeedsArgumentOfAnotherKind();
         }
     }

@@ -129,8 +129,9 @@ void Compose(Line& line, const char* format, const TraceArgument* arguments) {
     while (format[1] != 0) { // up to the line feed
         if (*format != '%') {
             Put(line, format++, 1);
-        } else if (const TraceConversion* conversion = FindTraceConversion(format + 1, format)) {
-            PutValue(line, *arguments++, *conversion);
+        } else if (const u32 conversion = FindTraceConversion(format + 1, format);
+                   conversion != TraceConversionCount) {
+            PutValue(line, *arguments++, TraceConversions[conversion]);
         }
     }
     line.text[line.length++] = '\n';
