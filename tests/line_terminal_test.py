@@ -13,10 +13,12 @@ HOST = sys.argv[1]
 def main():
     with tempfile.TemporaryDirectory() as folder:
         # A locale that knows no letters beyond ASCII, and a folder that is the caller's own.
-        host = pexpect.spawn(HOST, cwd=folder, encoding="utf-8", timeout=20, dimensions=(50, 200),
+        host = pexpect.spawn(HOST, ["--line"], cwd=folder, encoding="utf-8", timeout=20, dimensions=(50, 200),
                              env={**os.environ, "LC_ALL": "C", "TERM": "xterm"})
         host.expect_exact("The sample machine")
+        host.expect_exact("> ")
         host.send("export gone")
+        host.expect_exact("gone")
         host.sendintr()
         host.expect_exact("^C")
         host.sendline("export Übung.reg")

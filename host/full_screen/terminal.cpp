@@ -98,7 +98,12 @@ std::optional<std::string> WhyNoFullScreen() {
                std::string(name == nullptr ? "not set" : Quoted(name)) + ')';
     }
     int error = 0;
-    if (setupterm(nullptr, STDOUT_FILENO, &error) != OK || Capability("cup").empty()) {
+    const bool known = setupterm(nullptr, STDOUT_FILENO, &error) == OK;
+    const bool can_move = known && !Capability("cup").empty();
+    if (known) {
+        del_curterm(cur_term);
+    }
+    if (!can_move) {
         return "the terminal " + Quoted(name) + " can't be filled, or is not known here";
     }
     return {};
