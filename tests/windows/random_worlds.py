@@ -76,7 +76,7 @@ def said(transcript):
 def run(seed):
     machine, language, lines = written(seed)
     options = ["--language", str(language)] if language else []
-    simulated = subprocess.run([HOST, machine, *options], input="\n".join(lines).encode(), stdout=subprocess.PIPE,
+    simulated = subprocess.run([HOST, ROOT / machine, *options], input="\n".join(lines).encode(), stdout=subprocess.PIPE,
                                stderr=subprocess.DEVNULL, env={**os.environ, "LC_ALL": "C.UTF-8"}, timeout=120)
     real = [line.replace("fail ", "# fail: ", 1) if line.startswith("fail ") else line for line in lines]
     with Prefix() as prefix:
