@@ -271,11 +271,13 @@ void SimulatedWorld::ComeBackTo(const Moment& moment) {
 }
 
 bool SimulatedWorld::Fail(const std::string& operation, std::size_t call) {
-    std::vector<std::pair<std::string, std::size_t>>& plan = machine_.faults.at_call;
+    sim::FaultPlan& plan = machine_.faults;
     if (operation.empty()) {
-        plan.clear();
+        plan.at_call.clear();
     } else {
-        plan.emplace_back(operation, machine_.faults.count_by_name[operation] + call);
+        // The counts are kept by names that outlive the plan, as this one need not.
+        const auto seen = plan.count_by_name.find(operation);
+        plan.at_call.emplace_back(operation, call + (seen != plan.count_by_name.end() ? seen->second : 0));
     }
     return true;
 }
