@@ -1,12 +1,16 @@
 #!/usr/bin/env python3
 """The bench on Windows: it answers every operator script with the bytes that are kept of the same bench elsewhere, and
-what it patches is imported by the system's own importer into the machine that it was made from, and taken back."""
+diagnoses each machine as that does. What it patches is imported by the system's own importer into the machine that it was
+made from, and taken back."""
+import os
 import pathlib
+import subprocess
 import sys
 
 from compare_worlds import SCRIPTS, said
 from wine import ROOT, Prefix, Screen, template
 
+HOST = pathlib.Path(os.environ.get("KVR_HOST", ROOT / "build" / "debug" / "kvrhost"))
 SAMPLE = ROOT / "host" / "machines" / "sample.reg"
 
 
@@ -23,6 +27,11 @@ def same_transcript(prefix, script):
                         input="\n".join(typed).encode() + b"\n")
     kept = script.with_suffix(".out").read_bytes()
     return got.replace(b"\n> fail ", b"\n# fail: ") == kept
+
+
+def same_diagnosis(prefix, machine):
+    here = subprocess.run([HOST, "diagnose", machine], stdout=subprocess.PIPE)
+    return prefix.run("kvrbench.exe", "diagnose", windows_path(machine)) == (here.stdout, here.returncode)
 
 
 def told(prefix):
@@ -54,6 +63,7 @@ def main():
     with Prefix() as prefix:
         scripts = [script for script in sorted(SCRIPTS.glob("*.txt")) if "# remote" not in script.read_text()]
         failed = [script.stem for script in scripts if not same_transcript(prefix, script)]
+        failed += [file.stem for file in sorted(SAMPLE.parent.glob("*.reg")) if not same_diagnosis(prefix, file)]
         if failed:
             print("other bytes than kept:", *failed)
         return 1 if failed or not patch_goes_there_and_back(prefix) else 0
