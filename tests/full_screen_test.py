@@ -38,8 +38,7 @@ class FullScreen(unittest.TestCase):
                 terminal.press("space")
                 terminal.wait("The last change outside")
                 terminal.press("tab", "tab", "tab", "enter")  # Cancel; the sort is done
-                terminal.wait("COM3 (port1)", gone=["UART Feature"])
-                terminal.settle()
+                terminal.wait("COM3 (port1)", "COM6 (port4)", gone=["UART Feature"])
                 self.assertEqual(listed(terminal)[:4], SORTED[:4])
                 terminal.press("home", "com12")
                 terminal.wait("> COM12 (port8)")
@@ -89,6 +88,9 @@ class FullScreen(unittest.TestCase):
             terminal.resize(120, 40)  # while the box is open
             terminal.wait("This COM name is being", "F10 end")
             terminal.resize(80, 24)
+            terminal.wait("This COM name is being", "F10 end")
+            # A change forth and back that is seen as one to the same size.
+            terminal.await_new_picture(lambda: terminal.child.kill(signal.SIGWINCH))
             terminal.wait("This COM name is being", "F10 end")
             terminal.press("alt-n")
             terminal.wait("Advanced Settings for COM7", gone=["This COM name is being"])

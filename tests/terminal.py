@@ -8,6 +8,7 @@ import pyte
 NAMES = {"enter": "\r", "tab": "\t", "backtab": "\x1b[Z", "esc": "\x1b", "up": "\x1bOA", "down": "\x1bOB",
          "right": "\x1bOC", "left": "\x1bOD", "home": "\x1bOH", "end": "\x1bOF", "pagedown": "\x1b[6~", "space": " ",
          "f2": "\x1bOQ", "f4": "\x1bOS", "f5": "\x1b[15~", "f10": "\x1b[21~"}
+CLEAR = b"\x1b[H\x1b[2J"
 
 
 class Terminal:
@@ -71,9 +72,19 @@ class Terminal:
         self.mouse(0, column, row)
         self.mouse(0, column, row, up=True)
 
+    def await_new_picture(self, act):
+        """Until the program has begun the screen anew for that: what is seen from here on was painted since."""
+        self.settle()
+        begun = self.raw.count(CLEAR)
+        act()
+        end = time.monotonic() + 20
+        while self.raw.count(CLEAR) == begun:
+            if not self.read() and time.monotonic() > end:
+                raise AssertionError(f"not begun anew:\n{self.text()}")
+
     def resize(self, columns, rows):
         self.screen.resize(rows, columns)
-        self.child.setwinsize(rows, columns)
+        self.await_new_picture(lambda: self.child.setwinsize(rows, columns))
 
     def wait_end(self):
         self.child.expect(pexpect.EOF)

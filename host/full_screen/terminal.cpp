@@ -29,6 +29,7 @@ constexpr const char* follow_the_mouse = "\033[?1002h";
 constexpr const char* leave_the_mouse = "\033[?1006l\033[?1002l\033[?1000l";
 
 termios before;
+sigset_t signals_before; // the mask, which the wait for input has too
 std::array<char, 256> restoring{};
 volatile std::sig_atomic_t ending = 0;
 
@@ -141,9 +142,15 @@ Terminal::Terminal() {
     }
     sequences += Capability("sgr0") + Capability("cnorm") + Capability("rmkx") + Capability("rmcup");
     sequences.copy(restoring.data(), restoring.size() - 1);
+    // These come only while input is awaited: none is lost between a look at what it left and the wait.
+    sigset_t awaited;
+    sigemptyset(&awaited);
+    sigaddset(&awaited, SIGWINCH);
     for (const int signal : {SIGHUP, SIGINT, SIGTERM, SIGQUIT}) {
         Handle(signal, OnEnd, 0);
+        sigaddset(&awaited, signal);
     }
+    sigprocmask(SIG_BLOCK, &awaited, &signals_before);
     for (const int signal : {SIGSEGV, SIGABRT, SIGBUS, SIGFPE, SIGILL}) {
         Handle(signal, OnCrash, static_cast<int>(SA_RESETHAND | SA_NODEFER));
     }
@@ -152,6 +159,7 @@ Terminal::Terminal() {
 Terminal::~Terminal() {
     endwin();
     Restore();
+    sigprocmask(SIG_SETMASK, &signals_before, nullptr); // those that waited are taken as the end that this is
     for (const int signal : {SIGHUP, SIGINT, SIGTERM, SIGQUIT, SIGSEGV, SIGABRT, SIGBUS, SIGFPE, SIGILL}) {
         Handle(signal, SIG_DFL, 0);
     }
@@ -276,7 +284,8 @@ std::optional<Event> Terminal::Read(int milliseconds) {
         const int kind = get_wch(&key);
         if (kind == ERR) {
             pollfd input{STDIN_FILENO, POLLIN, 0};
-            const int ready = poll(&input, 1, milliseconds);
+            const timespec time{milliseconds / 1000, milliseconds % 1000 * 1'000'000L};
+            const int ready = ppoll(&input, 1, milliseconds < 0 ? nullptr : &time, &signals_before);
             if (ready == 0) {
                 return {};
             }
@@ -287,6 +296,7 @@ std::optional<Event> Terminal::Read(int milliseconds) {
         }
         if (kind == KEY_CODE_YES) {
             if (key == KEY_RESIZE) {
+                clearok(curscr, TRUE); // the contents are gone even if the size is the one from before
                 return Event{};
             }
             if (key == KEY_MOUSE) {
