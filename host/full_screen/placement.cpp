@@ -64,6 +64,9 @@ public:
         std::ranges::stable_sort(controls_, {}, [](const Control* one) {
             return std::pair(one->area.x, one->kind != Kind::Group);
         });
+        for (const Control* control : controls_) {
+            needed_[control] = ColumnsFor(*control, close_);
+        }
         constexpr int together = 2; // dialog units
         const auto begin_together = [&](const Control* one, const Control* other) {
             return scale > 0 && other->area.x - one->area.x <= together &&
@@ -90,8 +93,8 @@ public:
 
     // The last column: as far as its own place reaches, but not into what stands behind it.
     int EndOf(const Control& control) const {
-        int end = std::max(left_.at(&control) + ColumnsFor(control, close_) - 1,
-                           At(control.area.x + control.area.cx) - 1);
+        int end =
+            std::max(left_.at(&control) + needed_.at(&control) - 1, At(control.area.x + control.area.cx) - 1);
         if (control.kind == Kind::Group) {
             return std::max(end, RightOf(control));
         }
@@ -111,10 +114,10 @@ private:
 
     // The last column that the control, or what stands in the group, can't do without.
     int RightOf(const Control& control) const {
-        int right = left_.at(&control) + ColumnsFor(control, close_) - 1;
+        int right = left_.at(&control) + needed_.at(&control) - 1;
         for (const auto& [other, left] : left_) {
             if (IsInside(*other, control)) {
-                right = std::max(right, left + ColumnsFor(*other, close_) + spare_);
+                right = std::max(right, left + needed_.at(other) + spare_);
             }
         }
         return right;
@@ -135,7 +138,8 @@ private:
     std::vector<const Control*> controls_;
     double scale_;
     bool close_ = scale_ == 0;
-    int spare_ = close_ ? 0 : 1; // columns between a group and what stands in it
+    int spare_ = close_ ? 0 : 1;           // columns between a group and what stands in it
+    std::map<const Control*, int> needed_; // columns that it can't do without
     std::map<const Control*, int> left_;
     int last_ = 0;
 };
