@@ -98,6 +98,22 @@ class FullScreen(unittest.TestCase):
             terminal.press("alt-p", "home", "com50", "enter")
             terminal.wait("COM50", "The last change outside", gone=["Advanced Settings for"])
 
+    def test_change_of_size(self):
+        """The page stays as it was, and follows each size."""
+        with Terminal(HOST) as terminal:
+            open_board(terminal)
+            terminal.press("down", "down", "tab")
+            terminal.wait("> COM8 (port3)", "[x] Enable large FIFO")
+            for columns, rows in ((200, 60), (80, 24)):
+                terminal.resize(columns, rows)
+                terminal.wait("> COM8 (port3)", "<    OK    >", "F10 end")
+                self.assertEqual(len(listed(terminal)), {24: 4, 60: 7}[rows])
+                right, _ = terminal.find("╝", last=True)
+                self.assertLess(right, columns)
+                self.assertEqual(terminal.find("F10 end")[1], rows - 1)
+            terminal.press("space")
+            terminal.wait("[ ] Enable large FIFO")
+
     def test_languages_and_terminals(self):
         for language, title in ((1041, "COM7"), (1025, "COM7"), (1037, "COM7")):
             with self.subTest(language), Terminal(HOST, "--language", str(language), NO_COLOR="1") as terminal:
@@ -123,6 +139,20 @@ class FullScreen(unittest.TestCase):
             terminal.wait("PortName", "\\Device\\KvrUart0")
             terminal.press("esc")
             terminal.wait("COM7 (port1)", gone=["PortName"])
+            terminal.press("f9")
+            terminal.wait("The trace of the last action", "<---- _OnInitDialog")
+            terminal.press("alt-v")
+            terminal.wait("UART Feature")
+            terminal.press("space")
+            terminal.wait("<---- _SortCOMClicked")
+            terminal.press("f5")
+            terminal.wait("----> _SortCOMClicked", gone=["UART Feature"])
+            terminal.press("end")
+            terminal.wait("* SendNotifyMessageW", "<---- _SortCOMClicked")
+            terminal.press("esc")
+            terminal.wait("UART Feature")
+            terminal.press("f9")
+            terminal.wait("The last change outside", gone=["<----"])
 
     def test_ends_cleanly(self):
         """However it ends, the terminal is as it was."""

@@ -7,7 +7,7 @@ import pyte
 
 NAMES = {"enter": "\r", "tab": "\t", "backtab": "\x1b[Z", "esc": "\x1b", "up": "\x1bOA", "down": "\x1bOB",
          "right": "\x1bOC", "left": "\x1bOD", "home": "\x1bOH", "end": "\x1bOF", "pagedown": "\x1b[6~", "space": " ",
-         "f2": "\x1bOQ", "f4": "\x1bOS", "f5": "\x1b[15~", "f10": "\x1b[21~"}
+         "f2": "\x1bOQ", "f4": "\x1bOS", "f5": "\x1b[15~", "f9": "\x1b[20~", "f10": "\x1b[21~"}
 CLEAR = b"\x1b[H\x1b[2J"
 
 

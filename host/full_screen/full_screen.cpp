@@ -1,7 +1,6 @@
 #include "host/full_screen/full_screen.h"
 
 #include <algorithm>
-#include <array>
 
 #include "host/screen/hand.h"
 #include "host/screen/keyboard.h"
@@ -13,7 +12,6 @@ namespace {
 
 constexpr int small_screen = 100; // columns
 constexpr int low_screen = 40;    // rows
-constexpr int wheel_step = 3;     // items
 
 int PaneColumns(int columns) {
     return columns < small_screen ? 26 : 34;
@@ -54,6 +52,11 @@ std::string KeysOf(const Control* control) {
 FullScreen::FullScreen(World& world, Command command) : world_(world), command_(std::move(command)) {
     ReadDevices();
     world_.Journal(); // what was before is no news
+    HearTrace();
+}
+
+FullScreen::~FullScreen() {
+    world_.HearTrace(nullptr);
 }
 
 void FullScreen::Run() {
@@ -115,6 +118,16 @@ void FullScreen::NoteChanges() {
     }
 }
 
+void FullScreen::HearTrace() {
+    world_.HearTrace([this](const std::string& line, bool change) {
+        if (trace_is_old_) {
+            trace_.clear();
+            trace_is_old_ = false;
+        }
+        trace_.push_back((change ? "* " : "  ") + line);
+    });
+}
+
 void FullScreen::ReadDevices() {
     devices_ = world_.Devices();
     port_names_.clear();
@@ -144,57 +157,6 @@ void FullScreen::Open() {
 }
 
 // --- Events ---
-
-bool FullScreen::TakeCommon(const Event& event) {
-    message_.clear();
-    if (event.kind == Event::Kind::End) {
-        ending_ = true;
-    }
-    if (event.kind != Event::Kind::Function) {
-        return event.kind == Event::Kind::End || event.kind == Event::Kind::Resize;
-    }
-    switch (event.function) {
-    case 1:
-        View("Keys", {"Tab, Shift-Tab     to the next control, to the one before",
-                      "Alt and a letter   to the control whose letter is underlined; where the terminal "
-                      "keeps Alt, Esc and then",
-                      "                   the letter", "Space              checks a box, presses a button",
-                      "Enter              presses the button <in these>", "Esc                cancels",
-                      "arrows             within a list, a slider, a group",
-                      "F4, Alt-Down       opens and shuts a combo's list",
-                      "letters            find the item that begins so",
-                      "mouse              click, drag a slider, turn the wheel over a list", "",
-                      "F2 all places that hold a port's number    F3 the store of the device",
-                      "F5 all that was changed outside            F6 a command of the line (help tells them)",
-                      "F7 what is wrong with the machine          F8 what differs from it as it was read",
-                      "F10, Ctrl-C  ends; what is open is cancelled", "Ctrl-L paints the screen anew", "",
-                      "~ stands before what is disabled, < > around the button that Enter presses."});
-        return true;
-    case 2:
-        View("Ports", command_("ports"));
-        return true;
-    case 3:
-        View("Store", command_("store " + std::to_string(selected_ + 1)));
-        return true;
-    case 5:
-        View("Changed outside so far", journal_.empty() ? Lines{"nothing"} : journal_);
-        return true;
-    case 6:
-        AskCommand();
-        return true;
-    case 7:
-        View("What is wrong", command_("diagnose"));
-        return true;
-    case 8:
-        View("What differs from the machine as it was read", command_("changes"));
-        return true;
-    case 10:
-        ending_ = true;
-        return true;
-    default:
-        return true;
-    }
-}
 
 void FullScreen::TakeDeviceEvent(const Event& event) {
     const int last = static_cast<int>(devices_.size()) - 1,
@@ -230,87 +192,13 @@ void FullScreen::TakeDeviceEvent(const Event& event) {
     selected_ = static_cast<std::size_t>(std::clamp(wanted, 0, std::max(0, last)));
 }
 
-void FullScreen::TakeClick(const Event& event) {
-    const auto of_front = [&](const Cells& cells) {
-        return Cells{cells.left + front_.left, cells.top + front_.top, cells.columns, cells.rows};
-    };
-    for (const Placed& placed : front_.placement.controls) {
-        if (placed.control->dropped && front_.open_list.Has(event.column, event.row)) {
-            return TakeListClick(*placed.control, event.row - front_.open_list.top - 1,
-                                 front_.open_list.rows - 2);
-        }
-    }
-    for (const Placed& placed : front_.placement.controls) {
-        const Control& control = *placed.control;
-        const Cells cells = of_front(placed.cells);
-        if (!control.enabled || !cells.Has(event.column, event.row) || control.kind == Kind::Label ||
-            control.kind == Kind::Group) {
-            continue;
-        }
-        if (control.kind == Kind::Button || control.kind == Kind::Check) {
-            return Click(control);
-        }
-        FocusOn(front_.window, control);
-        if (control.kind == Kind::Combo) {
-            SendMessageW(control.window, CB_SHOWDROPDOWN, control.dropped ? FALSE : TRUE, 0);
-        } else if (control.kind == Kind::List) {
-            TakeListClick(control, event.row - cells.top - 1, cells.rows - 2);
-        } else if (control.kind == Kind::Slider) {
-            dragged_ = control.window;
-            Drag(event.column);
-        }
-        return;
-    }
-}
-
-void FullScreen::TakeListClick(const Control& list, int row, int rows) {
-    const int item = FirstInSight(list, rows, turned_) + row;
-    if (row >= 0 && row < rows && item < static_cast<int>(list.items.size())) {
-        turned_[list.window] = item - row; // it stays where it was clicked
-        Pick(list, '#' + std::to_string(item));
-        if (list.kind == Kind::Combo) {
-            SendMessageW(list.window, CB_SHOWDROPDOWN, FALSE, 0);
-        }
-    }
-}
-
-// The slider in hand to where the mouse is.
-void FullScreen::Drag(int column) {
-    for (const Placed& placed : front_.placement.controls) {
-        const Control& slider = *placed.control;
-        if (slider.window == dragged_ && slider.kind == Kind::Slider && slider.enabled) {
-            const int last = std::max(1, placed.cells.columns - 3), range = slider.maximum - slider.minimum;
-            const int at = std::clamp(column - front_.left - placed.cells.left - 1, 0, last);
-            Slide(slider, slider.minimum + (at * range + last / 2) / last);
-        }
-    }
-}
-
-void FullScreen::TakeWheel(const Event& event) {
-    for (const Placed& placed : front_.placement.controls) {
-        const Control& list = *placed.control;
-        Cells cells{placed.cells.left + front_.left, placed.cells.top + front_.top, placed.cells.columns,
-                    placed.cells.rows};
-        if (list.dropped) {
-            cells = front_.open_list;
-        }
-        if ((list.kind == Kind::List || list.dropped) && cells.Has(event.column, event.row)) {
-            const int step = event.kind == Event::Kind::WheelUp ? -wheel_step : wheel_step;
-            const int first = FirstInSight(list, cells.rows - 2, turned_);
-            turned_[list.window] = first + step;
-            turned_[list.window] = FirstInSight(list, cells.rows - 2, turned_);
-            return;
-        }
-    }
-}
-
 // --- The screen ---
 
 void FullScreen::Draw() {
     const int columns = terminal_.columns(), rows = terminal_.rows();
     terminal_.Clear();
     DrawDevices(PaneColumns(columns), rows - 1 - PaneRows(rows));
-    DrawJournal(rows - 1 - PaneRows(rows), PaneRows(rows));
+    DrawPane(rows - 1 - PaneRows(rows), PaneRows(rows));
     DrawWindows();
     DrawKeys();
     terminal_.Show();
@@ -338,17 +226,24 @@ void FullScreen::DrawDevices(int columns, int rows) {
     }
 }
 
-void FullScreen::DrawJournal(int top, int rows) {
-    const std::size_t news = journal_.size() - news_;
-    terminal_.Write(top, 0,
-                    journal_.empty() ? " Nothing has been changed outside"
-                                     : " The last change outside: " + std::to_string(news) +
-                                           (news == 1 ? " operation" : " operations, F5 shows all"),
-                    terminal_.columns(), {false, true, false, colour_title});
-    for (int row = 1; row < rows; ++row) {
-        const std::size_t line = news_ + static_cast<std::size_t>(row - 1);
-        terminal_.Write(top + row, 0, line < journal_.size() ? ' ' + journal_[line] : "",
-                        terminal_.columns());
+void FullScreen::DrawPane(int top, int rows) {
+    // Of the journal from where the last action begins, of the trace the end, where what came of it stands.
+    const Lines& lines = tracing_ ? trace_ : journal_;
+    const std::size_t seen = static_cast<std::size_t>(std::max(0, rows - 1)),
+                      first = tracing_ ? trace_.size() - std::min(seen, trace_.size()) : news_,
+                      count = tracing_ ? trace_.size() : journal_.size() - news_;
+    std::string title = tracing_ ? " The trace of the last action: " : " The last change outside: ";
+    if (lines.empty()) {
+        title = tracing_ ? " Nothing has been traced" : " Nothing has been changed outside";
+    } else {
+        title += std::to_string(count) + (tracing_ ? " line" : " operation") + (count == 1 ? "" : "s") +
+                 ", F5 shows all";
+    }
+    terminal_.Write(top, 0, title + (tracing_ ? ", F9 the changes" : ", F9 the trace"), terminal_.columns(),
+                    {false, true, false, colour_title});
+    for (std::size_t row = 0; row < seen; ++row) {
+        terminal_.Write(top + 1 + static_cast<int>(row), 0,
+                        first + row < lines.size() ? ' ' + lines[first + row] : "", terminal_.columns());
     }
 }
 
@@ -389,90 +284,6 @@ void FullScreen::DrawWindows() {
         Paint(terminal_, painted, front, turned_);
         if (front) {
             front_ = std::move(painted);
-        }
-    }
-}
-
-// --- Views ---
-
-void FullScreen::View(const std::string& title, const Lines& lines) {
-    int first = 0, shift = 0;
-    for (;;) {
-        const int columns = terminal_.columns(), rows = terminal_.rows() - 3;
-        first = std::clamp(first, 0, std::max(0, static_cast<int>(lines.size()) - rows));
-        terminal_.Clear();
-        terminal_.Write(0, 0, ' ' + title, columns, {false, true, false, colour_title});
-        for (int row = 0; row < rows && first + row < static_cast<int>(lines.size()); ++row) {
-            std::string line = lines[static_cast<std::size_t>(first + row)];
-            for (int cut = 0; cut < shift && !line.empty(); ++cut) {
-                do {
-                    line.erase(0, 1);
-                } while (!line.empty() && (line.front() & 0xC0) == 0x80);
-            }
-            terminal_.Write(1 + row, 0, line, columns);
-        }
-        terminal_.Write(terminal_.rows() - 1, 0,
-                        " arrows, PgUp, PgDn move  Esc back   " + std::to_string(first + 1) + " of " +
-                            std::to_string(lines.size()),
-                        columns, {true, false, false, 0});
-        terminal_.Show();
-        const Event event = terminal_.Next();
-        if (event.kind == Event::Kind::End) {
-            ending_ = true;
-            return;
-        }
-        const int steps = event.kind == Event::Kind::WheelUp     ? -wheel_step
-                          : event.kind == Event::Kind::WheelDown ? wheel_step
-                          : event.kind != Event::Kind::Key       ? 0
-                          : event.key.code == VK_UP              ? -1
-                          : event.key.code == VK_DOWN            ? 1
-                          : event.key.code == VK_PRIOR           ? -rows
-                          : event.key.code == VK_NEXT            ? rows
-                          : event.key.code == VK_HOME            ? -first
-                          : event.key.code == VK_END             ? static_cast<int>(lines.size())
-                                                                 : 0;
-        first += steps;
-        if (event.kind == Event::Kind::Key) {
-            shift = std::max(0, shift + (event.key.code == VK_RIGHT  ? 8
-                                         : event.key.code == VK_LEFT ? -8
-                                                                     : 0));
-            if (event.key.code == VK_ESCAPE || event.key.code == VK_RETURN || event.key.letter == 'q') {
-                return;
-            }
-        }
-    }
-}
-
-void FullScreen::AskCommand() {
-    Text line;
-    for (;;) {
-        Draw();
-        const std::string shown = " command: " + ToUtf8(line);
-        terminal_.Write(terminal_.rows() - 1, 0, shown, terminal_.columns(), {true, false, false, 0});
-        terminal_.PointAt(terminal_.rows() - 1, Columns(shown));
-        terminal_.Show();
-        const Event event = terminal_.Next();
-        if (event.kind == Event::Kind::End) {
-            ending_ = true;
-            return;
-        }
-        if (event.kind != Event::Kind::Key) {
-            continue;
-        }
-        if (event.key.code == VK_ESCAPE) {
-            return;
-        }
-        if (event.key.code == VK_RETURN) {
-            if (!line.empty()) {
-                View(ToUtf8(line), command_(ToUtf8(line)));
-                NoteChanges();
-            }
-            return;
-        }
-        if (event.key.code == VK_BACK && !line.empty()) {
-            line.pop_back();
-        } else if (event.key.letter != 0 || event.key.code == VK_SPACE) {
-            line += event.key.letter != 0 ? event.key.letter : WCHAR{' '};
         }
     }
 }

@@ -16,6 +16,8 @@
 
 namespace host {
 
+constexpr int wheel_step = 3; // items or lines that the mouse's wheel turns by
+
 class FullScreen {
 public:
     // Makes the output of a command of the line, which views show.
@@ -23,6 +25,9 @@ public:
 
     // Both must outlive it. The terminal must be able to be filled.
     FullScreen(World& world, Command command);
+    ~FullScreen();
+    FullScreen(const FullScreen&) = delete;
+    FullScreen& operator=(const FullScreen&) = delete;
 
     // Until its user leaves or the terminal is gone; windows still open then are cancelled, and questions
     // answered with No.
@@ -32,7 +37,7 @@ private:
     void Attend(HWND front);
     void Draw();
     void DrawDevices(int columns, int rows);
-    void DrawJournal(int top, int rows);
+    void DrawPane(int top, int rows);
     void DrawKeys();
     void DrawWindows();
 
@@ -45,8 +50,10 @@ private:
     void Drag(int column);
     void Open();
     void View(const std::string& title, const Lines& lines);
+    Lines Do(const std::string& line);
     void AskCommand();
     void NoteChanges();
+    void HearTrace();
     void ReadDevices();
 
     World& world_;
@@ -62,7 +69,10 @@ private:
     HWND dragged_ = nullptr; // the slider that the mouse holds
     Lines journal_;          // all there was
     std::size_t news_ = 0;   // where in it the last action begins
-    std::string message_;    // said once, in the line of the keys
+    Lines trace_;            // of the last action that had one; changes stand in it behind a *
+    bool trace_is_old_ = true;
+    bool tracing_ = false; // the pane tells the trace, not the journal
+    std::string message_;  // said once, in the line of the keys
     bool ending_ = false;
 };
 

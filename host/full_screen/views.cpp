@@ -1,0 +1,171 @@
+// What the function keys show over the whole screen, and the command that one of them asks for.
+#include <algorithm>
+#include <iterator>
+
+#include "host/full_screen/full_screen.h"
+#include "host/text.h"
+
+namespace host {
+namespace {
+
+// No larger than the smallest terminal shows at once.
+constexpr const char* help[] = {
+    "Tab, Shift-Tab     the next control, the one before",
+    "Alt and a letter   the control whose letter is underlined; where the terminal",
+    "                   keeps Alt: Esc, and then the letter",
+    "Space              checks a box, presses a button",
+    "Enter              presses the button <in these>",
+    "Esc                cancels",
+    "arrows             move within a list, a slider, a group",
+    "F4, Alt-Down       opens and shuts a combo's list",
+    "letters            find the item that begins so",
+    "mouse              click, drag a slider, turn the wheel over a list",
+    "",
+    "F2  all places that hold a port's number   F3  the store of the device",
+    "F5  all of what the pane below tells       F6  a command of the line",
+    "F7  what is wrong with the machine         F8  what differs from it as read",
+    "F9  lets the pane tell what the last action has changed outside, or its trace:",
+    "    what the pages decided, and at its place behind a * what they changed",
+    "F10, Ctrl-C  ends; what is open is cancelled",
+    "Ctrl-L       paints the screen anew",
+    "",
+    "~ stands before what is disabled.",
+};
+
+} // namespace
+
+bool FullScreen::TakeCommon(const Event& event) {
+    message_.clear();
+    trace_is_old_ = true;
+    if (event.kind == Event::Kind::End) {
+        ending_ = true;
+    }
+    if (event.kind != Event::Kind::Function) {
+        return event.kind == Event::Kind::End || event.kind == Event::Kind::Resize;
+    }
+    switch (event.function) {
+    case 1:
+        View("Keys", {std::begin(help), std::end(help)});
+        return true;
+    case 2:
+        View("Ports", Do("ports"));
+        return true;
+    case 3:
+        View("Store", Do("store " + std::to_string(selected_ + 1)));
+        return true;
+    case 5:
+        if (tracing_) {
+            View("The trace of the last action", trace_.empty() ? Lines{"nothing"} : trace_);
+        } else {
+            View("Changed outside so far", journal_.empty() ? Lines{"nothing"} : journal_);
+        }
+        return true;
+    case 6:
+        AskCommand();
+        return true;
+    case 7:
+        View("What is wrong", Do("diagnose"));
+        return true;
+    case 8:
+        View("What differs from the machine as it was read", Do("changes"));
+        return true;
+    case 9:
+        tracing_ = !tracing_;
+        return true;
+    case 10:
+        ending_ = true;
+        return true;
+    default:
+        return true;
+    }
+}
+
+void FullScreen::View(const std::string& title, const Lines& lines) {
+    int first = 0, shift = 0;
+    for (;;) {
+        const int columns = terminal_.columns(), rows = terminal_.rows() - 3;
+        first = std::clamp(first, 0, std::max(0, static_cast<int>(lines.size()) - rows));
+        terminal_.Clear();
+        terminal_.Write(0, 0, ' ' + title, columns, {false, true, false, colour_title});
+        for (int row = 0; row < rows && first + row < static_cast<int>(lines.size()); ++row) {
+            std::string line = lines[static_cast<std::size_t>(first + row)];
+            for (int cut = 0; cut < shift && !line.empty(); ++cut) {
+                do {
+                    line.erase(0, 1);
+                } while (!line.empty() && (line.front() & 0xC0) == 0x80);
+            }
+            terminal_.Write(1 + row, 0, line, columns);
+        }
+        terminal_.Write(terminal_.rows() - 1, 0,
+                        " arrows, PgUp, PgDn move  Esc back   " + std::to_string(first + 1) + " of " +
+                            std::to_string(lines.size()),
+                        columns, {true, false, false, 0});
+        terminal_.Show();
+        const Event event = terminal_.Next();
+        if (event.kind == Event::Kind::End) {
+            ending_ = true;
+            return;
+        }
+        const int steps = event.kind == Event::Kind::WheelUp     ? -wheel_step
+                          : event.kind == Event::Kind::WheelDown ? wheel_step
+                          : event.kind != Event::Kind::Key       ? 0
+                          : event.key.code == VK_UP              ? -1
+                          : event.key.code == VK_DOWN            ? 1
+                          : event.key.code == VK_PRIOR           ? -rows
+                          : event.key.code == VK_NEXT            ? rows
+                          : event.key.code == VK_HOME            ? -first
+                          : event.key.code == VK_END             ? static_cast<int>(lines.size())
+                                                                 : 0;
+        first += steps;
+        if (event.kind == Event::Kind::Key) {
+            shift = std::max(0, shift + (event.key.code == VK_RIGHT  ? 8
+                                         : event.key.code == VK_LEFT ? -8
+                                                                     : 0));
+            if (event.key.code == VK_ESCAPE || event.key.code == VK_RETURN || event.key.letter == 'q') {
+                return;
+            }
+        }
+    }
+}
+
+Lines FullScreen::Do(const std::string& line) {
+    Lines said = command_(line);
+    HearTrace(); // the commands let go of it at their end
+    return said;
+}
+
+void FullScreen::AskCommand() {
+    Text line;
+    for (;;) {
+        Draw();
+        const std::string shown = " command: " + ToUtf8(line);
+        terminal_.Write(terminal_.rows() - 1, 0, shown, terminal_.columns(), {true, false, false, 0});
+        terminal_.PointAt(terminal_.rows() - 1, Columns(shown));
+        terminal_.Show();
+        const Event event = terminal_.Next();
+        if (event.kind == Event::Kind::End) {
+            ending_ = true;
+            return;
+        }
+        if (event.kind != Event::Kind::Key) {
+            continue;
+        }
+        if (event.key.code == VK_ESCAPE) {
+            return;
+        }
+        if (event.key.code == VK_RETURN) {
+            if (!line.empty()) {
+                View(ToUtf8(line), Do(ToUtf8(line)));
+                NoteChanges();
+            }
+            return;
+        }
+        if (event.key.code == VK_BACK && !line.empty()) {
+            line.pop_back();
+        } else if (event.key.letter != 0 || event.key.code == VK_SPACE) {
+            line += event.key.letter != 0 ? event.key.letter : WCHAR{' '};
+        }
+    }
+}
+
+} // namespace host
