@@ -47,8 +47,7 @@ std::string Said(const std::string& line, const std::string& name) {
 
 class Script : public host::LineSource {
 public:
-    Script(std::vector<std::string> lines, sim::Machine& machine)
-        : lines_(std::move(lines)), machine_(machine) {}
+    Script(std::vector<std::string> lines, host::World& world) : lines_(std::move(lines)), world_(world) {}
 
     std::optional<std::string> Next(const std::string&) override {
         if (next_ == lines_.size()) {
@@ -59,9 +58,7 @@ public:
         std::string operation;
         std::size_t call = 0;
         if (said >> operation >> call) {
-            const auto seen = machine_.faults.count_by_name.find(operation);
-            machine_.faults.at_call.emplace_back(
-                operation, call + (seen != machine_.faults.count_by_name.end() ? seen->second : 0));
+            world_.Fail(operation, call);
         }
         return line;
     }
@@ -69,7 +66,7 @@ public:
 private:
     std::vector<std::string> lines_;
     std::size_t next_ = 0;
-    sim::Machine& machine_;
+    host::World& world_;
 };
 
 std::vector<std::string> Names() {
@@ -109,7 +106,7 @@ TEST_P(ScriptsTest, RunsAsItsTranscriptTells) {
                 std::ranges::for_each(machine.devices, [](sim::Device& device) { device.remote = true; });
             }
         }
-        Script script(lines, machine);
+        Script script(lines, world);
         host::Interpreter(world, script, out).Run();
     }
     EXPECT_TRUE(machine.open.empty());

@@ -15,23 +15,25 @@ using PortUsageBitmap = BYTE[ComNumberMax / 8];
 // Units of an entry of the combo, terminator included. Its suffix alone has the same limit.
 constexpr u32 EntryCapacity = 40;
 
-// Returns 0, StatusNoDatabase or StatusNoUsage.
-u32 ReadPortUsage(PortUsageBitmap& usage) {
-    HCOMDB database = nullptr;
-    u32 sStatus = 0;
+// Returns 0, StatusNoDatabase or StatusNoUsage. CloseDatabase takes the handle in each case.
+u32 ReadPortUsage(HCOMDB* database, PortUsageBitmap& usage) {
     DWORD portCount = 0;
-    if (ComDBOpen(&database) != ERROR_SUCCESS) {
+    if (ComDBOpen(database) != ERROR_SUCCESS) {
         TraceOut("%s - ComDBOpen fail, GetLastError():%d\n", TraceOperation(), GetLastError());
-        sStatus = StatusNoDatabase;
-    } else if (ComDBGetCurrentPortUsage(database, usage, sizeof(usage), CDB_REPORT_BITS, &portCount) !=
-               ERROR_SUCCESS) {
-        TraceOut("%s - ComDBGetCurrentPortUsage fail, GetLastError():%d\n", TraceOperation(), GetLastError());
-        sStatus = StatusNoUsage;
+        return StatusNoDatabase;
     }
+    if (ComDBGetCurrentPortUsage(*database, usage, sizeof(usage), CDB_REPORT_BITS, &portCount) !=
+        ERROR_SUCCESS) {
+        TraceOut("%s - ComDBGetCurrentPortUsage fail, GetLastError():%d\n", TraceOperation(), GetLastError());
+        return StatusNoUsage;
+    }
+    return 0;
+}
+
+void CloseDatabase(HCOMDB database) {
     if (database != nullptr) {
         ComDBClose(database);
     }
-    return sStatus;
 }
 
 u32 ClampComNumber(u32 number) {
@@ -67,12 +69,14 @@ void AddAllNumbers(HWND combo, const PortUsageBitmap& usage, u32 currentNumber, 
 
 u32 Kavro_COMPortCheckNumberInUse(u32 number) {
     TraceOut("----> %s( )\n", __func__);
+    HCOMDB database = nullptr;
     PortUsageBitmap usage = {};
-    u32 sStatus = ReadPortUsage(usage);
+    u32 sStatus = ReadPortUsage(&database, usage);
     if (sStatus == 0 && IsPortClaimed(usage, number)) {
         TraceOut("%s - port has been previously claimed\n", __func__);
         sStatus = StatusNumberClaimed;
     }
+    CloseDatabase(database);
     TraceOut("<---- %s, sStatus:%d\n", __func__, sStatus);
     return sStatus;
 }
@@ -80,8 +84,9 @@ u32 Kavro_COMPortCheckNumberInUse(u32 number) {
 u32 Kavro_COMPortGetMaxNumberAvailable(u32* MaxAvlComNumber) {
     TraceOut("----> %s( )\n", __func__);
     *MaxAvlComNumber = 0;
+    HCOMDB database = nullptr;
     PortUsageBitmap usage = {};
-    u32 sStatus = ReadPortUsage(usage);
+    u32 sStatus = ReadPortUsage(&database, usage);
     if (sStatus == 0) {
         u32 number = ComNumberMax;
         while (number != 0 && IsPortClaimed(usage, number)) {
@@ -95,6 +100,7 @@ u32 Kavro_COMPortGetMaxNumberAvailable(u32* MaxAvlComNumber) {
             sStatus = StatusNoneFree;
         }
     }
+    CloseDatabase(database);
     TraceOut("<---- %s, sStatus:%d, *MaxAvlComNumber:%d\n", __func__, sStatus, *MaxAvlComNumber);
     return sStatus;
 }
@@ -102,16 +108,18 @@ u32 Kavro_COMPortGetMaxNumberAvailable(u32* MaxAvlComNumber) {
 u32 Kavro_COMPortFillPortNameCombox(HWND dialog, const WCHAR* portName) {
     TraceOut("----> %s( )\n", __func__);
     const HWND combo = GetDlgItem(dialog, IDC_PORT_NUMBER);
+    HCOMDB database = nullptr;
     u32 sStatus = StatusNoCombo;
     if (combo != nullptr && portName[0] != 0) {
         WCHAR suffix[EntryCapacity];
         LoadInUseSuffix(suffix);
         PortUsageBitmap usage = {};
-        sStatus = ReadPortUsage(usage);
+        sStatus = ReadPortUsage(&database, usage);
         if (sStatus == 0) {
             AddAllNumbers(combo, usage, ClampComNumber(ComNumberFromName(portName)), suffix);
         }
     }
+    CloseDatabase(database);
     EnableWindow(combo, sStatus == 0);
     EnableWindow(GetDlgItem(dialog, IDC_PORT_NUMBER_CAPTION), sStatus == 0);
     TraceOut("<---- %s, sStatus:%d\n", __func__, sStatus);
