@@ -1,14 +1,18 @@
 // The full screen as a program starts it.
 #pragma once
 
+#include <functional>
 #include <string>
 
+#include "host/screen/listing.h"
 #include "host/worlds/world.h"
 
 namespace host {
 
-// Sits before the world until its user leaves. False if nothing has been done: with the reason if the
-// terminal can't be filled, without one if there is no person at a terminal.
-bool RunFullScreen(World& world, std::string& reason);
+// Sits before the world until its user leaves; `command` makes the output of a command that the user gives.
+// False if nothing has been done: with the reason if the terminal can't be filled, without one if there is no
+// person at a terminal.
+bool RunFullScreen(World& world, const std::function<Lines(const std::string& line)>& command,
+                   std::string& reason);
 
 } // namespace host

@@ -3,7 +3,7 @@
 namespace host {
 
 // The real windows are on the screen already.
-bool RunFullScreen(World&, std::string& reason) {
+bool RunFullScreen(World&, const std::function<Lines(const std::string& line)>&, std::string& reason) {
     reason.clear();
     return false;
 }

@@ -3,7 +3,9 @@
 #include "host/line/program.h"
 
 #include <iostream>
+#include <optional>
 #include <sstream>
+#include <utility>
 
 #include <CLI/CLI.hpp>
 
@@ -71,6 +73,32 @@ struct Session {
     bool line = false; // at a prompt, though the terminal could be filled
 };
 
+struct OneLine : LineSource {
+    std::optional<std::string> line;
+    std::optional<std::string> Next(const std::string&) override { return std::exchange(line, {}); }
+};
+
+bool FillScreenWith(World& world, FillScreen fill_screen, std::string& reason) {
+    OneLine typed;
+    std::ostringstream out;
+    Interpreter interpreter(world, typed, out);
+    const auto run = [&](const std::string& line) {
+        typed.line = line;
+        out.str({});
+        interpreter.Run();
+        std::istringstream written(out.str());
+        std::vector<std::string> lines;
+        for (std::string each; std::getline(written, each);) {
+            lines.push_back(each);
+        }
+        if (!lines.empty()) {
+            lines.erase(lines.begin()); // the command itself
+        }
+        return lines;
+    };
+    return fill_screen(world, run, reason);
+}
+
 int Tour(World& world) {
     std::string lines;
     for (const std::string& line : world.Tour()) {
@@ -92,7 +120,7 @@ int Run(const Session& session, OpenLines open_console, FillScreen fill_screen) 
         return unreadable;
     }
     std::string reason;
-    if (session.commands.empty() && !session.line && fill_screen(*world, reason)) {
+    if (session.commands.empty() && !session.line && FillScreenWith(*world, fill_screen, reason)) {
         if (world->HasUnsavedChanges()) {
             std::cerr << unsaved;
         }

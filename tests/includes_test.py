@@ -1,0 +1,19 @@
+"""What each folder includes, held to the table of docs/house.md."""
+import pathlib
+import re
+
+root = pathlib.Path(__file__).parents[1]
+allowed = {}
+for row in re.findall(r"^\| (`.+) \| (.+) \|$", (root / "docs/house.md").read_text(), re.M):
+    folders, headers = (re.findall(r"`(.+?)`", cell) for cell in row)
+    allowed |= {folder: {folder, *headers} for folder in folders}
+
+wrong = []
+for file in sorted([*root.glob("src/**/*"), *root.glob("host/**/*")]):
+    if file.suffix in (".cpp", ".h") and "languages" not in file.parts:
+        path = file.relative_to(root / "src" if root / "src" in file.parents else root)
+        may = allowed.get(str(path)) or allowed.get(str(path.parent), set())
+        for header in re.findall(r'^#include "(.+/.+)"', file.read_text(), re.M):
+            if not may & {header, header.rpartition("/")[0]}:
+                wrong.append(f"{path} includes {header}")
+assert allowed and not wrong, "\n".join(wrong)
