@@ -29,14 +29,18 @@ def comparable(transcript):
     return [line for line in transcript.decode().splitlines() if not line.startswith("  |")]
 
 
+def setting(lines):
+    """The machine of a script and the options that the host runs it with."""
+    language = said(lines, "language")
+    return ROOT / (said(lines, "machine") or "host/machines/sample.reg"), ["--language", language] if language else []
+
+
 def run(script):
-    lines = script.read_text().splitlines()
+    machine, options = setting(script.read_text().splitlines())
     with Prefix() as prefix:
-        prefix.import_machine(ROOT / (said(lines, "machine") or "host/machines/sample.reg"))
-        language = said(lines, "language")
-        options = ["--language", language] if language else []
+        prefix.import_machine(machine)
         transcript, _ = prefix.run("kvrhost_test.exe", *options, input=script.read_bytes(), timeout=120)
-        return comparable(transcript)
+    return comparable(script.with_suffix(".out").read_bytes()), comparable(transcript)
 
 
 def differences(expected, got):
@@ -52,17 +56,16 @@ def differences(expected, got):
         yield hunk
 
 
-def main(names):
-    # The library that ships has no trace.
+def main(names, left_out, run_both):
+    """Compares what `run_both` makes of a script in the two worlds, of the named scripts or all but those that begin so."""
     scripts = sorted(script for script in SCRIPTS.glob("*.txt")
-                     if (script.stem in names if names else not script.stem.startswith("trace_")))
+                     if (script.stem in names if names else not script.stem.startswith(left_out)))
     template()
     Screen.name()
     with ThreadPoolExecutor(int(os.environ.get("KVR_JOBS", 2))) as pool:
-        transcripts = list(pool.map(run, scripts))
+        transcripts = list(pool.map(run_both, scripts))
     failed, lines = 0, 0
-    for script, got in zip(scripts, transcripts):
-        expected = comparable(script.with_suffix(".out").read_bytes())
+    for script, (expected, got) in zip(scripts, transcripts):
         lines += len(expected)
         hunks = list(differences(expected, got))
         if hunks:
@@ -75,4 +78,5 @@ def main(names):
 
 
 if __name__ == "__main__":
-    sys.exit(main(sys.argv[1:]))
+    # The library that ships has no trace.
+    sys.exit(main(sys.argv[1:], "trace_", run))

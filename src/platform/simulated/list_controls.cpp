@@ -42,11 +42,11 @@ struct Items {
         return Has(index) ? CopyOut(texts[index], reinterpret_cast<LPWSTR>(buffer), texts[index].size() + 1)
                           : LB_ERR;
     }
-    // Searches once around from the item after `start`; -1 begins at the top.
+    // Searches once around from the item after `start`; -1 begins at the top. No item begins with nothing.
     LRESULT Find(WPARAM start, LPARAM beginning) const {
         const std::u16string_view wanted = MessageText(beginning);
         const std::size_t first = Has(start) ? start + 1 : 0;
-        for (std::size_t step = 0; beginning != 0 && step < texts.size(); ++step) {
+        for (std::size_t step = 0; !wanted.empty() && step < texts.size(); ++step) {
             const std::size_t index = (first + step) % texts.size();
             if (EqualNoCase(std::u16string_view(texts[index]).substr(0, wanted.size()), wanted)) {
                 return static_cast<LRESULT>(index);
