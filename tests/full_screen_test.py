@@ -68,7 +68,7 @@ class FullScreen(unittest.TestCase):
                 terminal.mouse(0, terminal.screen.display[row].index(" v]"), row, up)
             terminal.wait("Enter shut")
             terminal.press("esc")
-            terminal.wait("F4 open the list")
+            terminal.wait("F4 list")
             terminal.click("Advanced...")
             terminal.wait("UART Feature")
             terminal.click("Sort UART")

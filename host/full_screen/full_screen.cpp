@@ -36,7 +36,7 @@ std::string KeysOf(const Control* control) {
     case Kind::Check:
         return "Space check";
     case Kind::Combo:
-        return control->dropped ? "Up/Down choose  Enter shut" : "Up/Down choose  F4 open the list";
+        return control->dropped ? "Up/Down choose  Enter shut" : "Up/Down choose  F4 list";
     case Kind::List:
         return "Up/Down choose";
     case Kind::Slider:
@@ -164,7 +164,7 @@ void FullScreen::TakeDeviceEvent(const Event& event) {
     int wanted = static_cast<int>(selected_);
     if (event.kind == Event::Kind::Press) {
         const int row = event.row - 1 + first_device_;
-        if (event.column >= PaneColumns(terminal_.columns()) || event.row < 1 || row > last) {
+        if (event.row < 1 || event.row > page + 1 || row > last) {
             return;
         }
         if (row == wanted) {
@@ -197,7 +197,7 @@ void FullScreen::TakeDeviceEvent(const Event& event) {
 void FullScreen::Draw() {
     const int columns = terminal_.columns(), rows = terminal_.rows();
     terminal_.Clear();
-    DrawDevices(PaneColumns(columns), rows - 1 - PaneRows(rows));
+    DrawDevices(windows_.empty() ? columns : PaneColumns(columns), rows - 1 - PaneRows(rows));
     DrawPane(rows - 1 - PaneRows(rows), PaneRows(rows));
     DrawWindows();
     DrawKeys();
@@ -251,8 +251,12 @@ void FullScreen::DrawKeys() {
     std::string keys = "Up/Down choose  Enter open  F1 help  F2 ports  F3 store  F5 journal  F10 end";
     if (!windows_.empty()) {
         keys = KeysOf(FocusedOf(front_.window));
-        keys += (keys.empty() ? "" : "  ") +
-                std::string("Tab next  Alt+letter  Esc cancel  F1 help  F2 ports  F10 end");
+        // As many as there is room for, the most needed first.
+        for (const char* const key :
+             {"Tab next", "Esc cancel", "F1 help", "F10 end", "Alt+letter", "F2 ports"}) {
+            const std::string more = keys + (keys.empty() ? "" : "  ") + key;
+            keys = Columns(more) < terminal_.columns() ? more : keys;
+        }
     }
     terminal_.Write(terminal_.rows() - 1, 0, ' ' + (message_.empty() ? keys : message_), terminal_.columns(),
                     {true, false, false, 0});

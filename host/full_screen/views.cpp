@@ -51,7 +51,8 @@ bool FullScreen::TakeCommon(const Event& event) {
         View("Ports", Do("ports"));
         return true;
     case 3:
-        View("Store", Do("store " + std::to_string(selected_ + 1)));
+        View("The store of device " + std::to_string(selected_ + 1),
+             Do("store " + std::to_string(selected_ + 1)));
         return true;
     case 5:
         if (tracing_) {
