@@ -134,6 +134,7 @@ class FullScreen(unittest.TestCase):
 
     def test_views(self):
         with Terminal(HOST, columns=120) as terminal:
+            terminal.wait("Communications Port (COM1)  (no page: it is no channel of a board)")
             open_board(terminal)
             terminal.press("f2")
             terminal.wait("PortName", "\\Device\\KvrUart0")

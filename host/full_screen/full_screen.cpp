@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/diagnosis/published_values.h"
 #include "host/screen/hand.h"
 #include "host/screen/keyboard.h"
 #include "host/text.h"
@@ -129,13 +130,25 @@ void FullScreen::HearTrace() {
 }
 
 void FullScreen::ReadDevices() {
-    devices_ = world_.Devices();
-    port_names_.clear();
-    for (const Device& device : devices_) {
+    devices_.clear();
+    for (Device& device : world_.Devices()) {
         const std::vector<StoreValue> store = world_.Store(device.id);
-        const StoreValue* const name =
-            device.kind == DeviceKind::Port ? FindValue(store, "PortName") : nullptr;
-        port_names_.push_back(name == nullptr ? "" : TextOf(*name));
+        ListedDevice listed;
+        if (const StoreValue* const name = FindValue(store, "PortName");
+            name != nullptr && device.kind == DeviceKind::Port) {
+            listed.port = TextOf(*name);
+        }
+        const StoreValue* const opened = FindValue(store, "ChlOpened");
+        unsigned long times = 0;
+        if (const std::string reason = WhyNoPage(device.kind, store); !reason.empty()) {
+            listed.state = "no page: " + reason;
+        } else if (!device.present.value_or(true)) {
+            listed.state = "absent";
+        } else if (opened != nullptr && NumberOf(*opened, times) && times != 0) {
+            listed.state = "open";
+        }
+        listed.device = std::move(device);
+        devices_.push_back(std::move(listed));
     }
 }
 
@@ -144,7 +157,7 @@ void FullScreen::Open() {
         return;
     }
     bool opened = false;
-    const std::string id = devices_[selected_].id;
+    const std::string id = devices_[selected_].device.id;
     world_.RunSheet(id, [&](HWND front) {
         opened = true;
         Attend(front);
@@ -211,15 +224,15 @@ void FullScreen::DrawDevices(int columns, int rows) {
     terminal_.Write(0, 0, " Devices", columns, {false, true, false, colour_title});
     for (int row = 0; row < in_sight && first_device_ + row < all; ++row) {
         const auto index = static_cast<std::size_t>(first_device_ + row);
-        const Device& device = devices_[index];
+        const auto& [device, port, state] = devices_[index];
         const bool selected = index == selected_;
         const std::string number = std::to_string(index + 1);
-        const bool absent = device.present && !*device.present;
-        const std::string line =
-            (selected ? ">" : " ") + std::string(number.size() < 3 ? 3 - number.size() : 0, ' ') + number +
-            ' ' + (absent ? "(absent) " : "") +
-            (port_names_[index].empty() ? "" : PaddedTo(port_names_[index], 7)) + NameOf(device);
-        terminal_.Write(1 + row, 0, line, columns - 1, {selected && windows_.empty(), selected, absent, 0});
+        const std::string line = (selected ? ">" : " ") +
+                                 std::string(number.size() < 3 ? 3 - number.size() : 0, ' ') + number + ' ' +
+                                 (port.empty() ? "" : PaddedTo(port, 7)) + NameOf(device) +
+                                 (state.empty() ? "" : "  (" + state + ')');
+        terminal_.Write(1 + row, 0, line, columns - 1,
+                        {selected && windows_.empty(), selected, !state.empty(), 0});
         if (selected && windows_.empty()) {
             terminal_.PointAt(1 + row, 0);
         }

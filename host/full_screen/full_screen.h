@@ -59,8 +59,12 @@ private:
     World& world_;
     Command command_;
     Terminal terminal_;
-    std::vector<Device> devices_;
-    std::vector<std::string> port_names_; // of the devices; empty for what is no port
+    struct ListedDevice {
+        Device device;
+        std::string port;  // COM5; empty for what is no port
+        std::string state; // absent, no page and why, open; empty if nothing of that
+    };
+    std::vector<ListedDevice> devices_;
     std::size_t selected_ = 0;
     int first_device_ = 0;
     std::vector<HWND> windows_; // from the backmost to the one in front
