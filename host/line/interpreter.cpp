@@ -213,7 +213,8 @@ void Interpreter::Open(const Device& device) {
     }
     NoteClosed(true);
     if (!sheet_opened_) {
-        throw Refusal("the device's provider gave no page");
+        throw Refusal(device.provider_fault.empty() ? "the device's provider gave no page"
+                                                    : "no page: " + device.provider_fault);
     }
 }
 

@@ -14,7 +14,10 @@ void Devices(Interpreter& host, const Words&) {
     const std::vector<Device> devices = host.world().Devices();
     Lines lines = ListDevices(devices);
     for (std::size_t index = 0; index < devices.size(); ++index) {
-        const std::string reason = WhyNoPage(devices[index].kind, host.world().Store(devices[index].id));
+        const Device& device = devices[index];
+        const std::string reason = device.provider_fault.empty()
+                                       ? WhyNoPage(device.kind, host.world().Store(device.id))
+                                       : device.provider_fault;
         if (!reason.empty()) {
             lines[index] += "  (no page: " + reason + ')';
         }
@@ -44,9 +47,12 @@ void Journal(Interpreter& host, const Words&) {
 }
 
 void Export(Interpreter& host, const Words& words) {
-    std::string error;
-    if (!host.world().Export(FileToWrite(words), error)) {
-        throw Refusal(error);
+    std::string told;
+    if (!host.world().Export(FileToWrite(words), told)) {
+        throw Refusal(told);
+    }
+    if (!told.empty()) {
+        host.Tell(told);
     }
 }
 

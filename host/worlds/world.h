@@ -30,7 +30,8 @@ struct Device {
     Text description;            // may be empty
     Text friendly_name;          // may be empty
     std::optional<bool> present; // not known of a device without interfaces
-    bool has_store = true;       // its hardware key is known
+    // Why nobody can be asked for its pages; empty if somebody can, or if that is not known.
+    std::string provider_fault;
 };
 
 // The friendly name, else the description, else the instance id, as it is shown.
@@ -97,8 +98,8 @@ public:
 
     virtual PortRecords Ports() = 0;
 
-    // Calls the provider of the device's kind and runs the sheet with its page; comes back when the sheet has
-    // closed, or at once when the provider gives no page. `attend` is called whenever a modal window waits
+    // Calls the device's provider and runs the sheet with its page; comes back when the sheet has closed, or
+    // at once when there is no provider or it gives no page. `attend` is called whenever a modal window waits
     // for its user, message boxes included; it operates that window and comes back once it has ended or there
     // is nothing left to do. False if there is no such device.
     virtual bool RunSheet(const std::string& id, const std::function<void(HWND front)>& attend) = 0;
@@ -130,9 +131,10 @@ public:
     // are made where they last.
     virtual bool HasUnsavedChanges() = 0;
 
-    // Writes the machine as a registry export. False, with a reason in `error`, if the file can't be written
-    // or this world has no such form of itself.
-    virtual bool Export(const std::string& file, std::string& error) = 0;
+    // Writes the machine as a registry export. False, with a reason in `told`, if the file can't be written
+    // or this world has no such form of itself; where it is written, `told` is what of the changes it leaves
+    // out.
+    virtual bool Export(const std::string& file, std::string& told) = 0;
 
     // Writes what has changed since the machine was read, as a patch for its registry, and beside it what
     // takes it back, each with its comments at the head. False with a reason as above, or if there is nothing

@@ -8,14 +8,10 @@ import subprocess
 import sys
 
 from compare_worlds import SCRIPTS, said
-from wine import ROOT, Prefix, Screen, template
+from wine import ROOT, Prefix, Screen, template, windows_path
 
 HOST = pathlib.Path(os.environ.get("KVR_HOST", ROOT / "build" / "debug" / "kvrhost"))
 SAMPLE = ROOT / "host" / "machines" / "sample.reg"
-
-
-def windows_path(path):
-    return "Z:" + str(pathlib.Path(path).resolve()).replace("/", "\\")
 
 
 def same_transcript(prefix, script):
@@ -45,9 +41,9 @@ def patch_goes_there_and_back(prefix):
     patch = prefix.programs / "fix.reg"
     answer, code = prefix.run("kvrbench.exe", windows_path(SAMPLE), "-c", "mend", "open 1", "click Advanced",
                               'click "Sort UART"', "click Cancel", "sheet ok", "patch " + windows_path(patch))
-    prefix.import_machine(patch)
+    prefix.import_file(patch)
     mended = told(prefix)
-    prefix.import_machine(prefix.programs / "fix-undo.reg")
+    prefix.import_file(prefix.programs / "fix-undo.reg")
     after = told(prefix)
     for text, wanted in ((before, True), (mended, False), (after, True)):
         for sentence in ("COM9 is in use and nothing is there", "do not ascend"):

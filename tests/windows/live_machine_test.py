@@ -6,12 +6,12 @@ import shutil
 import subprocess
 import sys
 
-from wine import BUILD, ROOT, Prefix
+from wine import BUILD, ROOT, Prefix, windows_path
 
 
 def registry(prefix):
     """All values of the machine, by lines."""
-    prefix.run("regedit", "/E", "Z:" + str(prefix.place / "all.reg").replace("/", "\\"), "HKEY_LOCAL_MACHINE")
+    prefix.run("regedit", "/E", windows_path(prefix.place / "all.reg"), "HKEY_LOCAL_MACHINE")
     return (prefix.place / "all.reg").read_bytes().decode("utf-16").splitlines()
 
 

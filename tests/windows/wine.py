@@ -14,8 +14,10 @@ import tempfile
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 BUILD = pathlib.Path(os.environ.get("KVR_WINDOWS_BUILD", ROOT / "build" / "windows"))
 TEMPLATES = ROOT / "build" / "wine"
-PROGRAMS = ["kvrpagex64.dll", "kvrhost.exe", "kvrhost_test.exe", "kvrfit.exe", "kvrpictures.exe", "kvrlifetime.exe",
-            "kvrkeys.exe", "kvrbench.exe"]
+PROGRAMS = ["kvrhost.exe", "kvrhost_test.exe", "kvrfit.exe", "kvrpictures.exe", "kvrlifetime.exe",
+            "kvrkeys.exe", "kvrinstall.exe", "kvrbench.exe"]
+CLASSES = r"HKEY_LOCAL_MACHINE\SYSTEM\CurrentControlSet\Control\Class"
+PORTS = "{4d36e978-e325-11ce-bfc1-08002be10318}"
 
 # "MS Shell Dlg" is Microsoft Sans Serif on Windows, which has every script. Here each script has its own font; of
 # those that are small, the ones that come nearest.
@@ -39,6 +41,10 @@ signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
 
 def font_settings(font):
     return [["add", SUBSTITUTES, "/v", name, "/d", font] for name in ("MS Shell Dlg", "MS Shell Dlg 2", "Tahoma")]
+
+
+def windows_path(file):
+    return "Z:" + str(pathlib.Path(file).resolve()).replace("/", "\\")
 
 
 class Screen:
@@ -129,8 +135,9 @@ class Prefix:
             for entry in (origin / folder).iterdir():
                 if entry.name not in own:
                     (place / folder / entry.name).symlink_to(entry)
-        # Where the system's own would be.
-        shutil.copy(BUILD / "standins" / "msports.dll", place / "drive_c" / "windows" / "system32")
+        # Where the system's own would be, and where an INF puts the library.
+        for library in ("standins/msports.dll", "kvrpagex64.dll"):
+            shutil.copy(BUILD / library, place / "drive_c" / "windows" / "system32")
 
     def environment(self):
         return {**os.environ, "WINEPREFIX": str(self.place), "WINEDEBUG": "-all", "LC_ALL": "C.UTF-8",
@@ -157,10 +164,36 @@ class Prefix:
     def use_scale(self, dots_per_inch):
         self.reg("add", DESKTOP, "/v", "LogPixels", "/t", "REG_DWORD", "/d", str(dots_per_inch))
 
-    def import_machine(self, file):
-        _, code = self.run("regedit", "/S", "Z:" + str(pathlib.Path(file).resolve()).replace("/", "\\"))
+    def import_file(self, file):
+        _, code = self.run("regedit", "/S", windows_path(file))
         if code:
             raise RuntimeError(f"regedit can't import {file}")
+
+    def import_machine(self, file):
+        """The machine of an export, with what the INF of its drivers has set for each device."""
+        self.import_file(file)
+        set_by_inf = self.place / "set_by_inf.reg"
+        wide = pathlib.Path(file).read_bytes().startswith(b"\xff\xfe")
+        set_by_inf.write_text(providers_of(pathlib.Path(file).read_text("utf-16" if wide else "utf-8-sig")))
+        self.import_file(set_by_inf)
+
+
+def providers_of(export):
+    """The driver's key of each board and port of an export, and in it the provider of its page."""
+    devices = {}
+    for path, values in re.findall(r"^\[(HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Enum(?:\\[^\]\\]+){3})"
+                                   r"(?:\\Device Parameters)?\]\n((?:(?:[^\[\n].*)?\n)*)", export, re.M):
+        devices[path] = devices.get(path, "") + values
+    lines = ["Windows Registry Editor Version 5.00"]
+    for number, (path, values) in enumerate(devices.items()):
+        port = '"Class"="Ports"' in values or '"PortName"' in values
+        if port or '"BoardNrController"' in values:
+            named = re.search(r'"ClassGUID"="(.*)"', values)
+            driver = rf"{named[1] if named else PORTS}\{number:04}"
+            function = "KvrUartPropPageProvider" if port else "KvrBoardPropPageProvider"
+            lines += [f"[{path}]", '"Driver"="{}"'.format(driver.replace("\\", "\\\\")), rf"[{CLASSES}\{driver}]",
+                      f'"EnumPropPages32"="kvrpagex64.dll,{function}"']
+    return "\n".join(lines) + "\n"
 
 
 def template():

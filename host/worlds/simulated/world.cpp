@@ -96,8 +96,12 @@ std::vector<Device> SimulatedWorld::Devices() {
             present = std::ranges::any_of(
                 interfaces, [&](const sim::Interface& entry) { return is_of_device(entry) && entry.linked; });
         }
-        devices.push_back({ToUtf8(device.instance_id), *kind, device.description.value_or(u""),
-                           device.friendly_name.value_or(u""), present, device.has_key});
+        devices.push_back({ToUtf8(device.instance_id),
+                           *kind,
+                           device.description.value_or(u""),
+                           device.friendly_name.value_or(u""),
+                           present,
+                           {}});
     }
     std::ranges::sort(devices, [](const Device& left, const Device& right) {
         return left.kind != right.kind ? left.kind == DeviceKind::Board : Folded(left.id) < Folded(right.id);
@@ -222,9 +226,12 @@ bool SimulatedWorld::HasUnsavedChanges() {
     return contents(machine_) != contents(saved_);
 }
 
-bool SimulatedWorld::Export(const std::string& file, std::string& error) {
-    if (!SaveMachine(file_, machine_, file, error)) {
+bool SimulatedWorld::Export(const std::string& file, std::string& told) {
+    if (!SaveMachine(file_, machine_, file, told)) {
         return false;
+    }
+    if (!PortDatabase(file_) && machine_.port_usage != sim::PortUsage{}) {
+        told = "the COM port database was not in the file that was read, and is left out";
     }
     KeepAsSaved();
     return true;

@@ -29,7 +29,7 @@ public:
     bool HearTrace(TraceListener hear) override;
     UINT BoxStyle(HWND box) override;
     bool HasUnsavedChanges() override;
-    bool Export(const std::string& file, std::string& error) override;
+    bool Export(const std::string& file, std::string& told) override;
     bool Patch(const std::string& file, const std::vector<std::string>& comments,
                const std::string& undo_file, const std::vector<std::string>& undo_comments,
                std::string& error) override;

@@ -1,5 +1,4 @@
-// The system itself as the world of the host: its devices, its registry, its windows. The library is the one
-// beside the program.
+// The system itself as the world of the host: its devices, its registry, its windows.
 #include "host/worlds/world.h"
 
 #include <algorithm>
@@ -9,6 +8,7 @@
 #include "host/worlds/store_values.h"
 #include "host/worlds/windows/attendance.h"
 #include "host/worlds/windows/observers.h"
+#include "host/worlds/windows/providers.h"
 #include "host/worlds/windows/registry.h"
 #include "host/worlds/windows/system.h"
 
@@ -47,7 +47,8 @@ HKEY HardwareKey(HDEVINFO set, SP_DEVINFO_DATA& data) {
     return SetupDiOpenDevRegKey(set, &data, DICS_FLAG_GLOBAL, 0, DIREG_DEV, KEY_READ);
 }
 
-// The device as the host lists it, but for its presence; nothing if it has no provider.
+// The device as the host lists it, but for its presence and its provider; nothing if it is no board and no
+// port.
 std::optional<Device> Describe(HDEVINFO set, SP_DEVINFO_DATA& data) {
     Device device;
     device.id = InstanceId(set, &data);
@@ -57,7 +58,6 @@ std::optional<Device> Describe(HDEVINFO set, SP_DEVINFO_DATA& data) {
     } else if (!key.Has(TEXT("BoardNrController"))) { // what only a board's own device says
         return {};
     }
-    device.has_store = key.Handle() != nullptr;
     device.description = Property(set, data, SPDRP_DEVICEDESC);
     device.friendly_name = Property(set, data, SPDRP_FRIENDLYNAME);
     return device;
@@ -138,8 +138,9 @@ bool IsElevated() {
 
 class System : public World {
 public:
-    explicit System(HMODULE library) : library_(library) { AttachTo(library); }
-    ~System() override { FreeLibrary(library_); }
+    System() {
+        Devices(); // what their libraries do and tell is observed from here on
+    }
 
     std::string Greeting() override {
         return IsElevated()
@@ -165,6 +166,7 @@ public:
                 if (among(with_interface, device->id)) {
                     device->present = among(present, device->id);
                 }
+                device->provider_fault = providers_.Of(set.Handle(), data).fault;
                 devices.push_back(std::move(*device));
             }
         }
@@ -238,19 +240,15 @@ public:
         if (!device) {
             return false;
         }
-        using Provider = BOOL(APIENTRY*)(SP_PROPSHEETPAGE_REQUEST*, LPFNADDPROPSHEETPAGE, LPARAM);
-        const char* const name =
-            device->kind == DeviceKind::Board ? "KvrBoardPropPageProvider" : "KvrUartPropPageProvider";
-        const auto provider =
-            reinterpret_cast<Provider>(reinterpret_cast<void*>(GetProcAddress(library_, name)));
-        if (!provider) {
+        const Provider provider = providers_.Of(set.Handle(), data);
+        if (!provider.ask) {
             return true;
         }
         const Attendance attendance(attend);
         SP_PROPSHEETPAGE_REQUEST request{sizeof request, SPPSR_ENUM_ADV_DEVICE_PROPERTIES, set.Handle(),
                                          &data};
         std::vector<HPROPSHEETPAGE> pages;
-        if (provider(&request, &TakePage, reinterpret_cast<LPARAM>(&pages)) && !pages.empty()) {
+        if (provider.ask(&request, &TakePage, reinterpret_cast<LPARAM>(&pages)) && !pages.empty()) {
             ShowSheet(FromUtf8(NameOf(*device)) + TEXT(" Properties"), pages);
         }
         return true;
@@ -264,8 +262,8 @@ public:
 
     bool HasUnsavedChanges() override { return false; }
 
-    bool Export(const std::string&, std::string& error) override {
-        error = "a real machine is exported by its own registry editor";
+    bool Export(const std::string&, std::string& told) override {
+        told = "a real machine is exported by its own registry editor";
         return false;
     }
 
@@ -281,7 +279,7 @@ public:
     bool Fail(const std::string&, std::size_t) override { return false; }
 
 private:
-    HMODULE library_;
+    Providers providers_;
 };
 
 } // namespace
@@ -297,16 +295,7 @@ std::unique_ptr<World> OpenWorld(const std::string& file, LANGID language, std::
         error = "the system knows no language " + std::to_string(language);
         return nullptr;
     }
-    WCHAR path[MAX_PATH];
-    const DWORD length = GetModuleFileNameW(nullptr, path, ARRAYSIZE(path));
-    const Text program(path, length);
-    const Text library = program.substr(0, program.rfind(TEXT('\\')) + 1) + TEXT("kvrpagex64.dll");
-    const HMODULE loaded = LoadLibraryExW(library.c_str(), nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-    if (!loaded) {
-        error = "can't load " + ToUtf8(library) + ": error " + std::to_string(GetLastError());
-        return nullptr;
-    }
-    return std::make_unique<System>(loaded);
+    return std::make_unique<System>();
 }
 
 } // namespace host

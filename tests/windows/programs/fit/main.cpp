@@ -279,9 +279,7 @@ int main(int argc, char** argv) {
     scale = GetDeviceCaps(screen, LOGPIXELSX);
     ReleaseDC(nullptr, screen);
     SetConsoleOutputCP(CP_UTF8);
-    WCHAR path[MAX_PATH];
-    GetModuleFileNameW(nullptr, path, ARRAYSIZE(path));
-    library = LoadLibraryW((Text(path).substr(0, Text(path).rfind(L'\\') + 1) + L"kvrpagex64.dll").c_str());
+    library = LoadLibraryW(L"kvrpagex64.dll");
     if (!library) {
         std::printf("kvrpagex64.dll can't be loaded\n");
         return 2;

@@ -97,11 +97,7 @@ int main(int argc, char** argv) {
         std::printf("%s\n", error.c_str());
         return 2;
     }
-    WCHAR path[MAX_PATH];
-    GetModuleFileNameW(nullptr, path, ARRAYSIZE(path));
-    const std::wstring program(path),
-        library = program.substr(0, program.rfind(L'\\') + 1) + L"kvrpagex64.dll";
-    bool steady = Repeat("loaded and unloaded", times, [&] { FreeLibrary(LoadLibraryW(library.c_str())); });
+    bool steady = Repeat("loaded and unloaded", times, [] { FreeLibrary(LoadLibraryW(L"kvrpagex64.dll")); });
     const std::unique_ptr<host::World> world = host::OpenWorld({}, 0, error);
     for (const auto& [kind, what] : {std::pair{host::DeviceKind::Board, "the board's page opened and closed"},
                                      std::pair{host::DeviceKind::Port, "a port's page opened and closed"}}) {

@@ -1,0 +1,65 @@
+#include "host/worlds/windows/providers.h"
+
+#include <algorithm>
+
+#include "host/text.h"
+#include "host/worlds/store_values.h"
+#include "host/worlds/windows/registry.h"
+#include "host/worlds/windows/system.h"
+
+namespace host {
+namespace {
+
+Text NamedIn(HKEY key) {
+    const std::vector<StoreValue> values = RegistryKey(key).Values();
+    const StoreValue* const named = FindValue(values, "EnumPropPages32");
+    return named ? TextIn(named->data) : Text();
+}
+
+Text NamedFor(HDEVINFO set, SP_DEVINFO_DATA& data) {
+    const Text named = NamedIn(SetupDiOpenDevRegKey(set, &data, DICS_FLAG_GLOBAL, 0, DIREG_DRV, KEY_READ));
+    return named.empty() ? NamedIn(SetupDiOpenClassRegKeyExW(&data.ClassGuid, KEY_READ, DIOCR_INSTALLER,
+                                                             nullptr, nullptr))
+                         : named;
+}
+
+} // namespace
+
+Providers::~Providers() {
+    for (const HMODULE library : loaded_) {
+        FreeLibrary(library);
+    }
+}
+
+HMODULE Providers::Load(LPCWSTR name) {
+    const HMODULE library = LoadLibraryExW(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    if (library && std::ranges::count(loaded_, library) != 0) {
+        FreeLibrary(library); // once is enough
+    } else if (library) {
+        loaded_.push_back(library);
+        AttachTo(library);
+    }
+    return library;
+}
+
+Provider Providers::Of(HDEVINFO set, SP_DEVINFO_DATA& data) {
+    const Text named = NamedFor(set, data);
+    if (named.empty()) {
+        return {nullptr, "neither its driver nor its class has a value EnumPropPages32"};
+    }
+    const std::string shown = "EnumPropPages32 is " + Quoted(ToUtf8(named)) + ", ";
+    const std::size_t comma = named.find(TEXT(','));
+    if (comma == Text::npos) {
+        return {nullptr, shown + "which is no library and function"};
+    }
+    const HMODULE library = Load(named.substr(0, comma).c_str());
+    if (!library) {
+        return {nullptr, shown + "and that library can't be loaded: error " + std::to_string(GetLastError())};
+    }
+    const std::string function = ToUtf8(named.substr(named.find_first_not_of(TEXT(' '), comma + 1)));
+    const auto ask = reinterpret_cast<decltype(Provider::ask)>(
+        reinterpret_cast<void*>(GetProcAddress(library, function.c_str())));
+    return {ask, ask ? "" : shown + "and that library has no such function"};
+}
+
+} // namespace host
