@@ -43,7 +43,7 @@ def main():
 
     with Prefix() as prefix:
         prefix.import_file(ROOT / "host/machines/sample.reg")
-        library = prefix.place / "drive_c/windows/system32/kvrpagex64.dll"
+        library = prefix.library
         library.replace(prefix.programs / library.name) # with the INF, as in the package
         before, _ = prefix.run("kvrhost.exe", input=b"devices\nopen 1\n")
         check("no device has a page before", before.decode().count(UNNAMED) == 14 and b"error: no page" in before, before)

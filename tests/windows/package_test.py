@@ -99,6 +99,25 @@ class Package(unittest.TestCase):
                     if len(form) > 5:
                         self.assertNotIn(form.encode(), file.read_bytes(), file)
 
+    def test_another_resource_compiler_makes_the_same_of_every_resource(self):
+        languages = [["src/resources/language.rc", "/D", f"LANGUAGE_FILE={file.stem}"]
+                     for file in sorted((ROOT / "src/resources/languages").glob("*.h"))]
+        for file, scripts in (("kvrpagex64.dll", [["src/resources/kvrpagex64.rc"], *languages]),
+                              ("kvrhost.exe", [["host/kvrhost.rc"]])):
+            made = {}
+            with tempfile.TemporaryDirectory() as place:
+                for script, *definition in scripts:
+                    subprocess.run(["llvm-rc-14", "/c", "65001", *definition, "/I", "src/resources", "/I", "src", "/I",
+                                    BUILD / "generated", "/I", "/usr/x86_64-w64-mingw32/include", "/FO", f"{place}/made",
+                                    script], cwd=ROOT, check=True, capture_output=True)
+                    made |= pe.compiled(f"{place}/made")
+            # windres writes the class of a control, whose name has no case, in capitals.
+            for name in ("msctls_trackbar32".encode("utf-16-le"), "SysListView32".encode("utf-16-le")):
+                made = {key: data.replace(name, name.upper()) for key, data in made.items()}
+            resources = pe.Image(BUILD / file).resources()
+            self.assertEqual(resources.keys(), made.keys())
+            self.assertEqual([key for key, data in resources.items() if made[key] != data], [], file)
+
     def test_same_sources_give_the_same_bytes_and_another_release_another_identity(self):
         with tempfile.TemporaryDirectory() as place:
             elsewhere = build_elsewhere(place)

@@ -89,6 +89,19 @@ class Image:
         return found
 
 
+def compiled(path):
+    """What a resource compiler has made, under the same names as the resources of an image."""
+    data, at, found = pathlib.Path(path).read_bytes(), 0, {}
+    while at < len(data):
+        size, head = unpack("II", data, at)
+        _, kind, _, name = unpack("HHHH", data, at + 8)
+        language, = unpack("H", data, at + 22)
+        if size: # the first one only says what file this is
+            found[kind, name, language] = data[at + head:at + head + size]
+        at += head + size + 3 & ~3
+    return found
+
+
 RT_DIALOG, RT_STRING, RT_VERSION, RT_MANIFEST = 5, 6, 16, 24
 
 Control = namedtuple("Control", "id kind text style x y cx cy")

@@ -41,7 +41,7 @@ def run(script):
     machine, options = compare_worlds.setting(lines)
     commands = ["trace on", *(line for line in lines if not line.startswith("trace "))]
     with Prefix() as prefix:
-        shutil.copy(LIBRARY, prefix.programs)
+        shutil.copy(LIBRARY, prefix.library)
         prefix.import_machine(machine)
         got, _ = prefix.run("kvrhost_test.exe", *options, input="\n".join(commands).encode(), timeout=120)
     # What a comment asks of the tests' host is a command of this one.

@@ -15,7 +15,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 BUILD = pathlib.Path(os.environ.get("KVR_WINDOWS_BUILD", ROOT / "build" / "windows"))
 TEMPLATES = ROOT / "build" / "wine"
 PROGRAMS = ["kvrhost.exe", "kvrhost_test.exe", "kvrfit.exe", "kvrpictures.exe", "kvrlifetime.exe",
-            "kvrkeys.exe", "kvrinstall.exe", "kvrbench.exe"]
+            "kvrkeys.exe", "kvrinstall.exe", "kvrcrash.exe", "kvrbench.exe"]
 CLASSES = r"HKEY_LOCAL_MACHINE\SYSTEM\CurrentControlSet\Control\Class"
 PORTS = "{4d36e978-e325-11ce-bfc1-08002be10318}"
 
@@ -103,6 +103,7 @@ class Prefix:
         if self.own:
             self.place = pathlib.Path(tempfile.mkdtemp(prefix="kvr-windows-"))
             self._copy_of(template(), self.place)
+        self.library = self.place / "drive_c" / "windows" / "system32" / "kvrpagex64.dll" # where an INF puts it
         self.processor = Processor()
         # What lies in the registry's volatile part lives as long as the server does: longer than between two programs,
         # but not for ever if this process is killed.
@@ -111,6 +112,8 @@ class Prefix:
         self.programs.mkdir(parents=True, exist_ok=True)
         for program in PROGRAMS if self.own else []:
             shutil.copy(BUILD / program, self.programs)
+        if self.own:
+            shutil.copy(BUILD / self.library.name, self.library)
         return self
 
     def __exit__(self, *_):
@@ -135,9 +138,8 @@ class Prefix:
             for entry in (origin / folder).iterdir():
                 if entry.name not in own:
                     (place / folder / entry.name).symlink_to(entry)
-        # Where the system's own would be, and where an INF puts the library.
-        for library in ("standins/msports.dll", "kvrpagex64.dll"):
-            shutil.copy(BUILD / library, place / "drive_c" / "windows" / "system32")
+        # Where the system's own would be.
+        shutil.copy(BUILD / "standins" / "msports.dll", place / "drive_c" / "windows" / "system32")
 
     def environment(self):
         return {**os.environ, "WINEPREFIX": str(self.place), "WINEDEBUG": "-all", "LC_ALL": "C.UTF-8",

@@ -1,0 +1,31 @@
+// Crashes within the library, as a process does whose request is not there, and tells where: by the distance
+// from the library's beginning, as an event log does.
+#include <cstdio>
+
+#include "platform/platform.h"
+
+namespace {
+
+HMODULE library;
+
+LONG WINAPI TellPlace(EXCEPTION_POINTERS* exception) {
+    const auto place = reinterpret_cast<ULONG_PTR>(exception->ExceptionRecord->ExceptionAddress);
+    std::printf("%08lx at kvrpagex64.dll+0x%llx\n", exception->ExceptionRecord->ExceptionCode,
+                place - reinterpret_cast<ULONG_PTR>(library));
+    std::fflush(stdout);
+    ExitProcess(0);
+}
+
+} // namespace
+
+int main() {
+    library = LoadLibraryW(L"kvrpagex64.dll");
+    const auto provider = reinterpret_cast<BOOL(WINAPI*)(void*, LPFNADDPROPSHEETPAGE, LPARAM)>(
+        reinterpret_cast<void*>(GetProcAddress(library, "KvrBoardPropPageProvider")));
+    if (!provider) {
+        return 2;
+    }
+    SetUnhandledExceptionFilter(&TellPlace);
+    provider(nullptr, nullptr, 0);
+    return 1;
+}
