@@ -2,12 +2,23 @@
 """`./kvr sign` with a certificate made for this test: what it packs is signed, whole, and named after the version."""
 import hashlib
 import pathlib
+import re
 import subprocess
 import tempfile
 import unittest
+import uuid
 import zipfile
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
+
+PROGRAMS = {"kvrpagex64.dll", "kvrhost.exe", "kvrbench.exe"}
+TEXTS = {"kvrpages.inf", "packaging.md", "device_store.md", "service.md", "CHANGELOG.md", "sample.reg"}
+
+
+def identity(symbols):
+    """By which a debugger knows the library that these are the symbols of, as that library holds it."""
+    said = subprocess.run(["llvm-pdbutil-14", "dump", "--summary", symbols], capture_output=True, text=True, check=True)
+    return uuid.UUID(re.search(r"GUID: \{(.*)\}", said.stdout)[1]).bytes_le
 
 
 class Sign(unittest.TestCase):
@@ -19,15 +30,23 @@ class Sign(unittest.TestCase):
                            cwd=place, check=True, capture_output=True)
             subprocess.run([ROOT / "kvr", "sign", "certificate.pem", "key.pem"], cwd=place, check=True,
                            capture_output=True)
-            package, = (archive for archive in (ROOT / "build/windows").glob("kvrpagex64-*.zip")
-                        if not archive.stem.endswith("-symbols"))
-            with zipfile.ZipFile(package) as archive:
-                archive.extractall(place / "package")
-            for line in (place / "package/SHA256SUMS").read_text().splitlines():
-                digest, name = line.split()
-                self.assertEqual(hashlib.sha256((place / "package" / name).read_bytes()).hexdigest(), digest, name)
-            for name in ("kvrpagex64.dll", "kvrhost.exe"):
-                said = subprocess.run(["osslsigncode", "verify", "-CAfile", "certificate.pem", f"package/{name}"],
+            version = re.search(r"project\(\w+ VERSION (\S+)", (ROOT / "CMakeLists.txt").read_text())[1]
+            packed = {}
+            for name in (f"kvrpagex64-{version}", f"kvrpagex64-{version}-symbols"):
+                with zipfile.ZipFile(ROOT / f"build/windows/{name}.zip") as archive:
+                    archive.extractall(place / name)
+                    packed[name] = {file for file in archive.namelist() if not file.endswith("/")}
+            package, symbols = packed
+            self.assertEqual(len(list((ROOT / "build/windows").glob("*.zip"))), 2)
+            self.assertEqual(packed[package], PROGRAMS | TEXTS | {"SHA256SUMS"})
+            self.assertEqual(packed[symbols], {"kvrpagex64.pdb", "diagnostic/kvrpagex64.dll", "diagnostic/kvrpagex64.pdb"})
+            sums = dict(reversed(line.split()) for line in (place / package / "SHA256SUMS").read_text().splitlines())
+            self.assertEqual(sums, {name: hashlib.sha256((place / package / name).read_bytes()).hexdigest()
+                                    for name in PROGRAMS | TEXTS})
+            for library, its_symbols in ((place / package, place / symbols), (place / symbols / "diagnostic",) * 2):
+                self.assertIn(identity(its_symbols / "kvrpagex64.pdb"), (library / "kvrpagex64.dll").read_bytes())
+            for name in PROGRAMS:
+                said = subprocess.run(["osslsigncode", "verify", "-CAfile", "certificate.pem", f"{package}/{name}"],
                                       cwd=place, capture_output=True, text=True)
                 self.assertEqual(said.returncode, 0, said.stdout)
                 self.assertIn("Signature verification: ok", said.stdout)
