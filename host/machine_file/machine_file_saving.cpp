@@ -1,12 +1,10 @@
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <fstream>
 #include <tuple>
 
 #include "host/machine_file/guid_text.h"
 #include "host/machine_file/machine_file.h"
 #include "host/machine_file/machine_places.h"
+#include "host/machine_file/whole_file.h"
 
 namespace host {
 namespace {
@@ -162,15 +160,13 @@ MachineFile Changed(const MachineFile& file, const sim::Machine& machine) {
 bool SaveMachine(const MachineFile& file, const sim::Machine& machine, const std::string& path,
                  std::string& error) {
     const MachineFile changed = Changed(file, machine);
-    errno = 0;
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    ExportWriter writer(out);
-    Write(writer, changed.root);
-    out.close();
-    if (!out) {
-        error = "can't write " + path + ": " + std::strerror(errno);
-    }
-    return static_cast<bool>(out);
+    return WriteWhole(
+        path,
+        [&](std::ostream& out) {
+            ExportWriter writer(out);
+            Write(writer, changed.root);
+        },
+        error);
 }
 
 } // namespace host

@@ -1,12 +1,10 @@
 #include "host/machine_file/patch.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <fstream>
 #include <set>
 
 #include "host/machine_file/machine_places.h"
+#include "host/machine_file/whole_file.h"
 
 namespace host {
 namespace {
@@ -79,26 +77,24 @@ std::vector<KeyChange> KeyChanges(const MachineFile& before, const MachineFile& 
 
 bool WritePatch(const std::vector<KeyChange>& changes, const std::vector<std::string>& comments,
                 const std::string& path, std::string& error) {
-    errno = 0;
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    ExportWriter writer(out);
-    for (const std::string& comment : comments) {
-        writer.Comment(sim::FromUtf8(comment));
-    }
-    for (const KeyChange& change : changes) {
-        writer.Key(change.path);
-        for (const sim::Value& value : change.set) {
-            writer.SetValue(value.name, value.type, value.data);
-        }
-        for (const Text& name : change.erased) {
-            writer.DeleteValue(name);
-        }
-    }
-    out.close();
-    if (!out) {
-        error = "can't write " + path + ": " + std::strerror(errno);
-    }
-    return static_cast<bool>(out);
+    return WriteWhole(
+        path,
+        [&](std::ostream& out) {
+            ExportWriter writer(out);
+            for (const std::string& comment : comments) {
+                writer.Comment(sim::FromUtf8(comment));
+            }
+            for (const KeyChange& change : changes) {
+                writer.Key(change.path);
+                for (const sim::Value& value : change.set) {
+                    writer.SetValue(value.name, value.type, value.data);
+                }
+                for (const Text& name : change.erased) {
+                    writer.DeleteValue(name);
+                }
+            }
+        },
+        error);
 }
 
 } // namespace host

@@ -1,0 +1,50 @@
+#include "host/machine_file/whole_file.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+
+#include "host/text.h"
+
+namespace host {
+
+namespace fs = std::filesystem;
+
+bool WriteWhole(const std::string& path, const std::function<void(std::ostream&)>& write,
+                std::string& error) {
+    std::error_code failure;
+    fs::path place(FromUtf8(path));
+    const fs::file_status status = fs::status(place, failure);
+    // A pipe or a terminal is written to and stays what it is.
+    const bool replaces = !fs::exists(status) || fs::is_regular_file(status);
+    if (const fs::path linked = fs::canonical(place, failure); replaces && !failure) {
+        place = linked; // a link stays one
+    }
+    fs::path written = place;
+    if (replaces) {
+        written += ".part";
+    }
+    errno = 0;
+    std::ofstream out(written, std::ios::binary | std::ios::trunc);
+    write(out);
+    out.close();
+    failure.clear();
+    if (!out) {
+        failure.assign(errno != 0 ? errno : EIO, std::generic_category());
+    } else if (replaces) {
+        if (fs::exists(status)) {
+            fs::permissions(written, status.permissions(), failure);
+        }
+        fs::rename(written, place, failure);
+    }
+    if (!failure) {
+        return true;
+    }
+    error = "can't write " + path + ": " + failure.message();
+    if (replaces) {
+        fs::remove(written, failure);
+    }
+    return false;
+}
+
+} // namespace host
