@@ -56,13 +56,13 @@ def differences(expected, got):
         yield hunk
 
 
-def main(names, left_out, run_both):
+def main(names, left_out, run_both, jobs):
     """Compares what `run_both` makes of a script in the two worlds, of the named scripts or all but those that begin so."""
     scripts = sorted(script for script in SCRIPTS.glob("*.txt")
                      if (script.stem in names if names else not script.stem.startswith(left_out)))
     template()
     Screen.name()
-    with ThreadPoolExecutor(int(os.environ.get("KVR_JOBS", 2))) as pool:
+    with ThreadPoolExecutor(jobs) as pool:
         transcripts = list(pool.map(run_both, scripts))
     failed, lines = 0, 0
     for script, (expected, got) in zip(scripts, transcripts):
@@ -79,4 +79,4 @@ def main(names, left_out, run_both):
 
 if __name__ == "__main__":
     # The library that ships has no trace.
-    sys.exit(main(sys.argv[1:], "trace_", run))
+    sys.exit(main(sys.argv[1:], "trace_", run, int(os.environ.get("KVR_JOBS", 2))))

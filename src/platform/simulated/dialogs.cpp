@@ -48,12 +48,10 @@ std::unique_ptr<Window> MakeControl(const ControlTemplate& form, Dialog& dialog)
 Dialog::Dialog() : Window(u"#32770") {}
 
 Dialog::~Dialog() {
-    if (disabled_ != nullptr) {
-        disabled_->Enable(true);
-    }
     if (top_level_) {
-        const Window* before = FindWindow(focus_before_);
-        Focus() = before == nullptr || !before->IsOpenToInput() ? nullptr : focus_before_;
+        if (!ended) {
+            End(0);
+        }
         Closed("window");
     }
 }
@@ -61,7 +59,7 @@ Dialog::~Dialog() {
 void Dialog::OpenOver(Window* above) {
     top_level_ = true;
     Opened("window");
-    focus_before_ = std::exchange(Focus(), nullptr);
+    focus_before_ = PassFocus(nullptr);
     place = {first_corner, first_corner, first_corner, first_corner};
     if (above == nullptr) {
         return;
@@ -101,8 +99,8 @@ void Dialog::Initialise(LPARAM parameter) {
     const HWND number = control == nullptr ? nullptr : control->handle;
     const bool is_left_to_system =
         procedure == nullptr || Answer(WM_INITDIALOG, reinterpret_cast<WPARAM>(number), parameter) != FALSE;
-    if (is_left_to_system && control != nullptr && control->IsOpenToInput()) {
-        Focus() = number;
+    if (is_left_to_system && !ended && control != nullptr && control->IsOpenToInput()) {
+        PassFocus(number);
     }
 }
 
@@ -159,6 +157,7 @@ void Dialog::Run(INT_PTR if_left) {
     }
 }
 
+// The focus goes back to where it was, or to the first stop below if nothing is there to take it.
 void Dialog::End(INT_PTR value) {
     ended = true;
     result = value;
@@ -166,6 +165,11 @@ void Dialog::End(INT_PTR value) {
         std::exchange(disabled_, nullptr)->Enable(true);
     }
     style &= ~static_cast<DWORD>(WS_VISIBLE);
+    const Window* before = FindWindow(focus_before_);
+    PassFocus(before == nullptr || !before->IsOpenToInput() ? nullptr : focus_before_);
+    if (auto* below = dynamic_cast<Dialog*>(owner); below != nullptr && Focus() == nullptr) {
+        below->GoTo(0, false);
+    }
 }
 
 Dialog* DialogOf(HWND handle, std::string_view operation) {

@@ -1,5 +1,6 @@
 // The list box and the drop-down list: both hold unsorted items, one of them selected or none.
 #include <algorithm>
+#include <utility>
 
 #include "platform/simulated/window.h"
 
@@ -146,8 +147,12 @@ struct ListBox : Window {
             return TakeKey(wParam);
         case WM_CHAR:
             return Choose(typing.Find(items, wParam));
+        case WM_SETFOCUS:
+            TellParent(*this, WM_COMMAND, MAKEWPARAM(id, LBN_SETFOCUS));
+            return 0;
         case WM_KILLFOCUS:
             typing = {};
+            TellParent(*this, WM_COMMAND, MAKEWPARAM(id, LBN_KILLFOCUS));
             return 0;
         case WM_GETDLGCODE:
             return DLGC_WANTARROWS | DLGC_WANTCHARS;
@@ -178,6 +183,16 @@ struct ComboBox : Window {
             Notify(drop ? CBN_DROPDOWN : CBN_CLOSEUP);
         }
         return TRUE;
+    }
+
+    // The choice is given up, whether the list is open or not.
+    void LoseFocus() {
+        const bool closes = std::exchange(is_dropped, false);
+        Notify(CBN_SELENDCANCEL);
+        if (closes) {
+            Notify(CBN_CLOSEUP);
+        }
+        Notify(CBN_KILLFOCUS);
     }
 
     LRESULT Choose(LRESULT item) {
@@ -237,9 +252,13 @@ struct ComboBox : Window {
             return wParam == VK_DOWN || wParam == VK_UP ? Drop(!is_dropped) : 0;
         case WM_CHAR:
             return Choose(typing.Find(items, wParam));
+        case WM_SETFOCUS:
+            Notify(CBN_SETFOCUS);
+            return 0;
         case WM_KILLFOCUS:
             typing = {};
-            return Drop(false, CBN_SELENDCANCEL);
+            LoseFocus();
+            return 0;
         case WM_GETDLGCODE:
             return Code(reinterpret_cast<const MSG*>(lParam));
         // A drop-down list has no text of its own.

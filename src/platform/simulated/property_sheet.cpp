@@ -203,6 +203,7 @@ HPROPSHEETPAGE CreatePropertySheetPageW(LPCPROPSHEETPAGEW description) {
     }
     auto page = std::make_unique<sim::Page>();
     std::memcpy(&page->description, description, description->dwSize);
+    page->Call(PSPCB_ADDREF);
     const HPROPSHEETPAGE handle = reinterpret_cast<HPROPSHEETPAGE>(sim::NextHandle());
     sim::LoosePages().emplace(handle, std::move(page));
     sim::Opened("page");

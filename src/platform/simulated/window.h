@@ -14,6 +14,14 @@
 #include "platform/simulated/catalogue.h"
 #include "platform/simulated/machine.h"
 
+// What a window is told and the library passes over.
+#define WM_SETFOCUS 0x0007
+#define LBN_SETFOCUS 4
+#define LBN_KILLFOCUS 5
+#define CBN_SETFOCUS 3
+#define CBN_KILLFOCUS 4
+#define PSPCB_ADDREF 0
+
 namespace sim {
 
 struct Window {
@@ -85,7 +93,7 @@ Dialog* DialogOf(HWND handle, std::string_view operation);
 
 // The window with the keyboard focus, or null.
 HWND& Focus();
-// Gives it to another window, or to none, and tells the one that had it. That one's handle.
+// Gives it to another window, or to none, and tells both. The handle of the one that had it.
 HWND PassFocus(HWND window);
 // The same as a key or a click does it: the mark of the default button goes along, to the button that gets
 // the focus or back to the dialog's own.

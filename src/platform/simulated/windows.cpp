@@ -93,9 +93,15 @@ HWND& Focus() {
 
 HWND PassFocus(HWND window) {
     const HWND before = std::exchange(Focus(), window);
-    Window* left = before == window ? nullptr : FindWindow(before);
-    if (left != nullptr) {
+    if (before == window) {
+        return before;
+    }
+    if (Window* left = FindWindow(before)) {
         left->Answer(WM_KILLFOCUS, reinterpret_cast<WPARAM>(window), 0);
+    }
+    Window* entered = FindWindow(window);
+    if (entered != nullptr && Focus() == window) { // who was told may have passed it on
+        entered->Answer(WM_SETFOCUS, reinterpret_cast<WPARAM>(before), 0);
     }
     return before;
 }
