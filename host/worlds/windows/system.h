@@ -1,6 +1,5 @@
-// What of the live system the tests replace: their host links an implementation of its own, which answers
-// where the stand-in of Windows has no answer and fails calls on demand. The one that ships has nothing of
-// that.
+// The calls that differ under Wine: the host for Wine links `worlds/wine/system.cpp` in place of the file
+// here. That one answers where Wine has no answer and fails calls on demand; the host that ships does neither.
 #pragma once
 
 #include <string>

@@ -6,7 +6,7 @@
 
 #include "host/full_screen/start.h"
 #include "host/line/program.h"
-#include "tests/windows/standins/faults.h"
+#include "host/worlds/wine/faults.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "tests/windows/standins/faults.h"
+#include "host/worlds/wine/faults.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,7 +1,6 @@
-// The live system as the tests' host sees it: what the stand-in of Windows lacks is answered within this
-// program, from the serial map and the [Ports] values of the registry as they are when the library is
-// attached: the DOS names of serial ports, the two class installer calls, and the registry's share in the
-// profile.
+// The live system where Wine stands in for Windows. This program answers what Wine lacks: the DOS names of
+// serial ports, the two class installer calls and the registry's share in the profile. It takes the names and
+// the [Ports] values from the registry as it is when the library is attached.
 #include "host/worlds/windows/system.h"
 
 #include <algorithm>
@@ -10,7 +9,7 @@
 #include "host/worlds/windows/import_table.h"
 #include "host/worlds/windows/observers.h"
 #include "host/worlds/windows/registry.h"
-#include "tests/windows/standins/faults.h"
+#include "host/worlds/wine/faults.h"
 
 namespace host {
 namespace {
@@ -63,8 +62,8 @@ BOOL WINAPI StandInSetupDiCallClassInstaller(DI_FUNCTION, HDEVINFO, SP_DEVINFO_D
     return TRUE;
 }
 
-// Windows keeps the section [Ports] of the profile in the registry. The stand-in has a file for it, which
-// knows nothing of what the registry brings and loses the blank at the end of a line.
+// Windows keeps the section [Ports] of the profile in the registry. Wine has a file for it, which knows nothing
+// of what the registry brings and loses the blank at the end of a line.
 bool IsMapped(LPCWSTR section) {
     return section && _wcsicmp(section, L"Ports") == 0;
 }
@@ -134,8 +133,8 @@ std::vector<std::pair<std::wstring, std::wstring>> SerialDosNames() {
     return dos_names;
 }
 
-// The stand-in looks resources up by the thread's locale, and makes a language without a country one with its
-// default country. So the locale goes to its place in the thread's block itself.
+// Wine looks resources up by the thread's locale, and SetThreadLocale makes a language without a country one
+// with its default country. So the locale goes to its place in the thread's block itself.
 bool UseLanguage(LANGID language) {
     const LCID locale = MAKELCID(language, SORT_DEFAULT);
     if (!IsValidLocale(locale, LCID_INSTALLED)) {
