@@ -1,5 +1,6 @@
 // The calls that differ under Wine: the host for Wine links `worlds/wine/system.cpp` in place of the file
-// here. That one answers where Wine has no answer and fails calls on demand; the host that ships does neither.
+// here. That one answers where Wine has no answer and fails calls on demand; the host that ships does
+// neither.
 #pragma once
 
 #include <string>

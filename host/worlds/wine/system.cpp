@@ -62,8 +62,8 @@ BOOL WINAPI StandInSetupDiCallClassInstaller(DI_FUNCTION, HDEVINFO, SP_DEVINFO_D
     return TRUE;
 }
 
-// Windows keeps the section [Ports] of the profile in the registry. Wine has a file for it, which knows nothing
-// of what the registry brings and loses the blank at the end of a line.
+// Windows keeps the section [Ports] of the profile in the registry. Wine has a file for it, which knows
+// nothing of what the registry brings and loses the blank at the end of a line.
 bool IsMapped(LPCWSTR section) {
     return section && _wcsicmp(section, L"Ports") == 0;
 }
