@@ -104,7 +104,7 @@ LANGID LanguageOfLocale(std::string_view locale) {
 
 LANGID UserLanguage() {
     for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        if (const char* locale = std::getenv(variable); locale && *locale) {
+        if (const char* locale = std::getenv(variable); locale != nullptr && *locale) {
             return LanguageOfLocale(locale);
         }
     }

@@ -234,7 +234,7 @@ std::string Nearest(std::string_view word, const std::vector<std::string>& candi
         for (const char letter : word) {
             std::size_t diagonal = row[0]++;
             for (std::size_t at = 0; at < candidate.size(); ++at) {
-                const std::size_t changed = diagonal + (letter != candidate[at]);
+                const std::size_t changed = diagonal + (letter != candidate[at] ? 1 : 0);
                 diagonal = row[at + 1];
                 row[at + 1] = std::min({changed, diagonal + 1, row[at] + 1});
             }

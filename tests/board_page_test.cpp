@@ -61,9 +61,9 @@ TEST(BoardPage, ChannelsStandByTheirNumberWithTheirResources) {
 }
 
 TEST(BoardPage, ABoardWithoutListedChannelsIsEmptyAndWorks) {
-    for (const u32 nrController : {0u, 1u}) {
+    for (const u32 nr_controller : {0u, 1u}) {
         sim::Machine machine = BoardOn({3, 4});
-        machine.devices[0].key.SetDword(u"BoardNrController", nrController);
+        machine.devices[0].key.SetDword(u"BoardNrController", nr_controller);
         const AtWork at_work(machine);
         const auto at_page = [](HWND page) {
             EXPECT_EQ(Items(page, IDC_PORT_LIST), Lines{});

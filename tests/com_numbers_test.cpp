@@ -132,7 +132,7 @@ constexpr const char* renamed = "7 | (7) | 7 | 7 | 7 | 7";
 using Call = std::pair<std::string_view, std::size_t>; // a name, and which of its calls
 struct Outcome {
     std::string state = renamed;
-    std::string box = "";
+    std::string box = {};
     bool done = box.empty();
 };
 const std::map<Call, Outcome> after_failure = {
@@ -181,7 +181,7 @@ Outcome OutcomeOf(const Call& failed) {
 // Place by place, what differs from a rename without failure.
 Outcome OutcomeOf(const Call& failed, const Call& failed_too) {
     const auto row = after_both.find({failed, failed_too});
-    const Outcome first = OutcomeOf(failed), second = OutcomeOf(failed_too);
+    Outcome first = OutcomeOf(failed), second = OutcomeOf(failed_too);
     if (row != after_both.end()) {
         return row->second;
     }
@@ -214,7 +214,7 @@ std::vector<Call> ExpectOutcomeWithFailures(const std::vector<std::size_t>& at) 
     const AtWork at_work(machine);
     machine.faults.at = at;
     const bool done = RenameFrom5To7();
-    const std::vector<Call> failed = FailedCalls(machine);
+    std::vector<Call> failed = FailedCalls(machine);
     const Outcome expected = failed.size() == 2   ? OutcomeOf(failed[0], failed[1])
                              : failed.size() == 1 ? OutcomeOf(failed[0])
                                                   : Outcome();

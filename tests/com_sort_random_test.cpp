@@ -82,7 +82,7 @@ RandomMachine MakeMachine(const Entries& entries, bool reversed) {
     std::ranges::sort(sorted);
     std::vector<bool> seen(sorted.size());
     for (std::size_t i = 0; i < seen.size(); ++i) {
-        for (std::size_t j = i; !seen[j]; made.exchanges += !seen[j]) {
+        for (std::size_t j = i; !seen[j]; made.exchanges += seen[j] ? 0 : 1) {
             seen[j] = true;
             j = static_cast<std::size_t>(std::ranges::lower_bound(sorted, made.numbers[j]) - sorted.begin());
         }

@@ -198,9 +198,9 @@ TEST(ComSort, ABoardThatBreaksTheAssumptionsEndsWithoutHarm) {
 }
 
 TEST(ComSort, PromisedChannelsCostNothingAndThoseBeyondTheNumbersDoNoHarm) {
-    const auto operations = [](u32 nrController) {
+    const auto operations = [](u32 nr_controller) {
         sim::Machine machine = BoardOn({9, 8, 7, 6, 5, 4, 3, 2, 1});
-        machine.devices[0].key.SetDword(u"BoardNrController", nrController);
+        machine.devices[0].key.SetDword(u"BoardNrController", nr_controller);
         const AtWork at_work(machine);
         _SortCOMClicked(nullptr, OpenBoard().Channel(1));
         EXPECT_EQ(PlacesOf(machine, 9), PlacesAt(machine, 9, 9));

@@ -211,8 +211,8 @@ sim::Machine OneOfEach() {
     sim::Machine machine;
     AddBoard(machine, {}, 6);
     AddUart(machine, {}, 5, 7);
-    for (u32 channelClass = ClassDio; channelClass <= ClassCan; ++channelClass) {
-        AddChannel(machine, {}, channelClass, 6 - channelClass);
+    for (u32 channel_class = ClassDio; channel_class <= ClassCan; ++channel_class) {
+        AddChannel(machine, {}, channel_class, 6 - channel_class);
     }
     AddMainboardPort(machine, 1);
     std::ranges::reverse(machine.interfaces); // the classes decide the order, not the machine
@@ -342,7 +342,7 @@ TEST(BoardDiscovery, EveryOperationMayFailOnceAndAllIsGivenBack) {
         const OpenBoard board;
         for (const BPPCHL* chl = board.params.WalkFirst; chl != nullptr; chl = chl->WalkNext) {
             ++channels;
-            without_path += chl->DevicePath == nullptr;
+            without_path += chl->DevicePath == nullptr ? 1 : 0;
         }
         hit = machine.faults.hits != 0;
         const auto calls = FailedCalls(machine);

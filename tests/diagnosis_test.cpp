@@ -193,7 +193,7 @@ std::string Do(const host::MachineFile& file, const Names& commands, host::Machi
         lines << command << '\n';
     }
     host::Interpreter(world, *host::LinesOf(lines), out).Run();
-    if (after) {
+    if (after != nullptr) {
         *after = host::Changed(file, machine);
     }
     return out.str();
@@ -306,7 +306,7 @@ host::MachineFile Imported(const host::MachineFile& file, const std::string& pat
     sim::Machine machine;
     host::GiveMachine(file, machine);
     EXPECT_TRUE(host::SaveMachine(file, machine, export_file, error)) << error;
-    const std::size_t first_line = 2 + 2 * (host::ExportFirstLine.size() + 2); // with its mark
+    const std::size_t first_line = 2 + 2 * (host::export_first_line.size() + 2); // with its mark
     return machine_files::Read(Content(export_file) + Content(patch).substr(first_line));
 }
 

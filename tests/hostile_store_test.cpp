@@ -54,8 +54,8 @@ struct Hostility {
 
 sim::Machine HostileMachine(Hostility& by) {
     sim::Machine machine = BoardOn({3, 4, 200});
-    for (const u32 channelClass : {ClassDio, ClassMcp251x, ClassMcp251xFd, ClassCan}) {
-        AddChannel(machine, {}, channelClass, by.Below(8));
+    for (const u32 channel_class : {ClassDio, ClassMcp251x, ClassMcp251xFd, ClassCan}) {
+        AddChannel(machine, {}, channel_class, by.Below(8));
     }
     for (std::size_t device = 0; device < machine.devices.size(); ++device) {
         for (sim::Value& value : machine.devices[device].key.list) {

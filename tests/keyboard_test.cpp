@@ -27,7 +27,7 @@ void Type(HWND front, const char16_t* letters) {
 }
 
 // On the page of a board with eight UARTs.
-void AtBoard(sheets::User user) {
+void AtBoard(const sheets::User& user) {
     sim::Machine machine = machines::BoardOn({3, 4, 6, 5, 12, 120, 13, 14});
     const machines::AtWork at_work(machine);
     sheets::Open(sheets::Page::Board, 0, user);

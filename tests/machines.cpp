@@ -49,10 +49,10 @@ constexpr const char* class_values[ChannelClassCount] = {
     "KvrCanNrRxFilterGroup 8 KvrCanSystemClkRate 8 KvrCanReferenceClkRate 8 KvrCanFifoTXMMax 8 "
     "KvrCanFifoTXEMax 8 KvrCanFifoRXMMax 8"};
 
-void AddClassValues(sim::Values& key, u32 channelClass, u32 channel) {
-    SetNumbers(key, class_values[channelClass - ClassUart], channel);
-    if (channelClass == ClassMcp251x || channelClass == ClassMcp251xFd) {
-        const sim::Text kind = channelClass == ClassMcp251x ? u"Mcp251x" : u"Mcp251xFd";
+void AddClassValues(sim::Values& key, u32 channel_class, u32 channel) {
+    SetNumbers(key, class_values[channel_class - ClassUart], channel);
+    if (channel_class == ClassMcp251x || channel_class == ClassMcp251xFd) {
+        const sim::Text kind = channel_class == ClassMcp251x ? u"Mcp251x" : u"Mcp251xFd";
         key.SetText(kind + u"Name", kind + u" " + Decimal(channel));
     }
 }
@@ -65,9 +65,9 @@ std::size_t AddDevice(sim::Machine& machine, const sim::Text& kind, const sim::T
     return machine.devices.size() - 1;
 }
 
-void AddInterface(sim::Machine& machine, std::size_t device, u32 channelClass) {
+void AddInterface(sim::Machine& machine, std::size_t device, u32 channel_class) {
     const sim::Text path = u"\\\\?\\" + machine.devices[device].instance_id;
-    machine.interfaces.push_back({InterfaceClass(channelClass), path, device});
+    machine.interfaces.push_back({InterfaceClass(channel_class), path, device});
 }
 
 sim::Text TargetOf(std::size_t device) {
@@ -91,7 +91,7 @@ void PutOnNumber(sim::Machine& machine, std::size_t index, u32 number) {
 
 sim::Text TextOf(const sim::Value* value) {
     sim::Text text;
-    for (std::size_t i = 0; value && i + 1 < value->data.size(); i += 2) {
+    for (std::size_t i = 0; value != nullptr && i + 1 < value->data.size(); i += 2) {
         text += static_cast<char16_t>(value->data[i] | value->data[i + 1] << 8);
     }
     return text.substr(0, text.find(u'\0'));
@@ -99,7 +99,7 @@ sim::Text TextOf(const sim::Value* value) {
 
 } // namespace
 
-GUID InterfaceClass(u32 channelClass) {
+GUID InterfaceClass(u32 channel_class) {
     constexpr GUID classes[] = {
         {0x86E0D1E0, 0x8089, 0x11D0, {0x9C, 0xE4, 0x08, 0x00, 0x3E, 0x30, 0x1F, 0x73}},
         {0xD169C409, 0xDB38, 0x43F5, {0x87, 0xA2, 0x5C, 0xB9, 0x5E, 0xF2, 0xCA, 0xC3}},
@@ -107,25 +107,25 @@ GUID InterfaceClass(u32 channelClass) {
         {0x219EE0B6, 0x8597, 0x4826, {0xB1, 0x0F, 0xDA, 0xAE, 0x1E, 0x13, 0x2C, 0x02}},
         {0xBD052268, 0xEA5E, 0x4FD3, {0xB7, 0xE4, 0x39, 0x97, 0x8E, 0xA8, 0x5C, 0xC9}},
     };
-    return classes[channelClass - ClassUart];
+    return classes[channel_class - ClassUart];
 }
 
-std::size_t AddBoard(sim::Machine& machine, BoardPlace place, u32 nrController) {
+std::size_t AddBoard(sim::Machine& machine, BoardPlace place, u32 nr_controller) {
     const std::size_t index = AddDevice(machine, u"PCI\\Board", u"Multi-function board");
     sim::Values& key = machine.devices[index].key;
     AddChannelBlock(key, place, 0, 0);
-    key.SetDword(u"BoardNrController", nrController);
+    key.SetDword(u"BoardNrController", nr_controller);
     SetNumbers(key, "BoardMajorVersion 1 BoardMinorVersion 2 ConfigModel 7 ConfigBrand 1");
     key.SetText(u"BoardModelName", u"KVR-8");
     return index;
 }
 
-std::size_t AddChannel(sim::Machine& machine, BoardPlace place, u32 channelClass, u32 channel) {
+std::size_t AddChannel(sim::Machine& machine, BoardPlace place, u32 channel_class, u32 channel) {
     const std::size_t index = AddDevice(machine, u"KVR\\Channel", u"Board channel");
     sim::Values& key = machine.devices[index].key;
-    AddChannelBlock(key, place, channel, channelClass);
-    AddClassValues(key, channelClass, channel);
-    AddInterface(machine, index, channelClass);
+    AddChannelBlock(key, place, channel, channel_class);
+    AddClassValues(key, channel_class, channel);
+    AddInterface(machine, index, channel_class);
     return index;
 }
 
@@ -165,7 +165,7 @@ void SetLine(sim::Machine& machine, u32 number, std::u16string_view line) {
 
 sim::Text Line(sim::Machine& machine, u32 number) {
     const sim::Values* lines = machine.ProfileSection(u"Ports", false);
-    return TextOf(lines ? lines->Find(PortName(number) + u":") : nullptr);
+    return TextOf(lines != nullptr ? lines->Find(PortName(number) + u":") : nullptr);
 }
 
 std::ostream& operator<<(std::ostream& out, const Places& places) {

@@ -23,12 +23,12 @@ struct BoardPlace {
     u32 irq = 17;
 };
 
-GUID InterfaceClass(u32 channelClass);
+GUID InterfaceClass(u32 channel_class);
 
-// The board's own device, with the values of a board of `nrController`.
-std::size_t AddBoard(sim::Machine& machine, BoardPlace place, u32 nrController);
+// The board's own device, with the values of a board of `nr_controller`.
+std::size_t AddBoard(sim::Machine& machine, BoardPlace place, u32 nr_controller);
 // A channel with readable values; of ClassUart for a port, as the next does.
-std::size_t AddChannel(sim::Machine& machine, BoardPlace place, u32 channelClass, u32 channel);
+std::size_t AddChannel(sim::Machine& machine, BoardPlace place, u32 channel_class, u32 channel);
 // A UART with FIFOs of 128 bytes and every capability, in RS-232, on a COM number.
 std::size_t AddUart(sim::Machine& machine, BoardPlace place, u32 channel, u32 number);
 // A port that belongs to no board.

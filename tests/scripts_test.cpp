@@ -113,7 +113,7 @@ TEST_P(ScriptsTest, RunsAsItsTranscriptTells) {
     EXPECT_EQ(machine.misuse, std::vector<std::string>{});
 
     const std::filesystem::path kept = scripts / (GetParam() + ".out");
-    if (std::getenv("KEEP_TRANSCRIPTS")) {
+    if (std::getenv("KEEP_TRANSCRIPTS") != nullptr) {
         std::ofstream(kept, std::ios::binary) << out.str();
         return;
     }

@@ -187,7 +187,7 @@ std::string Fifo(HWND dialog) {
     int live = 0;
     for (const int id : {IDC_TRANSMIT_SLIDER, IDC_TRANSMIT_LOW, IDC_TRANSMIT_HIGH, IDC_TRANSMIT_CAPTION,
                          IDC_RECEIVE_SLIDER, IDC_RECEIVE_LOW, IDC_RECEIVE_HIGH, IDC_RECEIVE_CAPTION}) {
-        live += IsEnabled(dialog, id);
+        live += IsEnabled(dialog, id) ? 1 : 0;
     }
     return std::string(IsOn(dialog, IDC_LARGEFIFO) ? "on" : "off") + " tx " + std::to_string(tx.position) +
            "/" + std::to_string(tx.maximum) + " " + Shown(dialog, IDC_TRANSMIT_HIGH) + " rx " +
@@ -226,7 +226,7 @@ std::string Stored(std::size_t device, std::initializer_list<const char16_t*> na
         if (value != nullptr) {
             std::memcpy(&number, value->data.data(), std::min(value->data.size(), sizeof number));
         }
-        values += (values.empty() ? "" : " ") + (value ? std::to_string(number) : "-");
+        values += (values.empty() ? "" : " ") + (value != nullptr ? std::to_string(number) : "-");
     }
     return values;
 }

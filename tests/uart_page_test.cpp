@@ -14,7 +14,7 @@ constexpr std::size_t port = 1; // the device of the UART on COM3
 // One UART, on COM3, with a settings line; none for a null pointer.
 sim::Machine UartWithLine(const char16_t* line) {
     sim::Machine machine = machines::BoardOn({3});
-    if (line) {
+    if (line != nullptr) {
         machines::SetLine(machine, 3, line);
     } else {
         machine.profile.clear();
@@ -44,7 +44,7 @@ Lines Writing(const char* line) {
 std::string Enabled(HWND page) {
     int live = 0;
     for (const int combo : combos) {
-        live += IsEnabled(page, combo);
+        live += IsEnabled(page, combo) ? 1 : 0;
     }
     return std::to_string(live) + (IsEnabled(page, IDC_ADVANCED) ? " advanced" : "") +
            (IsEnabled(page, IDC_RESTORE_PORT) ? " restore" : "");

@@ -59,11 +59,11 @@ void CompareDevices(ChangeList& changes, const Records& before, const Records& a
     const bool presence_known = (before.known & after.known & InterfacesPlace) != 0;
     for (const auto& [id, pair] : pairs) {
         const auto& [was, is] = pair;
-        const DeviceRecord& known = is ? *is : *was;
-        const std::string label = LabelOf(is ? after : before, known);
-        if (!was || !is) {
-            changes.push_back({ChangedPlace::Device,
-                               "device: " + label + ", " + Escaped(known.id) + (is ? ": new" : ": gone")});
+        const DeviceRecord& known = is != nullptr ? *is : *was;
+        const std::string label = LabelOf(is != nullptr ? after : before, known);
+        if (was == nullptr || is == nullptr) {
+            changes.push_back({ChangedPlace::Device, "device: " + label + ", " + Escaped(known.id) +
+                                                         (is != nullptr ? ": new" : ": gone")});
             continue;
         }
         if (presence_known && was->present != is->present) {

@@ -80,7 +80,7 @@ std::string Filled(const char* text, const Subject& subject) {
         {"{what}", subject.what},
         {"{key}", subject.key}};
     std::string result;
-    for (std::string_view rest = text ? text : ""; !rest.empty();) {
+    for (std::string_view rest = text != nullptr ? text : ""; !rest.empty();) {
         const auto blank =
             std::ranges::find_if(blanks, [&](const auto& each) { return rest.starts_with(each.first); });
         if (blank != std::end(blanks)) {

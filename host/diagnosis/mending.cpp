@@ -45,7 +45,7 @@ std::optional<Objection> AgainstChanging(const Records& records, unsigned long n
 } // namespace
 
 std::optional<Objection> AgainstFreeing(const Records& records, unsigned long number) {
-    if (const auto objection = AgainstChanging(records, number)) {
+    if (auto objection = AgainstChanging(records, number)) {
         return objection;
     }
     const NumberRecord record = RecordOf(records, number);
@@ -56,7 +56,7 @@ std::optional<Objection> AgainstFreeing(const Records& records, unsigned long nu
 }
 
 std::optional<Objection> AgainstClaiming(const Records& records, unsigned long number) {
-    if (const auto objection = AgainstChanging(records, number)) {
+    if (auto objection = AgainstChanging(records, number)) {
         return objection;
     }
     const NumberRecord record = RecordOf(records, number);

@@ -78,7 +78,7 @@ void FindOddNames(const Model& model, Found& found) {
     for (std::size_t index = 0; index < model.records.devices.size(); ++index) {
         const DeviceRecord& device = model.records.devices[index];
         const StoreValue* const value = FindValue(device.store, "PortName");
-        if (device.role != Role::Port || !value) {
+        if (device.role != Role::Port || value == nullptr) {
             continue;
         }
         const std::string name = TextOf(*value);

@@ -64,7 +64,7 @@ std::vector<ValueFault> FaultsOf(const std::vector<StoreValue>& store, std::init
     for (const Values& list : lists) {
         for (const PublishedValue& wanted : list) {
             const StoreValue* const value = FindValue(store, wanted.name);
-            if (!value) {
+            if (value == nullptr) {
                 faults.push_back({wanted.name, "is missing"});
             } else if (value->data.size() > wanted.bytes) {
                 faults.push_back({wanted.name, "is too long: " + TypeName(value->type) + " of " +
@@ -80,7 +80,7 @@ std::vector<ValueFault> FaultsOf(const std::vector<StoreValue>& store, std::init
 } // namespace
 
 bool IsChannel(const std::vector<StoreValue>& store) {
-    return FindValue(store, "BoardPciBusNumber") || FindValue(store, "ChlNumber");
+    return FindValue(store, "BoardPciBusNumber") != nullptr || FindValue(store, "ChlNumber") != nullptr;
 }
 
 std::vector<ValueFault> BoardFaults(const std::vector<StoreValue>& store) {

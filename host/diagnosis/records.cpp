@@ -66,13 +66,13 @@ std::string ComName(unsigned long number) {
 
 std::string StoredText(const std::vector<StoreValue>& store, std::string_view name) {
     const StoreValue* const value = FindValue(store, name);
-    return value ? TextOf(*value) : std::string();
+    return value != nullptr ? TextOf(*value) : std::string();
 }
 
 unsigned long StoredNumber(const std::vector<StoreValue>& store, std::string_view name) {
     const StoreValue* const value = FindValue(store, name);
     std::uint32_t number = 0;
-    if (value && value->data.size() <= sizeof number) {
+    if (value != nullptr && value->data.size() <= sizeof number) {
         std::copy(value->data.begin(), value->data.end(), reinterpret_cast<BYTE*>(&number));
     }
     return number;

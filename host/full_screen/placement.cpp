@@ -294,7 +294,8 @@ Placement Place(const Window& window, int columns, int rows) {
             const Area& area = control->area;
             const int left = across.LeftOf(*control), end = across.EndOf(*control);
             const int top = down.At(HasFrame(*control) ? area.y : area.Middle());
-            const int bottom = HasFrame(*control) ? down.At(area.y + area.cy) : top + IsTall(*control);
+            const int bottom =
+                HasFrame(*control) ? down.At(area.y + area.cy) : top + (IsTall(*control) ? 1 : 0);
             placement.controls.push_back(
                 {control, {left + edge, top + heading, end - left + 1, bottom - top + 1}});
             placement.columns = std::max(placement.columns, end + 1 + 2 * edge);

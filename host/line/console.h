@@ -26,7 +26,7 @@ public:
     // How wide the screen is that the person sees; 0 where there is none, or nobody knows.
     virtual int Width() const { return 0; }
 
-    virtual void CompleteBy(Continuations) {}
+    virtual void CompleteBy(const Continuations&) {}
 };
 
 // Lines of a stream, which must outlive the source. The prompt is not shown.

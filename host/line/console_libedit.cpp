@@ -61,7 +61,7 @@ public:
             std::cout << "^C\n";
             return std::string{};
         }
-        if (!typed || count <= 0) {
+        if (typed == nullptr || count <= 0) {
             std::cout << '\n';
             return {};
         }
@@ -78,7 +78,7 @@ public:
         winsize size{};
         return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
     }
-    void CompleteBy(Continuations continuations) override { continuations_ = std::move(continuations); }
+    void CompleteBy(const Continuations& continuations) override { continuations_ = continuations; }
 
 private:
     static Terminal& Of(EditLine* edit) {

@@ -259,15 +259,15 @@ Device Interpreter::FindDevice(const std::string& name) {
         }
         const std::vector<StoreValue> store = world_.Store(device.id);
         const StoreValue* const stored = FindValue(store, "PortName");
-        if (!stored || Folded(TextOf(*stored)) != wanted) {
+        if (stored == nullptr || Folded(TextOf(*stored)) != wanted) {
             continue;
         }
-        if (found) {
+        if (found != nullptr) {
             throw Refusal("more than one device is called " + Quoted(name) + ": name it by its number");
         }
         found = &device;
     }
-    if (!found) {
+    if (found == nullptr) {
         throw Refusal("no device " + Quoted(name) + "; devices lists the " + std::to_string(devices.size()) +
                       " there are");
     }

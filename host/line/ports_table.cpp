@@ -43,7 +43,7 @@ std::string Mapped(const std::string& name, const PortRecords& records, const Te
     for (const auto& [device, mapped] : *records.serial_map) {
         if (Same(mapped, name)) {
             devices += (devices.empty() ? "" : ", ") + Escaped(ToUtf8(device)) +
-                       (target && Same(device, ToUtf8(*target)) ? "" : differs);
+                       (target != nullptr && Same(device, ToUtf8(*target)) ? "" : differs);
         }
     }
     return devices.empty() ? missing : devices;
@@ -100,13 +100,14 @@ Lines PortsTable(World& world, int columns) {
         }
         const std::vector<StoreValue> store = world.Store(devices[index].id);
         const StoreValue* const stored = FindValue(store, "PortName");
-        const std::string name = stored ? TextOf(*stored) : std::string{};
+        const std::string name = stored != nullptr ? TextOf(*stored) : std::string{};
         const unsigned long number = PortNumber(name);
         rows.push_back(RowOf(name, number, devices[index], records));
         rows.back()[0] = std::to_string(index + 1);
         unsigned long channel = 0;
         const StoreValue* const channel_number = FindValue(store, "ChlNumber");
-        rows.back()[1] = channel_number && NumberOf(*channel_number, channel) ? std::to_string(channel) : "-";
+        rows.back()[1] =
+            channel_number != nullptr && NumberOf(*channel_number, channel) ? std::to_string(channel) : "-";
         names.insert(Folded(Escaped(name)));
         held.insert(number);
     }

@@ -16,7 +16,7 @@ using TextView = std::u16string_view;
 
 // What a text holds up to its terminator; none if the value is missing or no text.
 std::optional<Text> TextOf(const sim::Value* value) {
-    if (!value || value->type != REG_SZ) {
+    if (value == nullptr || value->type != REG_SZ) {
         return std::nullopt;
     }
     return TextIn(value->data);
@@ -24,9 +24,9 @@ std::optional<Text> TextOf(const sim::Value* value) {
 
 // Missing values and those that are no numbers are 0.
 DWORD NumberOf(const TreeKey* key, TextView name) {
-    const sim::Value* const value = key ? key->values.Find(name) : nullptr;
+    const sim::Value* const value = key != nullptr ? key->values.Find(name) : nullptr;
     DWORD number = 0;
-    if (value && value->type == REG_DWORD && value->data.size() == sizeof number) {
+    if (value != nullptr && value->type == REG_DWORD && value->data.size() == sizeof number) {
         std::memcpy(&number, value->data.data(), sizeof number);
     }
     return number;
@@ -34,8 +34,8 @@ DWORD NumberOf(const TreeKey* key, TextView name) {
 
 // The path of the control set that the file means.
 Text ControlSetOf(const TreeKey& root) {
-    if (root.Find(CurrentSet) != nullptr) {
-        return Text(CurrentSet);
+    if (root.Find(current_set) != nullptr) {
+        return Text(current_set);
     }
     const DWORD number = NumberOf(root.Find(u"SYSTEM\\Select"), u"Current");
     char path[32];
@@ -60,13 +60,13 @@ sim::Device DeviceOf(const TreeKey& set, Text instance_id, const TreeKey& key) {
     device.class_guid = ParseGuid(class_guid);
     const TreeKey* const device_class = set.Find(u"Control\\Class\\" + class_guid);
     std::optional<Text> class_name = TextOf(key.values.Find(u"Class"));
-    if (!class_name && device_class) {
+    if (!class_name && device_class != nullptr) {
         class_name = TextOf(device_class->values.Find(u"Class"));
     }
     device.class_name = class_name.value_or(u"");
-    const TreeKey* const parameters = key.Find(HardwareKey);
+    const TreeKey* const parameters = key.Find(hardware_key);
     device.has_key = parameters != nullptr;
-    if (parameters) {
+    if (parameters != nullptr) {
         device.key = parameters->values;
     }
     return device;
@@ -74,7 +74,7 @@ sim::Device DeviceOf(const TreeKey& set, Text instance_id, const TreeKey& key) {
 
 std::vector<sim::Device> DevicesOf(const TreeKey& set) {
     std::vector<std::pair<Text, const TreeKey*>> instances;
-    if (const TreeKey* const enumeration = set.Find(DevicesKey)) {
+    if (const TreeKey* const enumeration = set.Find(devices_key)) {
         for (const auto& [enumerator, its_devices] : enumeration->keys) {
             for (const auto& [device, its_instances] : its_devices.keys) {
                 for (const auto& [instance, key] : its_instances.keys) {
@@ -120,7 +120,7 @@ std::vector<sim::Interface> InterfacesOf(const TreeKey& set, const std::vector<s
         places.emplace(devices[i].instance_id, i);
     }
     std::vector<sim::Interface> interfaces;
-    if (const TreeKey* const classes = set.Find(InterfacesKey)) {
+    if (const TreeKey* const classes = set.Find(interfaces_key)) {
         for (const auto& [guid_text, its_keys] : classes->keys) {
             for (const auto& [name, key] : its_keys.keys) {
                 const std::optional<GUID> guid = ParseGuid(guid_text);
@@ -159,25 +159,25 @@ std::vector<std::pair<Text, Text>> DosNamesOf(const sim::Values& serial_map) {
 } // namespace
 
 const sim::Value* PortDatabase(const MachineFile& file) {
-    const TreeKey* const arbiter = file.root.Find(Below(file.control_set, ArbiterKey));
-    const sim::Value* const value = arbiter ? arbiter->values.Find(ComDb) : nullptr;
+    const TreeKey* const arbiter = file.root.Find(Below(file.control_set, arbiter_key));
+    const sim::Value* const value = arbiter != nullptr ? arbiter->values.Find(com_db_value) : nullptr;
     return value != nullptr && value->type == REG_BINARY && !value->data.empty() ? value : nullptr;
 }
 
 void GiveMachine(const MachineFile& file, sim::Machine& machine) {
     static const TreeKey nothing;
     const TreeKey* const found = file.root.Find(file.control_set);
-    const TreeKey& set = found ? *found : nothing;
+    const TreeKey& set = found != nullptr ? *found : nothing;
     machine.devices = DevicesOf(set);
     machine.interfaces = InterfacesOf(set, machine.devices);
     machine.port_usage = PortUsageOf(PortDatabase(file));
-    const TreeKey* const serial_map = file.root.Find(SerialMapKey);
+    const TreeKey* const serial_map = file.root.Find(serial_map_key);
     machine.serial_map_exists = serial_map != nullptr;
-    machine.serial_map = serial_map ? serial_map->values : sim::Values();
+    machine.serial_map = serial_map != nullptr ? serial_map->values : sim::Values();
     machine.dos_names = DosNamesOf(machine.serial_map);
     machine.profile.clear();
-    if (const TreeKey* const ports = file.root.Find(PortsKey)) {
-        machine.profile.emplace_back(PortsSection, ports->values);
+    if (const TreeKey* const ports = file.root.Find(ports_key)) {
+        machine.profile.emplace_back(ports_section, ports->values);
     }
 }
 

@@ -28,12 +28,12 @@ public:
         PutPortUsage();
         if (machine_.serial_map_exists &&
             !(before_.serial_map_exists && machine_.serial_map == before_.serial_map)) {
-            Key(Text(SerialMapKey)).values = machine_.serial_map;
+            Key(Text(serial_map_key)).values = machine_.serial_map;
         }
         for (const auto& [section, values] : machine_.profile) {
             const auto& known = before_.profile;
-            if (sim::EqualNoCase(section, PortsSection) && (known.empty() || known[0].second != values)) {
-                Key(Text(PortsKey)).values = values;
+            if (sim::EqualNoCase(section, ports_section) && (known.empty() || known[0].second != values)) {
+                Key(Text(ports_key)).values = values;
             }
         }
     }
@@ -52,7 +52,7 @@ private:
     }
 
     void PutDevice(const sim::Device& device) {
-        const Text path = Below(InControlSet(DevicesKey), device.instance_id);
+        const Text path = Below(InControlSet(devices_key), device.instance_id);
         sim::Device unknown;
         unknown.has_key = false;
         const sim::Device* before = before_.FindDevice(device.instance_id);
@@ -68,7 +68,7 @@ private:
         PutText(path, u"Class", before->class_name, device.class_name);
         PutText(path, u"ClassGUID", text_of(before->class_guid), text_of(device.class_guid));
         if (device.has_key && !(before->has_key && before->key == device.key)) {
-            Key(Below(path, HardwareKey)).values = device.key;
+            Key(Below(path, hardware_key)).values = device.key;
         }
     }
 
@@ -93,7 +93,7 @@ private:
              subkey = u"#" + one.path.substr(std::min(reference + 1, one.path.size()));
         std::ranges::replace(name, u'\\', u'#');
         std::ranges::replace(subkey, u'\\', u'#');
-        const Text path = Below(Below(InControlSet(InterfacesKey), GuidText(one.class_guid)), name);
+        const Text path = Below(Below(InControlSet(interfaces_key), GuidText(one.class_guid)), name);
         Key(path).values.SetText(u"DeviceInstance", machine_.devices[one.device].instance_id);
         Key(Below(path, subkey)).values.SetText(u"SymbolicLink", one.path);
         if (one.linked) {
@@ -104,7 +104,7 @@ private:
     void PutPortUsage() {
         const std::optional<std::vector<BYTE>> usage = CurrentPortUsage(file_, machine_);
         if (usage && *usage != PortDatabase(file_)->data) {
-            Key(InControlSet(ArbiterKey)).values.Set(ComDb, REG_BINARY, *usage);
+            Key(InControlSet(arbiter_key)).values.Set(com_db_value, REG_BINARY, *usage);
         }
     }
 
@@ -126,7 +126,7 @@ void Collect(const Text& path, const TreeKey& key, std::vector<std::pair<Text, c
 
 void Write(ExportWriter& writer, const TreeKey& root) {
     std::vector<std::pair<Text, const TreeKey*>> keys;
-    Collect(Text(LocalMachine.substr(0, LocalMachine.size() - 1)), root, keys);
+    Collect(Text(local_machine.substr(0, local_machine.size() - 1)), root, keys);
     std::ranges::sort(keys, {}, [](const auto& each) { return each.second->place; });
     for (const auto& [path, key] : keys) {
         writer.Key(path);

@@ -18,8 +18,8 @@ struct Place {
 };
 constexpr Place places[] = {
     {u"SYSTEM\\Select", {u"Current"}},
-    {SerialMapKey, {}},
-    {PortsKey, {}},
+    {serial_map_key, {}},
+    {ports_key, {}},
     {u"SYSTEM\\?\\Enum\\*\\*\\*", {u"DeviceDesc", u"FriendlyName", u"Class", u"ClassGUID"}},
     {u"SYSTEM\\?\\Enum\\*\\*\\*\\Device Parameters", {}},
     {u"SYSTEM\\?\\Control\\DeviceClasses\\*\\*", {u"DeviceInstance"}},
@@ -66,7 +66,7 @@ bool TakePrefix(TextView& path, TextView prefix) {
 KeyUse MachineKeeper::Key(TextView path) {
     values_ = {};
     key_ = nullptr;
-    if (!TakePrefix(path, LocalMachine)) {
+    if (!TakePrefix(path, local_machine)) {
         return KeyUse::Unwanted;
     }
     for (const Place& place : places) {
@@ -84,7 +84,7 @@ KeyUse MachineKeeper::Key(TextView path) {
 }
 
 void MachineKeeper::DeleteKey(TextView path) {
-    if (TakePrefix(path, LocalMachine)) {
+    if (TakePrefix(path, local_machine)) {
         root_.Erase(path);
     }
 }

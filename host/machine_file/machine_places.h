@@ -6,25 +6,25 @@
 
 namespace host {
 
-inline constexpr std::u16string_view LocalMachine = u"HKEY_LOCAL_MACHINE\\";
+inline constexpr std::u16string_view local_machine = u"HKEY_LOCAL_MACHINE\\";
 
 // Below HKEY_LOCAL_MACHINE.
-inline constexpr std::u16string_view CurrentSet = u"SYSTEM\\CurrentControlSet";
-inline constexpr std::u16string_view SerialMapKey = u"HARDWARE\\DEVICEMAP\\SERIALCOMM";
-inline constexpr std::u16string_view PortsKey = u"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Ports";
+inline constexpr std::u16string_view current_set = u"SYSTEM\\CurrentControlSet";
+inline constexpr std::u16string_view serial_map_key = u"HARDWARE\\DEVICEMAP\\SERIALCOMM";
+inline constexpr std::u16string_view ports_key = u"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Ports";
 
 // Below a control set.
-inline constexpr std::u16string_view DevicesKey = u"Enum";
-inline constexpr std::u16string_view InterfacesKey = u"Control\\DeviceClasses";
-inline constexpr std::u16string_view ArbiterKey = u"Control\\COM Name Arbiter";
+inline constexpr std::u16string_view devices_key = u"Enum";
+inline constexpr std::u16string_view interfaces_key = u"Control\\DeviceClasses";
+inline constexpr std::u16string_view arbiter_key = u"Control\\COM Name Arbiter";
 
-inline constexpr std::u16string_view ComDb = u"ComDB"; // the value of the arbiter's key
+inline constexpr std::u16string_view com_db_value = u"ComDB"; // the value of the arbiter's key
 
 // Below a device: its hardware key.
-inline constexpr std::u16string_view HardwareKey = u"Device Parameters";
+inline constexpr std::u16string_view hardware_key = u"Device Parameters";
 
-// The section of the profile that PortsKey holds.
-inline constexpr std::u16string_view PortsSection = u"Ports";
+// The section of the profile that ports_key holds.
+inline constexpr std::u16string_view ports_section = u"Ports";
 
 // The path of a key below another one.
 inline std::u16string Below(std::u16string_view key, std::u16string_view subkey) {

@@ -12,7 +12,7 @@ namespace {
 using sim::Text;
 
 bool IsPatched(std::u16string_view path) {
-    for (const std::u16string_view place : {HardwareKey, ArbiterKey, PortsKey}) {
+    for (const std::u16string_view place : {hardware_key, arbiter_key, ports_key}) {
         if (path.size() > place.size() && path[path.size() - place.size() - 1] == u'\\' &&
             sim::EqualNoCase(path.substr(path.size() - place.size()), place)) {
             return true;
@@ -71,7 +71,7 @@ void Compare(const Text& path, const TreeKey* before, const TreeKey* after, std:
 
 std::vector<KeyChange> KeyChanges(const MachineFile& before, const MachineFile& after) {
     std::vector<KeyChange> changes;
-    Compare(Text(LocalMachine.substr(0, LocalMachine.size() - 1)), &before.root, &after.root, changes);
+    Compare(Text(local_machine.substr(0, local_machine.size() - 1)), &before.root, &after.root, changes);
     return changes;
 }
 

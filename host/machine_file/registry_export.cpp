@@ -33,8 +33,8 @@ constexpr auto digit_values = [] {
     std::array<std::int8_t, 0x80> values{};
     values.fill(-1);
     for (std::int8_t i = 0; i < 16; ++i) {
-        values[static_cast<std::size_t>("0123456789abcdef"[i])] = i;
-        values[static_cast<std::size_t>("0123456789ABCDEF"[i])] = i;
+        values[static_cast<unsigned char>("0123456789abcdef"[i])] = i;
+        values[static_cast<unsigned char>("0123456789ABCDEF"[i])] = i;
     }
     return values;
 }();
@@ -49,7 +49,7 @@ public:
     Reader(std::istream& in, ExportReceiver& receiver) : lines_(in), receiver_(receiver) {}
 
     void Run() {
-        if (!NextLine() || !TakeWord(ExportFirstLine) || (SkipBlanks(), at_ != end_)) {
+        if (!NextLine() || !TakeWord(export_first_line) || (SkipBlanks(), at_ != end_)) {
             throw Malformed{1, "the line \"Windows Registry Editor Version 5.00\""};
         }
         while (NextLine()) {
@@ -96,7 +96,7 @@ private:
     }
     bool Take(char character) {
         const bool is_here = at_ != end_ && *at_ == static_cast<WCHAR>(character);
-        at_ += is_here;
+        at_ += is_here ? 1 : 0;
         return is_here;
     }
     bool TakeWord(TextView word) {
@@ -294,7 +294,7 @@ private:
                 Fail("a byte in two hexadecimal digits");
             }
             const int second = at_ == end_ ? -1 : DigitValue(*at_);
-            at_ += second >= 0;
+            at_ += second >= 0 ? 1 : 0;
             data_.push_back(static_cast<BYTE>(second < 0 ? first : first << 4 | second));
             SkipBlanks();
         } while (Take(','));

@@ -17,7 +17,8 @@
 
 namespace host {
 
-inline constexpr std::basic_string_view<WCHAR> ExportFirstLine = TEXT("Windows Registry Editor Version 5.00");
+inline constexpr std::basic_string_view<WCHAR> export_first_line =
+    TEXT("Windows Registry Editor Version 5.00");
 
 // What is wrong with a file: "file:line: expected ...".
 struct Problem {

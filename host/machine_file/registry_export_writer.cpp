@@ -77,7 +77,7 @@ void AppendBytes(Text& line, std::span<const BYTE> data) {
 
 ExportWriter::ExportWriter(std::ostream& out) : out_(out) {
     Write(TEXT("\uFEFF"));
-    Write(ExportFirstLine);
+    Write(export_first_line);
     Write(line_end);
 }
 

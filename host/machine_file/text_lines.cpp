@@ -71,7 +71,7 @@ bool TextLines::Next() {
         Fill();
     }
     const bool after_return = searched_ > line_ && units_[searched_ - 1] == '\r';
-    length_ = searched_ - line_ - after_return;
+    length_ = searched_ - line_ - (after_return ? 1 : 0);
     next_ = ++searched_;
     ++number_;
     return true;

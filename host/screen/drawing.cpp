@@ -52,7 +52,7 @@ private:
     int last_ = -1;
 };
 
-std::string Marked(const Control& control, std::string text) {
+std::string Marked(const Control& control, const std::string& text) {
     return control.enabled || text.empty() ? text : '~' + text;
 }
 

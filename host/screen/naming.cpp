@@ -23,7 +23,7 @@ const Control* LabelledBy(const Window& window, const Control& label) {
     for (const Control& control : window.controls) {
         if (!control.of_frame && IsCalledByLabel(control) && control.area.x > label.area.x &&
             std::abs(control.area.Middle() - label.area.Middle()) <= line &&
-            (!nearest || control.area.x < nearest->area.x)) {
+            (nearest == nullptr || control.area.x < nearest->area.x)) {
             nearest = &control;
         }
     }
@@ -50,11 +50,11 @@ std::string CallName(const Window& window, const Control& control) {
     const Control* first = nullptr;
     for (const Control& label : window.controls) {
         if (label.kind == Kind::Label && LabelledBy(window, label) == &control &&
-            (!first || label.area.x < first->area.x)) {
+            (first == nullptr || label.area.x < first->area.x)) {
             first = &label;
         }
     }
-    return first ? Shown(first->text) : std::string{};
+    return first != nullptr ? Shown(first->text) : std::string{};
 }
 
 const Control& FindControl(const Window& window, std::string_view name) {
@@ -69,7 +69,8 @@ const Control& FindControl(const Window& window, std::string_view name) {
         }
         if (is_number && control.id >= 0 && control.id == number) {
             meant = &control;
-        } else if (wanted.empty() || IsCalledByLabel(control) || NameOf(control.text) != wanted || !meant) {
+        } else if (wanted.empty() || IsCalledByLabel(control) || NameOf(control.text) != wanted ||
+                   meant == nullptr) {
             continue;
         }
         if (control.of_frame && !found.empty()) {

@@ -158,7 +158,7 @@ void ReadControls(HWND parent, bool of_frame, std::vector<Control>& controls) {
     const RECT scale = Scale(parent);
     RECT origin{};
     GetWindowRect(parent, &origin);
-    for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+    for (HWND child = GetWindow(parent, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
         const DWORD style = static_cast<DWORD>(GetWindowLongPtrW(child, GWL_STYLE));
         const auto kind = KindOf(ClassName(child), style);
         if (!kind || !IsWindowVisible(child)) {
@@ -200,20 +200,20 @@ Window ReadWindow(HWND handle, bool box) {
     window.handle = handle;
     window.title = WindowText(handle);
     HWND page = nullptr;
-    for (HWND child = GetWindow(handle, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-        if (ClassName(child) == dialog_class && IsWindowVisible(child)) {
+    for (HWND child = GetWindow(handle, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+        if (ClassName(child) == dialog_class && IsWindowVisible(child) != 0) {
             page = child;
         }
         window.page_focused = window.page_focused || (ClassName(child) == tab_class && GetFocus() == child);
     }
-    if (page) {
+    if (page != nullptr) {
         window.page = WindowText(page);
         ReadControls(page, false, window.controls);
     }
-    window.kind = box ? WindowKind::Box : page ? WindowKind::Sheet : WindowKind::Dialog;
+    window.kind = box ? WindowKind::Box : page != nullptr ? WindowKind::Sheet : WindowKind::Dialog;
     ReadControls(handle, page != nullptr, window.controls);
     RECT place{};
-    const HWND inner = page ? page : handle;
+    const HWND inner = page != nullptr ? page : handle;
     GetWindowRect(inner, &place);
     const Area area = AreaOn(place, place, Scale(inner));
     window.cx = area.cx;
@@ -242,7 +242,7 @@ std::string ButtonNames(const Window& window) {
 }
 
 bool IsOpen(HWND window) {
-    return IsWindow(window) && IsWindowVisible(window);
+    return IsWindow(window) != 0 && IsWindowVisible(window) != 0;
 }
 
 } // namespace host

@@ -4,7 +4,7 @@
 
 namespace host {
 
-const std::array<GUID, 5> ChannelInterfaceClasses = {{
+const std::array<GUID, 5> channel_interface_classes = {{
     {0x86E0D1E0, 0x8089, 0x11D0, {0x9C, 0xE4, 0x08, 0x00, 0x3E, 0x30, 0x1F, 0x73}},
     {0xD169C409, 0xDB38, 0x43F5, {0x87, 0xA2, 0x5C, 0xB9, 0x5E, 0xF2, 0xCA, 0xC3}},
     {0xC64BD006, 0x0A75, 0x4A56, {0x9B, 0x99, 0x17, 0x61, 0x61, 0x33, 0x82, 0x30}},
@@ -13,8 +13,8 @@ const std::array<GUID, 5> ChannelInterfaceClasses = {{
 }};
 
 unsigned ChannelClassOf(const GUID& interface_class) {
-    for (unsigned index = 0; index < ChannelInterfaceClasses.size(); ++index) {
-        if (std::memcmp(&ChannelInterfaceClasses[index], &interface_class, sizeof interface_class) == 0) {
+    for (unsigned index = 0; index < channel_interface_classes.size(); ++index) {
+        if (std::memcmp(&channel_interface_classes[index], &interface_class, sizeof interface_class) == 0) {
             return index + 1;
         }
     }

@@ -8,7 +8,7 @@
 namespace host {
 
 // That of the ports and the four of the board's own, in the order of the channel classes, which count from 1.
-extern const std::array<GUID, 5> ChannelInterfaceClasses;
+extern const std::array<GUID, 5> channel_interface_classes;
 
 // The channel class of an interface class; 0 for any other.
 unsigned ChannelClassOf(const GUID& interface_class);

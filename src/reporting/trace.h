@@ -120,8 +120,8 @@ template <TraceKind... Kinds> struct TraceFormat {
     [[no_unique_address]] TraceName text;
 
     consteval TraceFormat(const char* format) : text(format) {
-        constexpr TraceKind kinds[] = {Kinds..., TraceKind::Pointer};
-        CheckTraceFormat(format, kinds, sizeof...(Kinds));
+        constexpr TraceKind FormatKinds[] = {Kinds..., TraceKind::Pointer};
+        CheckTraceFormat(format, FormatKinds, sizeof...(Kinds));
     }
 };
 

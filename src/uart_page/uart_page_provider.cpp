@@ -30,7 +30,7 @@ bool CheckUart(const SP_PROPSHEETPAGE_REQUEST* request) {
 bool IsRemote(HDEVINFO set) {
     SP_DEVINFO_LIST_DETAIL_DATA_W detail = {};
     detail.cbSize = sizeof(detail);
-    return SetupDiGetDeviceInfoListDetailW(set, &detail) && detail.RemoteMachineHandle != nullptr;
+    return SetupDiGetDeviceInfoListDetailW(set, &detail) != 0 && detail.RemoteMachineHandle != nullptr;
 }
 
 bool _InitUartParams(UartPageParams* params, const SP_PROPSHEETPAGE_REQUEST* request) {

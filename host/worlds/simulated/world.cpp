@@ -24,10 +24,10 @@ namespace {
 constexpr std::u16string_view board_value = u"BoardNrController";
 
 std::optional<DeviceKind> KindOf(const sim::Device& device) {
-    if (sim::EqualNoCase(device.class_name, u"Ports") || device.key.Find(u"PortName")) {
+    if (sim::EqualNoCase(device.class_name, u"Ports") || device.key.Find(u"PortName") != nullptr) {
         return DeviceKind::Port;
     }
-    if (device.key.Find(board_value)) {
+    if (device.key.Find(board_value) != nullptr) {
         return DeviceKind::Board;
     }
     return {};
@@ -78,7 +78,7 @@ SimulatedWorld::~SimulatedWorld() {
 }
 
 bool SimulatedWorld::KnowsDevices() {
-    return Holds(file_, DevicesKey);
+    return Holds(file_, devices_key);
 }
 
 std::vector<Device> SimulatedWorld::Devices() {
@@ -123,7 +123,7 @@ std::vector<StoreValue> SimulatedWorld::Store(const std::string& id) {
 }
 
 std::optional<std::vector<Interface>> SimulatedWorld::Interfaces() {
-    if (!Holds(file_, InterfacesKey)) {
+    if (!Holds(file_, interfaces_key)) {
         return std::nullopt;
     }
     std::vector<Interface> interfaces;

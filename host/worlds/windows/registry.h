@@ -9,9 +9,9 @@
 
 namespace host {
 
-inline constexpr const WCHAR* ArbiterKey = L"SYSTEM\\CurrentControlSet\\Control\\COM Name Arbiter";
-inline constexpr const WCHAR* PortsKey = L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Ports";
-inline constexpr const WCHAR* SerialMapKey = L"HARDWARE\\DEVICEMAP\\SERIALCOMM";
+inline constexpr const WCHAR* arbiter_key = L"SYSTEM\\CurrentControlSet\\Control\\COM Name Arbiter";
+inline constexpr const WCHAR* ports_key = L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Ports";
+inline constexpr const WCHAR* serial_map_key = L"HARDWARE\\DEVICEMAP\\SERIALCOMM";
 
 // An open key, closed at the end. A key that can't be opened has no values.
 class RegistryKey {

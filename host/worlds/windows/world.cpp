@@ -192,7 +192,7 @@ public:
 
     std::optional<std::vector<Interface>> Interfaces() override {
         std::vector<Interface> interfaces;
-        for (const GUID& interface_class : ChannelInterfaceClasses) {
+        for (const GUID& interface_class : channel_interface_classes) {
             const DeviceSet set(
                 SetupDiGetClassDevsW(&interface_class, nullptr, nullptr, DIGCF_DEVICEINTERFACE));
             SP_DEVICE_INTERFACE_DATA one{};
@@ -213,16 +213,16 @@ public:
     PortRecords Ports() override {
         PortRecords records;
         records.dos_names = SerialDosNames();
-        if (const RegistryKey map(HKEY_LOCAL_MACHINE, SerialMapKey, KEY_READ); map.Handle()) {
+        if (const RegistryKey map(HKEY_LOCAL_MACHINE, serial_map_key, KEY_READ); map.Handle()) {
             records.serial_map = map.Texts();
         }
         // The section [Ports] of the profile lies there.
-        if (const RegistryKey ports(HKEY_LOCAL_MACHINE, PortsKey, KEY_READ); ports.Handle()) {
+        if (const RegistryKey ports(HKEY_LOCAL_MACHINE, ports_key, KEY_READ); ports.Handle()) {
             records.settings_lines = ports.Texts();
         }
         // Read where it lies: to open the database by its own operations would make one where there is none.
         const std::vector<StoreValue> arbiter =
-            RegistryKey(HKEY_LOCAL_MACHINE, ArbiterKey, KEY_READ).Values();
+            RegistryKey(HKEY_LOCAL_MACHINE, arbiter_key, KEY_READ).Values();
         const StoreValue* const usage = FindValue(arbiter, "ComDB");
         if (usage && usage->type == REG_BINARY && !usage->data.empty()) {
             records.usage = usage->data;

@@ -7,14 +7,14 @@
 
 namespace {
 
-constexpr const WCHAR* ArbiterKey = L"SYSTEM\\CurrentControlSet\\Control\\COM Name Arbiter";
-constexpr const WCHAR* UsageValue = L"ComDB";
+constexpr const WCHAR* arbiter_key = L"SYSTEM\\CurrentControlSet\\Control\\COM Name Arbiter";
+constexpr const WCHAR* usage_value = L"ComDB";
 
 // A bit for each number, at least as many as every database has. No bytes if it can't be read.
 std::vector<BYTE> Read(HKEY key) {
     std::vector<BYTE> usage(COMDB_MAX_PORTS_ARBITRATED / 8);
     DWORD type = 0, bytes = static_cast<DWORD>(usage.size());
-    const LSTATUS status = RegQueryValueExW(key, UsageValue, nullptr, &type, usage.data(), &bytes);
+    const LSTATUS status = RegQueryValueExW(key, usage_value, nullptr, &type, usage.data(), &bytes);
     if (status == ERROR_FILE_NOT_FOUND) {
         bytes = 0;
     } else if (status != ERROR_SUCCESS || type != REG_BINARY) {
@@ -44,7 +44,7 @@ bool Find(HCOMDB database, DWORD number, std::vector<BYTE>& usage, Place& place)
 }
 
 LONG Write(HCOMDB database, const std::vector<BYTE>& usage) {
-    const LSTATUS status = RegSetValueExW(Key(database), UsageValue, 0, REG_BINARY, usage.data(),
+    const LSTATUS status = RegSetValueExW(Key(database), usage_value, 0, REG_BINARY, usage.data(),
                                           static_cast<DWORD>(usage.size()));
     return status == ERROR_SUCCESS ? ERROR_SUCCESS : ERROR_CANTWRITE;
 }
@@ -59,7 +59,7 @@ LONG WINAPI ComDBOpen(HCOMDB* database) {
     }
     HKEY key = nullptr;
     const LSTATUS status =
-        RegCreateKeyExW(HKEY_LOCAL_MACHINE, ArbiterKey, 0, nullptr, REG_OPTION_NON_VOLATILE,
+        RegCreateKeyExW(HKEY_LOCAL_MACHINE, arbiter_key, 0, nullptr, REG_OPTION_NON_VOLATILE,
                         KEY_READ | KEY_WRITE, nullptr, &key, nullptr);
     *database = status == ERROR_SUCCESS ? reinterpret_cast<HCOMDB>(key) : HCOMDB_INVALID_HANDLE_VALUE;
     return status == ERROR_SUCCESS ? ERROR_SUCCESS : ERROR_ACCESS_DENIED;

@@ -74,7 +74,7 @@ DWORD WINAPI StandInGetProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR fall
         return GetProfileStringW(section, key, fallback, buffer, capacity);
     }
     std::wstring line = fallback ? fallback : L"";
-    for (const auto& [name, text] : RegistryKey(HKEY_LOCAL_MACHINE, PortsKey, KEY_READ).Texts()) {
+    for (const auto& [name, text] : RegistryKey(HKEY_LOCAL_MACHINE, ports_key, KEY_READ).Texts()) {
         if (_wcsicmp(name.c_str(), key) == 0) {
             // One pair of quotation marks around a value is not part of it.
             const bool quoted = text.size() >= 2 && (text.front() == L'"' || text.front() == L'\'') &&
@@ -93,8 +93,8 @@ BOOL WINAPI StandInWriteProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR val
         return WriteProfileStringW(section, key, value);
     }
     HKEY ports = nullptr;
-    if (RegCreateKeyExW(HKEY_LOCAL_MACHINE, PortsKey, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_WRITE, nullptr,
-                        &ports, nullptr) != ERROR_SUCCESS) {
+    if (RegCreateKeyExW(HKEY_LOCAL_MACHINE, ports_key, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_WRITE,
+                        nullptr, &ports, nullptr) != ERROR_SUCCESS) {
         return FALSE;
     }
     const LSTATUS status = value
@@ -109,7 +109,7 @@ BOOL WINAPI StandInWriteProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR val
 
 void AttachTo(HMODULE library) {
     dos_names.clear();
-    for (const auto& [device, port] : RegistryKey(HKEY_LOCAL_MACHINE, SerialMapKey, KEY_READ).Texts()) {
+    for (const auto& [device, port] : RegistryKey(HKEY_LOCAL_MACHINE, serial_map_key, KEY_READ).Texts()) {
         if (!port.empty() && FindDosName(port.c_str()) == dos_names.end()) {
             dos_names.emplace_back(port, device);
         }

@@ -50,16 +50,16 @@ LONG WINAPI ComDBGetCurrentPortUsage(HCOMDB database, BYTE* buffer, DWORD bytes,
     if (const LONG error = Enter(sim::Reach::Read, __func__, database, [] { return ""; })) {
         return error;
     }
-    if (report != CDB_REPORT_BITS || (!buffer && !count)) {
+    if (report != CDB_REPORT_BITS || (buffer == nullptr && count == nullptr)) {
         sim::Misuse("ComDBGetCurrentPortUsage: only the report of bits is simulated");
         return Answer(ERROR_INVALID_PARAMETER);
     }
     const sim::PortUsage& usage = sim::Current().port_usage;
-    if (buffer) {
+    if (buffer != nullptr) {
         std::copy_n(usage.begin(), std::min<std::size_t>(bytes, usage.size()), buffer);
     }
-    if (count) {
-        *count = buffer ? std::min(port_count, 8 * bytes) : port_count;
+    if (count != nullptr) {
+        *count = buffer != nullptr ? std::min(port_count, 8 * bytes) : port_count;
     }
     return ERROR_SUCCESS;
 }
@@ -76,7 +76,7 @@ LONG WINAPI ComDBClaimPort(HCOMDB database, DWORD number, BOOL force, BOOL* forc
     if (claimed && !force) {
         return Answer(ERROR_SHARING_VIOLATION);
     }
-    if (forced) {
+    if (forced != nullptr) {
         *forced = claimed;
     }
     sim::SetClaimed(sim::Current().port_usage, number, true);

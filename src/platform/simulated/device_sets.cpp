@@ -53,7 +53,7 @@ HDEVINFO sim::OpenDeviceSet(std::size_t device, SP_DEVINFO_DATA& data) {
 }
 
 sim::Device* sim::DeviceOf(HDEVINFO set, const SP_DEVINFO_DATA* data, std::string_view operation) {
-    if (!sets.Find(set, operation)) {
+    if (sets.Find(set, operation) == nullptr) {
         SetLastError(ERROR_INVALID_HANDLE);
         return nullptr;
     }
@@ -74,7 +74,8 @@ HDEVINFO SetupDiGetClassDevsW(const GUID* interfaceClass, LPCWSTR enumerator, HW
         SetLastError(ERROR_GEN_FAILURE);
         return INVALID_HANDLE_VALUE;
     }
-    if (!interfaceClass || enumerator || flags != (DIGCF_PRESENT | DIGCF_DEVICEINTERFACE)) {
+    if (interfaceClass == nullptr || enumerator != nullptr ||
+        flags != (DIGCF_PRESENT | DIGCF_DEVICEINTERFACE)) {
         sim::Misuse("SetupDiGetClassDevsW: only the present interfaces of a class are simulated");
         SetLastError(ERROR_INVALID_PARAMETER);
         return INVALID_HANDLE_VALUE;
@@ -103,10 +104,10 @@ BOOL SetupDiEnumDeviceInterfaces(HDEVINFO handle, SP_DEVINFO_DATA* device, const
     if (sim::Operation(sim::Reach::Read, __func__, [&] { return std::to_string(index); })) {
         return sim::Fail(ERROR_GEN_FAILURE);
     }
-    if (!set) {
+    if (set == nullptr) {
         return sim::Fail(ERROR_INVALID_HANDLE);
     }
-    if (device) {
+    if (device != nullptr) {
         sim::Misuse("SetupDiEnumDeviceInterfaces: only the interfaces of all devices are simulated");
         return sim::Fail(ERROR_INVALID_PARAMETER);
     }
@@ -124,29 +125,31 @@ BOOL SetupDiGetDeviceInterfaceDetailW(HDEVINFO handle, SP_DEVICE_INTERFACE_DATA*
                                       SP_DEVICE_INTERFACE_DETAIL_DATA_W* detail, DWORD bytes, LPDWORD needed,
                                       SP_DEVINFO_DATA* device) {
     const Set* set = sets.Find(handle, __func__);
-    const sim::Interface* found = set ? InterfaceOf(handle, *set, interfaceData, __func__) : nullptr;
-    if (sim::Operation(sim::Reach::Read, __func__, [&] { return found ? sim::ToUtf8(found->path) : "?"; })) {
+    const sim::Interface* found =
+        set != nullptr ? InterfaceOf(handle, *set, interfaceData, __func__) : nullptr;
+    if (sim::Operation(sim::Reach::Read, __func__,
+                       [&] { return found != nullptr ? sim::ToUtf8(found->path) : "?"; })) {
         return sim::Fail(ERROR_GEN_FAILURE);
     }
-    if (!set) {
+    if (set == nullptr) {
         return sim::Fail(ERROR_INVALID_HANDLE);
     }
-    if (!found || (detail && !sim::HasItsSize(detail, __func__)) ||
-        (device && !sim::HasItsSize(device, __func__))) {
+    if (found == nullptr || (detail != nullptr && !sim::HasItsSize(detail, __func__)) ||
+        (device != nullptr && !sim::HasItsSize(device, __func__))) {
         return FALSE;
     }
     const std::vector<BYTE> path = sim::BytesOf(found->path);
     const auto size =
         static_cast<DWORD>(offsetof(SP_DEVICE_INTERFACE_DETAIL_DATA_W, DevicePath) + path.size());
-    if (needed) {
+    if (needed != nullptr) {
         *needed = size;
     }
-    if (!detail || bytes < size) {
+    if (detail == nullptr || bytes < size) {
         return sim::Fail(ERROR_INSUFFICIENT_BUFFER);
     }
     std::ranges::copy(path, reinterpret_cast<BYTE*>(detail) +
                                 offsetof(SP_DEVICE_INTERFACE_DETAIL_DATA_W, DevicePath));
-    if (device) {
+    if (device != nullptr) {
         FillDevice(handle, found->device, *device);
     }
     return TRUE;
@@ -157,7 +160,7 @@ BOOL SetupDiGetDeviceInfoListDetailW(HDEVINFO handle, SP_DEVINFO_LIST_DETAIL_DAT
     if (sim::Operation(sim::Reach::Read, __func__)) {
         return sim::Fail(ERROR_GEN_FAILURE);
     }
-    if (!set) {
+    if (set == nullptr) {
         return sim::Fail(ERROR_INVALID_HANDLE);
     }
     if (!sim::HasItsSize(detail, __func__)) {

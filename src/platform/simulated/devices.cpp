@@ -42,7 +42,7 @@ const Property* FindProperty(DWORD number) {
 }
 
 std::string PropertyName(const Property* property) {
-    return property ? property->name : "unknown property";
+    return property != nullptr ? property->name : "unknown property";
 }
 
 } // namespace
@@ -54,7 +54,7 @@ HKEY SetupDiOpenDevRegKey(HDEVINFO set, SP_DEVINFO_DATA* data, DWORD scope, DWOR
         return static_cast<HKEY>(INVALID_HANDLE_VALUE);
     };
     const sim::Device* device = Enter(sim::Reach::Read, __func__, set, data, [] { return ""; });
-    if (!device) {
+    if (device == nullptr) {
         return fail(GetLastError());
     }
     if (scope != DICS_FLAG_GLOBAL || profile != 0 || keyType != DIREG_DEV) {
@@ -72,7 +72,7 @@ HKEY SetupDiOpenDevRegKey(HDEVINFO set, SP_DEVINFO_DATA* data, DWORD scope, DWOR
 
 BOOL SetupDiGetDeviceInstallParamsW(HDEVINFO set, SP_DEVINFO_DATA* data, SP_DEVINSTALL_PARAMS_W* params) {
     const sim::Device* device = Enter(sim::Reach::Read, __func__, set, data, [] { return ""; });
-    if (!device || !sim::HasItsSize(params, __func__)) {
+    if (device == nullptr || !sim::HasItsSize(params, __func__)) {
         return FALSE;
     }
     *params = {};
@@ -87,7 +87,7 @@ BOOL SetupDiSetDeviceInstallParamsW(HDEVINFO set, SP_DEVINFO_DATA* data, SP_DEVI
         std::snprintf(flags, sizeof flags, " flags 0x%08X", params->Flags);
         return std::string(flags);
     });
-    if (!device || !sim::HasItsSize(params, __func__)) {
+    if (device == nullptr || !sim::HasItsSize(params, __func__)) {
         return FALSE;
     }
     device->install_flags = params->Flags;
@@ -98,7 +98,7 @@ BOOL SetupDiSetClassInstallParamsW(HDEVINFO set, SP_DEVINFO_DATA* data, SP_CLASS
                                    DWORD bytes) {
     const sim::Device* device =
         Enter(sim::Reach::Write, __func__, set, data, [&] { return FunctionName(params->InstallFunction); });
-    if (!device || !sim::HasItsSize(params, __func__)) {
+    if (device == nullptr || !sim::HasItsSize(params, __func__)) {
         return FALSE;
     }
     // Of all changes the one of which a device is told that its properties are others, in all profiles.
@@ -115,7 +115,7 @@ BOOL SetupDiSetClassInstallParamsW(HDEVINFO set, SP_DEVINFO_DATA* data, SP_CLASS
 BOOL SetupDiCallClassInstaller(DI_FUNCTION function, HDEVINFO set, SP_DEVINFO_DATA* data) {
     const sim::Device* device =
         Enter(sim::Reach::Write, __func__, set, data, [&] { return FunctionName(function); });
-    if (!device) {
+    if (device == nullptr) {
         return FALSE;
     }
     if (function != DIF_PROPERTYCHANGE) {
@@ -130,10 +130,10 @@ BOOL SetupDiGetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_DATA* data, DWOR
     const Property* property = FindProperty(number);
     const sim::Device* device =
         Enter(sim::Reach::Read, __func__, set, data, [&] { return " " + PropertyName(property); });
-    if (!device) {
+    if (device == nullptr) {
         return FALSE;
     }
-    if (!property) {
+    if (property == nullptr) {
         return sim::Fail(ERROR_INVALID_REG_PROPERTY);
     }
     const std::optional<sim::Text>& text = device->*property->text;
@@ -141,13 +141,13 @@ BOOL SetupDiGetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_DATA* data, DWOR
         return sim::Fail(ERROR_INVALID_DATA);
     }
     const std::vector<BYTE> stored = sim::BytesOf(*text);
-    if (type) {
+    if (type != nullptr) {
         *type = REG_SZ;
     }
-    if (needed) {
+    if (needed != nullptr) {
         *needed = static_cast<DWORD>(stored.size());
     }
-    if (!buffer || bytes < stored.size()) {
+    if (buffer == nullptr || bytes < stored.size()) {
         return sim::Fail(ERROR_INSUFFICIENT_BUFFER);
     }
     std::ranges::copy(stored, buffer);
@@ -160,10 +160,10 @@ BOOL SetupDiSetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_DATA* data, DWOR
     const sim::Text text = sim::TextIn(buffer, bytes);
     sim::Device* device = Enter(sim::Reach::Write, __func__, set, data,
                                 [&] { return " " + PropertyName(property) + " = " + sim::Quoted(text); });
-    if (!device) {
+    if (device == nullptr) {
         return FALSE;
     }
-    if (!property) {
+    if (property == nullptr) {
         return sim::Fail(ERROR_INVALID_REG_PROPERTY);
     }
     sim::ExpectItsTerminator(buffer, bytes, __func__);

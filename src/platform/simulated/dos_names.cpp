@@ -33,10 +33,11 @@ DWORD QueryDosDeviceW(LPCWSTR name, LPWSTR target, DWORD capacity) {
 }
 
 BOOL DefineDosDeviceW(DWORD flags, LPCWSTR name, LPCWSTR target) {
-    const bool remove = flags == DDD_REMOVE_DEFINITION && !target;
-    const bool define = flags == DDD_RAW_TARGET_PATH && target;
+    const bool remove = flags == DDD_REMOVE_DEFINITION && target == nullptr;
+    const bool define = flags == DDD_RAW_TARGET_PATH && target != nullptr;
     if (sim::Operation(sim::Reach::Write, __func__, [&] {
-            return target ? sim::ToUtf8(name) + " -> " + sim::ToUtf8(target) : "remove " + sim::ToUtf8(name);
+            return target != nullptr ? sim::ToUtf8(name) + " -> " + sim::ToUtf8(target)
+                                     : "remove " + sim::ToUtf8(name);
         })) {
         return sim::Fail(ERROR_GEN_FAILURE);
     }

@@ -83,7 +83,7 @@ struct ListView : Window {
 
     LRESULT ReadItem(int row, const LVITEMW& item) {
         const Text* cell = Cell(row, item.iSubItem);
-        return CopyOut(cell ? *cell : Text{}, item.pszText,
+        return CopyOut(cell != nullptr ? *cell : Text{}, item.pszText,
                        static_cast<std::size_t>(std::max(item.cchTextMax, 0)));
     }
 

@@ -29,7 +29,7 @@ bool FailsByCount(FaultPlan& faults, std::string_view name) {
 } // namespace
 
 Machine& Current() {
-    if (!current) {
+    if (current == nullptr) {
         std::fputs("no machine is current\n", stderr);
         std::abort();
     }

@@ -28,7 +28,7 @@ HLOCAL LocalAlloc(UINT flags, SIZE_T bytes) {
     const bool fails =
         sim::Operation(sim::Reach::Memory, __func__, [&] { return std::to_string(bytes) + " bytes"; });
     HLOCAL memory = fails ? nullptr : flags & LPTR ? std::calloc(1, bytes) : std::malloc(bytes);
-    if (!memory) {
+    if (memory == nullptr) {
         SetLastError(ERROR_NOT_ENOUGH_MEMORY);
         return nullptr;
     }
@@ -39,7 +39,7 @@ HLOCAL LocalAlloc(UINT flags, SIZE_T bytes) {
 
 HLOCAL LocalFree(HLOCAL memory) {
     const bool fails = sim::Operation(sim::Reach::Memory, __func__);
-    if (!memory) {
+    if (memory == nullptr) {
         return nullptr;
     }
     if (allocations.erase(memory) == 0) {

@@ -21,13 +21,13 @@ std::u16string_view WithoutQuotes(std::u16string_view text) {
 DWORD GetProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR fallback, LPWSTR buffer, DWORD capacity) {
     const bool fails = sim::Operation(sim::Reach::Read, __func__, [&] { return Place(section, key); });
     const sim::Values* values = fails ? nullptr : sim::Current().ProfileSection(section, false);
-    const sim::Value* value = values ? values->Find(key) : nullptr;
+    const sim::Value* value = values != nullptr ? values->Find(key) : nullptr;
     sim::Text text;
-    if (value) {
+    if (value != nullptr) {
         text = WithoutQuotes(sim::TextIn(value->data.data(), value->data.size()));
     } else {
         SetLastError(fails ? ERROR_GEN_FAILURE : ERROR_FILE_NOT_FOUND);
-        text = fallback ? fallback : u"";
+        text = fallback != nullptr ? fallback : u"";
     }
     if (capacity == 0) {
         return 0;
@@ -40,14 +40,14 @@ DWORD GetProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR fallback, LPWSTR b
 
 BOOL WriteProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR value) {
     if (sim::Operation(sim::Reach::Write, __func__, [&] {
-            return Place(section, key) + (value ? " = " + sim::Quoted(value) : " deleted");
+            return Place(section, key) + (value != nullptr ? " = " + sim::Quoted(value) : " deleted");
         })) {
         return sim::Fail(ERROR_GEN_FAILURE);
     }
     sim::Values* values = sim::Current().ProfileSection(section, value != nullptr);
-    if (value) {
+    if (value != nullptr) {
         values->SetText(key, value);
-    } else if (values) {
+    } else if (values != nullptr) {
         values->Erase(key);
     }
     return TRUE;

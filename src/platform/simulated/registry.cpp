@@ -24,10 +24,10 @@ sim::Handles<HKEY, Key> keys("key");
 
 // The name of a value, preceded by that of its key.
 std::string Place(const Key* key, LPCWSTR name) {
-    const std::string place = !key          ? "?"
-                              : key->device ? sim::ToUtf8(sim::Current().devices[*key->device].instance_id)
-                                            : "SERIALCOMM";
-    return place + " " + (name ? sim::ToUtf8(name) : "");
+    const std::string place = key == nullptr ? "?"
+                              : key->device  ? sim::ToUtf8(sim::Current().devices[*key->device].instance_id)
+                                             : "SERIALCOMM";
+    return place + " " + (name != nullptr ? sim::ToUtf8(name) : "");
 }
 
 std::string Shown(DWORD type, const BYTE* data, DWORD bytes) {
@@ -63,17 +63,17 @@ LSTATUS Enter(sim::Reach reach, std::string_view operation, const Key* key, REGS
 
 // Returns type, size and data of a value as far as they are asked for.
 LSTATUS Deliver(const sim::Value& value, LPDWORD type, LPBYTE data, LPDWORD bytes) {
-    if (type) {
+    if (type != nullptr) {
         *type = value.type;
     }
-    if (!bytes) {
-        return data ? ERROR_INVALID_PARAMETER : ERROR_SUCCESS;
+    if (bytes == nullptr) {
+        return data != nullptr ? ERROR_INVALID_PARAMETER : ERROR_SUCCESS;
     }
     const DWORD room = std::exchange(*bytes, static_cast<DWORD>(value.data.size()));
-    if (data && room < value.data.size()) {
+    if (data != nullptr && room < value.data.size()) {
         return ERROR_MORE_DATA;
     }
-    if (data) {
+    if (data != nullptr) {
         std::ranges::copy(value.data, data);
     }
     return ERROR_SUCCESS;
@@ -112,8 +112,8 @@ LSTATUS RegQueryValueExW(HKEY handle, LPCWSTR name, LPDWORD, LPDWORD type, LPBYT
             Enter(sim::Reach::Read, __func__, key, right_to_query, [&] { return Place(key, name); })) {
         return status;
     }
-    const sim::Value* value = key->Values().Find(name ? name : u"");
-    return value ? Deliver(*value, type, data, bytes) : ERROR_FILE_NOT_FOUND;
+    const sim::Value* value = key->Values().Find(name != nullptr ? name : u"");
+    return value != nullptr ? Deliver(*value, type, data, bytes) : ERROR_FILE_NOT_FOUND;
 }
 
 LSTATUS RegSetValueExW(HKEY handle, LPCWSTR name, DWORD, DWORD type, const BYTE* data, DWORD bytes) {
@@ -125,7 +125,7 @@ LSTATUS RegSetValueExW(HKEY handle, LPCWSTR name, DWORD, DWORD type, const BYTE*
     if (type == REG_SZ) {
         sim::ExpectItsTerminator(data, bytes, __func__);
     }
-    key->Values().Set(name ? name : u"", type, {data, data + bytes});
+    key->Values().Set(name != nullptr ? name : u"", type, {data, data + bytes});
     return ERROR_SUCCESS;
 }
 

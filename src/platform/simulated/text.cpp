@@ -130,7 +130,7 @@ std::string Quoted(std::u16string_view text) {
 } // namespace sim
 
 int lstrlenW(LPCWSTR text) {
-    return text ? static_cast<int>(std::u16string_view(text).size()) : 0;
+    return text != nullptr ? static_cast<int>(std::u16string_view(text).size()) : 0;
 }
 
 int lstrcmpW(LPCWSTR left, LPCWSTR right) {

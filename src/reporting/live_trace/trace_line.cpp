@@ -64,8 +64,8 @@ void PutCharacter(Line& line, u32 character) {
         bytes[i] = static_cast<char>(0x80 | (character & 0x3F));
         character >>= 6;
     }
-    constexpr u32 marks[] = {0, 0xC0, 0xE0, 0xF0};
-    bytes[0] = static_cast<char>(marks[count - 1] | character);
+    constexpr u32 Marks[] = {0, 0xC0, 0xE0, 0xF0};
+    bytes[0] = static_cast<char>(Marks[count - 1] | character);
     Put(line, bytes, count);
 }
 

@@ -6,7 +6,7 @@ namespace host {
 
 std::optional<Device> FirstDevice(World& world, DeviceKind kind) {
     for (const Device& device : world.Devices()) {
-        if (device.kind == kind && FindValue(world.Store(device.id), "BoardPciBusNumber")) {
+        if (device.kind == kind && FindValue(world.Store(device.id), "BoardPciBusNumber") != nullptr) {
             return device;
         }
     }

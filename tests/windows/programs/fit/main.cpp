@@ -22,29 +22,29 @@ namespace {
 
 int measured = 0, failures = 0;
 
-constexpr WORD Dialogs[] = {IDD_PORT_SETTINGS, IDD_ADVANCED_PORT_SETTINGS, IDD_PORT_CONTROL,
-                            IDD_ADVANCED_PORT_CONTROL};
+constexpr WORD all_dialogs[] = {IDD_PORT_SETTINGS, IDD_ADVANCED_PORT_SETTINGS, IDD_PORT_CONTROL,
+                                IDD_ADVANCED_PORT_CONTROL};
 
 // What stands beside or around a text in a control, in pixels at 96 dots per inch.
-constexpr int CheckBox = 17;     // the box and the gap behind it
-constexpr int ButtonMargin = 8;  // both sides together, with the frame
-constexpr int GroupMargin = 18;  // before and behind the caption in the frame
-constexpr int ComboMargin = 4;   // both sides together, within the item's place
-constexpr int ListMargin = 4;    // both sides together
-constexpr int CellMargin = 12;   // both sides together, in a heading and a cell
-constexpr int TitleMargin = 12;  // both sides together
-constexpr int ColumnWidth = 120; // as the library sets it, in pixels at every scale
+constexpr int check_box = 17;     // the box and the gap behind it
+constexpr int button_margin = 8;  // both sides together, with the frame
+constexpr int group_margin = 18;  // before and behind the caption in the frame
+constexpr int combo_margin = 4;   // both sides together, within the item's place
+constexpr int list_margin = 4;    // both sides together
+constexpr int cell_margin = 12;   // both sides together, in a heading and a cell
+constexpr int title_margin = 12;  // both sides together
+constexpr int column_width = 120; // as the library sets it, in pixels at every scale
 
-constexpr int UsualScale = 96;
-int scale = UsualScale; // dots per inch
+constexpr int usual_scale = 96;
+int scale = usual_scale; // dots per inch
 
 int Scaled(int pixels) {
-    return MulDiv(pixels, scale, UsualScale);
+    return MulDiv(pixels, scale, usual_scale);
 }
 
-constexpr const char TooNarrow[] = "too narrow", Overlaps[] = "overlaps another";
+constexpr const char too_narrow[] = "too narrow", overlaps[] = "overlaps another";
 
-// The English geometry is given. These labels are up to four pixels too narrow in it or, between two scales,
+// The english geometry is given. These labels are up to four pixels too narrow in it or, between two scales,
 // share a column of pixels with their slider, and stay so.
 struct Exception {
     WORD dialog;
@@ -52,14 +52,14 @@ struct Exception {
     const char* what;
     int pixels; // at 96 dots per inch
 };
-constexpr LANGID English = 1033;
-constexpr Exception Exceptions[] = {
-    {IDD_ADVANCED_PORT_SETTINGS, IDC_PORT_NUMBER_CAPTION, TooNarrow, 4},
-    {IDD_PORT_CONTROL, IDC_RECEIVE_HIGH, TooNarrow, 4},
-    {IDD_PORT_CONTROL, IDC_TRANSMIT_HIGH, TooNarrow, 4},
-    {IDD_ADVANCED_PORT_CONTROL, IDC_INTERFACE_CAPTION, TooNarrow, 4},
-    {IDD_ADVANCED_PORT_SETTINGS, IDC_RECEIVE_LOW, Overlaps, 1},
-    {IDD_ADVANCED_PORT_SETTINGS, IDC_TRANSMIT_LOW, Overlaps, 1},
+constexpr LANGID english = 1033;
+constexpr Exception exceptions[] = {
+    {IDD_ADVANCED_PORT_SETTINGS, IDC_PORT_NUMBER_CAPTION, too_narrow, 4},
+    {IDD_PORT_CONTROL, IDC_RECEIVE_HIGH, too_narrow, 4},
+    {IDD_PORT_CONTROL, IDC_TRANSMIT_HIGH, too_narrow, 4},
+    {IDD_ADVANCED_PORT_CONTROL, IDC_INTERFACE_CAPTION, too_narrow, 4},
+    {IDD_ADVANCED_PORT_SETTINGS, IDC_RECEIVE_LOW, overlaps, 1},
+    {IDD_ADVANCED_PORT_SETTINGS, IDC_TRANSMIT_LOW, overlaps, 1},
 };
 
 std::string Utf8(const Text& text) {
@@ -86,8 +86,8 @@ struct Dialog {
     // Counts a failure of so many pixels, unless it is one of those that are known; the word for it.
     const char* Judge(int control, const char* what, int pixels) const {
         const bool known =
-            language == English &&
-            std::any_of(std::begin(Exceptions), std::end(Exceptions), [&](const Exception& each) {
+            language == english &&
+            std::any_of(std::begin(exceptions), std::end(exceptions), [&](const Exception& each) {
                 return each.dialog == id && each.control == control && each.what == what &&
                        pixels <= Scaled(each.pixels);
             });
@@ -97,7 +97,7 @@ struct Dialog {
 
     void Fail(int control, const Text& text, int needed, int given) const {
         std::printf("%s: language %u, dialog %u, control %d, \"%s\": needs %d pixels, has %d\n",
-                    Judge(control, TooNarrow, needed - given), language, id, control, Utf8(text).c_str(),
+                    Judge(control, too_narrow, needed - given), language, id, control, Utf8(text).c_str(),
                     needed, given);
     }
 
@@ -151,9 +151,9 @@ Control MeasureControl(const Dialog& dialog, HWND window) {
         dialog.CheckLabel(id, text, control.place);
     } else if (lstrcmpiW(kind, L"Button") == 0) {
         control.group = (style & BS_TYPEMASK) == BS_GROUPBOX;
-        const int around = control.group                              ? GroupMargin
-                           : (style & BS_TYPEMASK) == BS_AUTOCHECKBOX ? CheckBox
-                                                                      : ButtonMargin;
+        const int around = control.group                              ? group_margin
+                           : (style & BS_TYPEMASK) == BS_AUTOCHECKBOX ? check_box
+                                                                      : button_margin;
         if (!text.empty()) {
             dialog.Check(id, text, width - Scaled(around));
         }
@@ -163,17 +163,17 @@ Control MeasureControl(const Dialog& dialog, HWND window) {
         GetComboBoxInfo(window, &info);
         for (const Text& item : ComboItems(dialog.language, dialog.id, id)) {
             dialog.Check(id, item,
-                         static_cast<int>(info.rcItem.right - info.rcItem.left) - Scaled(ComboMargin),
+                         static_cast<int>(info.rcItem.right - info.rcItem.left) - Scaled(combo_margin),
                          DT_SINGLELINE | DT_NOPREFIX);
         }
     } else if (lstrcmpiW(kind, L"ListBox") == 0) {
         RECT client;
         GetClientRect(window, &client);
-        dialog.Check(id, L"COM256 (port16)", static_cast<int>(client.right) - Scaled(ListMargin),
+        dialog.Check(id, L"COM256 (port16)", static_cast<int>(client.right) - Scaled(list_margin),
                      DT_SINGLELINE | DT_NOPREFIX);
-    } else if (lstrcmpiW(kind, WC_LISTVIEWW) == 0 && scale == UsualScale) {
+    } else if (lstrcmpiW(kind, WC_LISTVIEWW) == 0 && scale == usual_scale) {
         for (const UINT string : {IDS_RESOURCE_TYPE, IDS_SETTING, IDS_IO_RANGE, IDS_IRQ}) {
-            dialog.Check(id, String(dialog.language, string), ColumnWidth - CellMargin,
+            dialog.Check(id, String(dialog.language, string), column_width - cell_margin,
                          DT_SINGLELINE | DT_NOPREFIX);
         }
     }
@@ -200,7 +200,7 @@ void CheckPlaces(const Dialog& dialog, const std::vector<Control>& controls) {
             const bool held = (one->group && EqualRect(&common, &other->place)) ||
                               (other->group && EqualRect(&common, &one->place));
             if (!held) {
-                tell(*one, Overlaps, other->id,
+                tell(*one, overlaps, other->id,
                      static_cast<int>(std::min(common.right - common.left, common.bottom - common.top)));
             }
         }
@@ -224,7 +224,7 @@ void CheckTitle(const Dialog& dialog) {
     if (font) {
         SelectObject(dialog.dc, font);
     }
-    dialog.Check(0, text, static_cast<int>(client.right) - Scaled(TitleMargin), DT_SINGLELINE | DT_NOPREFIX);
+    dialog.Check(0, text, static_cast<int>(client.right) - Scaled(title_margin), DT_SINGLELINE | DT_NOPREFIX);
     if (font) {
         SelectObject(dialog.dc, dialog.font);
         DeleteObject(font);
@@ -296,7 +296,7 @@ int main(int argc, char** argv) {
     }
     int dialogs = 0;
     for (const LANGID language : languages) {
-        for (const WORD id : Dialogs) {
+        for (const WORD id : all_dialogs) {
             if (MeasureDialog(language, id)) {
                 ++dialogs;
             } else {

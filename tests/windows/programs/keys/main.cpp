@@ -119,7 +119,7 @@ void ListMoves(HWND window, const host::Control& control) {
 void List(HWND window, LANGID language, int dialog) {
     const host::Window read = host::ReadWindow(window, false);
     std::vector<HWND> listening{window};
-    for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+    for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
         WCHAR name[16];
         if (GetClassNameW(child, name, ARRAYSIZE(name)) == 6 && name[0] == '#') {
             listening.push_back(child);
