@@ -230,7 +230,7 @@ bool SimulatedWorld::Export(const std::string& file, std::string& told) {
     if (!SaveMachine(file_, machine_, file, told)) {
         return false;
     }
-    if (!PortDatabase(file_) && machine_.port_usage != sim::PortUsage{}) {
+    if (PortDatabase(file_) == nullptr && machine_.port_usage != sim::PortUsage{}) {
         told = "the COM port database was not in the file that was read, and is left out";
     }
     KeepAsSaved();
