@@ -17,26 +17,25 @@ template <Lines (Bench::*Run)(const Words&)> void DoAlone(Interpreter& host, con
     Do<Run>(host, words);
 }
 
-constexpr Command commands[] = {
-    {"diagnose", "", "tells what is wrong with the ports and boards, worst first, and what mends it",
-     &Do<&Bench::Diagnose>},
-    {"why", "NUMBER", "tells all that is known of one COM number", &Do<&Bench::Why>},
-    {"free", "NUMBER [--even-so]", "takes a number from the COM port database", &Do<&Bench::Free>},
-    {"claim", "NUMBER [--even-so]", "marks a number as in use there", &Do<&Bench::Claim>},
-    {"forget", "LINE [--even-so]", "deletes a settings line, such as COM44:", &Do<&Bench::Forget>},
-    {"mend", "", "does all that diagnose calls safe", &Do<&Bench::Mend>},
-    {"changes", "", "lists what differs from the machine as it was read", &Do<&Bench::Changes>},
-    {"undo", "", "takes back the last command that changed something", &DoAlone<&Bench::Undo>},
-    {"reload", "", "takes back all", &DoAlone<&Bench::Reload>},
-    {"patch", "[--over] FILE",
-     "writes what has changed as a file to import there, and one that takes it back", &Do<&Bench::Patch>},
-    {"fail", "OPERATION [N]", "lets the n-th call of an operation from now fail; fail off ends that",
-     &Do<&Bench::Fail>},
-};
-
 } // namespace
 
 std::span<const Command> BenchCommands() {
+    static constexpr Command commands[] = {
+        {"diagnose", "", "tells what is wrong with the ports and boards, worst first, and what mends it",
+         &Do<&Bench::Diagnose>},
+        {"why", "NUMBER", "tells all that is known of one COM number", &Do<&Bench::Why>},
+        {"free", "NUMBER [--even-so]", "takes a number from the COM port database", &Do<&Bench::Free>},
+        {"claim", "NUMBER [--even-so]", "marks a number as in use there", &Do<&Bench::Claim>},
+        {"forget", "LINE [--even-so]", "deletes a settings line, such as COM44:", &Do<&Bench::Forget>},
+        {"mend", "", "does all that diagnose calls safe", &Do<&Bench::Mend>},
+        {"changes", "", "lists what differs from the machine as it was read", &Do<&Bench::Changes>},
+        {"undo", "", "takes back the last command that changed something", &DoAlone<&Bench::Undo>},
+        {"reload", "", "takes back all", &DoAlone<&Bench::Reload>},
+        {"patch", "[--over] FILE",
+         "writes what has changed as a file to import there, and one that takes it back", &Do<&Bench::Patch>},
+        {"fail", "OPERATION [N]", "lets the n-th call of an operation from now fail; fail off ends that",
+         &Do<&Bench::Fail>},
+    };
     return commands;
 }
 

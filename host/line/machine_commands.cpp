@@ -56,15 +56,6 @@ void Export(Interpreter& host, const Words& words) {
     }
 }
 
-constexpr Command commands[] = {
-    {"devices", "", "lists the devices: number, kind, name, instance id, and why one has no page", &Devices},
-    {"store", "DEVICE", "lists what the device store holds, and what of it is missing or too long", &Store},
-    {"ports", "", "lists all places that hold a port's number, and what disagrees", &Ports},
-    {"journal", "", "tells what the library has changed outside itself since the last time", &Journal},
-    {"export", "[--over] FILE", "writes the machine as a registry file; --over replaces one that exists",
-     &Export},
-};
-
 } // namespace
 
 std::string FileToWrite(const Words& words) {
@@ -81,6 +72,16 @@ std::string FileToWrite(const Words& words) {
 }
 
 std::span<const Command> MachineCommands() {
+    static constexpr Command commands[] = {
+        {"devices", "", "lists the devices: number, kind, name, instance id, and why one has no page",
+         &Devices},
+        {"store", "DEVICE", "lists what the device store holds, and what of it is missing or too long",
+         &Store},
+        {"ports", "", "lists all places that hold a port's number, and what disagrees", &Ports},
+        {"journal", "", "tells what the library has changed outside itself since the last time", &Journal},
+        {"export", "[--over] FILE", "writes the machine as a registry file; --over replaces one that exists",
+         &Export},
+    };
     return commands;
 }
 

@@ -31,15 +31,14 @@ void Source(Interpreter& host, const Words& words) {
     host.Source(words[1]);
 }
 
-constexpr Command commands[] = {
-    {"source", "FILE", "does the commands of a file", &Source},
-    {"help", "[COMMAND]", "tells the commands", &Help},
-    {"quit", "", "cancels what is open and ends; exit does the same", &Quit},
-};
-
 } // namespace
 
 std::span<const Command> SessionCommands() {
+    static constexpr Command commands[] = {
+        {"source", "FILE", "does the commands of a file", &Source},
+        {"help", "[COMMAND]", "tells the commands", &Help},
+        {"quit", "", "cancels what is open and ends; exit does the same", &Quit},
+    };
     return commands;
 }
 

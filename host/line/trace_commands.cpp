@@ -36,14 +36,13 @@ void Trace(Interpreter& host, const Words& words) {
     }
 }
 
-constexpr Command commands[] = {
-    {"trace", "on|off|FILE", "shows or keeps what the library decides, and between it what it changes (*)",
-     &Trace},
-};
-
 } // namespace
 
 std::span<const Command> TraceCommands() {
+    static constexpr Command commands[] = {
+        {"trace", "on|off|FILE",
+         "shows or keeps what the library decides, and between it what it changes (*)", &Trace},
+    };
     return commands;
 }
 

@@ -96,24 +96,24 @@ void Sheet(Interpreter& host, const Words& words) {
     host.Press(FindButton(front, id));
 }
 
-constexpr Command commands[] = {
-    {"open", "DEVICE", "opens the sheet of a device: its number in the list, COM5, or its instance id",
-     &Open},
-    {"show", "", "draws the screen", &Show},
-    {"controls", "", "lists the controls of the window in front: number, kind, caption, state", &Controls},
-    {"pick", "CONTROL ITEM", "picks an item of a list: by its text, its first word, or #n counted from 0",
-     &PickItem},
-    {"check", "CONTROL", "checks a box", &CheckOn},
-    {"uncheck", "CONTROL", "takes the check from a box", &CheckOff},
-    {"slide", "CONTROL POSITION", "moves a slider", &SlideTo},
-    {"click", "CONTROL", "presses a button of the window in front", &ClickOn},
-    {"answer", "yes|no|ok", "answers a message box", &Answer},
-    {"sheet", "ok|apply|cancel", "presses a button of the sheet itself", &Sheet},
-};
-
 } // namespace
 
 std::span<const Command> WindowCommands() {
+    static constexpr Command commands[] = {
+        {"open", "DEVICE", "opens the sheet of a device: its number in the list, COM5, or its instance id",
+         &Open},
+        {"show", "", "draws the screen", &Show},
+        {"controls", "", "lists the controls of the window in front: number, kind, caption, state",
+         &Controls},
+        {"pick", "CONTROL ITEM", "picks an item of a list: by its text, its first word, or #n counted from 0",
+         &PickItem},
+        {"check", "CONTROL", "checks a box", &CheckOn},
+        {"uncheck", "CONTROL", "takes the check from a box", &CheckOff},
+        {"slide", "CONTROL POSITION", "moves a slider", &SlideTo},
+        {"click", "CONTROL", "presses a button of the window in front", &ClickOn},
+        {"answer", "yes|no|ok", "answers a message box", &Answer},
+        {"sheet", "ok|apply|cancel", "presses a button of the sheet itself", &Sheet},
+    };
     return commands;
 }
 

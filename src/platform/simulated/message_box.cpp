@@ -8,19 +8,18 @@ namespace {
 
 constexpr int text_number = 0xFFFF;
 
-// Dialog units.
-constexpr int margin = 7;
-constexpr int text_width = 240;
-constexpr int line_height = 8;
-constexpr int letters_in_line = text_width / 4;
-constexpr int button_width = 50;
-constexpr int button_height = 14;
-
 struct MessageBox : Dialog {
     const UINT box_style;
     const bool is_question = (box_style & MB_YESNO) != 0;
 
     MessageBox(Window* above, const WCHAR* message, const WCHAR* caption, UINT kind) : box_style(kind) {
+        // Dialog units.
+        constexpr int margin = 7;
+        constexpr int text_width = 240;
+        constexpr int line_height = 8;
+        constexpr int letters_in_line = text_width / 4;
+        constexpr int button_width = 50;
+        constexpr int button_height = 14;
         const std::u16string_view letters = message;
         const auto breaks =
             std::ranges::count_if(letters, [](WCHAR one) { return one == u'\r' || one == u'\n'; });
