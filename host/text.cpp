@@ -3,12 +3,8 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdio>
-#include <cstring>
 #include <iterator>
 #include <numeric>
-
-#include <utf8.h>
-#include <utf8/unchecked.h>
 
 namespace host {
 namespace {
@@ -50,40 +46,14 @@ char32_t FoldedCharacter(char32_t character) {
     return character;
 }
 
-// Half a surrogate pair comes in the three-byte form, so nothing may be checked here.
-char32_t Next(std::string_view::const_iterator& at) {
-    return utf8::unchecked::next(at);
+char32_t Next(std::string_view::const_iterator& at, std::string_view::const_iterator end) {
+    std::string_view rest(at, end);
+    const char32_t character = TakeUtf8(rest);
+    at = rest.begin();
+    return character;
 }
 
 } // namespace
-
-std::string ToUtf8(std::basic_string_view<WCHAR> text) {
-    std::string result;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        char32_t character = text[at];
-        if (character >> 10 == 0xD800 >> 10 && at + 1 < text.size() && text[at + 1] >> 10 == 0xDC00 >> 10) {
-            character = 0x10000 + ((character & 0x3FF) << 10) + (text[++at] & 0x3FF);
-        }
-        utf8::unchecked::append(character, std::back_inserter(result));
-    }
-    return result;
-}
-
-Text FromUtf8(std::string_view text) {
-    std::string valid;
-    utf8::replace_invalid(text.begin(), text.end(), std::back_inserter(valid));
-    Text result;
-    utf8::utf8to16(valid.begin(), valid.end(), std::back_inserter(result));
-    return result;
-}
-
-Text TextIn(std::span<const BYTE> data) {
-    Text text(data.size() / sizeof(WCHAR), 0);
-    if (!text.empty()) {
-        std::memcpy(text.data(), data.data(), text.size() * sizeof(WCHAR));
-    }
-    return text.substr(0, text.find(WCHAR{0}));
-}
 
 int ColumnsOf(char32_t character) {
     return IsIn(character, zero_width) ? 0 : IsIn(character, two_wide) ? 2 : 1;
@@ -92,7 +62,7 @@ int ColumnsOf(char32_t character) {
 int Columns(std::string_view text) {
     int columns = 0;
     for (auto at = text.begin(); at < text.end();) {
-        columns += ColumnsOf(Next(at));
+        columns += ColumnsOf(Next(at, text.end()));
     }
     return columns;
 }
@@ -107,7 +77,7 @@ std::string CutTo(std::string_view text, int columns) {
     auto at = text.begin();
     for (int left = columns - 1; at < text.end();) {
         auto next = at;
-        if ((left -= ColumnsOf(Next(next))) < 0) {
+        if ((left -= ColumnsOf(Next(next, text.end()))) < 0) {
             break;
         }
         at = next;
@@ -125,7 +95,7 @@ std::vector<std::string> BrokenAt(std::string_view text, int columns) {
     int width = 0;
     for (auto at = text.begin(); at < text.end();) {
         const auto here = at;
-        const char32_t character = Next(at);
+        const char32_t character = Next(at, text.end());
         if (character == '\r' || character == '\n') {
             if (character == '\r' && at < text.end() && *at == '\n') {
                 ++at;
@@ -168,7 +138,7 @@ std::string Shown(std::string_view caption) {
 std::string Folded(std::string_view text) {
     std::string result;
     for (auto at = text.begin(); at < text.end();) {
-        utf8::unchecked::append(FoldedCharacter(Next(at)), std::back_inserter(result));
+        AppendUtf8(result, FoldedCharacter(Next(at, text.end())));
     }
     return result;
 }
@@ -203,7 +173,7 @@ bool IsControl(char32_t character) {
 std::string Escaped(std::string_view text) {
     std::string result;
     for (auto at = text.begin(); at < text.end();) {
-        const char32_t character = Next(at);
+        const char32_t character = Next(at, text.end());
         if (character == '\r' || character == '\n') {
             result += character == '\r' ? "\\r" : "\\n";
         } else if (IsControl(character)) {
@@ -211,7 +181,7 @@ std::string Escaped(std::string_view text) {
             std::snprintf(code, sizeof code, "\\x%02X", static_cast<unsigned>(character));
             result += code;
         } else {
-            utf8::unchecked::append(character, std::back_inserter(result));
+            AppendUtf8(result, character);
         }
     }
     return result;

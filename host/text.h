@@ -2,23 +2,19 @@
 // what a person types is compared with what a window shows.
 #pragma once
 
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "platform/platform.h"
+#include "platform/text.h"
 
 namespace host {
 
 using Text = std::basic_string<WCHAR>;
 
-// Half a surrogate pair passes to UTF-8 in its three-byte form; what is no UTF-8 comes back as U+FFFD.
-std::string ToUtf8(std::basic_string_view<WCHAR> text);
-Text FromUtf8(std::string_view text);
-
-// The text in a value's bytes, up to its terminator or their end.
-Text TextIn(std::span<const BYTE> data);
+using ::FromUtf8;
+using ::TextIn;
+using ::ToUtf8;
 
 // The columns that one character takes: 0 for marks that stand on the letter before them, 2 for the wide
 // scripts.

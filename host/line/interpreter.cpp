@@ -4,8 +4,6 @@
 #include <cstdio>
 #include <iterator>
 
-#include <utf8.h>
-
 #include "host/screen/drawing.h"
 #include "host/screen/hand.h"
 #include "host/screen/listing.h"
@@ -62,8 +60,7 @@ void Interpreter::Step() {
         return End();
     }
     had_input_ = true;
-    std::string line;
-    utf8::replace_invalid(bytes->begin(), bytes->end(), std::back_inserter(line));
+    std::string line = ToUtf8(FromUtf8(*bytes));
     line.erase(line.find_last_not_of(" \t\r") + 1);
     line.erase(0, std::min(line.size(), line.find_first_not_of(" \t")));
     if (line.empty()) {

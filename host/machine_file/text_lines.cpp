@@ -4,37 +4,14 @@
 #include <bit>
 #include <cstring>
 
+#include "platform/utf8.h"
+
 namespace host {
 namespace {
 
 static_assert(std::endian::native == std::endian::little, "UTF-16LE is read as it lies in the file");
 
 constexpr std::size_t block = 0x10000; // units or bytes that are read at once
-
-struct Utf8Form {
-    std::size_t bytes;
-    BYTE mask, lead; // the bits that tell the form, and what they are
-    char32_t least;  // a smaller character has a shorter form
-};
-constexpr Utf8Form utf8_forms[] = {{2, 0xE0, 0xC0, 0x80}, {3, 0xF0, 0xE0, 0x800}, {4, 0xF8, 0xF0, 0x10000}};
-
-const Utf8Form* FormOf(BYTE lead) {
-    const auto* const form = std::ranges::find_if(
-        utf8_forms, [lead](const Utf8Form& each) { return (lead & each.mask) == each.lead; });
-    return form == std::end(utf8_forms) ? nullptr : form;
-}
-
-// False if the bytes don't go on as the form says, or stand for no character.
-bool Combine(const Utf8Form& form, const BYTE* bytes, char32_t& character) {
-    character = bytes[0] & static_cast<BYTE>(~form.mask);
-    for (std::size_t i = 1; i < form.bytes; ++i) {
-        if ((bytes[i] & 0xC0) != 0x80) {
-            return false;
-        }
-        character = character << 6 | (bytes[i] & 0x3Fu);
-    }
-    return character >= form.least && character < 0x110000;
-}
 
 } // namespace
 
@@ -136,8 +113,7 @@ void TextLines::FillUtf8() {
     undecoded_ = count - decoded;
     std::copy_n(bytes_.begin() + static_cast<std::ptrdiff_t>(decoded), undecoded_, bytes_.begin());
     // A character's beginning can only wait for its other bytes.
-    if (undecoded_ != 0 &&
-        (at_end_ || FormOf(bytes_[0]) == nullptr || undecoded_ >= FormOf(bytes_[0])->bytes)) {
+    if (undecoded_ != 0 && (at_end_ || undecoded_ >= Utf8Length(bytes_[0]))) {
         broken_ = "text in UTF-8";
         at_end_ = true;
     }
@@ -151,18 +127,13 @@ std::size_t TextLines::Decode(const BYTE* bytes, std::size_t count) {
             units_[filled_++] = bytes[at++];
             continue;
         }
-        const Utf8Form* const form = FormOf(bytes[at]);
-        char32_t character = 0;
-        if (form == nullptr || count - at < form->bytes || !Combine(*form, bytes + at, character)) {
+        u32 character = 0;
+        const u32 length = DecodeUtf8(reinterpret_cast<const char*>(bytes + at), count - at, &character);
+        if (length == 0) {
             break;
         }
-        if (character < 0x10000) {
-            units_[filled_++] = static_cast<WCHAR>(character);
-        } else {
-            units_[filled_++] = static_cast<WCHAR>(0xD7C0 + (character >> 10));
-            units_[filled_++] = static_cast<WCHAR>(0xDC00 + (character & 0x3FF));
-        }
-        at += form->bytes;
+        filled_ += EncodeUtf16(character, units_.data() + filled_);
+        at += length;
     }
     return at;
 }

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include <utf8/unchecked.h>
-
 #include "host/text.h"
 
 namespace host {
@@ -31,11 +29,11 @@ void Canvas::Put(int column, int row, std::string glyph, int columns) {
 }
 
 void Canvas::Write(int column, int row, std::string_view text) {
-    for (auto at = text.begin(); at < text.end();) {
-        const auto start = at;
-        const char32_t character = utf8::unchecked::next(at);
+    while (!text.empty()) {
+        const std::string_view from_here = text;
+        const char32_t character = TakeUtf8(text);
         const int columns = ColumnsOf(character);
-        const std::string glyph = IsControl(character) ? " " : std::string{start, at};
+        const std::string glyph = IsControl(character) ? " " : std::string(from_here.begin(), text.begin());
         if (columns > 0) {
             Put(column, row, glyph, columns);
         } else if (row >= 0 && row < rows() && column > 0 && column <= columns_) {

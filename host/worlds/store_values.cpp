@@ -7,20 +7,6 @@
 #include "host/text.h"
 
 namespace host {
-namespace {
-
-std::string Hexadecimal(const std::vector<BYTE>& data) {
-    std::string result;
-    for (const BYTE byte : data) {
-        char digits[4];
-        std::snprintf(digits, sizeof digits, "%s%02x", result.empty() ? "" : " ",
-                      static_cast<unsigned>(byte));
-        result += digits;
-    }
-    return result;
-}
-
-} // namespace
 
 const StoreValue* FindValue(const std::vector<StoreValue>& store, std::string_view name) {
     const std::string wanted = Folded(name);
@@ -74,7 +60,7 @@ std::string Told(const StoreValue& value) {
         value.data.size() == (text.size() + 1) * sizeof(WCHAR)) {
         return Quoted(ToUtf8(text));
     }
-    return Hexadecimal(value.data);
+    return HexBytes(value.data);
 }
 
 } // namespace host

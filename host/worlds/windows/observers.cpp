@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
 #include <map>
 #include <utility>
 
@@ -60,28 +59,6 @@ std::string Utf8(LPCWSTR text) {
     return text ? ToUtf8(text) : std::string{};
 }
 
-std::string Hex(const char* format, unsigned number) {
-    char text[16];
-    std::snprintf(text, sizeof text, format, number);
-    return text;
-}
-
-std::string DataShown(DWORD type, const BYTE* data, DWORD bytes) {
-    if (type == REG_DWORD && bytes == sizeof(DWORD)) {
-        DWORD number = 0;
-        std::memcpy(&number, data, sizeof number);
-        return std::to_string(number);
-    }
-    if (type == REG_SZ && bytes % sizeof(WCHAR) == 0) {
-        return Quoted(ToUtf8(TextIn({data, bytes})));
-    }
-    std::string hex;
-    for (DWORD i = 0; i < bytes; ++i) {
-        hex += Hex(i ? " %02x" : "%02x", data[i]);
-    }
-    return hex;
-}
-
 std::string FunctionShown(DI_FUNCTION function) {
     return function == DIF_PROPERTYCHANGE ? "DIF_PROPERTYCHANGE" : "function " + std::to_string(function);
 }
@@ -109,7 +86,7 @@ LSTATUS WINAPI ObservedRegSetValueExW(HKEY key, LPCWSTR name, DWORD reserved, DW
                                       DWORD bytes) {
     const auto found = keys.find(key);
     return Journaled("RegSetValueExW " + (found == keys.end() ? "?" : found->second) + ' ' + Utf8(name) +
-                         " = " + DataShown(type, data, bytes),
+                         " = " + ValueInJournal(type, {data, bytes}),
                      [&] { return NextRegSetValueExW(key, name, reserved, type, data, bytes); });
 }
 
@@ -132,8 +109,9 @@ BOOL WINAPI ObservedSetupDiSetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_D
 
 BOOL WINAPI ObservedSetupDiSetDeviceInstallParamsW(HDEVINFO set, SP_DEVINFO_DATA* data,
                                                    SP_DEVINSTALL_PARAMS_W* params) {
-    return Journaled("SetupDiSetDeviceInstallParamsW " + InstanceId(set, data) + " flags " +
-                         Hex("0x%08X", params->Flags),
+    char flags[16];
+    std::snprintf(flags, sizeof flags, "0x%08X", static_cast<unsigned>(params->Flags));
+    return Journaled("SetupDiSetDeviceInstallParamsW " + InstanceId(set, data) + " flags " + flags,
                      [&] { return NextSetupDiSetDeviceInstallParamsW(set, data, params); });
 }
 

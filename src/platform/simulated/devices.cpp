@@ -157,7 +157,7 @@ BOOL SetupDiGetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_DATA* data, DWOR
 BOOL SetupDiSetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_DATA* data, DWORD number, const BYTE* buffer,
                                        DWORD bytes) {
     const Property* property = FindProperty(number);
-    const sim::Text text = sim::TextIn(buffer, bytes);
+    const sim::Text text = TextIn({buffer, bytes});
     sim::Device* device = Enter(sim::Reach::Write, __func__, set, data,
                                 [&] { return " " + PropertyName(property) + " = " + sim::Quoted(text); });
     if (device == nullptr) {
@@ -166,7 +166,7 @@ BOOL SetupDiSetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_DATA* data, DWOR
     if (property == nullptr) {
         return sim::Fail(ERROR_INVALID_REG_PROPERTY);
     }
-    sim::ExpectItsTerminator(buffer, bytes, __func__);
+    sim::ExpectItsTerminator({buffer, bytes}, __func__);
     device->*property->text = text;
     return TRUE;
 }

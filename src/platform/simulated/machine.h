@@ -22,7 +22,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "platform/platform.h"
+#include "platform/text.h"
 
 namespace sim {
 
@@ -196,9 +196,8 @@ UINT BoxStyle(HWND window);
 
 // --- Text -------------------------------------------------------------------------------------------------
 
-// Half a surrogate pair is kept, in its three-byte form.
-std::string ToUtf8(std::u16string_view text);
-Text FromUtf8(std::string_view text);
+using ::FromUtf8;
+using ::ToUtf8;
 // The upper-case unit by which names are compared and ordered when case is ignored.
 char16_t Upper(char16_t unit);
 bool EqualNoCase(std::u16string_view left, std::u16string_view right);

@@ -24,7 +24,7 @@ DWORD GetProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR fallback, LPWSTR b
     const sim::Value* value = values != nullptr ? values->Find(key) : nullptr;
     sim::Text text;
     if (value != nullptr) {
-        text = WithoutQuotes(sim::TextIn(value->data.data(), value->data.size()));
+        text = WithoutQuotes(TextIn(value->data));
     } else {
         SetLastError(fails ? ERROR_GEN_FAILURE : ERROR_FILE_NOT_FOUND);
         text = fallback != nullptr ? fallback : u"";

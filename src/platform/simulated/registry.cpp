@@ -1,7 +1,5 @@
 // Registry keys: the hardware keys of devices and the serial device map.
 #include <algorithm>
-#include <cstdio>
-#include <cstring>
 #include <utility>
 
 #include "platform/simulated/stage.h"
@@ -28,24 +26,6 @@ std::string Place(const Key* key, LPCWSTR name) {
                               : key->device  ? sim::ToUtf8(sim::Current().devices[*key->device].instance_id)
                                              : "SERIALCOMM";
     return place + " " + (name != nullptr ? sim::ToUtf8(name) : "");
-}
-
-std::string Shown(DWORD type, const BYTE* data, DWORD bytes) {
-    DWORD number = 0;
-    if (type == REG_DWORD && bytes == sizeof number) {
-        std::memcpy(&number, data, sizeof number);
-        return std::to_string(number);
-    }
-    if (type == REG_SZ && bytes % sizeof(WCHAR) == 0) {
-        return sim::Quoted(sim::TextIn(data, bytes));
-    }
-    std::string hex;
-    for (DWORD i = 0; i < bytes; ++i) {
-        char pair[4];
-        std::snprintf(pair, sizeof pair, i ? " %02x" : "%02x", data[i]);
-        hex += pair;
-    }
-    return hex;
 }
 
 // The common start of every call on an open key.
@@ -118,12 +98,13 @@ LSTATUS RegQueryValueExW(HKEY handle, LPCWSTR name, LPDWORD, LPDWORD type, LPBYT
 
 LSTATUS RegSetValueExW(HKEY handle, LPCWSTR name, DWORD, DWORD type, const BYTE* data, DWORD bytes) {
     const Key* key = keys.Find(handle, __func__);
-    if (const LSTATUS status = Enter(sim::Reach::Write, __func__, key, right_to_set,
-                                     [&] { return Place(key, name) + " = " + Shown(type, data, bytes); })) {
+    if (const LSTATUS status = Enter(sim::Reach::Write, __func__, key, right_to_set, [&] {
+            return Place(key, name) + " = " + ValueInJournal(type, {data, bytes});
+        })) {
         return status;
     }
     if (type == REG_SZ) {
-        sim::ExpectItsTerminator(data, bytes, __func__);
+        sim::ExpectItsTerminator({data, bytes}, __func__);
     }
     key->Values().Set(name != nullptr ? name : u"", type, {data, data + bytes});
     return ERROR_SUCCESS;

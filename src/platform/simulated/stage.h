@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -106,9 +107,7 @@ template <class Structure> bool HasItsSize(const Structure* structure, std::stri
 }
 // Adds a line to `misuse` unless a text to be stored ends with its terminator, and nothing stands behind
 // that.
-void ExpectItsTerminator(const void* data, std::size_t bytes, std::string_view operation);
-// The text in a buffer: up to its terminator, or all of it without one.
-Text TextIn(const void* data, std::size_t bytes);
+void ExpectItsTerminator(std::span<const BYTE> data, std::string_view operation);
 // A text with its terminator, as bytes.
 std::vector<BYTE> BytesOf(std::u16string_view text);
 std::string Quoted(std::u16string_view text);

@@ -2,6 +2,7 @@
 
 #include <atomic>
 
+#include "platform/utf8.h"
 #include "reporting/trace.h"
 
 namespace {
@@ -40,7 +41,6 @@ struct Line {
 };
 
 constexpr u32 Room = TraceLineCapacity - 2; // for all but the line feed and the terminator
-constexpr u32 Replacement = 0xFFFD;         // for what is no character of a line
 
 // All of the bytes, or, from the first that do not fit, none.
 void Put(Line& line, const char* bytes, u32 count) {
@@ -59,14 +59,7 @@ void PutNarrow(Line& line, const char* text) {
 // In UTF-8.
 void PutCharacter(Line& line, u32 character) {
     char bytes[4];
-    const u32 count = character < 0x80 ? 1 : character < 0x800 ? 2 : character < 0x10000 ? 3 : 4;
-    for (u32 i = count - 1; i > 0; --i) {
-        bytes[i] = static_cast<char>(0x80 | (character & 0x3F));
-        character >>= 6;
-    }
-    constexpr u32 Marks[] = {0, 0xC0, 0xE0, 0xF0};
-    bytes[0] = static_cast<char>(Marks[count - 1] | character);
-    Put(line, bytes, count);
+    Put(line, bytes, EncodeUtf8(character, bytes));
 }
 
 bool IsControl(u32 unit) {
@@ -76,11 +69,10 @@ bool IsControl(u32 unit) {
 // A control character would break the line, and half a surrogate pair has no form in UTF-8.
 void PutWide(Line& line, const WCHAR* text) {
     while (*text != 0) {
-        u32 character = *text++;
-        if (character >> 10 == 0xD800 >> 10 && static_cast<u32>(*text) >> 10 == 0xDC00 >> 10) {
-            character = 0x10000 + ((character & 0x3FF) << 10) + (static_cast<u32>(*text++) & 0x3FF);
-        } else if (character >> 11 == 0xD800 >> 11 || IsControl(character)) {
-            character = Replacement;
+        u32 character = 0;
+        text += DecodeUtf16(text, text[1] != 0 ? 2 : 1, &character);
+        if (IsSurrogate(character) || IsControl(character)) {
+            character = ReplacementCharacter;
         }
         PutCharacter(line, character);
     }
