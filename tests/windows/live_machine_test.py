@@ -1,8 +1,11 @@
 #!/usr/bin/env python3
 """The host that ships on a machine that is alive: without input it changes nothing, and of the libraries that lie beside it
-it takes neither the pages nor the port database. Those of its import table are the loader's to find, by what
+it takes neither the pages nor the port database. Whoever starts it at a console is told where he is. Those of its import table are the loader's to find, by what
 package_test.py reads, to which the stand-in pays no heed."""
+import os
+import pty
 import re
+import select
 import shutil
 import subprocess
 import sys
@@ -14,6 +17,21 @@ def registry(prefix):
     """All values of the machine, by lines."""
     prefix.run("regedit", "/E", windows_path(prefix.place / "all.reg"), "HKEY_LOCAL_MACHINE")
     return (prefix.place / "all.reg").read_bytes().decode("utf-16").splitlines()
+
+
+def greeting(prefix):
+    """What the host says at a console before its first prompt, without the blanks, over which a console moves its cursor."""
+    ours, its = pty.openpty()
+    run = subprocess.Popen(["wine", "C:\\kvr\\kvrhost.exe", "--line"], stdin=its, stdout=its, stderr=subprocess.DEVNULL,
+                           env={**prefix.environment(), "TERM": "xterm"}, start_new_session=True)
+    os.close(its)
+    said = ""
+    while not said.endswith(">") and select.select([ours], [], [], 60)[0]:
+        said += re.sub(r"\x1b\[[?\d]*[A-Za-z]|\s", "", os.read(ours, 4096).decode(errors="replace"))
+    run.kill()
+    run.wait()
+    os.close(ours)
+    return said
 
 
 def main():
@@ -31,6 +49,11 @@ def main():
         if b"board" not in listed or b"-- sheet" not in listed:
             print("a comment of a script was obeyed, or no page opened:", listed.decode(errors="replace"))
             failed = True
+        told = greeting(prefix)
+        print(told)
+        # The stand-in has no other users than administrators.
+        failed |= not told.startswith("Thismachine,live,asadministrator:whatthepageschangeischangedhere")
+
         for library in ("standins/msports.dll", "kvrpagex64.dll"):
             shutil.copy(BUILD / library, prefix.programs)
         run = subprocess.run(["wine", "C:\\kvr\\kvrhost.exe"], input=b"open 1\nsheet cancel\n", capture_output=True,
