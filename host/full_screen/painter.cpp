@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/screen/drawing.h"
 #include "host/text.h"
 
 namespace host {
@@ -30,11 +31,6 @@ void Frame(Terminal& terminal, const Cells& cells, bool doubled, const Look& loo
     terminal.Write(bottom, cells.left, line[4] + across + line[5], cells.columns, look);
 }
 
-// The captions with the mark of what is disabled before them, and the look of what is and of what has the
-// focus.
-std::string Marked(const Control& control, const std::string& text) {
-    return control.enabled || text.empty() ? text : '~' + text;
-}
 Look LookOf(const Control& control) {
     return {control.focused, control.is_default, !control.enabled, 0};
 }

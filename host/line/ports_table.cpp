@@ -15,7 +15,7 @@ namespace {
 constexpr std::array<const char*, 8> headings = {"device",   "channel",    "PortName", "friendly",
                                                  "DOS name", "serial map", "database", "settings line"};
 constexpr std::size_t dos_names = 4; // the column that is left out where room is short
-using Cells = std::array<std::string, headings.size()>;
+using Row = std::array<std::string, headings.size()>;
 
 constexpr const char* differs = " differs";
 constexpr const char* missing = "missing";
@@ -61,8 +61,8 @@ std::string SettingsLine(const std::string& name, const PortRecords& records) {
     return "none";
 }
 
-Cells RowOf(const std::string& name, unsigned long number, const Device& device, const PortRecords& records) {
-    Cells row;
+Row RowOf(const std::string& name, unsigned long number, const Device& device, const PortRecords& records) {
+    Row row;
     row[2] = name.empty() ? "none" : Escaped(name);
     const unsigned long friendly = FriendlyNumber(ToUtf8(device.friendly_name));
     row[3] = friendly ? std::to_string(friendly) : "none";
@@ -77,7 +77,7 @@ Cells RowOf(const std::string& name, unsigned long number, const Device& device,
     return row;
 }
 
-std::string Line(const Cells& cells, const std::array<int, headings.size()>& widths) {
+std::string Line(const Row& cells, const std::array<int, headings.size()>& widths) {
     std::string line;
     for (std::size_t column = 0; column < cells.size(); ++column) {
         line += widths[column] != 0 ? "  " + PaddedTo(cells[column], widths[column]) : "";
@@ -90,7 +90,7 @@ std::string Line(const Cells& cells, const std::array<int, headings.size()>& wid
 Lines PortsTable(World& world, int columns) {
     const PortRecords records = world.Ports();
     const std::vector<Device> devices = world.Devices();
-    std::vector<Cells> rows{{}};
+    std::vector<Row> rows{{}};
     std::copy(headings.begin(), headings.end(), rows.front().begin());
     std::multiset<std::string> names;
     std::set<unsigned long> held;
@@ -120,7 +120,7 @@ Lines PortsTable(World& world, int columns) {
     }
 
     std::array<int, headings.size()> widths{};
-    for (const Cells& row : rows) {
+    for (const Row& row : rows) {
         for (std::size_t column = 0; column < row.size(); ++column) {
             widths[column] = std::max(widths[column], Columns(row[column]));
         }
@@ -128,7 +128,7 @@ Lines PortsTable(World& world, int columns) {
     Lines lines;
     const auto write = [&] {
         lines.clear();
-        for (const Cells& row : rows) {
+        for (const Row& row : rows) {
             lines.push_back(Line(row, widths));
         }
     };

@@ -12,9 +12,9 @@ namespace {
 using sim::Text;
 
 // The keys of the file as they are to be written: what has changed is put into them.
-class Changes {
+class ChangedKeys {
 public:
-    Changes(MachineFile& file, const sim::Machine& machine) : file_(file), machine_(machine) {
+    ChangedKeys(MachineFile& file, const sim::Machine& machine) : file_(file), machine_(machine) {
         GiveMachine(file, before_);
     }
 
@@ -153,7 +153,7 @@ std::optional<std::vector<BYTE>> CurrentPortUsage(const MachineFile& file, const
 
 MachineFile Changed(const MachineFile& file, const sim::Machine& machine) {
     MachineFile changed = file;
-    Changes(changed, machine).Put();
+    ChangedKeys(changed, machine).Put();
     return changed;
 }
 

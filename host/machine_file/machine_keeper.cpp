@@ -12,11 +12,11 @@ using TextView = std::u16string_view;
 
 // The keys below HKEY_LOCAL_MACHINE that mean something, and which of their values; all of them where none is
 // named. An asterisk stands for any one name, a question mark for that of a control set.
-struct Place {
+struct KeptKey {
     TextView path;
     TextView values[4];
 };
-constexpr Place places[] = {
+constexpr KeptKey kept_keys[] = {
     {u"SYSTEM\\Select", {u"Current"}},
     {serial_map_key, {}},
     {ports_key, {}},
@@ -69,13 +69,13 @@ KeyUse MachineKeeper::Key(TextView path) {
     if (!TakePrefix(path, local_machine)) {
         return KeyUse::Unwanted;
     }
-    for (const Place& place : places) {
-        const Fit fit = FitOf(path, place.path);
+    for (const KeptKey& kept : kept_keys) {
+        const Fit fit = FitOf(path, kept.path);
         if (fit == Fit::Mistaken) {
             return KeyUse::Mistaken;
         }
         if (fit == Fit::Whole) {
-            values_ = place.values;
+            values_ = kept.values;
             key_ = &root_.Make(path, count_);
             return KeyUse::Wanted;
         }

@@ -52,10 +52,6 @@ private:
     int last_ = -1;
 };
 
-std::string Marked(const Control& control, const std::string& text) {
-    return control.enabled || text.empty() ? text : '~' + text;
-}
-
 std::string Button(const Control& button, int columns) {
     const std::string text = CutTo(Marked(button, Shown(button.text)), columns - 2);
     const int before = (columns - 2 - Columns(text)) / 2;
@@ -229,6 +225,10 @@ Canvas DrawSheet(const Window& sheet, bool front) {
 }
 
 } // namespace
+
+std::string Marked(const Control& control, const std::string& text) {
+    return control.enabled || text.empty() ? text : '~' + text;
+}
 
 std::vector<std::string> Draw(const std::vector<Window>& windows) {
     Canvas screen(0, 0);

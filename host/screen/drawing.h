@@ -12,4 +12,7 @@ namespace host {
 // The windows from the backmost to the one in front; a line of text each row, the legend last.
 std::vector<std::string> Draw(const std::vector<Window>& windows);
 
+// A control's text, with ~ before it if the control is disabled.
+std::string Marked(const Control& control, const std::string& text);
+
 } // namespace host

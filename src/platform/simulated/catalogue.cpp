@@ -36,8 +36,8 @@ const WCHAR* FindString(HINSTANCE instance, UINT id) {
 
 } // namespace
 
-std::span<const Catalogue* const> Catalogues() {
-    return Entered();
+Table<const Catalogue*> Catalogues() {
+    return {Entered().data(), Entered().size()};
 }
 
 bool EnterCatalogue(const Catalogue& catalogue) {

@@ -2,11 +2,23 @@
 // the resource compiler reads. Each language registers its catalogue at program start.
 #pragma once
 
-#include <span>
+#include <cstddef>
 
 #include "platform/platform.h"
 
 namespace sim {
+
+// A table of a catalogue, borrowed. <span> alone would take longer to compile than a language's texts.
+template <typename Row> struct Table {
+    const Row* first;
+    std::size_t count;
+    constexpr Table(const Row* first, std::size_t count) : first(first), count(count) {}
+    template <std::size_t length> constexpr Table(const Row (&rows)[length]) : Table(rows, length) {}
+    constexpr const Row* begin() const { return first; }
+    constexpr const Row* end() const { return first + count; }
+    constexpr std::size_t size() const { return count; }
+    constexpr const Row& operator[](std::size_t row) const { return first[row]; }
+};
 
 struct ControlTemplate {
     int id;
@@ -20,9 +32,9 @@ struct DialogTemplate {
     int id;
     const WCHAR* title;
     DWORD style;
-    int weight;                                // of the font, 0 if not given
-    int cx, cy;                                // dialog units
-    std::span<const ControlTemplate> controls; // in tab order
+    int weight;                      // of the font, 0 if not given
+    int cx, cy;                      // dialog units
+    Table<ControlTemplate> controls; // in tab order
 };
 
 struct CatalogueString {
@@ -33,12 +45,12 @@ struct CatalogueString {
 
 struct Catalogue {
     LANGID language;
-    std::span<const DialogTemplate> dialogs;
-    std::span<const CatalogueString> strings;
+    Table<DialogTemplate> dialogs;
+    Table<CatalogueString> strings;
 };
 
 // All catalogues of the program, in no particular order. Valid once main has begun.
-std::span<const Catalogue* const> Catalogues();
+Table<const Catalogue*> Catalogues();
 
 // The catalogue that the system's resource lookup takes where all of it is set to a language: the exact id,
 // then the primary language without a country, then English (United States). So Mexico's Spanish finds

@@ -29,7 +29,7 @@ namespace {
 #undef DIALOG_END
 
 constexpr DialogTemplate Dialog(int id, const WCHAR* title, DWORD style, int weight,
-                                std::span<const ControlTemplate> controls, int, int, int cx, int cy) {
+                                Table<ControlTemplate> controls, int, int, int cx, int cy) {
     return {id, title, style, weight, cx, cy, controls};
 }
 

@@ -43,7 +43,7 @@ struct MessageBox : Dialog {
         OpenOver(above);
         Furnish({0, caption, static_cast<DWORD>(WS_POPUP | WS_CAPTION | DS_MODALFRAME), 0,
                  text_width + 2 * margin, row + button_height + margin,
-                 is_question ? std::span<const ControlTemplate>(question) : statement});
+                 is_question ? Table<ControlTemplate>(question) : statement});
         Initialise(0);
     }
 
