@@ -67,7 +67,7 @@ void ExpectApart(const sim::DialogTemplate& dialog) {
     const Box whole = {0, 0, dialog.cx, dialog.cy};
     for (const sim::ControlTemplate& one : dialog.controls) {
         EXPECT_TRUE(whole.Holds(BoxOf(one))) << one.id << ' ' << sim::ToUtf8(one.text);
-        for (const sim::ControlTemplate* other = dialog.controls.data(); other != &one; ++other) {
+        for (const sim::ControlTemplate* other = dialog.controls.begin(); other != &one; ++other) {
             const Box first = BoxOf(*other);
             const Box second = BoxOf(one);
             const bool one_holds_the_other =
