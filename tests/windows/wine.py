@@ -172,12 +172,13 @@ class Prefix:
             raise RuntimeError(f"regedit can't import {file}")
 
     def import_machine(self, file):
-        """The machine of an export, with what the INF of its drivers has set for each device."""
-        self.import_file(file)
-        set_by_inf = self.place / "set_by_inf.reg"
+        """The machine of an export, with what the INF of its drivers has set for each device, in one file: a second
+        import in a row fails at times."""
         wide = pathlib.Path(file).read_bytes().startswith(b"\xff\xfe")
-        set_by_inf.write_text(providers_of(pathlib.Path(file).read_text("utf-16" if wide else "utf-8-sig")))
-        self.import_file(set_by_inf)
+        export = pathlib.Path(file).read_text("utf-16" if wide else "utf-8-sig")
+        machine = self.place / "machine.reg"
+        machine.write_text(export + "\n" + providers_of(export), "utf-16")
+        self.import_file(machine)
 
 
 def providers_of(export):
@@ -186,7 +187,7 @@ def providers_of(export):
     for path, values in re.findall(r"^\[(HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Enum(?:\\[^\]\\]+){3})"
                                    r"(?:\\Device Parameters)?\]\n((?:(?:[^\[\n].*)?\n)*)", export, re.M):
         devices[path] = devices.get(path, "") + values
-    lines = ["Windows Registry Editor Version 5.00"]
+    lines = []
     for number, (path, values) in enumerate(devices.items()):
         port = '"Class"="Ports"' in values or '"PortName"' in values
         if port or '"BoardNrController"' in values:
