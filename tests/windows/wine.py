@@ -13,6 +13,7 @@ import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 BUILD = pathlib.Path(os.environ.get("KVR_WINDOWS_BUILD", ROOT / "build" / "windows"))
+HOST_BUILD = ROOT / "build" / "windows" # whose programs operate any build's library
 TEMPLATES = ROOT / "build" / "wine"
 PROGRAMS = ["kvrhost.exe", "kvrhost_test.exe", "kvrfit.exe", "kvrpictures.exe", "kvrlifetime.exe",
             "kvrkeys.exe", "kvrinstall.exe", "kvrcrash.exe", "kvrbench.exe"]
@@ -111,7 +112,7 @@ class Prefix:
         self.programs = self.place / "drive_c" / "kvr"
         self.programs.mkdir(parents=True, exist_ok=True)
         for program in PROGRAMS if self.own else []:
-            shutil.copy(BUILD / program, self.programs)
+            shutil.copy(HOST_BUILD / program, self.programs)
         if self.own:
             shutil.copy(BUILD / self.library.name, self.library)
         return self
@@ -139,7 +140,7 @@ class Prefix:
                 if entry.name not in own:
                     (place / folder / entry.name).symlink_to(entry)
         # Where the system's own would be.
-        shutil.copy(BUILD / "standins" / "msports.dll", place / "drive_c" / "windows" / "system32")
+        shutil.copy(HOST_BUILD / "standins" / "msports.dll", place / "drive_c" / "windows" / "system32")
 
     def environment(self):
         return {**os.environ, "WINEPREFIX": str(self.place), "WINEDEBUG": "-all", "LC_ALL": "C.UTF-8",

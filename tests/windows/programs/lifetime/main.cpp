@@ -1,4 +1,4 @@
-// Loads and unloads the library, and opens and closes its pages, a thousand times each in one process, and
+// Loads and unloads the library, and opens and closes its pages, so many times each in one process, and
 // tells what the process holds more than before: handles, USER and GDI objects, private memory.
 #include <windows.h>
 
