@@ -92,12 +92,14 @@ TEST(AdvancedPortControl, OffersWhatTheUartCanAndStoresNothingElse) {
             const AtWork at_work(machine);
             const std::string before = StoredMode(1);
             AtDialog([&](HWND dialog) {
-                EXPECT_EQ(Items(dialog, IDC_INTERFACE_SELECT), column == 4 ? Lines{"Unknow"} : one.offered);
-                EXPECT_EQ(State(dialog), column == 4 ? "?..#" : one.opened[column]);
                 if (column >= 3) {
+                    SendDlgItemMessageW(dialog, IDC_INTERFACE_SELECT, CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
                     Do(dialog, "defaults");
                     EXPECT_EQ(State(dialog), one.defaults[column - 3]);
+                    SendMessageW(dialog, WM_INITDIALOG, 0, GetWindowLongPtrW(dialog, DWLP_USER)); // shows the record again
                 }
+                EXPECT_EQ(Items(dialog, IDC_INTERFACE_SELECT), column == 4 ? Lines{"Unknow"} : one.offered);
+                EXPECT_EQ(State(dialog), column == 4 ? "?..#" : one.opened[column]);
                 Do(dialog, "cancel");
             });
             EXPECT_EQ(Changes(), Lines{});
@@ -130,7 +132,7 @@ TEST(AdvancedPortControl, TheUsersChoiceIsStoredByOk) {
         {"defaults after clicks", 0xFF, 6, 0, "termination acs defaults", "0..", "100000"},
         {"defaults of RS-485 turn ACS on", 0x9C, 4, 0, "defaults", "0oa", "411000"},
         {"defaults of an unknown mode", 0xFF, 5, 1, "defaults", "?..", "100000"},
-        {"defaults without any mode leave the termination alone", 0x40, 2, 1, "defaults", "-t.#", ""},
+        {"defaults without any mode leave the termination alone", 0x90, 4, 1, "defaults", "-t.#", ""},
     };
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);

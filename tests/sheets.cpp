@@ -163,9 +163,14 @@ Lines Items(HWND dialog, int id) {
 }
 
 Lines Rows(HWND dialog) {
-    Lines rows;
-    for (const Lines& cells : Read(dialog, IDC_RESOURCE_LIST).rows) {
-        rows.push_back(cells[0] + ": " + cells[1]);
+    const host::Control list = Read(dialog, IDC_RESOURCE_LIST);
+    Lines rows(list.rows.size() + 1);
+    for (std::size_t column = 0; column < list.columns.size(); ++column) {
+        const char* between = column == 0 ? "" : ": ";
+        rows[0] += between + list.columns[column].title;
+        for (std::size_t row = 0; row < list.rows.size(); ++row) {
+            rows[row + 1] += between + list.rows[row][column];
+        }
     }
     return rows;
 }
