@@ -106,6 +106,10 @@ TEST(AdvancedPortControl, OffersWhatTheUartCanAndStoresNothingElse) {
             AtDialog([&](HWND dialog) {
                 Do(dialog, "ok");
                 EXPECT_EQ(IsWindowVisible(dialog) != FALSE, *one.after_ok[column] == 0);
+                if (*one.after_ok[column] == 0) { // the record is as it was
+                    SendMessageW(dialog, WM_INITDIALOG, 0, GetWindowLongPtrW(dialog, DWLP_USER));
+                    EXPECT_EQ(State(dialog), column == 4 ? "?..#" : one.opened[column]);
+                }
             });
             const std::string after = *one.after_ok[column] ? one.after_ok[column] : before;
             EXPECT_EQ(StoredMode(1), after);

@@ -2,7 +2,9 @@
 // page.
 #include <algorithm>
 
+#include "platform/simulated/stage.h"
 #include "tests/sheets.h"
+#include "uart_page/parent_title.h"
 
 namespace {
 
@@ -141,6 +143,9 @@ TEST(AdvancedPortSettings, WhatCantBeReadHasItsBoxAtTheOpening) {
          "Get COM port name failure. [serr:100]", nullptr},
         {"no name", Erase(port, u"PortName"),
          "Get COM port name failure. [serr:101]", nullptr},
+        {"a name of 20 characters",
+         [](sim::Machine& machine) { machine.devices[port].key.SetText(u"PortName", u"COM34567890123456789"); },
+         "Get COM port name failure. [serr:101]", nullptr},
         {"a value missing", Erase(port, u"UartCS"),
          "Get COM port basic information failure. [serr:101]", nullptr},
         {"no database", Fail("ComDBOpen", 1),
@@ -173,6 +178,70 @@ TEST(AdvancedPortSettings, WhatCantBeReadHasItsBoxAtTheOpening) {
     }
 }
 // clang-format on
+
+TEST(AdvancedPortSettings, ACaptionIsTheFormatOfItsBoundAndThenOfItsLevel) {
+    // The check box can't be read, and what is shown behind the bounds fails; then the strings of the levels.
+    const Fault no_levels = [](sim::Machine& machine) {
+        machine.faults.at_call = {{"GetWindowTextW", 1},
+                                  {"SetWindowTextW", 3},
+                                  {"SetWindowTextW", 4},
+                                  {"SetWindowTextW", 7},
+                                  {"SetWindowTextW", 8}};
+    };
+    const Fault no_strings = [](sim::Machine& machine) { machine.missing_strings = {IDS_LOW, IDS_HIGH}; };
+    for (const auto& [fault, captions] :
+         {std::pair{no_levels,
+                    Lines{"&Enable %d Byte FIFO buffers", "Low (1)", "High (128)", "Low (1)", "High (112)"}},
+          {no_strings, {"&Enable 128 Byte FIFO buffers", "(1)", "(9)", "(1)", "(32)"}}}) {
+        sim::Machine machine = BoardOn({3});
+        const AtWork at_work(machine);
+        StoreFifo(port, {1, 9, 32});
+        const auto at_page = [&](HWND page) {
+            machine.faults = {};
+            fault(machine);
+            Do(page, "advanced");
+        };
+        const auto at_dialog = [&](HWND dialog) {
+            Lines shown;
+            for (const int id :
+                 {IDC_LARGEFIFO, IDC_TRANSMIT_LOW, IDC_TRANSMIT_HIGH, IDC_RECEIVE_LOW, IDC_RECEIVE_HIGH}) {
+                shown.push_back(Shown(dialog, id));
+            }
+            EXPECT_EQ(shown, captions);
+        };
+        EXPECT_EQ(Open(Page::Port, port, {.at_page = at_page, .at_dialog = at_dialog}), "left");
+    }
+}
+
+TEST(AdvancedPortSettings, TheFirstOldNameInATitleGivesWayToTheNewOne) {
+    const struct {
+        const char16_t *title, *old_name, *new_name;
+        const char* shown;
+        Lines taken; // for the two titles
+    } cases[] = {
+        {u"COM9, COM9", u"COM9", u"COM10", "COM10, COM9", {"LocalAlloc 22 bytes", "LocalAlloc 24 bytes"}},
+        {u"COM10", u"COM10", u"COM9", "COM9", {"LocalAlloc 12 bytes", "LocalAlloc 12 bytes"}},
+        {u"COM12 (COM1)", u"COM1", u"COM3", "COM32 (COM1)", {"LocalAlloc 26 bytes", "LocalAlloc 26 bytes"}},
+        {u"Port", u"COM1", u"COM3", "Port", {"LocalAlloc 10 bytes"}},
+        {u"Port", u"", u"COM3", "Port", {}},
+        {u"", u"COM1", u"COM3", "", {}},
+    };
+    sim::Machine machine = BoardOn({3});
+    const AtWork at_work(machine);
+    const auto at_page = [&](HWND page) {
+        const sim::LogicAtWork logic_at_work;
+        for (const auto& one : cases) {
+            SetWindowTextW(page, one.title);
+            Forget(machine);
+            _ChangeParentTitle(page, one.old_name, one.new_name);
+            Lines memory = Journal(machine, {sim::Reach::Memory});
+            std::erase(memory, "LocalFree");
+            EXPECT_EQ(memory, one.taken) << one.shown;
+            EXPECT_EQ(Shown(page), one.shown);
+        }
+    };
+    EXPECT_EQ(Open(Page::Port, port, {.at_page = at_page}), "left");
+}
 
 TEST(AdvancedPortSettings, OkReadsAllControlsBeforeItWritesAnything) {
     sim::Machine machine = BoardOn({3, 4});

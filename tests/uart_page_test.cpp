@@ -85,14 +85,17 @@ TEST(UartPage, AnInitialisationThatFailsLeavesAPageThatSavesNothing) {
 }
 
 TEST(UartPage, CombosHaveTheirItemsUnderAnySeparators) {
-    // A made-up language whose lists are separated by other characters, one of them with empty items.
+    // A made-up language whose lists are separated by other characters, one of them with empty items, and whose
+    // texts are longer than what takes them.
+    static const sim::Text long_text = u"xaxbx" + sim::Text(300, u'c');
     static const std::vector<sim::CatalogueString> strings = [] {
         const auto english = sim::CatalogueFor(1033).strings;
         std::vector<sim::CatalogueString> made_up(english.begin(), english.end());
         for (sim::CatalogueString& string : made_up) {
             string.text = string.id == IDS_PARITY_LIST      ? u";a,b;c;;d;e"
                           : string.id == IDS_STOP_BITS_LIST ? u"|1|1.5.0|2|"
-                          : string.id == IDS_FLOW_CONTROL_LIST ? u"xaxbxc"
+                          : string.id == IDS_FLOW_CONTROL_LIST ? long_text.c_str()
+                          : string.id == IDS_ADVANCED_SETTINGS_TITLE ? long_text.c_str()
                                                                : string.text;
         }
         return made_up;
@@ -128,9 +131,12 @@ TEST(UartPage, CombosHaveTheirItemsUnderAnySeparators) {
             EXPECT_EQ(Items(page, IDC_STOP_BITS), one.stop_bits);
             EXPECT_EQ(Shown(page, IDC_STOP_BITS), one.stop_bits[1]);
             EXPECT_EQ(Enabled(page), "5 advanced restore");
+            EXPECT_EQ(Items(page, IDC_FLOW_CONTROL)[2].size(), one.language == 1033 ? 4u : 257u - 5u);
+            Do(page, "advanced");
             Choose(page, IDC_FLOW_CONTROL, 0);
         };
-        Open(Page::Port, port, {.at_page = at_page, .leaves_by = ok});
+        const auto at_dialog = [&](HWND dialog) { EXPECT_EQ(Shown(dialog).size(), one.language == 1033 ? 26u : 199u); };
+        Open(Page::Port, port, {.at_page = at_page, .at_dialog = at_dialog, .leaves_by = ok});
         EXPECT_EQ(Line(), "9600,n,8,1.5,x"); // whatever the display
     }
 }
