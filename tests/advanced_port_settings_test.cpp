@@ -222,6 +222,7 @@ TEST(AdvancedPortSettings, TheFirstOldNameInATitleGivesWayToTheNewOne) {
         {u"COM9, COM9", u"COM9", u"COM10", "COM10, COM9", {"LocalAlloc 22 bytes", "LocalAlloc 24 bytes"}},
         {u"COM10", u"COM10", u"COM9", "COM9", {"LocalAlloc 12 bytes", "LocalAlloc 12 bytes"}},
         {u"COM12 (COM1)", u"COM1", u"COM3", "COM32 (COM1)", {"LocalAlloc 26 bytes", "LocalAlloc 26 bytes"}},
+        {u"C", u"C", u"D", "D", {"LocalAlloc 4 bytes", "LocalAlloc 4 bytes"}},
         {u"Port", u"COM1", u"COM3", "Port", {"LocalAlloc 10 bytes"}},
         {u"Port", u"", u"COM3", "Port", {}},
         {u"", u"COM1", u"COM3", "", {}},
