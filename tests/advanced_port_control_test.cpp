@@ -157,7 +157,7 @@ TEST(AdvancedPortControl, TheUsersChoiceIsStoredByOk) {
 TEST(AdvancedPortControl, AFailedWriteKeepsTheDialogAndIsMadeUpForByTheNextOk) {
     sim::Machine machine = UartWith(0xFF, 1, 0);
     const AtWork at_work(machine);
-    const auto at_page = [](HWND page) { Do(page, "advanced advanced advanced"); };
+    const auto at_page = [](HWND page) { Do(page, "advanced advanced advanced advanced"); };
     int opened = 0;
     const auto at_dialog = [&](HWND dialog) {
         if (opened++ == 0) {
@@ -169,6 +169,8 @@ TEST(AdvancedPortControl, AFailedWriteKeepsTheDialogAndIsMadeUpForByTheNextOk) {
         } else if (opened == 3) {
             Do(dialog, "ok"); // all is stored by now
             EXPECT_EQ(Changes(), Lines{});
+        } else if (opened == 4) {
+            Do(dialog, "termination ok");
         } else {
             EXPECT_EQ(State(dialog), "2ta"); // what is not stored yet
             Changes();
@@ -181,7 +183,8 @@ TEST(AdvancedPortControl, AFailedWriteKeepsTheDialogAndIsMadeUpForByTheNextOk) {
         }
     };
     EXPECT_EQ(Open(Page::Board, 0, {.at_page = at_page, .at_dialog = at_dialog}), "left");
-    EXPECT_EQ(opened, 3);
+    EXPECT_EQ(opened, 4);
+    EXPECT_EQ(StoredMode(1), "411000"); // one value alone has changed
     EXPECT_EQ(Boxes(), Lines(2, "Set COM port advance settings failure. [serr:102]"));
 }
 

@@ -1,5 +1,6 @@
 // The providers of both pages, as the device manager calls them: every failure with its box, nothing left
-// over.
+// over. What the dialogs answer to their messages.
+#include <algorithm>
 #include <span>
 
 #include "tests/sheets.h"
@@ -78,64 +79,64 @@ struct Message {
     UINT message;
     WPARAM what;
 };
-
 constexpr Message Command(int id, int code = 0) {
     return {WM_COMMAND, MAKEWPARAM(id, code)};
 }
-constexpr Message opened = {WM_INITDIALOG, 0}, slid = {WM_HSCROLL, TB_ENDTRACK},
-                  applied = {WM_NOTIFY, PSN_APPLY};
 
 // Whether the procedure takes it. Only at PSN_APPLY the sheet gets a result.
 bool IsTaken(HWND dialog, const Message& sent) {
-    const LONG_PTR record = GetWindowLongPtrW(dialog, DWLP_USER);
     NMHDR notice = {dialog, 0, static_cast<UINT>(sent.what)};
-    PROPSHEETPAGEW description = {};
-    description.lParam = record;
-    const LPARAM with = sent.message == WM_NOTIFY                ? reinterpret_cast<LPARAM>(&notice)
-                        : sent.message != WM_INITDIALOG          ? 0
-                        : GetWindow(dialog, GW_OWNER) != nullptr ? record
-                                                                 : reinterpret_cast<LPARAM>(&description);
+    PROPSHEETPAGEW page = {};
+    page.lParam = GetWindowLongPtrW(dialog, DWLP_USER);
+    const LPARAM opens =
+        GetWindow(dialog, GW_OWNER) != nullptr ? page.lParam : reinterpret_cast<LPARAM>(&page);
     SetWindowLongPtrW(dialog, DWLP_MSGRESULT, PSNRET_INVALID);
     const auto procedure = reinterpret_cast<DLGPROC>(GetWindowLongPtrW(dialog, DWLP_DLGPROC));
-    const bool taken = procedure(dialog, sent.message, sent.what, with) != FALSE;
-    if (sent.message == WM_NOTIFY) {
-        EXPECT_EQ(GetWindowLongPtrW(dialog, DWLP_MSGRESULT), taken ? PSNRET_NOERROR : PSNRET_INVALID);
-    }
+    const bool taken = procedure(dialog, sent.message, sent.what,
+                                 sent.message == WM_NOTIFY       ? reinterpret_cast<LPARAM>(&notice)
+                                 : sent.message == WM_INITDIALOG ? opens
+                                                                 : 0) != FALSE;
+    EXPECT_TRUE(sent.message != WM_NOTIFY ||
+                GetWindowLongPtrW(dialog, DWLP_MSGRESULT) == (taken ? PSNRET_NOERROR : PSNRET_INVALID));
     return taken;
 }
 
 // clang-format off
-TEST(PageProviders, ADialogTakesWhatItActsOn) {
-    const Message no_apply = {WM_NOTIFY, PSN_RESET}, close = {WM_CLOSE, 0}, unknown = Command(9999), ok_click = Command(IDOK);
-    const Message fifo = Command(IDC_LARGEFIFO), all = Command(IDC_SET_TO_ALL), store = Command(IDC_APPLY),
-                  defaults = Command(IDC_RESTORE), advanced = Command(IDC_ADVANCED), leave = Command(IDCANCEL),
-                  selected = Command(IDC_PORT_LIST, LBN_SELCHANGE);
+TEST(PageProviders, EachDialogTakesWhatItActsOn) {
+    const Message opens = {WM_INITDIALOG, 0}, slides = {WM_HSCROLL, TB_ENDTRACK}, applies = {WM_NOTIFY, PSN_APPLY},
+                  resets = {WM_NOTIFY, PSN_RESET}, closes = {WM_CLOSE, 0}, unknown = Command(9999), accepts = Command(IDOK),
+                  leaves = Command(IDCANCEL), fifo = Command(IDC_LARGEFIFO), all = Command(IDC_SET_TO_ALL),
+                  stores = Command(IDC_APPLY), defaults = Command(IDC_RESTORE), advanced = Command(IDC_ADVANCED),
+                  selects = Command(IDC_PORT_LIST, LBN_SELCHANGE), number = Command(IDC_PORT_NUMBER, CBN_SELCHANGE);
+    const Fault no_title = [](sim::Machine& machine) { machine.missing_strings = {IDS_ADVANCED_SETTINGS_TITLE}; };
     const struct {
         const char* name;
         Page page;
         bool in_dialog; // behind "Advanced"
         Fault fault;
         const char* user;
-        std::vector<Message> passed_over, taken; // by each in turn
+        std::vector<Message> passed_over, taken; // one after the other
     } cases[] = {
         {"board, a UART", Page::Board, false, no_fault, "select0",
-         {no_apply, close, unknown, ok_click, Command(IDC_PORT_LIST), Command(IDC_PORT_NUMBER, CBN_SELCHANGE)},
-         {slid, fifo, all, store, defaults, advanced, selected, applied, opened, leave}},
-        {"board, no UART", Page::Board, false, no_fault, "select1", {fifo, all, store, defaults}, {slid, advanced, selected, applied}},
-        {"board, nothing", Page::Board, false, no_fault, "select-1", {fifo, all, store, defaults, advanced}, {slid, selected, applied}},
-        {"board, no access", Page::Board, false, Lock(1), "tx50", {store}, {applied}},
+         {resets, closes, unknown, accepts, Command(IDC_PORT_LIST), number},
+         {slides, fifo, all, stores, defaults, advanced, selects, applies, opens, leaves}},
+        {"board, no UART", Page::Board, false, no_fault, "select1",
+         {fifo, all, stores, defaults}, {slides, advanced, selects, applies}},
+        {"board, nothing", Page::Board, false, no_fault, "select-1",
+         {fifo, all, stores, defaults, advanced}, {slides, selects, applies}},
+        {"board, no access", Page::Board, false, Lock(1), "tx50", {stores}, {applies}},
         {"interface", Page::Board, true, no_fault, "",
-         {slid, applied, close, unknown, Command(IDC_INTERFACE_SELECT), Command(IDC_INTERFACE_SELECT, CBN_SELCHANGE), Command(IDC_SORT_COM)},
-         {defaults, opened, ok_click, leave}},
-        {"interface, no access", Page::Board, true, Lock(1), "mode1", {ok_click}, {}},
-        {"port", Page::Port, false, no_fault, "", {slid, no_apply, close, unknown, ok_click, Command(IDC_BAUD_RATE, CBN_DROPDOWN)},
-         {Command(IDC_BAUD_RATE, CBN_SELCHANGE), advanced, applied, Command(IDC_RESTORE_PORT), opened, leave}},
-        {"port, no name", Page::Port, false, Erase(1, u"PortName"), "", {opened}, {}},
+         {slides, applies, closes, unknown, Command(IDC_INTERFACE_SELECT), Command(IDC_INTERFACE_SELECT, CBN_SELCHANGE),
+          Command(IDC_SORT_COM)}, {defaults, opens, accepts, leaves}},
+        {"interface, no access", Page::Board, true, Lock(1), "mode1", {accepts}, {}},
+        {"port", Page::Port, false, no_fault, "",
+         {slides, resets, closes, unknown, accepts, Command(IDC_BAUD_RATE, CBN_DROPDOWN)},
+         {Command(IDC_BAUD_RATE, CBN_SELCHANGE), advanced, applies, Command(IDC_RESTORE_PORT), opens, leaves}},
+        {"port, no name", Page::Port, false, Erase(1, u"PortName"), "", {opens}, {}},
         {"settings", Page::Port, true, no_fault, "",
-         {applied, close, unknown, Command(IDC_PORT_NUMBER, CBN_SELCHANGE)}, {slid, fifo, defaults, opened, ok_click, leave}},
-        {"settings, no access", Page::Port, true, Lock(1), "tx50", {ok_click}, {}},
-        {"settings, no title", Page::Port, true, [](sim::Machine& machine) { machine.missing_strings = {IDS_ADVANCED_SETTINGS_TITLE}; },
-         "", {opened}, {}},
+         {applies, closes, unknown, number}, {slides, fifo, defaults, opens, accepts, leaves}},
+        {"settings, no access", Page::Port, true, Lock(1), "tx50", {accepts}, {}},
+        {"settings, no title", Page::Port, true, no_title, "", {opens}, {}},
     };
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
@@ -144,34 +145,31 @@ TEST(PageProviders, ADialogTakesWhatItActsOn) {
         SetLine(machine, 3, u"9600,n,8,1");
         const AtWork at_work(machine);
         const auto ask = [&](HWND dialog) {
+            const auto each = [&](const auto& ask_one) {
+                std::ranges::for_each(one.passed_over, [&](const Message& sent) { ask_one(sent, false); });
+                std::ranges::for_each(one.taken, [&](const Message& sent) { ask_one(sent, true); });
+            };
             Do(dialog, one.user);
             one.fault(machine);
-            // Without its record, and before it is filled, it does nothing, and the sheet has its answer all the same.
+            // Without its record, and before that is filled, it does nothing, and the sheet has its answer all the same.
             const auto devices = machine.devices;
             const LONG_PTR record = SetWindowLongPtrW(dialog, DWLP_USER, 0);
-            for (const auto* messages : {&one.passed_over, &one.taken}) {
-                for (const Message& sent : *messages) {
-                    EXPECT_EQ(sent.message != WM_INITDIALOG && IsTaken(dialog, sent),
-                              messages == &one.taken && (sent.message == WM_HSCROLL || sent.message == WM_NOTIFY));
-                }
-            }
+            each([&](const Message& sent, bool taken) {
+                const bool always = sent.message == WM_HSCROLL || sent.message == WM_NOTIFY;
+                EXPECT_EQ(sent.message != WM_INITDIALOG && IsTaken(dialog, sent), taken && always);
+            });
+            SetWindowLongPtrW(dialog, DWLP_USER, record);
             if (one.page == Page::Board && !one.in_dialog) {
                 bool& filled = reinterpret_cast<BoardParams*>(record)->BasicSettingsDlgInitiateOK;
-                filled = false;
-                SetWindowLongPtrW(dialog, DWLP_USER, record);
-                EXPECT_TRUE(IsTaken(dialog, applied));
+                EXPECT_TRUE(std::exchange(filled, false) && IsTaken(dialog, applies));
                 filled = true;
             }
             EXPECT_TRUE(machine.devices == devices && machine.boxes.empty() && IsWindowVisible(dialog));
-            SetWindowLongPtrW(dialog, DWLP_USER, record);
-            for (const auto* messages : {&one.passed_over, &one.taken}) {
-                for (const Message& sent : *messages) {
-                    EXPECT_EQ(IsTaken(dialog, sent), messages == &one.taken) << sent.message << ' ' << sent.what;
-                }
-            }
+            each([&](const Message& sent, bool taken) { EXPECT_EQ(IsTaken(dialog, sent), taken) << sent.what; });
         };
         const auto at_page = [&](HWND page) { one.in_dialog ? Do(page, "advanced") : ask(page); };
-        EXPECT_EQ(Open(one.page, one.page == Page::Board ? 0 : 1, {.at_page = at_page, .at_dialog = one.in_dialog ? std::function<void(HWND)>(ask) : nullptr}), "left");
+        const auto at_dialog = [&](HWND dialog) { one.in_dialog ? ask(dialog) : Do(dialog, "cancel"); };
+        Open(one.page, one.page == Page::Board ? 0 : 1, {.at_page = at_page, .at_dialog = at_dialog});
     }
 }
 // clang-format on

@@ -80,16 +80,4 @@ TEST(SettingsLine, IsComposedWithItsBlanksAndCutAtItsCapacity) {
     }
 }
 
-TEST(SettingsLine, AnIndexBehindItsTableIsRefused) {
-    const PortSettings last = {9600, 4, 4, 2, 2};
-    for (u32 PortSettings::*index : {&PortSettings::ParityIndex, &PortSettings::DataBitsIndex,
-                                     &PortSettings::StopBitsIndex, &PortSettings::FlowControlIndex}) {
-        WCHAR line[20] = u"9600";
-        PortSettings settings = last;
-        EXPECT_TRUE(ComposeSettingsLine(line, ARRAYSIZE(line), settings));
-        ++(settings.*index);
-        EXPECT_FALSE(ComposeSettingsLine(line, ARRAYSIZE(line), settings));
-    }
-}
-
 } // namespace

@@ -133,6 +133,10 @@ TEST(UartPage, CombosHaveTheirItemsUnderAnySeparators) {
             EXPECT_EQ(Enabled(page), "5 advanced restore");
             EXPECT_EQ(Items(page, IDC_FLOW_CONTROL)[2].size(), one.language == 1033 ? 4u : 257u - 5u);
             Do(page, "advanced");
+            Choose(page, IDC_STOP_BITS, 3); // no item, or one that the line has no text for
+            Do(page, "sheet-apply");
+            EXPECT_EQ(Line(), "9600,n,8,1.5");
+            Choose(page, IDC_STOP_BITS, 1);
             Choose(page, IDC_FLOW_CONTROL, 0);
         };
         const auto at_dialog = [&](HWND dialog) { EXPECT_EQ(Shown(dialog).size(), one.language == 1033 ? 26u : 199u); };
