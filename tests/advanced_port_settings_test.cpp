@@ -217,13 +217,7 @@ TEST(AdvancedPortSettings, TheFirstOldNameInATitleGivesWayToTheNewOne) {
             SetWindowTextW(page, one.title);
             Forget(machine);
             _ChangeParentTitle(page, one.old_name, one.new_name);
-            Lines memory;
-            for (const sim::JournalEntry& entry : machine.journal) {
-                if (entry.name == "LocalAlloc") {
-                    memory.push_back(entry.detail);
-                }
-            }
-            EXPECT_EQ(memory, one.memory) << one.shown;
+            EXPECT_EQ(Details(machine, "LocalAlloc"), one.memory) << one.shown;
             EXPECT_EQ(Shown(page), one.shown);
         }
     };

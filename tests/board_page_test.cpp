@@ -35,9 +35,8 @@ TEST(BoardPage, ChannelsStandByTheirNumberWithTheirResources) {
         EXPECT_EQ(Shown(page, IDC_PORT_LIST), "DIO (port1)");
         EXPECT_EQ(Rows(page), (Lines{headings, "I/O Range: 0x1FEC01000 - 0x1FEC02000", "IRQ: 17"}));
         for (int index = 0; index < 5; ++index) {
-            for (const int id : {IDC_TRANSMIT_HIGH, IDC_TRANSMIT_LOW, IDC_RECEIVE_HIGH, IDC_RECEIVE_LOW}) {
-                SetWindowTextW(GetDlgItem(page, id), u"");
-            }
+            SetWindowTextW(GetDlgItem(page, IDC_TRANSMIT_LOW), u"");
+            SetWindowTextW(GetDlgItem(page, IDC_RECEIVE_LOW), u"");
             SetFocus(GetDlgItem(page, IDC_RESOURCE_LIST));
             Changes();
             Choose(page, IDC_PORT_LIST, index);
@@ -86,26 +85,21 @@ TEST(BoardPage, ABoardWithoutListedChannelsIsEmptyAndWorks) {
 }
 
 TEST(BoardPage, WhatIsMissingCostsItsColumnOrRow) {
-    const struct {
-        u32 irq;
-        UINT missing;
-        Lines rows;
-    } cases[] = {
+    const std::tuple<u32, UINT, Lines> cases[] = {
         {17, IDS_IO_RANGE, {headings, "IRQ: "}}, // the ranges leave their places empty
-        {0, IDS_RESOURCE_TYPE, {"Setting", "I/O Range", "I/O Range", "I/O Range"}},
-    };
-    for (const auto& one : cases) {
+        {0, IDS_RESOURCE_TYPE, {"Setting", "I/O Range", "I/O Range", "I/O Range"}}};
+    for (const auto& [irq, missing, rows] : cases) {
         sim::Machine machine = BoardOn({3, 4});
         for (sim::Device& device : machine.devices) {
-            device.key.SetDword(u"BoardIrq", one.irq);
+            device.key.SetDword(u"BoardIrq", irq);
         }
-        machine.missing_strings = {IDS_HIGH, IDS_LOW, IDS_IN_USE_SUFFIX, one.missing};
+        machine.missing_strings = {IDS_HIGH, IDS_LOW, IDS_IN_USE_SUFFIX, missing};
         const AtWork at_work(machine);
-        const auto at_page = [&](HWND page) {
+        const auto at_page = [&, &expected = rows](HWND page) {
             EXPECT_EQ(Fifo(page), "on tx 128/128 (128) rx 4 (112) live");
             EXPECT_EQ(Shown(page, IDC_TRANSMIT_LOW) + Shown(page, IDC_RECEIVE_LOW), "(1)(1)");
             EXPECT_EQ(Items(page, IDC_PORT_NUMBER)[3], "COM4 (in use)");
-            EXPECT_EQ(Rows(page), one.rows);
+            EXPECT_EQ(Rows(page), expected);
         };
         EXPECT_EQ(Open(Page::Board, 0, {.at_page = at_page}), "left");
         EXPECT_EQ(Boxes(), Lines{});

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <span>
 
+#include "platform/simulated/stage.h"
 #include "tests/sheets.h"
 
 namespace {
@@ -116,10 +117,11 @@ TEST(PageProviders, EachDialogTakesWhatItActsOn) {
         Fault fault;
         const char* user;
         std::vector<Message> passed_over, taken; // one after the other
+        Lines ends = {}; // results of EndDialog, of the dialog behind "Advanced" too
     } cases[] = {
         {"board, a UART", Page::Board, false, no_fault, "select0",
          {resets, closes, unknown, accepts, Command(IDC_PORT_LIST), number},
-         {slides, fifo, all, stores, defaults, advanced, selects, applies, opens, leaves}},
+         {slides, fifo, all, stores, defaults, advanced, selects, applies, opens, leaves}, {"2", "0"}},
         {"board, no UART", Page::Board, false, no_fault, "select1",
          {fifo, all, stores, defaults}, {slides, advanced, selects, applies}},
         {"board, nothing", Page::Board, false, no_fault, "select-1",
@@ -127,14 +129,14 @@ TEST(PageProviders, EachDialogTakesWhatItActsOn) {
         {"board, no access", Page::Board, false, Lock(1), "tx50", {stores}, {applies}},
         {"interface", Page::Board, true, no_fault, "",
          {slides, applies, closes, unknown, Command(IDC_INTERFACE_SELECT), Command(IDC_INTERFACE_SELECT, CBN_SELCHANGE),
-          Command(IDC_SORT_COM)}, {defaults, opens, accepts, leaves}},
+          Command(IDC_SORT_COM)}, {defaults, opens, accepts, leaves}, {"1", "2"}},
         {"interface, no access", Page::Board, true, Lock(1), "mode1", {accepts}, {}},
         {"port", Page::Port, false, no_fault, "",
          {slides, resets, closes, unknown, accepts, Command(IDC_BAUD_RATE, CBN_DROPDOWN)},
-         {Command(IDC_BAUD_RATE, CBN_SELCHANGE), advanced, applies, Command(IDC_RESTORE_PORT), opens, leaves}},
+         {Command(IDC_BAUD_RATE, CBN_SELCHANGE), advanced, applies, Command(IDC_RESTORE_PORT), opens, leaves}, {"2", "0"}},
         {"port, no name", Page::Port, false, Erase(1, u"PortName"), "", {opens}, {}},
         {"settings", Page::Port, true, no_fault, "",
-         {applies, closes, unknown, number}, {slides, fifo, defaults, opens, accepts, leaves}},
+         {applies, closes, unknown, number}, {slides, fifo, defaults, opens, accepts, leaves}, {"1", "2"}},
         {"settings, no access", Page::Port, true, Lock(1), "tx50", {accepts}, {}},
         {"settings, no title", Page::Port, true, no_title, "", {opens}, {}},
     };
@@ -165,7 +167,9 @@ TEST(PageProviders, EachDialogTakesWhatItActsOn) {
                 filled = true;
             }
             EXPECT_TRUE(machine.devices == devices && machine.boxes.empty() && IsWindowVisible(dialog));
+            const sim::LogicAtWork logic_at_work;
             each([&](const Message& sent, bool taken) { EXPECT_EQ(IsTaken(dialog, sent), taken) << sent.what; });
+            EXPECT_EQ(Details(machine, "EndDialog"), one.ends);
         };
         const auto at_page = [&](HWND page) { one.in_dialog ? Do(page, "advanced") : ask(page); };
         const auto at_dialog = [&](HWND dialog) { one.in_dialog ? ask(dialog) : Do(dialog, "cancel"); };

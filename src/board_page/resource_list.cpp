@@ -54,17 +54,15 @@ void AddRows(HWND list, const ChannelInfo& info) {
 
 void AddResourceColumns(HWND hDlg) {
     const HWND list = GetDlgItem(hDlg, IDC_RESOURCE_LIST);
-    WPARAM position = 0;
-    for (const UINT headingId : ColumnHeadings) {
+    for (u32 position = 0; position < ARRAYSIZE(ColumnHeadings); ++position) {
         WCHAR heading[ControlTextCapacity];
-        if (LoadStringW(ModuleInstance, headingId, heading, ARRAYSIZE(heading)) != 0) {
+        if (LoadStringW(ModuleInstance, ColumnHeadings[position], heading, ARRAYSIZE(heading)) != 0) {
             LVCOLUMNW column = {};
             column.mask = LVCF_TEXT | LVCF_WIDTH;
             column.cx = ColumnWidth;
             column.pszText = heading;
             SendMessageW(list, LVM_INSERTCOLUMNW, position, reinterpret_cast<LPARAM>(&column));
         }
-        ++position;
     }
 }
 
