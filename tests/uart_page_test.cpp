@@ -250,7 +250,14 @@ TEST(UartPage, EveryChangeIsToldToTheSheetAndComparedWithWhatWasRead) {
         EXPECT_EQ(Changes(), Writing("9600,n,8,1 "));
         Do(page, "advanced");
         EXPECT_FALSE(is_told());
-        Choose(page, IDC_DATA_BITS, -1); // no selection: nothing is written, nothing said
+        for (const int combo :
+             {IDC_BAUD_RATE, IDC_DATA_BITS}) { // no selection: nothing is written, nothing said
+            Choose(page, combo, -1);
+            Do(page, "sheet-apply");
+            EXPECT_EQ(Changes(), Lines{});
+            Choose(page, combo, 0);
+        }
+        Choose(page, IDC_PARITY, -1);
     };
     EXPECT_EQ(Open(Page::Port, port, {.at_page = at_page, .leaves_by = ok}), "ok");
     EXPECT_EQ(Line(), "9600,n,8,1 ");
