@@ -250,8 +250,9 @@ TEST(UartPage, EveryChangeIsToldToTheSheetAndComparedWithWhatWasRead) {
         EXPECT_EQ(Changes(), Writing("9600,n,8,1 "));
         Do(page, "advanced");
         EXPECT_FALSE(is_told());
-        for (const int combo :
-             {IDC_BAUD_RATE, IDC_DATA_BITS}) { // no selection: nothing is written, nothing said
+        EXPECT_EQ(Changes(), Writing("9600,n,8,1 "));
+        // Without a selection nothing is written, nothing said.
+        for (const int combo : {IDC_BAUD_RATE, IDC_DATA_BITS}) {
             Choose(page, combo, -1);
             Do(page, "sheet-apply");
             EXPECT_EQ(Changes(), Lines{});
