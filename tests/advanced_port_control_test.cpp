@@ -92,18 +92,24 @@ TEST(AdvancedPortControl, OffersWhatTheUartCanAndStoresNothingElse) {
             const AtWork at_work(machine);
             const std::string before = StoredMode(1);
             AtDialog([&](HWND dialog) {
-                EXPECT_EQ(Items(dialog, IDC_INTERFACE_SELECT), column == 4 ? Lines{"Unknow"} : one.offered);
-                EXPECT_EQ(State(dialog), column == 4 ? "?..#" : one.opened[column]);
                 if (column >= 3) {
+                    SendDlgItemMessageW(dialog, IDC_INTERFACE_SELECT, CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
                     Do(dialog, "defaults");
                     EXPECT_EQ(State(dialog), one.defaults[column - 3]);
+                    SendMessageW(dialog, WM_INITDIALOG, 0, GetWindowLongPtrW(dialog, DWLP_USER)); // shows the record again
                 }
+                EXPECT_EQ(Items(dialog, IDC_INTERFACE_SELECT), column == 4 ? Lines{"Unknow"} : one.offered);
+                EXPECT_EQ(State(dialog), column == 4 ? "?..#" : one.opened[column]);
                 Do(dialog, "cancel");
             });
             EXPECT_EQ(Changes(), Lines{});
             AtDialog([&](HWND dialog) {
                 Do(dialog, "ok");
                 EXPECT_EQ(IsWindowVisible(dialog) != FALSE, *one.after_ok[column] == 0);
+                if (*one.after_ok[column] == 0) { // the record is as it was
+                    SendMessageW(dialog, WM_INITDIALOG, 0, GetWindowLongPtrW(dialog, DWLP_USER));
+                    EXPECT_EQ(State(dialog), column == 4 ? "?..#" : one.opened[column]);
+                }
             });
             const std::string after = *one.after_ok[column] ? one.after_ok[column] : before;
             EXPECT_EQ(StoredMode(1), after);
@@ -130,7 +136,7 @@ TEST(AdvancedPortControl, TheUsersChoiceIsStoredByOk) {
         {"defaults after clicks", 0xFF, 6, 0, "termination acs defaults", "0..", "100000"},
         {"defaults of RS-485 turn ACS on", 0x9C, 4, 0, "defaults", "0oa", "411000"},
         {"defaults of an unknown mode", 0xFF, 5, 1, "defaults", "?..", "100000"},
-        {"defaults without any mode leave the termination alone", 0x40, 2, 1, "defaults", "-t.#", ""},
+        {"defaults without any mode leave the termination alone", 0x90, 4, 1, "defaults", "-t.#", ""},
     };
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
@@ -151,31 +157,34 @@ TEST(AdvancedPortControl, TheUsersChoiceIsStoredByOk) {
 TEST(AdvancedPortControl, AFailedWriteKeepsTheDialogAndIsMadeUpForByTheNextOk) {
     sim::Machine machine = UartWith(0xFF, 1, 0);
     const AtWork at_work(machine);
-    const auto at_page = [](HWND page) { Do(page, "advanced advanced advanced"); };
+    const auto at_page = [](HWND page) { Do(page, "advanced advanced advanced advanced advanced"); };
     int opened = 0;
     const auto at_dialog = [&](HWND dialog) {
         if (opened++ == 0) {
-            Do(dialog, "mode2 termination acs");
+            Do(dialog, "mode3 termination acs");
             machine.faults.at_call = {{"RegSetValueExW", 3}, {"RegSetValueExW", 4}};
             Do(dialog, "ok ok");
             EXPECT_TRUE(IsWindowVisible(dialog));
-            EXPECT_EQ(StoredMode(1), "410000"); // as far as it came
+            EXPECT_EQ(StoredMode(1), "610000"); // as far as it came
         } else if (opened == 3) {
             Do(dialog, "ok"); // all is stored by now
             EXPECT_EQ(Changes(), Lines{});
+        } else if (opened > 3) { // at last one value alone changes
+            Do(dialog, opened == 4 ? "mode2 ok" : "termination ok");
         } else {
-            EXPECT_EQ(State(dialog), "2ta"); // what is not stored yet
+            EXPECT_EQ(State(dialog), "3ta"); // what is not stored yet
             Changes();
             Do(dialog, "ok");
             EXPECT_EQ(Changes(),
-                      (Lines{"RegSetValueExW 1 UartMode = 4", "RegSetValueExW 1 UartAHDC = 1",
-                             "RegSetValueExW 1 UartCS = 1", "RegSetValueExW 1 UartAutoRS422485 = 0",
-                             "RegSetValueExW 1 UartRS422Termination = 0",
+                      (Lines{"RegSetValueExW 1 UartMode = 6", "RegSetValueExW 1 UartAHDC = 1",
+                             "RegSetValueExW 1 UartCS = 1", "RegSetValueExW 1 UartAutoRS422485 = 1",
+                             "RegSetValueExW 1 UartRS422Termination = 1",
                              "RegSetValueExW 1 UartRS485Termination = 1"}));
         }
     };
     EXPECT_EQ(Open(Page::Board, 0, {.at_page = at_page, .at_dialog = at_dialog}), "left");
-    EXPECT_EQ(opened, 3);
+    EXPECT_EQ(opened, 5);
+    EXPECT_EQ(StoredMode(1), "411000");
     EXPECT_EQ(Boxes(), Lines(2, "Set COM port advance settings failure. [serr:102]"));
 }
 

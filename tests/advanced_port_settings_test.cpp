@@ -1,8 +1,8 @@
 // The Advanced Port Settings dialog: the FIFO settings of one port, its COM number, and what goes back to the
 // page.
-#include <algorithm>
-
+#include "platform/simulated/stage.h"
 #include "tests/sheets.h"
+#include "uart_page/parent_title.h"
 
 namespace {
 
@@ -131,15 +131,26 @@ TEST(AdvancedPortSettings, OkRenamesThePortOrStaysOpen) {
 }
 
 TEST(AdvancedPortSettings, WhatCantBeReadHasItsBoxAtTheOpening) {
+    // The check box has no text, and what is shown behind the bounds of the sliders fails.
+    const Fault bounds_only = [](sim::Machine& machine) {
+        StoreFifo(port, {1, 9, 32});
+        machine.faults = {};
+        machine.faults.at_call = {{"GetWindowTextW", 1}, {"SetWindowTextW", 3}, {"SetWindowTextW", 4},
+                                  {"SetWindowTextW", 7}, {"SetWindowTextW", 8}};
+    };
     const struct {
         const char* name;
         Fault fault;
         const char* box;
         const char* title; // null if no dialog opens
+        const char* captions = "&Enable 128 Byte FIFO buffers|Low (1)|High (128)|Low (1)|High (112)";
     } cases[] = {
         {"no key", Lock(port),
          "Get COM port name failure. [serr:100]", nullptr},
         {"no name", Erase(port, u"PortName"),
+         "Get COM port name failure. [serr:101]", nullptr},
+        {"a name of 20 characters",
+         [](sim::Machine& machine) { machine.devices[port].key.SetText(u"PortName", u"COM34567890123456789"); },
          "Get COM port name failure. [serr:101]", nullptr},
         {"a value missing", Erase(port, u"UartCS"),
          "Get COM port basic information failure. [serr:101]", nullptr},
@@ -149,6 +160,10 @@ TEST(AdvancedPortSettings, WhatCantBeReadHasItsBoxAtTheOpening) {
          "Initiate \"COM Port Number\" combox failure. [serr:301]", "Advenced Port Settings"},
         {"no string for the title", [](sim::Machine& machine) { machine.missing_strings = {IDS_ADVANCED_SETTINGS_TITLE}; },
          nullptr, "Advenced Port Settings"},
+        {"bounds only", bounds_only, nullptr, "Advanced Settings for COM3",
+         "&Enable %d Byte FIFO buffers|Low (1)|High (128)|Low (1)|High (112)"},
+        {"no strings", [](sim::Machine& machine) { machine.missing_strings = {IDS_LOW, IDS_HIGH}; }, nullptr,
+         "Advanced Settings for COM3", "&Enable 128 Byte FIFO buffers|(1)|(128)|(1)|(112)"},
     };
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
@@ -163,7 +178,11 @@ TEST(AdvancedPortSettings, WhatCantBeReadHasItsBoxAtTheOpening) {
             opened = true;
             EXPECT_EQ(Shown(dialog), one.title);
             EXPECT_EQ(IsEnabled(dialog, IDC_PORT_NUMBER), one.box == nullptr);
-            Do(dialog, "tx50 ok"); // works as far as it came
+            EXPECT_EQ(Shown(dialog, IDC_LARGEFIFO) + "|" + Shown(dialog, IDC_TRANSMIT_LOW) + "|" +
+                          Shown(dialog, IDC_TRANSMIT_HIGH) + "|" + Shown(dialog, IDC_RECEIVE_LOW) + "|" +
+                          Shown(dialog, IDC_RECEIVE_HIGH),
+                      one.captions);
+            Do(dialog, "tx50 rx4 ok"); // works as far as it came
             EXPECT_FALSE(IsWindowVisible(dialog));
         };
         EXPECT_EQ(Open(Page::Port, port, {.at_page = at_page, .at_dialog = at_dialog}), "left");
@@ -174,23 +193,33 @@ TEST(AdvancedPortSettings, WhatCantBeReadHasItsBoxAtTheOpening) {
 }
 // clang-format on
 
-TEST(AdvancedPortSettings, OkReadsAllControlsBeforeItWritesAnything) {
-    sim::Machine machine = BoardOn({3, 4});
+TEST(AdvancedPortSettings, TheFirstOldNameInATitleGivesWayToTheNewOne) {
+    const struct {
+        const char16_t *title, *old_name, *new_name;
+        const char* shown;
+        Lines memory;
+    } cases[] = {
+        {u"COM9, COM9", u"COM9", u"COM10", "COM10, COM9", {"22 bytes", "24 bytes"}},
+        {u"COM10", u"COM10", u"COM9", "COM9", {"12 bytes", "12 bytes"}},
+        {u"COM12 (COM1)", u"COM1", u"COM3", "COM32 (COM1)", {"26 bytes", "26 bytes"}},
+        {u"C", u"C", u"D", "D", {"4 bytes", "4 bytes"}},
+        {u"Port", u"COM1", u"COM3", "Port", {"10 bytes"}},
+        {u"Port", u"", u"COM3", "Port", {}},
+        {u"", u"COM1", u"COM3", "", {}},
+    };
+    sim::Machine machine = BoardOn({3});
     const AtWork at_work(machine);
-    AtDialog([&](HWND dialog) {
-        Do(dialog, "tx50 com20");
-        Forget(machine);
-        Do(dialog, "ok");
-        const Lines seen = Journal(machine, {sim::Reach::Screen, sim::Reach::Write});
-        const auto at = [&](std::string_view what) {
-            return std::ranges::find_if(seen, [&](const auto& line) { return line.find(what) != line.npos; });
-        };
-        EXPECT_LT(at("842 TBM_GETPOS"), at("846 CB_GETCURSEL"));
-        EXPECT_LT(at("846 CB_GETCURSEL"), at("UartFifoEnable"));
-        EXPECT_LT(at("PortName"), at("SetWindowTextW"));
-        EXPECT_LT(at("SetWindowTextW"), at("[Ports]"));
-        EXPECT_NE(at("[Ports]"), seen.end());
-    });
+    const auto at_page = [&](HWND page) {
+        const sim::LogicAtWork logic_at_work;
+        for (const auto& one : cases) {
+            SetWindowTextW(page, one.title);
+            Forget(machine);
+            _ChangeParentTitle(page, one.old_name, one.new_name);
+            EXPECT_EQ(Details(machine, "LocalAlloc"), one.memory) << one.shown;
+            EXPECT_EQ(Shown(page), one.shown);
+        }
+    };
+    Open(Page::Port, port, {.at_page = at_page});
 }
 
 TEST(AdvancedPortSettings, AFailedOkWritesTheFifoAgainAndANewOpeningReadsAfresh) {

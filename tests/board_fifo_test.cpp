@@ -6,11 +6,12 @@ namespace {
 using namespace machines;
 using namespace sheets;
 
-// Channels 1 and 2 are UARTs on COM3 and COM4, the devices 1 and 2; channel 3 is a digital one. The receive
-// stages are 1, 32, 64 and 112.
+// Channels 1 and 3 are UARTs on COM3 and COM4, the devices 1 and 2; between them is a digital one. The
+// receive stages are 1, 32, 64 and 112.
 sim::Machine TwoUartsAndADio() {
     sim::Machine machine = BoardOn({3, 4});
-    AddChannel(machine, {}, ClassDio, 3);
+    machine.devices[2].key.SetDword(u"ChlNumber", 3);
+    AddChannel(machine, {}, ClassDio, 2);
     return machine;
 }
 
@@ -39,7 +40,7 @@ TEST(BoardFifo, FifoSettingsGoFromTheStoreToTheControlsAndBack) {
          {"1 9 111", second}},
         {"OK takes the sliders", {1, 9, 111}, "tx77 rx2", "on tx 77/128 High (77) rx 2 High (32) live", ok,
          {"1 77 32", second}},
-        {"another selection drops them", {1, 9, 32}, "tx77 rx3 select1 select0",
+        {"another selection drops them", {1, 9, 32}, "tx77 rx3 select2 select0",
          "on tx 9/128 High (9) rx 2 High (32) live", ok, {"1 9 32", second}},
         {"unchecked, they rest at 1", {1, 9, 32}, "tx77 rx3 fifo", "off tx 1/128 High (1) rx 1 High (1) dead", ok,
          {"0 1 1", second}},
@@ -55,15 +56,15 @@ TEST(BoardFifo, FifoSettingsGoFromTheStoreToTheControlsAndBack) {
          {"1 128 112", second}},
         {"the box does not remember defaults", {1, 9, 32}, "defaults fifo fifo",
          "on tx 9/128 High (9) rx 2 High (32) live", ok, {"1 9 32", second}},
-        {"another selection forgets defaults", {1, 9, 32}, "defaults select1",
+        {"another selection forgets defaults", {1, 9, 32}, "defaults select2",
          "on tx 128/128 High (128) rx 4 High (112) live", ok, {"1 9 32", second}},
-        {"Set to All is pending only", {1, 9, 32}, "tx50 rx3 all select1",
+        {"Set to All is pending only", {1, 9, 32}, "tx50 rx3 all select2",
          "on tx 50/128 High (50) rx 3 High (64) live", cancel, {"1 9 32", second}},
         {"Set to All, then OK", {1, 9, 32}, "tx50 rx3 all", "on tx 50/128 High (50) rx 3 High (64) live", ok,
          {"1 50 64", "1 50 64"}},
-        {"Set to All, then Apply at the other one with its own", {1, 9, 32}, "tx50 rx3 all select1 tx60 rx1 apply",
+        {"Set to All, then Apply at the other one with its own", {1, 9, 32}, "tx50 rx3 all select2 tx60 rx1 apply",
          "on tx 60/128 High (60) rx 1 High (1) live", cancel, {"1 50 64", "1 60 1"}},
-        {"what is pending is stored from a digital channel too", {1, 9, 32}, "tx50 rx3 all select2",
+        {"what is pending is stored from a digital channel too", {1, 9, 32}, "tx50 rx3 all select1",
          "off tx 50/128 High (1) rx 3 High (1) dead", ok, {"1 50 64", "1 50 64"}},
         {"nothing selected stores nothing at all", {1, 9, 32}, "tx50 rx3 all select-1",
          "off tx 50/128 High (1) rx 3 High (1) dead", ok, {"1 9 32", second}},
@@ -165,7 +166,7 @@ TEST(BoardFifo, SetToAllCopiesToSmallerFifosAsItIs) {
         machine.devices[2].key.SetDword(u"UartRxFifoSize", 16);
         const AtWork at_work(machine);
         const auto at_page = [&](HWND page) {
-            Do(page, "rx3 all select1");
+            Do(page, "rx3 all select2");
             EXPECT_EQ(Fifo(page), "on tx 16/16 High (128) rx 4 High (14) live");
             Do(page, small_one_is_selected ? "" : "select0");
         };
@@ -175,5 +176,13 @@ TEST(BoardFifo, SetToAllCopiesToSmallerFifosAsItIs) {
     }
 }
 // clang-format on
+
+TEST(BoardFifo, ASliderThatIsNotThereStandsAtOne) {
+    sim::Machine machine = TwoUartsAndADio();
+    machine.missing_controls = {IDC_TRANSMIT_SLIDER, IDC_RECEIVE_SLIDER};
+    const AtWork at_work(machine);
+    Open(Page::Board, 0, {.leaves_by = ok});
+    EXPECT_EQ(StoredFifo(1), "1 1 1");
+}
 
 } // namespace

@@ -7,6 +7,8 @@ namespace {
 using namespace machines;
 using namespace sheets;
 
+const char* const headings = "Resource Type: Setting";
+
 TEST(BoardPage, ChannelsStandByTheirNumberWithTheirResources) {
     sim::Machine machine;
     AddBoard(machine, {}, 9);
@@ -31,10 +33,17 @@ TEST(BoardPage, ChannelsStandByTheirNumberWithTheirResources) {
         EXPECT_EQ(Items(page, IDC_PORT_LIST), (Lines{"DIO (port1)", "Mcp251x 2 (port2)",
                                                      "Mcp251xFd 3 (port3)", "COM12 (port4)", "CAN (port7)"}));
         EXPECT_EQ(Shown(page, IDC_PORT_LIST), "DIO (port1)");
-        EXPECT_EQ(Rows(page), (Lines{"I/O Range: 0x1FEC01000 - 0x1FEC02000", "IRQ: 17"}));
+        EXPECT_EQ(Rows(page), (Lines{headings, "I/O Range: 0x1FEC01000 - 0x1FEC02000", "IRQ: 17"}));
         for (int index = 0; index < 5; ++index) {
+            SetWindowTextW(GetDlgItem(page, IDC_TRANSMIT_LOW), u"");
+            SetWindowTextW(GetDlgItem(page, IDC_RECEIVE_LOW), u"");
+            SetFocus(GetDlgItem(page, IDC_RESOURCE_LIST));
+            Changes();
             Choose(page, IDC_PORT_LIST, index);
+            EXPECT_EQ(Count(sim::Current(), "SetFocus"), 2u); // before and after the page follows
             const bool is_uart = index == 3;
+            EXPECT_EQ(Shown(page, IDC_TRANSMIT_LOW) + Shown(page, IDC_RECEIVE_LOW),
+                      is_uart ? "" : "Low (1)Low (1)");
             EXPECT_EQ(Shown(page, IDC_PORT_NUMBER), is_uart ? "COM12" : "NONE");
             EXPECT_EQ(Items(page, IDC_PORT_NUMBER).size(), is_uart ? 256u : 1u);
             EXPECT_EQ(Items(page, IDC_POLLING_CYCLE), Lines{"5"});
@@ -47,9 +56,8 @@ TEST(BoardPage, ChannelsStandByTheirNumberWithTheirResources) {
                 EXPECT_FALSE(IsEnabled(page, never));
             }
             if (is_uart) {
-                EXPECT_EQ(Rows(page), (Lines{"I/O Range: 0xFEDCBA9876543210 - 0xFEDCBA997654320F",
+                EXPECT_EQ(Rows(page), (Lines{headings, "I/O Range: 0xFEDCBA9876543210 - 0xFEDCBA997654320F",
                                              "I/O Range: 0xD000 - 0xD008", "IRQ: 17"}));
-                EXPECT_EQ(Shown(page, IDC_TRANSMIT_LOW) + Shown(page, IDC_RECEIVE_LOW), "Low (1)Low (1)");
             }
             EXPECT_EQ(GetFocus(), GetDlgItem(page, IDC_PORT_LIST));
         }
@@ -67,30 +75,35 @@ TEST(BoardPage, ABoardWithoutListedChannelsIsEmptyAndWorks) {
         const AtWork at_work(machine);
         const auto at_page = [](HWND page) {
             EXPECT_EQ(Items(page, IDC_PORT_LIST), Lines{});
-            EXPECT_EQ(Rows(page), Lines{});
+            EXPECT_EQ(Rows(page), Lines{headings});
             EXPECT_EQ(Shown(page, IDC_PORT_NUMBER), "NONE");
             EXPECT_EQ(Fifo(page), "off tx 0/100 High (1) rx 0 High (1) dead");
-            for (const int id : {IDC_APPLY, IDC_SET_TO_ALL, IDC_RESTORE, IDC_ADVANCED, IDC_LARGEFIFO}) {
-                SendMessageW(page, WM_COMMAND, static_cast<WPARAM>(id), 0); // as if it could be clicked
-            }
         };
         EXPECT_EQ(Open(Page::Board, 0, {.at_page = at_page, .leaves_by = ok}), "ok");
         EXPECT_EQ(Changes(), Lines{});
     }
 }
 
-TEST(BoardPage, MissingStringsCostTheirColumnOrRow) {
-    sim::Machine machine = BoardOn({3, 4});
-    machine.missing_strings = {IDS_HIGH, IDS_LOW, IDS_IN_USE_SUFFIX, IDS_IO_RANGE};
-    const AtWork at_work(machine);
-    const auto at_page = [](HWND page) {
-        EXPECT_EQ(Fifo(page), "on tx 128/128 (128) rx 4 (112) live");
-        EXPECT_EQ(Shown(page, IDC_RECEIVE_LOW), "(1)");
-        EXPECT_EQ(Items(page, IDC_PORT_NUMBER)[3], "COM4 (in use)");
-        EXPECT_EQ(Rows(page).front().substr(0, 4), "IRQ:"); // whatever the row of the ranges became
-    };
-    EXPECT_EQ(Open(Page::Board, 0, {.at_page = at_page}), "left");
-    EXPECT_EQ(Boxes(), Lines{});
+TEST(BoardPage, WhatIsMissingCostsItsColumnOrRow) {
+    const std::tuple<u32, UINT, Lines> cases[] = {
+        {17, IDS_IO_RANGE, {headings, "IRQ: "}}, // the ranges leave their places empty
+        {0, IDS_RESOURCE_TYPE, {"Setting", "I/O Range", "I/O Range", "I/O Range"}}};
+    for (const auto& [irq, missing, rows] : cases) {
+        sim::Machine machine = BoardOn({3, 4});
+        for (sim::Device& device : machine.devices) {
+            device.key.SetDword(u"BoardIrq", irq);
+        }
+        machine.missing_strings = {IDS_HIGH, IDS_LOW, IDS_IN_USE_SUFFIX, missing};
+        const AtWork at_work(machine);
+        const auto at_page = [&, &expected = rows](HWND page) {
+            EXPECT_EQ(Fifo(page), "on tx 128/128 (128) rx 4 (112) live");
+            EXPECT_EQ(Shown(page, IDC_TRANSMIT_LOW) + Shown(page, IDC_RECEIVE_LOW), "(1)(1)");
+            EXPECT_EQ(Items(page, IDC_PORT_NUMBER)[3], "COM4 (in use)");
+            EXPECT_EQ(Rows(page), expected);
+        };
+        EXPECT_EQ(Open(Page::Board, 0, {.at_page = at_page}), "left");
+        EXPECT_EQ(Boxes(), Lines{});
+    }
 }
 
 // clang-format off

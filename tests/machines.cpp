@@ -206,8 +206,18 @@ std::vector<std::string> Journal(const sim::Machine& machine, std::initializer_l
     return lines;
 }
 
+std::vector<std::string> Details(const sim::Machine& machine, std::string_view name) {
+    std::vector<std::string> details;
+    for (const sim::JournalEntry& entry : machine.journal) {
+        if (entry.name == name) {
+            details.push_back(entry.detail);
+        }
+    }
+    return details;
+}
+
 std::size_t Count(const sim::Machine& machine, std::string_view name) {
-    return static_cast<std::size_t>(std::ranges::count(machine.journal, name, &sim::JournalEntry::name));
+    return Details(machine, name).size();
 }
 
 std::vector<std::pair<std::string_view, std::size_t>> FailedCalls(const sim::Machine& machine) {

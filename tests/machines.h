@@ -62,7 +62,8 @@ Places PlacesAt(const sim::Machine& machine, std::size_t device, u32 number);
 
 // "name detail" of what the journal has of some reaches.
 std::vector<std::string> Journal(const sim::Machine& machine, std::initializer_list<sim::Reach> reaches);
-// How often an operation stands in the journal.
+// The details of an operation in the journal, one for each time, and how many there are.
+std::vector<std::string> Details(const sim::Machine& machine, std::string_view name);
 std::size_t Count(const sim::Machine& machine, std::string_view name);
 // The operations that the fault plan has let fail, and which of its name's calls each was.
 std::vector<std::pair<std::string_view, std::size_t>> FailedCalls(const sim::Machine& machine);

@@ -73,12 +73,16 @@ Fault Lock(std::size_t device) {
 std::string Open(Page page, std::size_t device, const User& user, const Request& request) {
     sim::Machine& machine = sim::Current();
     std::vector<HWND> met; // no handle is given twice
+    Shelf shelf;
+    shelf.answer = request.add_page;
     machine.user = [&](HWND front) {
         const bool is_new = std::ranges::find(met, front) == met.end();
         met.push_back(front);
+        const HWND owner = GetWindow(front, GW_OWNER);
         if (const UINT style = sim::BoxStyle(front)) {
+            EXPECT_EQ(owner == nullptr, shelf.pages.empty()); // a provider has no window yet
             SendMessageW(front, WM_COMMAND, static_cast<WPARAM>(style & MB_YESNO ? user.answers : IDOK), 0);
-        } else if (GetWindow(front, GW_OWNER) != nullptr) {
+        } else if (owner != nullptr) {
             if (is_new && user.at_dialog) {
                 user.at_dialog(front);
             }
@@ -95,8 +99,6 @@ std::string Open(Page page, std::size_t device, const User& user, const Request&
     SP_DEVINFO_DATA data = opened.data;
     SP_PROPSHEETPAGE_REQUEST asked = {sizeof asked, request.page_requested, opened.set, &data};
     const auto provider = page == Page::Board ? KvrBoardPropPageProvider : KvrUartPropPageProvider;
-    Shelf shelf;
-    shelf.answer = request.add_page;
     const bool provided = provider(&asked, Take, reinterpret_cast<LPARAM>(&shelf)) != FALSE;
     const sim::Text title = u"Properties of " + machines::PlacesOf(machine, device).port_name;
     const bool accepted = !shelf.pages.empty() && sim::RunSheet(title, shelf.pages);
@@ -163,9 +165,14 @@ Lines Items(HWND dialog, int id) {
 }
 
 Lines Rows(HWND dialog) {
-    Lines rows;
-    for (const Lines& cells : Read(dialog, IDC_RESOURCE_LIST).rows) {
-        rows.push_back(cells[0] + ": " + cells[1]);
+    const host::Control list = Read(dialog, IDC_RESOURCE_LIST);
+    Lines rows(list.rows.size() + 1);
+    for (std::size_t column = 0; column < list.columns.size(); ++column) {
+        const char* between = column == 0 ? "" : ": ";
+        rows[0] += between + list.columns[column].title;
+        for (std::size_t row = 0; row < list.rows.size(); ++row) {
+            rows[row + 1] += between + list.rows[row][column];
+        }
     }
     return rows;
 }

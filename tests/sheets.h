@@ -60,7 +60,7 @@ void Choose(HWND dialog, int id, int index);
 std::string Shown(HWND window);
 std::string Shown(HWND dialog, int id); // of a list, the selected item
 Lines Items(HWND dialog, int id);
-Lines Rows(HWND dialog); // of the resource list, "label: setting"
+Lines Rows(HWND dialog); // of the resource list, "label: setting", below its headings
 int Selection(HWND dialog, int id);
 bool IsOn(HWND dialog, int id);
 bool IsEnabled(HWND dialog, int id);

@@ -55,27 +55,28 @@ TEST(UartPage, AnInitialisationThatFailsLeavesAPageThatSavesNothing) {
     const struct {
         const char* name;
         Fault fault;
-        const char* box;
+        const char *box, *selected; // as far as it came
     } cases[] = {
         {"no parities", [](sim::Machine& machine) { machine.missing_strings = {IDS_PARITY_LIST}; },
-         "Initiate \"Parity\" combox failure."},
+         "Initiate \"Parity\" combox failure.", "9600||8||"},
         {"no stop bits", [](sim::Machine& machine) { machine.missing_strings = {IDS_STOP_BITS_LIST}; },
-         "Initiate \"Stop bits\" combox failure."},
+         "Initiate \"Stop bits\" combox failure.", "9600|None|8||"},
         {"no flow controls", [](sim::Machine& machine) { machine.missing_strings = {IDS_FLOW_CONTROL_LIST}; },
-         "Initiate \"Flow control\" combox failure."},
+         "Initiate \"Flow control\" combox failure.", "9600|None|8|1|"},
         {"no name", Erase(port, u"PortName"),
-         "Get COM port name failure. [serr:101]"},
+         "Get COM port name failure. [serr:101]", "9600|None|8|1|None"},
         {"a name of 20 characters",
          [](sim::Machine& machine) { machine.devices[port].key.SetText(u"PortName", u"COM34567890123456789"); },
-         "Get COM port name failure. [serr:101]"},
+         "Get COM port name failure. [serr:101]", "9600|None|8|1|None"},
     };
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
         sim::Machine machine = UartWithLine(u"75,e,4,2,x");
         one.fault(machine);
         const AtWork at_work(machine);
-        const auto at_page = [](HWND page) {
+        const auto at_page = [&](HWND page) {
             EXPECT_EQ(Enabled(page), "5");
+            EXPECT_EQ(Selected(page), one.selected);
             Choose(page, IDC_BAUD_RATE, 5);
         };
         EXPECT_EQ(Open(Page::Port, port, {.at_page = at_page, .leaves_by = ok}), "ok");
@@ -85,14 +86,17 @@ TEST(UartPage, AnInitialisationThatFailsLeavesAPageThatSavesNothing) {
 }
 
 TEST(UartPage, CombosHaveTheirItemsUnderAnySeparators) {
-    // A made-up language whose lists are separated by other characters, one of them with empty items.
+    // A made-up language whose lists are separated by other characters, one of them with empty items, and whose
+    // texts are longer than what takes them.
+    static const sim::Text long_text = u"xaxbx." + sim::Text(300, u'c');
     static const std::vector<sim::CatalogueString> strings = [] {
         const auto english = sim::CatalogueFor(1033).strings;
         std::vector<sim::CatalogueString> made_up(english.begin(), english.end());
         for (sim::CatalogueString& string : made_up) {
-            string.text = string.id == IDS_PARITY_LIST      ? u";a,b;c;;d;e"
+            string.text = string.id == IDS_PARITY_LIST      ? u";a.,b;c;;d;e"
                           : string.id == IDS_STOP_BITS_LIST ? u"|1|1.5.0|2|"
-                          : string.id == IDS_FLOW_CONTROL_LIST ? u"xaxbxc"
+                          : string.id == IDS_FLOW_CONTROL_LIST ? long_text.c_str()
+                          : string.id == IDS_ADVANCED_SETTINGS_TITLE ? long_text.c_str()
                                                                : string.text;
         }
         return made_up;
@@ -112,7 +116,7 @@ TEST(UartPage, CombosHaveTheirItemsUnderAnySeparators) {
         {1033, u"\u066B", parities, {"1", "1\u066B5", "2"}},
         {1033, u"::", parities, {"1", "1.5", "2"}},
         {1033, u"", parities, {"1", "1.5", "2"}},
-        {made_up_language, u"x", {"a,b", "c", "", "d", "e"}, {"1", "1x5.0", "2", ""}},
+        {made_up_language, u"x", {"a.,b", "c", "", "d", "e"}, {"1", "1x5.0", "2", ""}},
     };
     for (const auto& one : cases) {
         SCOPED_TRACE(sim::ToUtf8(one.decimal));
@@ -129,9 +133,16 @@ TEST(UartPage, CombosHaveTheirItemsUnderAnySeparators) {
             EXPECT_EQ(Items(page, IDC_STOP_BITS), one.stop_bits);
             EXPECT_EQ(Shown(page, IDC_STOP_BITS), one.stop_bits[1]);
             EXPECT_EQ(Enabled(page), "5 advanced restore");
+            EXPECT_EQ(Items(page, IDC_FLOW_CONTROL)[2], one.language == 1033 ? "None" : "." + std::string(251, 'c'));
+            Do(page, "advanced");
+            Choose(page, IDC_STOP_BITS, 3); // no item, or one that the line has no text for
+            Do(page, "sheet-apply");
+            EXPECT_EQ(Line(), "9600,n,8,1.5");
+            Choose(page, IDC_STOP_BITS, 1);
             Choose(page, IDC_FLOW_CONTROL, 0);
         };
-        Open(Page::Port, port, {.at_page = at_page, .leaves_by = ok});
+        const auto at_dialog = [&](HWND dialog) { EXPECT_EQ(Shown(dialog).size(), one.language == 1033 ? 26u : 199u); };
+        Open(Page::Port, port, {.at_page = at_page, .at_dialog = at_dialog, .leaves_by = ok});
         EXPECT_EQ(Line(), "9600,n,8,1.5,x"); // whatever the display
     }
 }
@@ -240,7 +251,15 @@ TEST(UartPage, EveryChangeIsToldToTheSheetAndComparedWithWhatWasRead) {
         EXPECT_EQ(Changes(), Writing("9600,n,8,1 "));
         Do(page, "advanced");
         EXPECT_FALSE(is_told());
-        Choose(page, IDC_DATA_BITS, -1); // no selection: nothing is written, nothing said
+        EXPECT_EQ(Changes(), Writing("9600,n,8,1 "));
+        // Without a selection nothing is written, nothing said.
+        for (const int combo : {IDC_BAUD_RATE, IDC_DATA_BITS}) {
+            Choose(page, combo, -1);
+            Do(page, "sheet-apply");
+            EXPECT_EQ(Changes(), Lines{});
+            Choose(page, combo, 0);
+        }
+        Choose(page, IDC_PARITY, -1);
     };
     EXPECT_EQ(Open(Page::Port, port, {.at_page = at_page, .leaves_by = ok}), "ok");
     EXPECT_EQ(Line(), "9600,n,8,1 ");

@@ -111,8 +111,8 @@ bool RenameUart(HWND hDlg, BPPCHL* chl) {
 bool _OkClicked(HWND hDlg, BoardParams* params, u32 index) {
     TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
     BPPCHL* chl = BoardChlByListIndex(params, index);
-    bool bSuccess = false;
-    if (chl != nullptr) {
+    bool bSuccess = chl != nullptr;
+    if (bSuccess) {
         const bool isUart = chl->Class == ClassUart;
         if (isUart) {
             TakeFifoSettings(hDlg, chl);

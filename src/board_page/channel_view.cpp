@@ -28,7 +28,7 @@ void FormatChannelLine(const BPPCHL* chl, WCHAR* line, u32 capacity) {
     case ClassMcp251xFd:
         FormatText(line, capacity, TEXT("%ws (port%d)"), info.Mcp251xFd.Mcp251xFdName, number);
         break;
-    case ClassCan:
+    default: // ClassCan
         FormatText(line, capacity, TEXT("CAN (port%d)"), number);
         break;
     }

@@ -55,11 +55,9 @@ void ShowNoUart(HWND hDlg) {
 
 // Writes every UART whose pending values differ from the saved ones, in ascending order of the channel
 // numbers. Stops with false at the first write that fails; `status` is that of the write, and `comNumber` the
-// number of the port.
+// number of the port. Both are 0 before.
 bool _SetEachUartUiFifoSettingsIfChange(BoardParams* params, u32* status, u32* comNumber) {
     TraceOut("----> %s( )\n", __func__);
-    *status = 0;
-    *comNumber = 0;
     for (BPPCHL* chl = params->WalkFirst; chl != nullptr && *status == 0; chl = chl->WalkNext) {
         if (chl->Class != ClassUart) {
             continue;

@@ -16,6 +16,19 @@ constexpr const WCHAR* DataBitsSuffixes[] = {TEXT(",4"), TEXT(",5"), TEXT(",6"),
 constexpr const WCHAR* StopBitsSuffixes[] = {TEXT(",1"), TEXT(",1.5"), TEXT(",2 ")};
 constexpr const WCHAR* FlowControlSuffixes[] = {TEXT(",x"), TEXT(",p"), TEXT(" ")};
 
+// The fields behind the baud rate, in the order of the line.
+struct FieldSuffixes {
+    u32 PortSettings::*index;
+    const WCHAR* const* suffixes;
+    u32 count;
+};
+constexpr FieldSuffixes LineSuffixes[] = {
+    {&PortSettings::ParityIndex, ParitySuffixes, ARRAYSIZE(ParitySuffixes)},
+    {&PortSettings::DataBitsIndex, DataBitsSuffixes, ARRAYSIZE(DataBitsSuffixes)},
+    {&PortSettings::StopBitsIndex, StopBitsSuffixes, ARRAYSIZE(StopBitsSuffixes)},
+    {&PortSettings::FlowControlIndex, FlowControlSuffixes, ARRAYSIZE(FlowControlSuffixes)},
+};
+
 // The first characters and the fields, by index.
 constexpr const WCHAR* ParityLetters = TEXT("eonms");
 constexpr const WCHAR* DataBitsDigits = TEXT("45678");
@@ -43,7 +56,7 @@ WCHAR* NextField(WCHAR*& rest) {
 
 // The index of a field's first character in `letters`, or `fallback`.
 u32 IndexOfFirst(const WCHAR* field, const WCHAR* letters, u32 fallback) {
-    for (u32 i = 0; field[0] != 0 && letters[i] != 0; ++i) {
+    for (u32 i = 0; letters[i] != 0; ++i) {
         if (letters[i] == field[0]) {
             return i;
         }
@@ -58,15 +71,6 @@ u32 IndexOfStopBits(const WCHAR* field) {
         }
     }
     return DefaultStopBitsIndex;
-}
-
-template <u32 Count>
-bool AppendSuffix(WCHAR* line, u32 capacity, const WCHAR* const (&suffixes)[Count], u32 index) {
-    if (index >= Count) {
-        return false;
-    }
-    AppendText(line, capacity, suffixes[index]);
-    return true;
 }
 
 } // namespace
@@ -113,10 +117,14 @@ PortSettings ParseSettingsLine(WCHAR* line, const WCHAR*& baudText) {
 }
 
 bool ComposeSettingsLine(WCHAR* line, u32 capacity, const PortSettings& settings) {
-    return AppendSuffix(line, capacity, ParitySuffixes, settings.ParityIndex) &&
-           AppendSuffix(line, capacity, DataBitsSuffixes, settings.DataBitsIndex) &&
-           AppendSuffix(line, capacity, StopBitsSuffixes, settings.StopBitsIndex) &&
-           AppendSuffix(line, capacity, FlowControlSuffixes, settings.FlowControlIndex);
+    for (const FieldSuffixes& field : LineSuffixes) {
+        const u32 index = settings.*field.index;
+        if (index >= field.count) {
+            return false;
+        }
+        AppendText(line, capacity, field.suffixes[index]);
+    }
+    return true;
 }
 
 bool SamePortSettings(const PortSettings& left, const PortSettings& right) {

@@ -24,7 +24,7 @@ constexpr IndexCombo IndexCombos[] = {
 bool ReadSelections(HWND dialog, PortSettings& settings) {
     for (const IndexCombo& combo : IndexCombos) {
         const LRESULT selection = SendDlgItemMessageW(dialog, combo.combo, CB_GETCURSEL, 0, 0);
-        if (selection == CB_ERR || selection == CB_ERRSPACE) {
+        if (selection < 0) { // CB_ERR or CB_ERRSPACE
             return false;
         }
         settings.*combo.index = static_cast<u32>(selection);

@@ -43,11 +43,13 @@ struct Items {
         return Has(index) ? CopyOut(texts[index], reinterpret_cast<LPWSTR>(buffer), texts[index].size() + 1)
                           : LB_ERR;
     }
-    // Searches once around from the item after `start`; -1 begins at the top. No item begins with nothing.
-    LRESULT Find(WPARAM start, LPARAM beginning) const {
+    // Searches once around from the item after `start`; -1 begins at the top. Nothing is found from a place
+    // that is not there, and no item begins with nothing.
+    LRESULT Find(LRESULT start, LPARAM beginning) const {
         const std::u16string_view wanted = MessageText(beginning);
-        const std::size_t first = Has(start) ? start + 1 : 0;
-        for (std::size_t step = 0; !wanted.empty() && step < texts.size(); ++step) {
+        const bool finds = !wanted.empty() && (start == CB_ERR || Has(static_cast<WPARAM>(start)));
+        const std::size_t first = static_cast<std::size_t>(start + 1);
+        for (std::size_t step = 0; finds && step < texts.size(); ++step) {
             const std::size_t index = (first + step) % texts.size();
             if (EqualNoCase(std::u16string_view(texts[index]).substr(0, wanted.size()), wanted)) {
                 return static_cast<LRESULT>(index);
@@ -85,7 +87,8 @@ struct Typing {
     // The item that begins with what has been typed or, if there is none, the next one with this letter.
     LRESULT Find(const Items& items, WPARAM letter) {
         beginning += static_cast<char16_t>(letter);
-        LRESULT found = beginning.size() > 1 ? FindFrom(items, items.selection - 1) : LB_ERR;
+        LRESULT found =
+            beginning.size() > 1 ? FindFrom(items, std::max<LRESULT>(items.selection - 1, LB_ERR)) : LB_ERR;
         if (found == LB_ERR) {
             beginning = static_cast<char16_t>(letter);
             found = FindFrom(items, items.selection);
@@ -95,7 +98,7 @@ struct Typing {
 
 private:
     LRESULT FindFrom(const Items& items, LRESULT behind) const {
-        return items.Find(static_cast<WPARAM>(behind), reinterpret_cast<LPARAM>(beginning.c_str()));
+        return items.Find(behind, reinterpret_cast<LPARAM>(beginning.c_str()));
     }
 };
 
@@ -241,7 +244,7 @@ struct ComboBox : Window {
         case CB_GETCOUNT:
             return static_cast<LRESULT>(items.texts.size());
         case CB_FINDSTRING:
-            return items.Find(Index(wParam), lParam);
+            return items.Find(static_cast<INT>(wParam), lParam);
         case CB_SHOWDROPDOWN:
             return Drop(wParam != FALSE);
         case CB_GETDROPPEDSTATE:

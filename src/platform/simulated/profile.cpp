@@ -70,7 +70,8 @@ int GetLocaleInfoW(LCID, LCTYPE type, LPWSTR buffer, int capacity) {
     if (capacity == 0) {
         return needed;
     }
-    if (capacity < needed) {
+    if (capacity < needed) { // and what the buffer then holds is no text
+        separator.copy(buffer, static_cast<std::size_t>(capacity));
         return sim::Fail(ERROR_INSUFFICIENT_BUFFER);
     }
     separator.copy(buffer, separator.size());

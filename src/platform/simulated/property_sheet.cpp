@@ -14,9 +14,6 @@ struct Page {
 
     UINT Call(UINT message) {
         PROPSHEETPAGEW& page = description.page;
-        if ((page.dwFlags & PSP_USECALLBACK) == 0) {
-            return TRUE;
-        }
         const LogicAtWork at_work;
         return page.pfnCallback(nullptr, message, &page);
     }
@@ -199,6 +196,10 @@ HPROPSHEETPAGE CreatePropertySheetPageW(LPCPROPSHEETPAGEW description) {
         description->dwSize != sizeof(PropertyPageDescription)) {
         sim::Misuse("CreatePropertySheetPageW: a description of " + std::to_string(description->dwSize) +
                     " bytes");
+        return nullptr;
+    }
+    if (description->dwFlags != PSP_USECALLBACK) {
+        sim::Misuse("CreatePropertySheetPageW: flags other than that of the callback");
         return nullptr;
     }
     auto page = std::make_unique<sim::Page>();
