@@ -222,6 +222,25 @@ TEST(AdvancedPortSettings, TheFirstOldNameInATitleGivesWayToTheNewOne) {
     Open(Page::Port, port, {.at_page = at_page});
 }
 
+TEST(AdvancedPortSettings, OkReadsAllControlsBeforeItWritesAnything) {
+    sim::Machine machine = BoardOn({3, 4});
+    const AtWork at_work(machine);
+    AtDialog([&](HWND dialog) {
+        Do(dialog, "tx50 com20");
+        Forget(machine);
+        Do(dialog, "ok");
+        const Lines seen = Journal(machine, {sim::Reach::Screen, sim::Reach::Write});
+        const auto at = [&](std::string_view what) {
+            return std::ranges::find_if(seen, [&](const auto& line) { return line.find(what) != line.npos; });
+        };
+        EXPECT_LT(at("842 TBM_GETPOS"), at("846 CB_GETCURSEL"));
+        EXPECT_LT(at("846 CB_GETCURSEL"), at("UartFifoEnable"));
+        EXPECT_LT(at("PortName"), at("SetWindowTextW"));
+        EXPECT_LT(at("SetWindowTextW"), at("[Ports]"));
+        EXPECT_NE(at("[Ports]"), seen.end());
+    });
+}
+
 TEST(AdvancedPortSettings, AFailedOkWritesTheFifoAgainAndANewOpeningReadsAfresh) {
     sim::Machine machine = BoardOn({3, 4});
     const AtWork at_work(machine);
