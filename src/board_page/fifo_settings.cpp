@@ -9,7 +9,7 @@
 
 namespace {
 
-// The other buttons that act on a UART only.
+// The other buttons that act only on a UART.
 constexpr int UartButtons[] = {IDC_APPLY, IDC_SET_TO_ALL, IDC_RESTORE};
 
 BPPCHL* UartAt(const BoardParams* params, u32 index) {
@@ -54,8 +54,8 @@ void ShowNoUart(HWND hDlg) {
 }
 
 // Writes every UART whose pending values differ from the saved ones, in ascending order of the channel
-// numbers. Stops with false at the first write that fails; `status` is that of the write, and `comNumber` the
-// number of the port.
+// numbers. Stops and returns false at the first write that fails, with its status in `status` and the number
+// of its port in `comNumber`.
 bool _SetEachUartUiFifoSettingsIfChange(BoardParams* params, u32* status, u32* comNumber) {
     TraceOut("----> %s( )\n", __func__);
     *status = 0;

@@ -1,5 +1,5 @@
-// Sending messages. The answer of a message that was made to fail depends on the message, so each one that
-// the logic sends is listed here with its name and that answer.
+// Sending messages. What a message that is made to fail answers depends on the message, so each one that the
+// logic sends is listed here with its name and that answer.
 #include <algorithm>
 
 #include "platform/simulated/stage.h"
