@@ -11,7 +11,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 using ChangeList = std::vector<Change>;
-// What is there, by name; names are compared without case and shown as they are.
+// What is there, by name. Names are compared without case and shown as they are.
 using Entries = std::map<std::string, std::pair<std::string, std::string>>;
 
 Entries EntriesOf(const TextPairs& texts) {
@@ -31,7 +31,7 @@ Entries EntriesOf(const std::vector<StoreValue>& store) {
     return entries;
 }
 
-// "NAME: BEFORE -> AFTER" for each that is not the same, with `where` before it.
+// Adds "NAME: BEFORE -> AFTER", with `where` before it, for each entry that differs.
 void Compare(ChangeList& changes, ChangedPlace place, const std::string& where, const Entries& before,
              const Entries& after) {
     Entries all = before;
@@ -96,7 +96,7 @@ void CompareDatabases(ChangeList& changes, const std::vector<bool>& before, cons
 
 // --- A patch ---
 
-// What only the system or a driver writes, and how it gets right.
+// What only the system or a driver writes, and how it is put right.
 struct LeftOut {
     ChangedPlace place;
     const char* heading;

@@ -1,4 +1,4 @@
-// The conditions of the rules that are about boards and their channels.
+// The conditions of the rules about boards and their channels.
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -13,7 +13,7 @@ unsigned long Number(const Model& model, std::size_t device, std::string_view na
     return StoredNumber(model.records.devices[device].store, name);
 }
 
-// "channel 3", with the number of a port.
+// "channel 3", for a port with its COM number before it.
 std::string ChannelName(const ChannelRecord& channel) {
     return "channel " + std::to_string(channel.number);
 }
@@ -23,7 +23,7 @@ void Add(const Model& model, Found& found, std::size_t device, std::string what)
     found.back().what = std::move(what);
 }
 
-// The readable channels that a board takes for its own.
+// The readable channels that belong to a board.
 template <class Take> void ForEachOfBoards(const Model& model, const Take& take) {
     for (const ChannelRecord& channel : model.channels) {
         if (channel.readable && channel.board) {
@@ -49,7 +49,7 @@ bool IsWalked(const Model& model, const ChannelRecord& channel) {
     return channel.number >= 1 && channel.number < Number(model, *channel.board, "BoardNrController");
 }
 
-// --- What a UART is capable of ---
+// --- What a UART can do ---
 
 struct Mode {
     unsigned long mode, needed; // of UartCapability

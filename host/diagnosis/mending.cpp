@@ -15,7 +15,7 @@ NumberRecord RecordOf(const Records& records, unsigned long number) {
     return found == numbers.end() ? NumberRecord() : found->second;
 }
 
-// Who has the number, or may have it for all that is known.
+// Who has the number, or might have it as far as is known.
 std::optional<Objection> Holder(const Records& records, const NumberRecord& record) {
     if (!record.holders.empty()) {
         return Objection{LabelOf(records, records.devices[record.holders.front()]) + ", has it"};

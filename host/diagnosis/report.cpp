@@ -16,7 +16,7 @@ using Lines = std::vector<std::string>;
 constexpr int columns = 80;
 constexpr const char* indent = "    ";
 
-// A paragraph, its further lines indented.
+// A paragraph. All its lines but the first are indented.
 void Add(Lines& lines, const std::string& text) {
     const Lines broken = BrokenAt(text, columns - 4);
     for (const std::string& line : broken) {
@@ -49,7 +49,7 @@ void AddMissing(Lines& lines, const Records& records) {
     }
 }
 
-// The numbers of ports about which nothing was found, and the boards.
+// The numbers of the ports that nothing was found about, and the boards.
 struct Sound {
     std::vector<unsigned long> numbers;
     std::vector<std::string> boards; // their labels
@@ -123,7 +123,7 @@ std::string DiagnosisJson(const Records& records, const std::string& machine) {
                                     {"remedy", text(finding.remedy)}});
     }
     list["sound"] = {{"numbers", SoundOf(records, findings).numbers}};
-    // What is no text comes out as U+FFFD.
+    // Invalid UTF-8 becomes U+FFFD.
     return list.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
 }
 

@@ -22,7 +22,8 @@ constexpr std::size_t longest_line = 80;
 
 enum class Match { WholeField, FirstLetter };
 
-// One field: what it may be, and what is shown for anything else. An empty one is that without being wrong.
+// One field: its possible values, and what is shown for any other. An empty field shows that too, but is not
+// wrong.
 struct Field {
     const char* name;
     std::span<const std::string_view> known;

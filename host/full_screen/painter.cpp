@@ -30,8 +30,8 @@ void Frame(Terminal& terminal, const Cells& cells, bool doubled, const Look& loo
     terminal.Write(bottom, cells.left, line[4] + across + line[5], cells.columns, look);
 }
 
-// The captions with the mark of what is disabled before them, and the look of what is and of what has the
-// focus.
+// Captions with the mark of a disabled control before them, and the look of a control that is disabled or has
+// the focus.
 std::string Marked(const Control& control, const std::string& text) {
     return control.enabled || text.empty() ? text : '~' + text;
 }
@@ -39,7 +39,7 @@ Look LookOf(const Control& control) {
     return {control.focused, control.is_default, !control.enabled, 0};
 }
 
-// Where the letter of the hot key stands in a caption as shown, and how wide it is; -1 without one.
+// Where the hot key's letter is in a caption as shown, and how wide it is; -1 if there is none.
 std::pair<int, int> HotKeyIn(const std::string& caption) {
     for (std::size_t at = caption.find('&'); at != std::string::npos; at = caption.find('&', at + 2)) {
         if (at + 1 < caption.size() && caption[at + 1] != '&') {
@@ -60,7 +60,7 @@ struct Brush {
     Cells cells; // on the terminal
     const Turned& turned;
 
-    // A caption at the column, as far as there is room.
+    // Writes a caption at the column, as far as there is room.
     void Caption(int column, int columns, const Look& look) const {
         terminal.Write(cells.top, column, Marked(control, Shown(control.text)), columns, look);
         const auto [before, wide] = HotKeyIn(control.text);
@@ -88,7 +88,7 @@ struct Brush {
             if (hot >= 0 && hot < columns && control.enabled) {
                 terminal.Underline(row, left + hot, wide);
             }
-            hot -= columns + 1; // with the blank at which it is broken
+            hot -= columns + 1; // with the blank at which the line is broken
             ++row;
         }
     }
@@ -234,7 +234,7 @@ struct Brush {
     }
 };
 
-// The list of a combo, below it or where there is more room above.
+// The cells of a combo's list: below it, or above it if there is more room.
 Cells ListOf(const Terminal& terminal, const Control& combo, const Cells& cells) {
     const int items = std::max<int>(1, static_cast<int>(combo.items.size()));
     const int below = terminal.rows() - 2 - cells.top, above = cells.top - 1;
@@ -285,7 +285,7 @@ void Paint(Terminal& terminal, Painted& painted, bool front, const Turned& turne
             painted.open_list = ListOf(terminal, *placed.control, cells);
         }
     }
-    for (const Placed& placed : placement.controls) { // above all else
+    for (const Placed& placed : placement.controls) { // above everything else
         if (placed.control->dropped) {
             const Cells& list = painted.open_list;
             Frame(terminal, list, false, {false, true, false, colour_frame});

@@ -10,10 +10,10 @@
 #include <cstring>
 #include <utility>
 
-#define NCURSES_NOMACROS // move and erase are names of the library too
+#define NCURSES_NOMACROS // move and erase are also names in the standard library
 #include <curses.h>
 #include <term.h>
-#undef columns // which the last makes macros of
+#undef columns // term.h makes macros of these
 #undef lines
 #include <poll.h>
 #include <termios.h>
@@ -24,16 +24,16 @@
 namespace host {
 namespace {
 
-constexpr int escape_wait = 400; // milliseconds in which a letter behind Esc makes a hot key of it
+constexpr int escape_wait = 400; // milliseconds in which a letter after Esc counts as a hot key
 constexpr const char* follow_the_mouse = "\033[?1002h";
 constexpr const char* leave_the_mouse = "\033[?1006l\033[?1002l\033[?1000l";
 
 termios before;
-sigset_t signals_before; // the mask, which the wait for input has too
+sigset_t signals_before; // the mask, which also applies during the wait for input
 std::array<char, 256> restoring{};
 volatile std::sig_atomic_t ending = 0;
 
-// All that it calls may be called from a signal.
+// Everything that it calls may be called from a signal handler.
 void Restore() {
     [[maybe_unused]] const auto written =
         write(STDOUT_FILENO, restoring.data(), std::strlen(restoring.data()));
@@ -46,7 +46,7 @@ void OnEnd(int) {
 
 void OnCrash(int signal) {
     Restore();
-    raise(signal); // the handler is gone by now
+    raise(signal); // the handler has been removed by now
 }
 
 void Handle(int signal, void (*handler)(int), int flags) {
@@ -118,7 +118,7 @@ Terminal::Terminal() {
     }
     set_escdelay(25);
     initscr();
-    raw(); // Ctrl-C and Ctrl-Z come as keys, so that a window is not torn away in the middle of a step
+    raw(); // Ctrl-C and Ctrl-Z come as keys, so that no window is torn away in the middle of a step
     noecho();
     nonl();
     keypad(stdscr, TRUE);
@@ -142,7 +142,7 @@ Terminal::Terminal() {
     }
     sequences += Capability("sgr0") + Capability("cnorm") + Capability("rmkx") + Capability("rmcup");
     sequences.copy(restoring.data(), restoring.size() - 1);
-    // These come only while input is awaited: none is lost between a look at what it left and the wait.
+    // These signals come only while input is awaited, so none is lost between the last check and the wait.
     sigset_t awaited;
     sigemptyset(&awaited);
     sigaddset(&awaited, SIGWINCH);
@@ -159,7 +159,7 @@ Terminal::Terminal() {
 Terminal::~Terminal() {
     endwin();
     Restore();
-    sigprocmask(SIG_SETMASK, &signals_before, nullptr); // those that waited are taken as the end that this is
+    sigprocmask(SIG_SETMASK, &signals_before, nullptr); // signals that waited are taken as the end now
     for (const int signal : {SIGHUP, SIGINT, SIGTERM, SIGQUIT, SIGSEGV, SIGABRT, SIGBUS, SIGFPE, SIGILL}) {
         Handle(signal, SIG_DFL, 0);
     }
@@ -217,7 +217,7 @@ void Terminal::Show() {
     refresh();
 }
 
-// What Ctrl-Z asks for. Comes back when the shell brings the program to the front again.
+// What Ctrl-Z asks for. Returns when the shell brings the program to the foreground again.
 Event Terminal::Suspend() {
     endwin();
     if (restoring[0] != 0) {
@@ -231,8 +231,8 @@ Event Terminal::Suspend() {
     return {};
 }
 
-// Esc alone is a key; the letter behind it is a hot key, whether the terminal sends the two for Alt or a hand
-// does.
+// Esc alone is a key. A letter after it makes a hot key, whether the terminal sends the two for Alt or a
+// person types them.
 Event Terminal::OfEscape() {
     pending_ = Read(escape_wait);
     const bool is_key = pending_ && pending_->kind == Event::Kind::Key;
@@ -271,7 +271,7 @@ std::optional<Event> Terminal::OfMouse() {
     return event;
 }
 
-// The next event; nothing if there is none so long. A negative time waits for ever.
+// The next event; nothing if there is none within that time. A negative time waits for ever.
 std::optional<Event> Terminal::Read(int milliseconds) {
     if (pending_) {
         return std::exchange(pending_, {});
@@ -296,7 +296,7 @@ std::optional<Event> Terminal::Read(int milliseconds) {
         }
         if (kind == KEY_CODE_YES) {
             if (key == KEY_RESIZE) {
-                clearok(curscr, TRUE); // the contents are gone even if the size is the one from before
+                clearok(curscr, TRUE); // the contents are gone even if the size is the same as before
                 return Event{};
             }
             if (key == KEY_MOUSE) {

@@ -1,4 +1,4 @@
-// What the function keys show over the whole screen, and the command that one of them asks for.
+// What the function keys show over the whole screen, and the command line that one of them opens.
 #include <algorithm>
 #include <iterator>
 
@@ -8,7 +8,7 @@
 namespace host {
 namespace {
 
-// No larger than the smallest terminal shows at once.
+// It fits on the smallest terminal.
 constexpr const char* help[] = {
     "Tab, Shift-Tab     the next control, the one before",
     "Alt and a letter   the control whose letter is underlined; where the terminal",
@@ -131,7 +131,7 @@ void FullScreen::View(const std::string& title, const Lines& lines) {
 
 Lines FullScreen::Do(const std::string& line) {
     Lines said = command_(line);
-    HearTrace(); // the commands let go of it at their end
+    HearTrace(); // commands stop the trace when they end
     return said;
 }
 

@@ -9,7 +9,7 @@ template <Lines (Bench::*Run)(const Words&)> void Do(Interpreter& host, const Wo
     host.Write((host.bench().*Run)(words));
 }
 
-// What sets the machine back would leave an open page with what is no more.
+// Setting the machine back would leave an open page with data that no longer exist.
 template <Lines (Bench::*Run)(const Words&)> void DoAlone(Interpreter& host, const Words& words) {
     if (const std::vector<std::string> open = host.OpenWindows(); !open.empty()) {
         throw Refusal(open.back() + " is open; close it first");

@@ -72,7 +72,7 @@ void Interpreter::Step() {
     }
     if (!comment) {
         ++commands_;
-        // What happens around a message box belongs to the command that has brought it.
+        // What happens around a message box belongs to the command that brought it up.
         const bool answers = !windows_.empty() && world_.BoxStyle(windows_.back().handle) != 0;
         Execute(line);
         if (!answers) {

@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::array<const char*, 8> headings = {"device",   "channel",    "PortName", "friendly",
                                                  "DOS name", "serial map", "database", "settings line"};
-constexpr std::size_t dos_names = 4; // the column that is left out where room is short
+constexpr std::size_t dos_names = 4; // the column that is left out if room is short
 using Cells = std::array<std::string, headings.size()>;
 
 constexpr const char* differs = " differs";

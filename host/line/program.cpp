@@ -1,5 +1,5 @@
-// The device manager's stand-in: opens the property sheets of a machine's devices with the pages of the
-// library and operates them by typed commands or a script, or tells what is wrong with a machine.
+// A stand-in for the device manager: it opens the property sheets of a machine's devices with the pages of
+// the library and operates them by typed commands or a script, or reports what is wrong with a machine.
 #include "host/line/program.h"
 
 #include <iostream>
@@ -21,7 +21,7 @@ namespace host {
 namespace {
 
 constexpr const char* unsaved = "kvrhost: the machine has changed and was not exported\n";
-constexpr int sound = 0, found = 1, unreadable = 2; // what the program ends with
+constexpr int sound = 0, found = 1, unreadable = 2; // exit statuses of the program
 
 void Write(const std::vector<std::string>& lines) {
     for (const std::string& line : lines) {
@@ -67,10 +67,10 @@ int Diff(const std::string& before, const std::string& after) {
 
 struct Session {
     std::string file;
-    std::string language; // as it was called; empty for that of the locale
+    std::string language; // as the user named it; empty for the language of the locale
     std::vector<std::string> commands;
     bool stop = false;
-    bool line = false; // at a prompt, though the terminal could be filled
+    bool line = false; // at a prompt, even if the terminal could be filled
 };
 
 struct OneLine : LineSource {

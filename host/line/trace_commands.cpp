@@ -9,8 +9,8 @@
 namespace host {
 namespace {
 
-// A line of the trace stands as the library wrote it; one of the journal has a * before it. What a file holds
-// already stays before what comes.
+// A line of the trace is written as it is, one of the journal with a * before it. They are appended to what a
+// file already holds.
 World::TraceListener ListenerFor(Interpreter& host, const std::string& where) {
     const std::string word = Folded(where);
     if (word == "off") {

@@ -8,7 +8,7 @@
 namespace host {
 namespace {
 
-constexpr int apply_now = 0x3021; // the sheet's own Apply button, on every Windows
+constexpr int apply_now = 0x3021; // the number of the sheet's own Apply button, on every Windows
 
 constexpr struct {
     const char* word;

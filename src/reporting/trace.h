@@ -2,10 +2,10 @@
 // wherever it makes a choice. The library that ships contains no trace. A build with TRACE_LIVE passes each
 // line to the sink that it links (`trace_line.h`).
 //
-// A line begins with the name of its operation, if it has one. "----> name" opens an operation and "<----
-// name" closes it, on every path, so that lines nest like brackets. A helper traces its lines under the name
-// of the operation that it works for, `TraceOperation()`. Text operations, lookups and pure computations
-// trace nothing.
+// A line begins with the name of its operation, if it has one. "----> name" opens the operation, "<---- name"
+// closes it on every path, and so lines nest like brackets. A helper traces its lines under the name of the
+// operation that it works for, `TraceOperation()`. Text operations, lookups and pure computations trace
+// nothing.
 #pragma once
 
 #include <type_traits>

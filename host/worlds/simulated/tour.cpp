@@ -1,5 +1,5 @@
-// The tour of the sample machine: commands for whoever starts the program without a word. Controls are named
-// by their numbers, so that it is the same in every language.
+// The tour of the sample machine: the commands that run if the program is started without any. Controls are
+// named by their numbers, so that the tour is the same in every language.
 #include "host/worlds/simulated/tour.h"
 
 #include "platform/platform.h"

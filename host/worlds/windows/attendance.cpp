@@ -9,7 +9,7 @@ Attendance* current = nullptr;
 
 HWND FrontWindow() {
     HWND front = nullptr;
-    // The system gives the windows from the foremost backwards.
+    // The system lists the windows from the front to the back.
     EnumThreadWindows(
         GetCurrentThreadId(),
         [](HWND window, LPARAM found) -> BOOL {

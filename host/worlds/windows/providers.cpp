@@ -34,7 +34,7 @@ Providers::~Providers() {
 HMODULE Providers::Load(LPCWSTR name) {
     const HMODULE library = LoadLibraryExW(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
     if (library && std::ranges::count(loaded_, library) != 0) {
-        FreeLibrary(library); // once is enough
+        FreeLibrary(library); // it stays loaded by one reference
     } else if (library) {
         loaded_.push_back(library);
         AttachTo(library);

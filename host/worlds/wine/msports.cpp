@@ -1,5 +1,5 @@
-// Stands in for the COM port database where the system has none: the same value of the registry, and the five
-// operations on it that a rename needs. A number that is not in the database is no number.
+// Replaces the COM port database where the system has none: the same registry value, and the five operations
+// on it that a rename needs. A number outside the database is not valid.
 #include "platform/platform.h"
 
 #include <algorithm>
@@ -10,7 +10,7 @@ namespace {
 constexpr const WCHAR* arbiter_key = L"SYSTEM\\CurrentControlSet\\Control\\COM Name Arbiter";
 constexpr const WCHAR* usage_value = L"ComDB";
 
-// A bit for each number, at least as many as every database has. No bytes if it can't be read.
+// One bit per number, for at least as many as every database has. No bytes if it can't be read.
 std::vector<BYTE> Read(HKEY key) {
     std::vector<BYTE> usage(COMDB_MAX_PORTS_ARBITRATED / 8);
     DWORD type = 0, bytes = static_cast<DWORD>(usage.size());
@@ -33,7 +33,7 @@ struct Place {
     BYTE mask;
 };
 
-// Reads the usage and finds the number in it. False if it is none of the database's.
+// Reads the usage and finds the number in it. False if the number is outside the database.
 bool Find(HCOMDB database, DWORD number, std::vector<BYTE>& usage, Place& place) {
     usage = Read(Key(database));
     if (number == 0 || number > usage.size() * 8) {

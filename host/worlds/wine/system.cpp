@@ -1,6 +1,6 @@
-// The live system where Wine stands in for Windows. This program answers what Wine lacks: the DOS names of
-// serial ports, the two class installer calls and the registry's share in the profile. It takes the names and
-// the [Ports] values from the registry as it is when the library is attached.
+// The live system with Wine in the place of Windows. This program answers what Wine lacks: the DOS names of
+// serial ports, the two class installer calls and the profile sections that are kept in the registry. It
+// takes the names and the [Ports] values from the registry as it is when the library is attached.
 #include "host/worlds/windows/system.h"
 
 #include <algorithm>
@@ -27,7 +27,7 @@ DWORD WINAPI StandInQueryDosDeviceW(LPCWSTR name, LPWSTR target, DWORD capacity)
         SetLastError(ERROR_FILE_NOT_FOUND);
         return 0;
     }
-    // A list with one text: the text's terminator and the list's.
+    // A list of one text: the text's terminator and the list's.
     const DWORD length = static_cast<DWORD>(found->second.size()) + 2;
     if (capacity < length) {
         SetLastError(ERROR_INSUFFICIENT_BUFFER);
@@ -62,8 +62,8 @@ BOOL WINAPI StandInSetupDiCallClassInstaller(DI_FUNCTION, HDEVINFO, SP_DEVINFO_D
     return TRUE;
 }
 
-// Windows keeps the section [Ports] of the profile in the registry. Wine has a file for it, which knows
-// nothing of what the registry brings and loses the blank at the end of a line.
+// Windows keeps the [Ports] section of the profile in the registry. Wine uses a file instead, which ignores
+// what is in the registry and loses the blank at the end of a line.
 bool IsMapped(LPCWSTR section) {
     return section && _wcsicmp(section, L"Ports") == 0;
 }
@@ -76,7 +76,7 @@ DWORD WINAPI StandInGetProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR fall
     std::wstring line = fallback ? fallback : L"";
     for (const auto& [name, text] : RegistryKey(HKEY_LOCAL_MACHINE, ports_key, KEY_READ).Texts()) {
         if (_wcsicmp(name.c_str(), key) == 0) {
-            // One pair of quotation marks around a value is not part of it.
+            // One pair of quotation marks around a value does not belong to it.
             const bool quoted = text.size() >= 2 && (text.front() == L'"' || text.front() == L'\'') &&
                                 text.front() == text.back();
             line = quoted ? text.substr(1, text.size() - 2) : text;
@@ -133,8 +133,8 @@ std::vector<std::pair<std::wstring, std::wstring>> SerialDosNames() {
     return dos_names;
 }
 
-// Wine looks resources up by the thread's locale, and SetThreadLocale makes a language without a country one
-// with its default country. So the locale goes to its place in the thread's block itself.
+// Wine looks resources up by the thread's locale, and SetThreadLocale replaces a language without a country
+// by the one of its default country. So the locale is written directly into the thread's block.
 bool UseLanguage(LANGID language) {
     const LCID locale = MAKELCID(language, SORT_DEFAULT);
     if (!IsValidLocale(locale, LCID_INSTALLED)) {
