@@ -1,5 +1,5 @@
-// The Advanced Port Settings dialog: the FIFO settings of one port, its COM number, and what goes back to the
-// page.
+// The Advanced Port Settings dialog: the FIFO settings of one port, its COM number, and what the page gets
+// back.
 #include <algorithm>
 
 #include "tests/sheets.h"
@@ -48,7 +48,7 @@ TEST(AdvancedPortSettings, FifoSettingsGoFromTheStoreToTheControlsAndBack) {
         key.SetDword(u"UartRxFifoSize", one.sizes[1]);
         const AtWork at_work(machine);
         StoreFifo(port, one.stored);
-        Open(Page::Port, port, {.leaves_by = ok}); // the made-up speed of the line is gone
+        Open(Page::Port, port, {.leaves_by = ok}); // corrects the made-up speed of the line
         Changes();
         const std::string before = StoredFifo(port);
         AtDialog([&](HWND dialog) {
@@ -85,7 +85,7 @@ TEST(AdvancedPortSettings, OkRenamesThePortOrStaysOpen) {
         Lines boxes;
         u32 number; // afterwards
         bool closed;
-        const char* fifo = "1 50 112"; // stored before the number is looked at
+        const char* fifo = "1 50 112"; // stored before the number is checked
     } cases[] = {
         {"a free number", "com20", IDNO, no_fault, {}, 20, true},
         {"the present number", "com20 com3", IDNO, no_fault, {}, 3, true},
@@ -163,7 +163,7 @@ TEST(AdvancedPortSettings, WhatCantBeReadHasItsBoxAtTheOpening) {
             opened = true;
             EXPECT_EQ(Shown(dialog), one.title);
             EXPECT_EQ(IsEnabled(dialog, IDC_PORT_NUMBER), one.box == nullptr);
-            Do(dialog, "tx50 ok"); // works as far as it came
+            Do(dialog, "tx50 ok"); // works, partly filled
             EXPECT_FALSE(IsWindowVisible(dialog));
         };
         EXPECT_EQ(Open(Page::Port, port, {.at_page = at_page, .at_dialog = at_dialog}), "left");

@@ -1,4 +1,4 @@
-// The providers of both pages, as the device manager calls them: every failure with its box, nothing left
+// The providers of both pages, as the device manager calls them: every failure with its box, and nothing left
 // over.
 #include <span>
 

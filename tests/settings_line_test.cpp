@@ -1,4 +1,5 @@
-// The settings line by itself: blanks, commas, what each field reads as, and every selection there and back.
+// The settings line alone: blanks, commas, what each field reads as, and every selection written and read
+// back.
 #include <gtest/gtest.h>
 
 #include "platform/simulated/machine.h"

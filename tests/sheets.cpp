@@ -28,7 +28,7 @@ BOOL CALLBACK Take(HPROPSHEETPAGE page, LPARAM shelf) {
     return to.answer;
 }
 
-// One that is not there is as nothing.
+// A missing control reads as an empty one.
 host::Control Read(HWND dialog, int id) {
     const host::Window window = host::ReadWindow(dialog, false);
     const auto found = std::ranges::find(window.controls, id, &host::Control::id);
@@ -72,7 +72,7 @@ Fault Lock(std::size_t device) {
 
 std::string Open(Page page, std::size_t device, const User& user, const Request& request) {
     sim::Machine& machine = sim::Current();
-    std::vector<HWND> met; // no handle is given twice
+    std::vector<HWND> met; // no handle is used twice
     machine.user = [&](HWND front) {
         const bool is_new = std::ranges::find(met, front) == met.end();
         met.push_back(front);

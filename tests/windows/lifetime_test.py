@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Loading and unloading the library and opening its pages a thousand times leaves nothing behind.
+"""Loading and unloading the library and opening its pages a thousand times leaks nothing.
 
     lifetime_test.py [TIMES]"""
 import sys

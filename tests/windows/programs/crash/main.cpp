@@ -1,5 +1,5 @@
-// Crashes within the library, as a process does whose request is not there, and tells where: by the distance
-// from the library's beginning, as an event log does.
+// Crashes within the library, like a process whose request is missing, and reports where: as the offset from
+// the start of the library, as an event log does.
 #include <cstdio>
 
 #include "platform/platform.h"
