@@ -147,7 +147,7 @@ TEST(AdvancedPortControl, TheUsersChoiceIsStoredByOk) {
 }
 // clang-format on
 
-TEST(AdvancedPortControl, AFailedWriteKeepsTheDialogAndIsMadeUpForByTheNextOk) {
+TEST(AdvancedPortControl, AFailedWriteKeepsTheDialogOpenAndTheNextOkWritesTheRest) {
     sim::Machine machine = UartWith(0xFF, 1, 0);
     const AtWork at_work(machine);
     const auto at_page = [](HWND page) { Do(page, "advanced advanced advanced"); };

@@ -130,7 +130,7 @@ TEST(AdvancedPortSettings, OkRenamesThePortOrStaysOpen) {
     }
 }
 
-TEST(AdvancedPortSettings, WhatCantBeReadHasItsBoxAtTheOpening) {
+TEST(AdvancedPortSettings, AValueThatCantBeReadIsReportedAtTheOpening) {
     const struct {
         const char* name;
         Fault fault;

@@ -7,7 +7,7 @@ namespace {
 using namespace machines;
 using namespace sheets;
 
-TEST(BoardPage, ChannelsStandByTheirNumberWithTheirResources) {
+TEST(BoardPage, ChannelsAreListedByNumberWithTheirResources) {
     sim::Machine machine;
     AddBoard(machine, {}, 9);
     AddChannel(machine, {}, ClassCan, 7);
@@ -139,7 +139,7 @@ TEST(BoardPage, OkRenamesTheSelectedPortOrSaysWhyNot) {
 }
 // clang-format on
 
-TEST(BoardPage, TheComboHasAllNumbersAndSparesItsOwn) {
+TEST(BoardPage, TheComboMarksEveryClaimedNumberButItsOwn) {
     const Fault no_combo = [](auto& machine) { machine.missing_controls = {IDC_PORT_NUMBER}; };
     const struct {
         const char16_t* name;

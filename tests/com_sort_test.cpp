@@ -52,7 +52,7 @@ std::vector<std::string> Moves(const sim::Machine& machine) {
     return moves;
 }
 
-TEST(ComSort, MakesTheExchangesInThisOrderAndAsksNoPortInItsPlace) {
+TEST(ComSort, MakesTheExchangesInThisOrderAndChecksOnlyPortsThatMove) {
     const struct {
         Numbers before;
         std::vector<std::string> moves;
@@ -97,7 +97,7 @@ TEST(ComSort, MakesTheExchangesInThisOrderAndAsksNoPortInItsPlace) {
 }
 
 // The channels 1 to 4 are on 7, 5, 8 and 6.
-TEST(ComSort, AFailureLeavesWhatTheMovesBeforeItDid) {
+TEST(ComSort, AFailureKeepsTheMovesBeforeIt) {
     const auto nth = [](const char* operation, std::size_t call) {
         return [=](sim::Machine& machine) { machine.faults.at_call = {{operation, call}}; };
     };

@@ -141,7 +141,7 @@ TEST(Diagnosis, FindsWhatIsWrong) {
     }
 }
 
-TEST(Diagnosis, TellsWhatItRestsOn) {
+TEST(Diagnosis, NamesThePlacesItDependsOn) {
     sim::Machine machine = SoundMachine();
     machine.devices[first].key.SetQword(u"ChlType", 1);
     machine.devices[first].description = u"A\nport\x1B[2J";
@@ -238,7 +238,7 @@ sim::Machine AnyMachine() {
     return machine;
 }
 
-TEST(DiagnosisLaws, WhatIsTakenFromTheEvidenceOnlyTakesFindings) {
+TEST(DiagnosisLaws, LessEvidenceGivesNoNewFindings) {
     Check(200, 100, [] {
         host::Records records = RecordsOf(FileOf(AnyMachine()));
         const Names all = Told(records);
@@ -265,7 +265,7 @@ TEST(DiagnosisLaws, WhatIsTakenFromTheEvidenceOnlyTakesFindings) {
     });
 }
 
-TEST(DiagnosisLaws, WhatThePagesDoBringsNoFinding) {
+TEST(DiagnosisLaws, ThePagesCauseNoFindings) {
     Check(20, 100, [] {
         const std::vector<u32> numbers = AnyNumbers();
         const host::MachineFile file = FileOf(BoardOn(numbers));
@@ -321,7 +321,7 @@ bool IsEqual(const host::TreeKey& left, const host::TreeKey& right) {
            });
 }
 
-TEST(DiagnosisLaws, APatchGoesThereAndBack) {
+TEST(DiagnosisLaws, APatchCanBeAppliedAndTakenBack) {
     Check(40, 100, [] {
         const std::string patch = testing::TempDir() + "diagnosis_patch.reg";
         std::filesystem::remove(patch);
@@ -352,7 +352,7 @@ TEST(DiagnosisLaws, APatchGoesThereAndBack) {
     });
 }
 
-TEST(Bench, TakesBackWhatWasDoneAStepAtATime) {
+TEST(Bench, UndoesOneStepAtATime) {
     sim::Machine machine = BoardOn({4, 3});
     sim::SetClaimed(machine.port_usage, 13, true);
     const host::MachineFile file = FileOf(machine);

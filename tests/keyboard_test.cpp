@@ -49,7 +49,7 @@ TEST(Keyboard, AnOpenListTakesEnterAndEscForItself) {
     }});
 }
 
-TEST(Keyboard, LettersTypedInOneGoFindTheItemThatBeginsWithThem) {
+TEST(Keyboard, LettersTypedInARowFindTheItemThatBeginsWithThem) {
     AtBoard({.at_page = [](HWND page) {
         const HWND sheet = SheetOf(page);
         Type(sheet, u"com1");
@@ -61,7 +61,7 @@ TEST(Keyboard, LettersTypedInOneGoFindTheItemThatBeginsWithThem) {
     }});
 }
 
-TEST(Keyboard, AHotKeyOfSeveralGoesFromOneToTheNext) {
+TEST(Keyboard, ASharedHotKeyMovesFromOneControlToTheNext) {
     AtBoard({.at_page = [](HWND page) {
         const HWND sheet = SheetOf(page);
         const host::Key apply{0, 'a', false, true};

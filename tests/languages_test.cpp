@@ -175,7 +175,7 @@ TEST(Languages, StringsFitTheirBuffersAndListsKeepTheirItems) {
     }
 }
 
-TEST(Languages, OneThatIsMissingIsFoundWithoutItsCountryOrInEnglish) {
+TEST(Languages, AMissingOneIsReplacedByItsLanguageOrEnglish) {
     const std::pair<LANGID, LANGID> found[] = {{0x041D, 29}, {0x081D, 29},   {2058, 1033}, {3079, 1033},
                                                {5129, 1033}, {0x7FFF, 1033}, {29, 29},     {3084, 3084}};
     for (const auto& [asked, got] : found) {
@@ -183,7 +183,7 @@ TEST(Languages, OneThatIsMissingIsFoundWithoutItsCountryOrInEnglish) {
     }
 }
 
-TEST(UserLanguage, IsThatOfTheLocaleByCountryBeforeLanguage) {
+TEST(UserLanguage, IsThatOfTheLocaleWithItsCountryFirst) {
     const std::pair<const char*, LANGID> locales[] = {
         {"de_DE.UTF-8", 1031},
         {"de_AT", 1031},

@@ -283,7 +283,7 @@ sim::Machine AnyMachine() {
     return machine;
 }
 
-TEST(MachineFile, GivesAnyMachineBackAsItWas) {
+TEST(MachineFile, ReadsAnyMachineBackAsItWas) {
     const host::MachineFile with_database =
         Read(first_line + "[HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\COM Name Arbiter]\n"
                           "\"ComDB\"=hex:00\n");

@@ -82,7 +82,7 @@ std::vector<std::string> Names() {
 
 class ScriptsTest : public testing::TestWithParam<std::string> {};
 
-TEST_P(ScriptsTest, RunsAsItsTranscriptTells) {
+TEST_P(ScriptsTest, MatchesItsTranscript) {
     const std::vector<std::string> lines = LinesOf(ContentOf(scripts / (GetParam() + ".txt")));
     std::string file;
     host::MachineFile machine_file;

@@ -81,7 +81,7 @@ TEST(SettingsLine, IsComposedWithItsBlanksAndCutAtItsCapacity) {
     }
 }
 
-TEST(SettingsLine, AnIndexBehindItsTableIsRefused) {
+TEST(SettingsLine, AnIndexBeyondItsTableIsRefused) {
     const PortSettings last = {9600, 4, 4, 2, 2};
     for (u32 PortSettings::*index : {&PortSettings::ParityIndex, &PortSettings::DataBitsIndex,
                                      &PortSettings::StopBitsIndex, &PortSettings::FlowControlIndex}) {

@@ -210,7 +210,7 @@ TEST(UartPage, EverySelectionReadsBackToItself) {
     }
 }
 
-TEST(UartPage, EveryChangeIsToldToTheSheetAndComparedWithWhatWasRead) {
+TEST(UartPage, EveryChangeIsReportedToTheSheetAndComparedWithWhatWasRead) {
     sim::Machine machine = UartWithLine(u"19200,e,7,1.5,x");
     const AtWork at_work(machine);
     const auto at_page = [](HWND page) {
@@ -246,7 +246,7 @@ TEST(UartPage, EveryChangeIsToldToTheSheetAndComparedWithWhatWasRead) {
     EXPECT_EQ(Boxes(), Lines{});
 }
 
-TEST(UartPage, ARemoteMachineIsShownAndItsLineSavedAllTheSame) {
+TEST(UartPage, ARemoteMachineIsShownAndItsLineIsStillSaved) {
     for (const bool detail_fails : {false, true}) { // a set that doesn't say counts as local
         sim::Machine machine = UartWithLine(u"19,n,8,1");
         machine.devices[port].remote = true;

@@ -56,7 +56,7 @@ def differences(expected, got):
 
 
 def main(names, left_out, run_both, jobs):
-    """Compares what `run_both` makes of a script in the two worlds, for the named scripts, or for all but those with a prefix."""
+    """Compares what `run_both` makes of a script in the two worlds, for the named ones or all but those left out."""
     scripts = sorted(script for script in SCRIPTS.glob("*.txt")
                      if (script.stem in names if names else not script.stem.startswith(left_out)))
     template()
