@@ -379,7 +379,7 @@ TEST(Bench, RefusesWhatALivePortContradicts) {
          {"error: not freed: device 3 (", "error: not freed: it is free already",
           "error: not claimed: nothing is", "error: not forgotten: device 3 (",
           "error: there is no settings line \"COM9\"", "> free COM3 --even-so\nCOM3: freed",
-          "> claim COM9 --even-so\nCOM9: claimed", "error: \"x\" is no COM number"}) {
+          "> claim COM9 --even-so\nCOM9: claimed", "error: \"x\" is not a COM number"}) {
         EXPECT_NE(answers.find(expected), std::string::npos) << expected << "\n" << answers;
     }
 }

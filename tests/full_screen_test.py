@@ -64,7 +64,7 @@ class FullScreen(unittest.TestCase):
             column, row = terminal.find("Port Number:")
             for up in (False, True):
                 terminal.mouse(0, terminal.screen.display[row].index(" v]"), row, up)
-            terminal.wait("Enter shut")
+            terminal.wait("Enter close")
             terminal.press("esc")
             terminal.wait("F4 list")
             terminal.click("Advanced...")
@@ -132,7 +132,7 @@ class FullScreen(unittest.TestCase):
 
     def test_views(self):
         with Terminal(HOST, columns=120) as terminal:
-            terminal.wait("Communications Port (COM1)  (no page: it is no channel of a board)")
+            terminal.wait("Communications Port (COM1)  (no page: it is not a channel of a board)")
             open_board(terminal)
             terminal.press("f2")
             terminal.wait("PortName", "\\Device\\KvrUart0")

@@ -104,14 +104,13 @@ struct LeftOut {
 };
 constexpr LeftOut left_outs[] = {
     {ChangedPlace::SerialMap,
-     "Not in this file, as drivers make it anew whenever they start a port:",
-     {"It comes right at the restart: the driver enters the port under the number that PortName has then.",
-      ""}},
+     "Not in this file, because drivers make it anew whenever they start a port:",
+     {"The restart puts it right: the driver enters the port under the number that PortName has then.", ""}},
     {ChangedPlace::FriendlyName,
-     "Not in this file, as only the system writes this key:",
+     "Not in this file, because only the system writes this key:",
      {"Device Manager shows the old number, which misleads and does no harm, until the port is given its",
-      "number on its page there (Advanced) or its driver is installed anew."}},
-    {ChangedPlace::Device, "Not in this file, as the system finds devices by itself:", {"", ""}},
+      "number on its page there (Advanced) or its driver is reinstalled."}},
+    {ChangedPlace::Device, "Not in this file, because the system finds devices by itself:", {"", ""}},
 };
 
 bool IsInPatch(const Change& change) {
@@ -158,7 +157,7 @@ Lines ChangeLines(const Records& before, const Records& after) {
     }
     for (const MissingPlace& missing : MissingPlaces(before.known & after.known)) {
         if (((before.known | after.known) & missing.place) != 0) {
-            lines.push_back(std::string{"not compared: "} + missing.name + ", known in one of the two only");
+            lines.push_back(std::string{"not compared: "} + missing.name + ", known in only one of the two");
         }
     }
     return lines;

@@ -61,7 +61,7 @@ constexpr Mode modes[] = {
 std::string WrongMode(unsigned long mode, unsigned long capability) {
     const auto* const known = std::ranges::find(modes, mode, &Mode::mode);
     if (known == std::end(modes)) {
-        return "UartMode is " + std::to_string(mode) + ", which is none";
+        return "UartMode is " + std::to_string(mode) + ", which is no mode";
     }
     if ((capability & known->needed) == known->needed) {
         return {};
@@ -89,7 +89,7 @@ std::string WrongTrigger(const std::vector<StoreValue>& store) {
     for (const unsigned long stage : stages) {
         known += (known.empty() ? "" : ", ") + std::to_string(stage);
     }
-    return "UartRxFifoLowHigh is " + std::to_string(receive) + ", none of " + known;
+    return "UartRxFifoLowHigh is " + std::to_string(receive) + ", not one of " + known;
 }
 
 } // namespace
@@ -141,7 +141,7 @@ void FindChannelsBeyondBoard(const Model& model, Found& found) {
             Add(model, found, channel.device,
                 "its ChlNumber is " + std::to_string(channel.number) + ", and BoardNrController " +
                     std::to_string(Number(model, *channel.board, "BoardNrController")) +
-                    " shows those from 1 up to that, without it");
+                    " shows those from 1 up to but not including that");
         }
     });
 }

@@ -67,7 +67,7 @@ std::optional<Objection> AgainstClaiming(const Records& records, unsigned long n
         return Objection{"more than one device has it"};
     }
     if (record.holders.empty() && record.mapped.empty()) {
-        return Objection{"nothing is there that it would be claimed for"};
+        return Objection{"there is nothing to claim it for"};
     }
     return {};
 }

@@ -110,7 +110,7 @@ std::string ToldShortly(const std::vector<ValueFault>& faults) {
 std::string WhyNoPage(DeviceKind kind, const std::vector<StoreValue>& store) {
     const bool is_board = kind == DeviceKind::Board;
     if (!is_board && !IsChannel(store)) {
-        return "it is no channel of a board";
+        return "it is not a channel of a board";
     }
     const std::vector<ValueFault> faults = is_board ? BoardFaults(store) : PortFaults(store);
     if (!faults.empty()) {

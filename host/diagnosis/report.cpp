@@ -29,9 +29,9 @@ std::string MendingOf(const Finding& finding) {
         return "safe to mend: " + finding.command;
     }
     if (finding.command.empty()) {
-        return "not safe unseen, by hand: " + finding.remedy;
+        return "not safe without a look, by hand: " + finding.remedy;
     }
-    return "not safe unseen, by hand: " + finding.remedy + "; or: " + finding.command;
+    return "not safe without a look, by hand: " + finding.remedy + "; or: " + finding.command;
 }
 
 void AddFinding(Lines& lines, const Finding& finding) {
@@ -44,7 +44,7 @@ void AddFinding(Lines& lines, const Finding& finding) {
 void AddMissing(Lines& lines, const Records& records) {
     for (const MissingPlace& missing : MissingPlaces(records.known)) {
         Add(lines, std::string{"not known: "} + missing.name +
-                       "; nothing is concluded from that. To have it, export");
+                       "; nothing is concluded from that. To know it, export");
         lines.push_back(indent + std::string{missing.key});
     }
 }

@@ -64,7 +64,7 @@ std::string MisreadSpeed(std::string_view field) {
 
 std::string Misread(std::string_view line) {
     if (line.size() > longest_line) {
-        return "more than " + std::to_string(longest_line) + " characters, the rest is passed over";
+        return "more than " + std::to_string(longest_line) + " characters, the rest is ignored";
     }
     std::string_view rest = Trimmed(line);
     if (rest.empty()) {

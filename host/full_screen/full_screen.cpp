@@ -37,7 +37,7 @@ std::string KeysOf(const Control* control) {
     case Kind::Check:
         return "Space check";
     case Kind::Combo:
-        return control->dropped ? "Up/Down choose  Enter shut" : "Up/Down choose  F4 list";
+        return control->dropped ? "Up/Down choose  Enter close" : "Up/Down choose  F4 list";
     case Kind::List:
         return "Up/Down choose";
     case Kind::Slider:

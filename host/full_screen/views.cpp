@@ -10,26 +10,26 @@ namespace {
 
 // It fits on the smallest terminal.
 constexpr const char* help[] = {
-    "Tab, Shift-Tab     the next control, the one before",
-    "Alt and a letter   the control whose letter is underlined; where the terminal",
-    "                   keeps Alt: Esc, and then the letter",
+    "Tab, Shift-Tab     the next or the previous control",
+    "Alt and a letter   the control whose letter is underlined; if the terminal",
+    "                   keeps Alt: Esc, then the letter",
     "Space              checks a box, presses a button",
     "Enter              presses the button <in these>",
     "Esc                cancels",
     "arrows             move within a list, a slider, a group",
-    "F4, Alt-Down       opens and shuts a combo's list",
-    "letters            find the item that begins so",
+    "F4, Alt-Down       opens and closes a combo's list",
+    "letters            find the item that begins with them",
     "mouse              click, drag a slider, turn the wheel over a list",
     "",
     "F2  all places that hold a port's number   F3  the store of the device",
-    "F5  all of what the pane below tells       F6  a command of the line",
-    "F7  what is wrong with the machine         F8  what differs from it as read",
-    "F9  lets the pane tell what the last action has changed outside, or its trace:",
-    "    what the pages decided, and at its place behind a * what they changed",
-    "F10, Ctrl-C  ends; what is open is cancelled",
-    "Ctrl-L       paints the screen anew",
+    "F5  everything that the pane below shows   F6  a typed command",
+    "F7  what is wrong with the machine         F8  what has changed since",
+    "F9  switches the pane between what the last action changed outside and its",
+    "    trace: what the pages decided and, after a *, what they changed",
+    "F10, Ctrl-C  ends and cancels all open windows",
+    "Ctrl-L       repaints the screen",
     "",
-    "~ stands before what is disabled.",
+    "~ marks a disabled control.",
 };
 
 } // namespace

@@ -122,8 +122,8 @@ void Interpreter::End() {
     const bool was_asked = asked_at_ >= 0 && commands_ - asked_at_ <= 1;
     if (lines_.IsPerson() && !was_asked && world_.HasUnsavedChanges()) {
         asked_at_ = commands_;
-        return Tell(
-            "The machine has changed and was not exported: export FILE keeps it, quit once more leaves it.");
+        return Tell("The machine has changed and was not exported: export FILE saves it, quit again discards "
+                    "the changes.");
     }
     ending_ = true;
 }

@@ -113,7 +113,7 @@ Lines PortsTable(World& world, int columns) {
     }
     for (auto row = rows.begin() + 1; row != rows.end(); ++row) {
         if (PortNumber((*row)[2]) == 0 && (*row)[2] != "none") {
-            (*row)[2] += " is no COM";
+            (*row)[2] += " is not COM";
         } else if (names.count(Folded((*row)[2])) > 1) {
             (*row)[2] += " twice";
         }

@@ -41,7 +41,7 @@ void Trace(Interpreter& host, const Words& words) {
 std::span<const Command> TraceCommands() {
     static constexpr Command commands[] = {
         {"trace", "on|off|FILE",
-         "shows or keeps what the library decides, and between it what it changes (*)", &Trace},
+         "shows or keeps what the library decides, and in between what it changes (*)", &Trace},
     };
     return commands;
 }

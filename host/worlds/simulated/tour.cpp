@@ -12,7 +12,7 @@ std::vector<std::string> TourOfSample() {
         return std::string{command} + ' ' + std::to_string(control) + rest;
     };
     return {
-        "# A tour of the sample machine. `help` tells the commands; the same can be typed or piped in.",
+        "# A tour of the sample machine. `help` lists the commands, which can also be typed or piped in.",
         "devices",
         "# The places that hold the numbers of the ports, before anything is changed.",
         "ports",

@@ -50,7 +50,7 @@ Provider Providers::Of(HDEVINFO set, SP_DEVINFO_DATA& data) {
     const std::string shown = "EnumPropPages32 is " + Quoted(ToUtf8(named)) + ", ";
     const std::size_t comma = named.find(TEXT(','));
     if (comma == Text::npos) {
-        return {nullptr, shown + "which is no library and function"};
+        return {nullptr, shown + "which does not name a library and a function"};
     }
     const HMODULE library = Load(named.substr(0, comma).c_str());
     if (!library) {

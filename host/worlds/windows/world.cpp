@@ -286,7 +286,7 @@ private:
 
 std::unique_ptr<World> OpenWorld(const std::string& file, LANGID language, std::string& error) {
     if (!file.empty()) {
-        error = "the machine is the one at hand; bring " + file + " in by the registry editor";
+        error = "the machine is this one; import " + file + " with the registry editor";
         return nullptr;
     }
     // The system's own libraries are used, whatever is beside the program or in the current folder.
