@@ -44,11 +44,8 @@ std::pair<int, int> HotKeyIn(const std::string& caption) {
     for (std::size_t at = caption.find('&'); at != std::string::npos; at = caption.find('&', at + 2)) {
         if (at + 1 < caption.size() && caption[at + 1] != '&') {
             const int before = Columns(Shown(caption.substr(0, at)));
-            std::size_t end = at + 2;
-            while (end < caption.size() && (caption[end] & 0xC0) == 0x80) {
-                ++end;
-            }
-            return {before, Columns(caption.substr(at + 1, end - at - 1))};
+            std::string_view letter = std::string_view(caption).substr(at + 1);
+            return {before, ColumnsOf(TakeUtf8(letter))};
         }
     }
     return {-1, 0};

@@ -89,11 +89,9 @@ void FullScreen::View(const std::string& title, const Lines& lines) {
         terminal_.Clear();
         terminal_.Write(0, 0, ' ' + title, columns, {false, true, false, colour_title});
         for (int row = 0; row < rows && first + row < static_cast<int>(lines.size()); ++row) {
-            std::string line = lines[static_cast<std::size_t>(first + row)];
+            std::string_view line = lines[static_cast<std::size_t>(first + row)];
             for (int cut = 0; cut < shift && !line.empty(); ++cut) {
-                do {
-                    line.erase(0, 1);
-                } while (!line.empty() && (line.front() & 0xC0) == 0x80);
+                TakeUtf8(line);
             }
             terminal_.Write(1 + row, 0, line, columns);
         }

@@ -10,6 +10,8 @@ namespace host {
 void Click(const Control& button_or_check);
 void SetCheck(const Control& check, bool checked);
 void Pick(const Control& combo_or_list, std::string_view item);
+// -1 leaves no item selected.
+void PickItem(const Control& combo_or_list, int item);
 // The position must be within the slider's range.
 void Slide(const Control& slider, long position);
 

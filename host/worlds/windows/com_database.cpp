@@ -6,9 +6,10 @@ namespace {
 
 // A function of MSPORTS.DLL; null if the system lacks it.
 template <class Function> Function Find(const char* name, Function) {
-    static const HMODULE library = LoadLibraryExW(L"msports.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-    return library ? reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)))
-                   : nullptr;
+    static const HMODULE library = LoadLibraryExW(TEXT("msports.dll"), nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    return library != nullptr
+               ? reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)))
+               : nullptr;
 }
 
 } // namespace
@@ -17,7 +18,7 @@ template <class Function> Function Find(const char* name, Function) {
 #define FORWARD(function, parameters, arguments)                                                             \
     extern "C" LONG WINAPI function parameters {                                                             \
         static const auto forward = Find(#function, &::function);                                            \
-        return forward ? forward arguments : ERROR_PROC_NOT_FOUND;                                           \
+        return forward != nullptr ? forward arguments : ERROR_PROC_NOT_FOUND;                                \
     }
 FORWARD(ComDBOpen, (HCOMDB * database), (database))
 FORWARD(ComDBClose, (HCOMDB database), (database))

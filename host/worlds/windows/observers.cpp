@@ -56,7 +56,7 @@ template <class Call> auto Journaled(std::string line, const Call& call) {
 }
 
 std::string Utf8(LPCWSTR text) {
-    return text ? ToUtf8(text) : std::string{};
+    return text != nullptr ? ToUtf8(text) : std::string{};
 }
 
 std::string FunctionShown(DI_FUNCTION function) {
@@ -129,7 +129,7 @@ BOOL WINAPI ObservedSetupDiCallClassInstaller(DI_FUNCTION function, HDEVINFO set
 
 BOOL WINAPI ObservedDefineDosDeviceW(DWORD flags, LPCWSTR name, LPCWSTR target) {
     return Journaled("DefineDosDeviceW " +
-                         (target ? Utf8(name) + " -> " + Utf8(target) : "remove " + Utf8(name)),
+                         (target != nullptr ? Utf8(name) + " -> " + Utf8(target) : "remove " + Utf8(name)),
                      [&] { return NextDefineDosDeviceW(flags, name, target); });
 }
 
@@ -145,7 +145,7 @@ LONG WINAPI ObservedComDBClaimPort(HCOMDB database, DWORD number, BOOL force, PB
 
 BOOL WINAPI ObservedWriteProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR value) {
     return Journaled("WriteProfileStringW [" + Utf8(section) + "] " + Utf8(key) +
-                         (value ? " = " + Quoted(Utf8(value)) : " deleted"),
+                         (value != nullptr ? " = " + Quoted(Utf8(value)) : " deleted"),
                      [&] { return NextWriteProfileStringW(section, key, value); });
 }
 

@@ -108,7 +108,7 @@ void ShowSheet(const Text& title, std::vector<HPROPSHEETPAGE>& pages) {
     header.nPages = static_cast<UINT>(pages.size());
     header.phpage = pages.data();
     const HWND sheet = reinterpret_cast<HWND>(PropertySheetW(&header));
-    if (!sheet || sheet == INVALID_HANDLE_VALUE) {
+    if (sheet == nullptr || sheet == INVALID_HANDLE_VALUE) {
         return;
     }
     SetWindowSubclass(sheet, &HideWhenEnded, 0, 0);
@@ -217,14 +217,14 @@ public:
             records.serial_map = map.Texts();
         }
         // The [Ports] section of the profile is kept there.
-        if (const RegistryKey ports(HKEY_LOCAL_MACHINE, ports_key, KEY_READ); ports.Handle()) {
+        if (const RegistryKey ports(HKEY_LOCAL_MACHINE, ports_key, KEY_READ); ports.Handle() != nullptr) {
             records.settings_lines = ports.Texts();
         }
         // Read directly, because opening the database through its own operations would create a missing one.
         const std::vector<StoreValue> arbiter =
             RegistryKey(HKEY_LOCAL_MACHINE, arbiter_key, KEY_READ).Values();
         const StoreValue* const usage = FindValue(arbiter, "ComDB");
-        if (usage && usage->type == REG_BINARY && !usage->data.empty()) {
+        if (usage != nullptr && usage->type == REG_BINARY && !usage->data.empty()) {
             records.usage = usage->data;
         }
         return records;

@@ -1,14 +1,15 @@
 // Replaces the COM port database where the system has none: the same registry value, and the five operations
 // on it that a rename needs. A number outside the database is not valid.
 #include "platform/platform.h"
+#include "platform/port_usage.h"
 
 #include <algorithm>
 #include <vector>
 
 namespace {
 
-constexpr const WCHAR* arbiter_key = L"SYSTEM\\CurrentControlSet\\Control\\COM Name Arbiter";
-constexpr const WCHAR* usage_value = L"ComDB";
+constexpr const WCHAR* arbiter_key = TEXT("SYSTEM\\CurrentControlSet\\Control\\COM Name Arbiter");
+constexpr const WCHAR* usage_value = TEXT("ComDB");
 
 // One bit per number, for at least as many as every database has. No bytes if it can't be read.
 std::vector<BYTE> Read(HKEY key) {
@@ -39,7 +40,7 @@ bool Find(HCOMDB database, DWORD number, std::vector<BYTE>& usage, Place& place)
     if (number == 0 || number > usage.size() * 8) {
         return false;
     }
-    place = {(number - 1) / 8, static_cast<BYTE>(1u << (number - 1) % 8)};
+    place = {PortUsageByte(number), PortUsageMask(number)};
     return true;
 }
 
@@ -80,9 +81,8 @@ LONG WINAPI ComDBGetCurrentPortUsage(HCOMDB database, PBYTE buffer, DWORD bytes,
     if (buffer != nullptr) {
         reported = std::min<std::size_t>(all, reportType == CDB_REPORT_BITS ? std::size_t{bytes} * 8 : bytes);
         for (std::size_t i = 0; i < reported; ++i) {
-            const BYTE claimed = usage[i / 8] >> i % 8 & 1;
             if (reportType == CDB_REPORT_BYTES) {
-                buffer[i] = claimed;
+                buffer[i] = IsPortClaimed(usage.data(), static_cast<u32>(i + 1));
             } else if (i % 8 == 0) {
                 buffer[i / 8] = usage[i / 8];
             }

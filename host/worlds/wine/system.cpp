@@ -65,19 +65,20 @@ BOOL WINAPI StandInSetupDiCallClassInstaller(DI_FUNCTION, HDEVINFO, SP_DEVINFO_D
 // Windows keeps the [Ports] section of the profile in the registry. Wine uses a file instead, which ignores
 // what is in the registry and loses the blank at the end of a line.
 bool IsMapped(LPCWSTR section) {
-    return section && _wcsicmp(section, L"Ports") == 0;
+    return section != nullptr && _wcsicmp(section, TEXT("Ports")) == 0;
 }
 
 DWORD WINAPI StandInGetProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR fallback, LPWSTR buffer,
                                       DWORD capacity) {
-    if (!IsMapped(section) || !key || capacity == 0) {
+    if (!IsMapped(section) || key == nullptr || capacity == 0) {
         return GetProfileStringW(section, key, fallback, buffer, capacity);
     }
-    std::wstring line = fallback ? fallback : L"";
+    std::wstring line = fallback != nullptr ? fallback : TEXT("");
     for (const auto& [name, text] : RegistryKey(HKEY_LOCAL_MACHINE, ports_key, KEY_READ).Texts()) {
         if (_wcsicmp(name.c_str(), key) == 0) {
             // One pair of quotation marks around a value does not belong to it.
-            const bool quoted = text.size() >= 2 && (text.front() == L'"' || text.front() == L'\'') &&
+            const bool quoted = text.size() >= 2 &&
+                                (text.front() == TEXT('"') || text.front() == TEXT('\'')) &&
                                 text.front() == text.back();
             line = quoted ? text.substr(1, text.size() - 2) : text;
         }
@@ -89,7 +90,7 @@ DWORD WINAPI StandInGetProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR fall
 }
 
 BOOL WINAPI StandInWriteProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR value) {
-    if (!IsMapped(section) || !key) {
+    if (!IsMapped(section) || key == nullptr) {
         return WriteProfileStringW(section, key, value);
     }
     HKEY ports = nullptr;
@@ -97,12 +98,12 @@ BOOL WINAPI StandInWriteProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR val
                         nullptr, &ports, nullptr) != ERROR_SUCCESS) {
         return FALSE;
     }
-    const LSTATUS status = value
+    const LSTATUS status = value != nullptr
                                ? RegSetValueExW(ports, key, 0, REG_SZ, reinterpret_cast<const BYTE*>(value),
                                                 static_cast<DWORD>((std::wcslen(value) + 1) * sizeof(WCHAR)))
                                : RegDeleteValueW(ports, key);
     RegCloseKey(ports);
-    return status == ERROR_SUCCESS || !value;
+    return status == ERROR_SUCCESS || value == nullptr;
 }
 
 } // namespace

@@ -99,7 +99,7 @@ Device* DeviceOf(HDEVINFO set, const SP_DEVINFO_DATA* data, std::string_view ope
 BOOL Fail(DWORD error);
 // Whether a structure states its own size; if not, adds a line to `misuse` and sets the last error.
 template <class Structure> bool HasItsSize(const Structure* structure, std::string_view operation) {
-    if (structure && structure->cbSize == sizeof *structure) {
+    if (structure != nullptr && structure->cbSize == sizeof *structure) {
         return true;
     }
     Misuse(std::string(operation) + ": a structure without its size");

@@ -19,10 +19,10 @@ LONG WINAPI TellPlace(EXCEPTION_POINTERS* exception) {
 } // namespace
 
 int main() {
-    library = LoadLibraryW(L"kvrpagex64.dll");
+    library = LoadLibraryW(TEXT("kvrpagex64.dll"));
     const auto provider = reinterpret_cast<BOOL(WINAPI*)(void*, LPFNADDPROPSHEETPAGE, LPARAM)>(
         reinterpret_cast<void*>(GetProcAddress(library, "KvrBoardPropPageProvider")));
-    if (!provider) {
+    if (provider == nullptr) {
         return 2;
     }
     SetUnhandledExceptionFilter(&TellPlace);

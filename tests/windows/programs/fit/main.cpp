@@ -146,9 +146,9 @@ Control MeasureControl(const Dialog& dialog, HWND window) {
     const Text text = RunTimeText(dialog.language, dialog.id, id, buffer);
     Control control = {id, false, PlaceIn(dialog.window, window)};
     const int width = static_cast<int>(control.place.right - control.place.left);
-    if (lstrcmpiW(kind, L"Static") == 0) {
+    if (lstrcmpiW(kind, TEXT("Static")) == 0) {
         dialog.CheckLabel(id, text, control.place);
-    } else if (lstrcmpiW(kind, L"Button") == 0) {
+    } else if (lstrcmpiW(kind, TEXT("Button")) == 0) {
         control.group = (style & BS_TYPEMASK) == BS_GROUPBOX;
         const int around = control.group                              ? group_margin
                            : (style & BS_TYPEMASK) == BS_AUTOCHECKBOX ? check_box
@@ -156,7 +156,7 @@ Control MeasureControl(const Dialog& dialog, HWND window) {
         if (!text.empty()) {
             dialog.Check(id, text, width - Scaled(around));
         }
-    } else if (lstrcmpiW(kind, L"ComboBox") == 0) {
+    } else if (lstrcmpiW(kind, TEXT("ComboBox")) == 0) {
         COMBOBOXINFO info = {};
         info.cbSize = sizeof info;
         GetComboBoxInfo(window, &info);
@@ -165,10 +165,10 @@ Control MeasureControl(const Dialog& dialog, HWND window) {
                          static_cast<int>(info.rcItem.right - info.rcItem.left) - Scaled(combo_margin),
                          DT_SINGLELINE | DT_NOPREFIX);
         }
-    } else if (lstrcmpiW(kind, L"ListBox") == 0) {
+    } else if (lstrcmpiW(kind, TEXT("ListBox")) == 0) {
         RECT client;
         GetClientRect(window, &client);
-        dialog.Check(id, L"COM256 (port16)", static_cast<int>(client.right) - Scaled(list_margin),
+        dialog.Check(id, TEXT("COM256 (port16)"), static_cast<int>(client.right) - Scaled(list_margin),
                      DT_SINGLELINE | DT_NOPREFIX);
     } else if (lstrcmpiW(kind, WC_LISTVIEWW) == 0 && scale == usual_scale) {
         for (const UINT string : {IDS_RESOURCE_TYPE, IDS_SETTING, IDS_IO_RANGE, IDS_IRQ}) {
@@ -212,19 +212,20 @@ void CheckTitle(const Dialog& dialog) {
     RECT client;
     GetClientRect(dialog.window, &client);
     const bool port_dialog = dialog.id == IDD_ADVANCED_PORT_SETTINGS;
-    const Text text =
-        port_dialog ? Filled(String(dialog.language, IDS_ADVANCED_SETTINGS_TITLE), L"COM256") : Text(title);
+    const Text text = port_dialog
+                          ? Filled(String(dialog.language, IDS_ADVANCED_SETTINGS_TITLE), TEXT("COM256"))
+                          : Text(title);
     NONCLIENTMETRICSW metrics = {};
     metrics.cbSize = sizeof metrics;
     SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
     // A page's title is on a tab in the dialog's font, a dialog's own in the caption's font.
     const bool page = dialog.id == IDD_PORT_SETTINGS || dialog.id == IDD_PORT_CONTROL;
     const HFONT font = page ? nullptr : CreateFontIndirectW(&metrics.lfCaptionFont);
-    if (font) {
+    if (font != nullptr) {
         SelectObject(dialog.dc, font);
     }
     dialog.Check(0, text, static_cast<int>(client.right) - Scaled(title_margin), DT_SINGLELINE | DT_NOPREFIX);
-    if (font) {
+    if (font != nullptr) {
         SelectObject(dialog.dc, dialog.font);
         DeleteObject(font);
     }
@@ -232,11 +233,11 @@ void CheckTitle(const Dialog& dialog) {
 
 bool MeasureDialog(LANGID language, WORD id) {
     const auto* const form = static_cast<const DLGTEMPLATE*>(Resource(RT_DIALOG, id, language));
-    const HWND window =
-        form ? CreateDialogIndirectParamW(
-                   library, form, nullptr, [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0)
-             : nullptr;
-    if (!window) {
+    const HWND window = form != nullptr ? CreateDialogIndirectParamW(
+                                              library, form, nullptr,
+                                              [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0)
+                                        : nullptr;
+    if (window == nullptr) {
         std::printf("language %u, dialog %u: can't be created\n", language, id);
         return false;
     }
@@ -278,8 +279,8 @@ int main(int argc, char** argv) {
     scale = GetDeviceCaps(screen, LOGPIXELSX);
     ReleaseDC(nullptr, screen);
     SetConsoleOutputCP(CP_UTF8);
-    library = LoadLibraryW(L"kvrpagex64.dll");
-    if (!library) {
+    library = LoadLibraryW(TEXT("kvrpagex64.dll"));
+    if (library == nullptr) {
         std::printf("kvrpagex64.dll can't be loaded\n");
         return 2;
     }

@@ -47,8 +47,9 @@ long long GdiObjects() {
     const BYTE* process = nullptr;
     __asm__("movq %%gs:0x60, %0" : "=r"(process));
     const Entry* const table = *reinterpret_cast<const Entry* const*>(process + 0xF8);
-    return table ? std::count_if(table, table + places, [](const Entry& entry) { return entry.type != 0; })
-                 : 0;
+    return table != nullptr
+               ? std::count_if(table, table + places, [](const Entry& entry) { return entry.type != 0; })
+               : 0;
 }
 
 Holdings Take() {
@@ -96,7 +97,8 @@ int main(int argc, char** argv) {
         std::printf("%s\n", error.c_str());
         return 2;
     }
-    bool steady = Repeat("loaded and unloaded", times, [] { FreeLibrary(LoadLibraryW(L"kvrpagex64.dll")); });
+    bool steady =
+        Repeat("loaded and unloaded", times, [] { FreeLibrary(LoadLibraryW(TEXT("kvrpagex64.dll"))); });
     const std::unique_ptr<host::World> world = host::OpenWorld({}, 0, error);
     for (const auto& [kind, what] : {std::pair{host::DeviceKind::Board, "the board's page opened and closed"},
                                      std::pair{host::DeviceKind::Port, "a port's page opened and closed"}}) {

@@ -73,7 +73,7 @@ void Save(HWND window, int dialog) {
 
 // The page of a sheet; null if the window is not a sheet.
 HWND PageOf(HWND window) {
-    return FindWindowExW(window, nullptr, L"#32770", nullptr);
+    return FindWindowExW(window, nullptr, TEXT("#32770"), nullptr);
 }
 
 void Press(HWND window, int button) {
