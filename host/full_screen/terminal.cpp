@@ -271,79 +271,84 @@ std::optional<Event> Terminal::OfMouse() {
     return event;
 }
 
+// The event of a key with a code of its own; nothing if it has no meaning here.
+std::optional<Event> Terminal::OfCode(std::wint_t code) {
+    if (code == KEY_RESIZE) {
+        clearok(curscr, TRUE); // the contents are gone even if the size is the same as before
+        return Event{};
+    }
+    if (code == KEY_MOUSE) {
+        return OfMouse();
+    }
+    for (const auto& [known, meant] : keys) {
+        if (code == static_cast<wint_t>(known)) {
+            return OfKey(meant);
+        }
+    }
+    if (code >= KEY_F(1) && code <= KEY_F(12)) {
+        Event event;
+        event.kind = Event::Kind::Function;
+        event.function = static_cast<int>(code - KEY_F0);
+        return event;
+    }
+    const char* const name = keyname(static_cast<int>(code));
+    if (name != nullptr && (std::strcmp(name, "kDN3") == 0 || std::strcmp(name, "kUP3") == 0)) {
+        return OfKey({static_cast<UINT>(name[1] == 'D' ? VK_DOWN : VK_UP), 0, false, true});
+    }
+    return {};
+}
+
+// The event of a character; nothing if it has no meaning here.
+std::optional<Event> Terminal::OfCharacter(std::wint_t character) {
+    switch (character) {
+    case 0x03:
+        return EndEvent();
+    case 0x0C:
+        clearok(curscr, TRUE);
+        return Event{};
+    case 0x1A:
+        return Suspend();
+    case 0x1B:
+        return OfEscape();
+    default:
+        break;
+    }
+    for (const auto& [code, meant] : controls) {
+        if (character == code) {
+            return OfKey(meant);
+        }
+    }
+    if (character >= 0x20 && character <= 0xFFFF) {
+        return OfKey({0, static_cast<WCHAR>(character)});
+    }
+    return {};
+}
+
 // The next event; nothing if there is none within that time. A negative time waits for ever.
 std::optional<Event> Terminal::Read(int milliseconds) {
     if (pending_) {
         return std::exchange(pending_, {});
     }
-    for (;;) {
-        if (ending) {
-            return EndEvent();
-        }
+    while (!ending) {
         wint_t key = 0;
         const int kind = get_wch(&key);
-        if (kind == ERR) {
-            pollfd input{STDIN_FILENO, POLLIN, 0};
-            const timespec time{milliseconds / 1000, milliseconds % 1000 * 1'000'000L};
-            const int ready = ppoll(&input, 1, milliseconds < 0 ? nullptr : &time, &signals_before);
-            if (ready == 0) {
-                return {};
-            }
-            if (ready > 0 && (input.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0) {
-                return EndEvent();
-            }
-            continue;
-        }
-        if (kind == KEY_CODE_YES) {
-            if (key == KEY_RESIZE) {
-                clearok(curscr, TRUE); // the contents are gone even if the size is the same as before
-                return Event{};
-            }
-            if (key == KEY_MOUSE) {
-                if (const auto event = OfMouse()) {
-                    return event;
-                }
-                continue;
-            }
-            for (const auto& [code, meant] : keys) {
-                if (key == static_cast<wint_t>(code)) {
-                    return OfKey(meant);
-                }
-            }
-            if (key >= KEY_F(1) && key <= KEY_F(12)) {
-                Event event;
-                event.kind = Event::Kind::Function;
-                event.function = static_cast<int>(key - KEY_F0);
+        if (kind != ERR) {
+            if (const auto event = kind == KEY_CODE_YES ? OfCode(key) : OfCharacter(key)) {
                 return event;
             }
-            const char* const name = keyname(static_cast<int>(key));
-            if (name != nullptr && (std::strcmp(name, "kDN3") == 0 || std::strcmp(name, "kUP3") == 0)) {
-                return OfKey({static_cast<UINT>(name[1] == 'D' ? VK_DOWN : VK_UP), 0, false, true});
-            }
             continue;
         }
-        switch (key) {
-        case 0x03:
-            return EndEvent();
-        case 0x0C:
-            clearok(curscr, TRUE);
-            return Event{};
-        case 0x1A:
-            return Suspend();
-        case 0x1B:
-            return OfEscape();
-        default:
+        pollfd input{STDIN_FILENO, POLLIN, 0};
+        const timespec time{milliseconds / 1000, milliseconds % 1000 * 1'000'000L};
+        const int ready = ppoll(&input, 1, milliseconds < 0 ? nullptr : &time, &signals_before);
+        if (ready == 0) {
+            return {};
+        }
+        if (ready > 0 && (input.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0) {
             break;
         }
-        for (const auto& [code, meant] : controls) {
-            if (key == code) {
-                return OfKey(meant);
-            }
-        }
-        if (key >= 0x20 && key <= 0xFFFF) {
-            return OfKey({0, static_cast<WCHAR>(key)});
-        }
     }
+    return EndEvent();
 }
 
 Event Terminal::Next() {

@@ -1,6 +1,7 @@
 // The terminal: what a person does at it. It is left as it was found, however the program ends.
 #pragma once
 
+#include <cwchar>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -62,6 +63,8 @@ public:
 private:
     Event Suspend();
     std::optional<Event> Read(int milliseconds);
+    std::optional<Event> OfCode(std::wint_t code);
+    std::optional<Event> OfCharacter(std::wint_t character);
     Event OfEscape();
     std::optional<Event> OfMouse();
 
