@@ -363,8 +363,8 @@ TEST(Bench, UndoesOneStepAtATime) {
             "undo", "changes", "undo", "undo", "reload"},
            &after);
     EXPECT_NE(
-        answers.find("> undo\ntaken back: click \"Sort UART\"\n> changes\ndatabase: COM13: claimed -> free\n"
-                     "> undo\ntaken back: free 13\n> undo\nerror: nothing"),
+        answers.find("> undo\nundone: click \"Sort UART\"\n> changes\ndatabase: COM13: claimed -> free\n"
+                     "> undo\nundone: free 13\n> undo\nerror: there is nothing"),
         std::string::npos)
         << answers;
     EXPECT_TRUE(host::KeyChanges(file, after).empty());
@@ -377,7 +377,7 @@ TEST(Bench, RefusesWhatALivePortContradicts) {
                   "claim COM9 --even-so", "why x"});
     for (const char* expected :
          {"error: not freed: device 3 (", "error: not freed: it is free already",
-          "error: not claimed: nothing is", "error: not forgotten: device 3 (",
+          "error: not claimed: there is nothing", "error: not forgotten: device 3 (",
           "error: there is no settings line \"COM9\"", "> free COM3 --even-so\nCOM3: freed",
           "> claim COM9 --even-so\nCOM9: claimed", "error: \"x\" is not a COM number"}) {
         EXPECT_NE(answers.find(expected), std::string::npos) << expected << "\n" << answers;

@@ -80,7 +80,7 @@ class Terminal:
         end = time.monotonic() + 20
         while self.raw.count(CLEAR) == begun:
             if not self.read() and time.monotonic() > end:
-                raise AssertionError(f"not begun anew:\n{self.text()}")
+                raise AssertionError(f"not repainted:\n{self.text()}")
 
     def resize(self, columns, rows):
         self.screen.resize(rows, columns)
