@@ -159,7 +159,7 @@ Terminal::Terminal() {
 Terminal::~Terminal() {
     endwin();
     Restore();
-    sigprocmask(SIG_SETMASK, &signals_before, nullptr); // waiting signals now set `ending`, too late to matter
+    sigprocmask(SIG_SETMASK, &signals_before, nullptr); // signals that waited now only set `ending`
     for (const int signal : {SIGHUP, SIGINT, SIGTERM, SIGQUIT, SIGSEGV, SIGABRT, SIGBUS, SIGFPE, SIGILL}) {
         Handle(signal, SIG_DFL, 0);
     }

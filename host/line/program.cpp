@@ -137,8 +137,9 @@ int Run(const Session& session, OpenLines open_console, FillScreen fill_screen) 
     const std::string name = session.file.empty() ? "the sample machine" : session.file;
     Interpreter interpreter(*world, *lines, std::cout, {name, session.stop});
     if (lines->IsPerson()) {
-        interpreter.Tell(world->Greeting() +
-                         ": devices lists what can be opened, diagnose what is wrong, help the commands.");
+        interpreter.Tell(
+            world->Greeting() +
+            ": devices lists what can be opened, diagnose finds what is wrong, help lists the commands.");
     }
     const int failed = interpreter.Run();
     if (!lines->IsPerson() && !interpreter.had_input()) {
