@@ -157,7 +157,7 @@ TEST(Diagnosis, NamesThePlacesItDependsOn) {
     EXPECT_EQ(list["sound"]["numbers"], (std::vector<int>{1, 4}));
     records.known &= ~static_cast<unsigned>(host::SerialMapPlace);
     EXPECT_EQ(host::DiagnosisLines(records)[0],
-              "not known: the serial map; nothing is concluded from that. To have it,");
+              "not known: the serial map; nothing is concluded from that. To know it,");
     for (const std::string& line : host::NumberLines(records, 13)) {
         EXPECT_LE(line.size(), 80u) << line;
     }

@@ -47,11 +47,7 @@ template <class Act> void Touch(HWND dialog, int id, host::Kind kind, const Act&
 }
 
 void Slide(HWND dialog, int id, int position) {
-    Touch(dialog, id, host::Kind::Slider, [&](host::Control& slider) {
-        slider.minimum = static_cast<int>(SendMessageW(slider.window, TBM_GETRANGEMIN, 0, 0));
-        slider.maximum = static_cast<int>(SendMessageW(slider.window, TBM_GETRANGEMAX, 0, 0));
-        host::Slide(slider, position);
-    });
+    Touch(dialog, id, host::Kind::Slider, [&](const host::Control& slider) { host::Drag(slider, position); });
 }
 
 void Click(HWND dialog, int id) {

@@ -26,6 +26,10 @@ void RequireItems(const Control& combo_or_list) {
     Require(combo_or_list, {Kind::Combo, Kind::List}, "picked from");
 }
 
+void RequireSlider(const Control& slider) {
+    Require(slider, {Kind::Slider}, "slid");
+}
+
 void TellParent(const Control& control, UINT message, WPARAM wParam) {
     SendMessageW(GetParent(control.window), message, wParam, reinterpret_cast<LPARAM>(control.window));
 }
@@ -58,11 +62,16 @@ void PickItem(const Control& combo_or_list, int item) {
 }
 
 void Slide(const Control& slider, long position) {
-    Require(slider, {Kind::Slider}, "slid");
+    RequireSlider(slider);
     if (position < slider.minimum || position > slider.maximum) {
         throw Refusal("the slider goes from " + std::to_string(slider.minimum) + " to " +
                       std::to_string(slider.maximum));
     }
+    Drag(slider, position);
+}
+
+void Drag(const Control& slider, long position) {
+    RequireSlider(slider);
     SendMessageW(slider.window, TBM_SETPOS, TRUE, static_cast<LPARAM>(position));
     TellParent(slider, WM_HSCROLL, MAKEWPARAM(TB_THUMBPOSITION, position));
     TellParent(slider, WM_HSCROLL, MAKEWPARAM(TB_ENDTRACK, 0));

@@ -14,6 +14,8 @@ void Pick(const Control& combo_or_list, std::string_view item);
 void PickItem(const Control& combo_or_list, int item);
 // The position must be within the slider's range.
 void Slide(const Control& slider, long position);
+// The slider itself keeps the position within its range.
+void Drag(const Control& slider, long position);
 
 // Gives the keyboard focus to a control of a window.
 void FocusOn(const Window& window, const Control& control);
