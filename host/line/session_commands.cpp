@@ -6,7 +6,7 @@ namespace host {
 namespace {
 
 void TellOf(Interpreter& host, const Command& command) {
-    host.Tell("  " + PaddedTo(std::string{command.name} + ' ' + command.arguments, 24) + command.help);
+    host.Tell("  " + PaddedTo(std::string{command.name} + ' ' + command.arguments, 25) + command.help);
 }
 
 void Help(Interpreter& host, const Words& words) {
