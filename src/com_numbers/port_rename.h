@@ -1,5 +1,5 @@
 // Every rename of a port takes the same steps: checks, remap, notice to the device, the caller's records,
-// move of the settings. The record says where callers differ.
+// move of the settings. Where callers differ, the record says how.
 #pragma once
 
 #include "device_model/board_params.h"
@@ -9,7 +9,7 @@
 struct PortRename {
     HDEVINFO DeviceInfoSet;
     SP_DEVINFO_DATA* DeviceInfoData;
-    u32 oldNumber; // 1 to 256 like the new one, which differs
+    u32 oldNumber; // both numbers are 1 to 256, and they differ
     u32 newNumber;
     const WCHAR* settingsName; // the name under which the port's settings are kept
     WCHAR* newName;            // set to "COM%d" of the new number once the device has been told
