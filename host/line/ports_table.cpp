@@ -145,7 +145,7 @@ Lines LinesOf(const Rows& rows, int columns) {
             widths[column] = std::max(widths[column], Columns(row[column]));
         }
     }
-    const Lines lines = Written(rows, widths);
+    Lines lines = Written(rows, widths);
     if (!AreTooWide(lines, columns)) {
         return lines;
     }
