@@ -138,7 +138,7 @@ void ReplayMove(HDEVINFO set, SP_DEVINFO_DATA* data, u32 from, u32 to) {
     LocalFree(new_key);
 }
 
-// Renames as Sort UART does them on ports in reverse: each exchange brings the lowest number to its place.
+// The renames of Sort UART on ports in reverse order: each exchange brings the lowest number to its place.
 void ReplaySort(const machines::OpenBoard& board, u32 uarts) {
     for (u32 low = 1, high = uarts; low < high; ++low, --high) {
         BPPCHL* channel = board.Channel(low);
@@ -149,7 +149,8 @@ void ReplaySort(const machines::OpenBoard& board, u32 uarts) {
     }
 }
 
-// Runs one of the two on a board in reverse order; the board is new each time and its setup is not measured.
+// Measures one of the two on a board in reverse order. The board is new each time, and making it is not
+// measured.
 template <class Work> void MeasureSort(benchmark::State& state, const Work& work) {
     const u32 uarts = static_cast<u32>(state.range(0));
     const sim::Machine fresh = machines::BoardOn(Descending(uarts));

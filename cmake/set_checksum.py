@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Enters the checksum into the header of a PE file, which lld leaves empty.
+"""Writes the checksum of a PE file into its header, where lld leaves it empty.
 
     set_checksum.py FILE"""
 import array
@@ -9,7 +9,7 @@ import sys
 
 
 def checksum(image, field):
-    """The 16-bit words of the file added with their carries, the field itself as zero, and the file's length."""
+    """The sum of the file's 16-bit words with their carries, counting the field itself as zero, plus the file's length."""
     words = array.array("H", bytes(image[:field]) + bytes(4) + bytes(image[field + 4:]) + bytes(len(image) % 2))
     total = sum(words)
     while total >> 16:

@@ -1,9 +1,9 @@
-# What everything that is built for Windows has in common.
+# Settings for everything that is built for Windows.
 
 enable_language(RC)
 set(CMAKE_RC_FLAGS "-c 65001") # the texts are UTF-8
 add_compile_definitions(UNICODE _UNICODE WINVER=0x0601 _WIN32_WINNT=0x0601)
-# The same sources give the same bytes, wherever they lie.
+# The same sources give the same bytes, wherever the sources are.
 add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>)
 add_link_options(-static)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")

@@ -12,8 +12,8 @@ namespace {
 
 constexpr LANGID english_united_states = 1033;
 
-// The first code is the language's own; one without a country stands for all countries that have none of
-// their own here.
+// The first code is the language's own. A code without a country also stands for every country that has no
+// code here.
 constexpr struct Language {
     LANGID id;
     const char* name;

@@ -1,4 +1,4 @@
-// The languages of the library, by what people and systems call them.
+// The languages of the library, under the names that people and systems use for them.
 #pragma once
 
 #include <string>
@@ -8,18 +8,18 @@
 
 namespace host {
 
-// The id of a language by its number ("1031"), its code ("de", "pt_PT") or its name or the beginning of no
-// other name ("german"), without regard to case; 0 if there is none.
+// The id of a language by its number ("1031"), its code ("de", "pt_PT"), its name, or an unambiguous
+// beginning of its name ("german"), in either case; 0 if there is none.
 LANGID FindLanguage(std::string_view called);
 
-// All of them, a line each: number, code, name.
+// All languages, one per line: number, code, name.
 std::string AllLanguages();
 
-// The language of a locale such as "de_DE.UTF-8"; English (United States) for one that is none of the
-// library's languages, "C" and "POSIX" among them.
+// The language of a locale such as "de_DE.UTF-8". English (United States) if the library lacks the language,
+// and for "C" and "POSIX".
 LANGID LanguageOfLocale(std::string_view locale);
 
-// That of the environment: the first of LC_ALL, LC_MESSAGES and LANG that is set.
+// The language of the environment: of the first of LC_ALL, LC_MESSAGES and LANG that is set.
 LANGID UserLanguage();
 
 } // namespace host

@@ -26,8 +26,8 @@ bool IsIn(char32_t character, const auto& ranges) {
     });
 }
 
-// Blocks whose capitals stand before their small letters, at `distance`: 1 and -1 mean that each capital
-// stands right before its small letter, the capital at an even or at an odd number.
+// Blocks whose capitals come before their small letters by `distance`. 1 and -1 mean that each capital comes
+// right before its small letter, with the capital at an even or an odd number.
 constexpr struct {
     Range capitals;
     int distance;
@@ -144,7 +144,7 @@ std::string Folded(std::string_view text) {
 }
 
 std::string NameOf(std::string_view caption) {
-    // "(&R)" behind a caption in letters that no key has.
+    // "(&R)" follows a caption in a script that no keyboard letter belongs to.
     const std::size_t key = caption.find("(&");
     std::string name = key != std::string_view::npos && caption.substr(key).find(')') == 3
                            ? Folded(Shown(caption.substr(0, key))) + Folded(Shown(caption.substr(key + 4)))

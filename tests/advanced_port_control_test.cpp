@@ -1,5 +1,4 @@
-// The Advanced Port Control dialog: what each capability offers for each stored mode, and what OK makes of
-// it.
+// The Advanced Port Control dialog: what each capability offers for each stored mode, and what OK stores.
 #include "tests/sheets.h"
 
 namespace {
@@ -52,8 +51,8 @@ TEST(AdvancedPortControl, OffersWhatTheUartCanAndStoresNothingElse) {
     const struct {
         u32 capability;
         Lines offered;
-        // Opened with the modes 1, 2, 4, 6 and any other, all five other values at 1; the six values after an OK,
-        // "" for a refusal.
+        // Opened with the modes 1, 2, 4, 6 and an unknown one, with the other five values at 1; and the six
+        // values after OK, or "" if it was refused.
         const char* opened[4];
         const char* after_ok[5];
         // Restore Defaults at mode 6 and at an unknown one.
@@ -65,7 +64,7 @@ TEST(AdvancedPortControl, OffersWhatTheUartCanAndStoresNothingElse) {
          {"0..", "1..", "-..", "-.."}, {"100000", "200000", "400000", "400000", "100000"}, {"0..", "?.."}},
         {0x0F, {"RS-232", "RS-422", "RS-485"},
          {"0..", "1..", "2..", "-.."}, {"100000", "200000", "410000", "610000", "100000"}, {"0..", "?.."}},
-        {0x8F, {"RS-232", "RS-422", "RS-485"}, // the termination of RS-422 is another bit
+        {0x8F, {"RS-232", "RS-422", "RS-485"}, // RS-422's termination is another bit
          {"0..", "1..", "2t.", "-t."}, {"100000", "200000", "410001", "610001", "100000"}, {"0..", "?.."}},
         {0xFF, {"RS-232", "RS-422", "RS-485", "Auto RS-422/485"},
          {"0..", "1t.", "2ta", "3ta"}, {"100000", "200010", "411001", "611111", "100000"}, {"0..", "?.."}},
@@ -113,7 +112,7 @@ TEST(AdvancedPortControl, OffersWhatTheUartCanAndStoresNothingElse) {
             });
             const std::string after = *one.after_ok[column] ? one.after_ok[column] : before;
             EXPECT_EQ(StoredMode(1), after);
-            EXPECT_EQ(Changes().size(), after == before ? 0u : 6u); // the six values, and nothing else
+            EXPECT_EQ(Changes().size(), after == before ? 0u : 6u); // only the six values
             EXPECT_EQ(Boxes(), *one.after_ok[column] ? Lines{} : Lines{no_capability});
         }
     }
@@ -154,7 +153,7 @@ TEST(AdvancedPortControl, TheUsersChoiceIsStoredByOk) {
 }
 // clang-format on
 
-TEST(AdvancedPortControl, AFailedWriteKeepsTheDialogAndIsMadeUpForByTheNextOk) {
+TEST(AdvancedPortControl, AFailedWriteKeepsTheDialogOpenAndTheNextOkWritesTheRest) {
     sim::Machine machine = UartWith(0xFF, 1, 0);
     const AtWork at_work(machine);
     const auto at_page = [](HWND page) { Do(page, "advanced advanced advanced advanced advanced"); };
@@ -165,7 +164,7 @@ TEST(AdvancedPortControl, AFailedWriteKeepsTheDialogAndIsMadeUpForByTheNextOk) {
             machine.faults.at_call = {{"RegSetValueExW", 3}, {"RegSetValueExW", 4}};
             Do(dialog, "ok ok");
             EXPECT_TRUE(IsWindowVisible(dialog));
-            EXPECT_EQ(StoredMode(1), "610000"); // as far as it came
+            EXPECT_EQ(StoredMode(1), "610000"); // the values before the failure
         } else if (opened == 3) {
             Do(dialog, "ok"); // all is stored by now
             EXPECT_EQ(Changes(), Lines{});

@@ -1,5 +1,7 @@
-// The Advanced Port Settings dialog: the FIFO settings of one port, its COM number, and what goes back to the
-// page.
+// The Advanced Port Settings dialog: the FIFO settings of one port, its COM number, and what the page
+// gets back.
+#include <algorithm>
+
 #include "platform/simulated/stage.h"
 #include "tests/sheets.h"
 #include "uart_page/parent_title.h"
@@ -48,7 +50,7 @@ TEST(AdvancedPortSettings, FifoSettingsGoFromTheStoreToTheControlsAndBack) {
         key.SetDword(u"UartRxFifoSize", one.sizes[1]);
         const AtWork at_work(machine);
         StoreFifo(port, one.stored);
-        Open(Page::Port, port, {.leaves_by = ok}); // the made-up speed of the line is gone
+        Open(Page::Port, port, {.leaves_by = ok}); // corrects the made-up speed of the line
         Changes();
         const std::string before = StoredFifo(port);
         AtDialog([&](HWND dialog) {
@@ -85,7 +87,7 @@ TEST(AdvancedPortSettings, OkRenamesThePortOrStaysOpen) {
         Lines boxes;
         u32 number; // afterwards
         bool closed;
-        const char* fifo = "1 50 112"; // stored before the number is looked at
+        const char* fifo = "1 50 112"; // stored before the number is checked
     } cases[] = {
         {"a free number", "com20", IDNO, no_fault, {}, 20, true},
         {"the present number", "com20 com3", IDNO, no_fault, {}, 3, true},
@@ -130,8 +132,8 @@ TEST(AdvancedPortSettings, OkRenamesThePortOrStaysOpen) {
     }
 }
 
-TEST(AdvancedPortSettings, WhatCantBeReadHasItsBoxAtTheOpening) {
-    // The check box has no text, and what is shown behind the bounds of the sliders fails.
+TEST(AdvancedPortSettings, AValueThatCantBeReadIsReportedAtTheOpening) {
+    // The check box has no text, and the captions beside the sliders fail.
     const Fault bounds_only = [](sim::Machine& machine) {
         StoreFifo(port, {1, 9, 32});
         machine.faults = {};
@@ -182,7 +184,7 @@ TEST(AdvancedPortSettings, WhatCantBeReadHasItsBoxAtTheOpening) {
                           Shown(dialog, IDC_TRANSMIT_HIGH) + "|" + Shown(dialog, IDC_RECEIVE_LOW) + "|" +
                           Shown(dialog, IDC_RECEIVE_HIGH),
                       one.captions);
-            Do(dialog, "tx50 rx4 ok"); // works as far as it came
+            Do(dialog, "tx50 rx4 ok"); // works, partly filled
             EXPECT_FALSE(IsWindowVisible(dialog));
         };
         EXPECT_EQ(Open(Page::Port, port, {.at_page = at_page, .at_dialog = at_dialog}), "left");

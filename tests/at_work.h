@@ -1,4 +1,4 @@
-// The library at work on a machine, for a test, and the longest texts of its boxes.
+// Attaches the library to a machine for a test, and lists the longest texts of its boxes.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -15,8 +15,8 @@ inline constexpr const char* in_use_question =
     "This COM name is being used by another device (such as another com port or modem).  Using duplicate "
     "names can lead to inaccessible devices and changed settings.  Do you want to continue?";
 
-// Attached while it lasts, with the marks of that gone. Every line that the library traces is read; at the
-// end all must be given back, left and nothing misused.
+// The library is attached while this lasts, and the journal of the attachment is dropped. Every line that the
+// library traces is checked. At the end everything must have been given back and left, and nothing misused.
 struct AtWork {
     explicit AtWork(sim::Machine& machine) : machine_(machine), scope_(machine) {
         machine.trace = [this](std::string_view line) { trace_.Read(line); };

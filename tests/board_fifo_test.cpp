@@ -17,7 +17,7 @@ sim::Machine TwoUartsAndADio() {
 
 // clang-format off
 TEST(BoardFifo, FifoSettingsGoFromTheStoreToTheControlsAndBack) {
-    // The second UART stays at 1, 128, 112 unless told.
+    // The second UART stays at 1, 128, 112 unless stated.
     const char* second = "1 128 112";
     const struct {
         const char* name;
@@ -82,7 +82,7 @@ TEST(BoardFifo, FifoSettingsGoFromTheStoreToTheControlsAndBack) {
         Open(Page::Board, 0, {.at_page = at_page, .leaves_by = one.leaves_by});
         EXPECT_EQ(StoredFifo(1), one.now[0]);
         EXPECT_EQ(StoredFifo(2), one.now[1]);
-        // Each UART that changes is written once, three values, and nothing else is.
+        // Each UART that changes is written once, with three values, and no other is written.
         EXPECT_EQ(Changes().size(), 3u * (before != one.now[0]) + 3u * (second != std::string(one.now[1])));
         EXPECT_EQ(Boxes(), Lines{});
     }
@@ -128,7 +128,7 @@ TEST(BoardFifo, AFailedWriteKeepsTheRestPendingForTheNextApply) {
         Fault fault;
         const char* box;
         const char* half_way[2];
-        std::size_t retried; // values of the second Apply
+        std::size_t retried; // values that the second Apply writes
     } cases[] = {
         {"no access", Lock(1), "Set COM3 fifo settings failure. [serr:100]", {"1 128 112", "1 128 112"}, 6},
         {"the first value", Fail("RegSetValueExW", 1), "Set COM3 fifo settings failure. [serr:102]", {"1 128 112", "1 128 112"}, 6},

@@ -9,7 +9,7 @@ using namespace sheets;
 
 const char* const headings = "Resource Type: Setting";
 
-TEST(BoardPage, ChannelsStandByTheirNumberWithTheirResources) {
+TEST(BoardPage, ChannelsAreListedByNumberWithTheirResources) {
     sim::Machine machine;
     AddBoard(machine, {}, 9);
     AddChannel(machine, {}, ClassCan, 7);
@@ -19,8 +19,8 @@ TEST(BoardPage, ChannelsStandByTheirNumberWithTheirResources) {
     const std::size_t dio = AddChannel(machine, {}, ClassDio, 1);
     AddUart(machine, {}, 9, 13);                    // beyond what the board states
     AddUart(machine, {}, 0, 14);                    // no number of a channel
-    AddUart(machine, {.bus = 3, .irq = 18}, 5, 15); // another board's
-    AddUart(machine, {}, 4, 16);                    // a number that another one has first
+    AddUart(machine, {.bus = 3, .irq = 18}, 5, 15); // of another board
+    AddUart(machine, {}, 4, 16);                    // the number of a channel that came first
     sim::Values& key = machine.devices[uart].key;
     key.SetQword(u"ChlEventAddr", 0xFEDCBA9876543210);
     key.SetDword(u"ChlEventLength", 0xFFFFFFFF);
@@ -114,7 +114,7 @@ TEST(BoardPage, OkRenamesTheSelectedPortOrSaysWhyNot) {
         Fault fault;
         Lines boxes;
         u32 number;              // of the first UART afterwards
-        const char* fifo = "1 50 112"; // stored before the number is looked at
+        const char* fifo = "1 50 112"; // stored before the number is checked
     } cases[] = {
         {"a free number", "com20", no_fault, {}, 20},
         {"the present number is no change", "com3", no_fault, {}, 3},
@@ -152,7 +152,7 @@ TEST(BoardPage, OkRenamesTheSelectedPortOrSaysWhyNot) {
 }
 // clang-format on
 
-TEST(BoardPage, TheComboHasAllNumbersAndSparesItsOwn) {
+TEST(BoardPage, TheComboMarksEveryClaimedNumberButItsOwn) {
     const Fault no_combo = [](auto& machine) { machine.missing_controls = {IDC_PORT_NUMBER}; };
     const struct {
         const char16_t* name;
@@ -202,7 +202,7 @@ TEST(BoardPage, ASortShowsInTheListAndTheComboOnceTheDialogHasClosed) {
         EXPECT_EQ(Items(page, IDC_PORT_LIST), (Lines{"COM5 (port1)", "COM7 (port2)"}));
         EXPECT_EQ(Selection(page, IDC_PORT_LIST), 1);
         EXPECT_EQ(Shown(page, IDC_PORT_NUMBER), "COM7");
-        Do(page, "tx50 advanced"); // nothing to sort: the page is left as the user has it
+        Do(page, "tx50 advanced"); // nothing to sort: the page keeps the user's changes
         EXPECT_EQ(Fifo(page), "on tx 50/128 High (50) rx 4 High (112) live");
     };
     EXPECT_EQ(Open(Page::Board, 0, {.at_page = at_page, .at_dialog = at_dialog}), "left");

@@ -1,4 +1,4 @@
-// The COM port database, the rename in its five places, and what stands around it.
+// The COM port database, the rename in its five places, and the steps before and after it.
 #include <algorithm>
 #include <functional>
 #include <map>
@@ -26,7 +26,7 @@ constexpr std::size_t port = 1; // the device of BoardOn's first UART
 TEST(ComPortDatabase, NumbersAreBitsAndTheHighestFreeOneWins) {
     const struct {
         const char* what;
-        u32 first, last, exception; // claimed, but for one
+        u32 first, last, exception; // all of these are claimed except one
         u32 status, number;
     } cases[] = {
         {"an empty database", 1, 0, 0, 0, 256},        {"the highest claimed", 256, 256, 0, 0, 255},
@@ -53,7 +53,7 @@ TEST(ComPortDatabase, NumbersAreBitsAndTheHighestFreeOneWins) {
 
 // --- The rename -----------------------------------------------------------------------------------------
 
-// A user's rename of a UART from COM5 to COM7, who may not take a number that is claimed.
+// A user who may not take a claimed number renames a UART from COM5 to COM7.
 bool RenameFrom5To7() {
     OpenDevice device(port);
     WCHAR saved[StoreTextCapacity] = u"COM5";
@@ -100,8 +100,8 @@ TEST(PortRename, TouchesTheOutsideInThisOrder) {
     EXPECT_EQ(PlacesOf(machine, 2), PlacesAt(machine, 2, 6));
 }
 
-// The places of the port: PortName, friendly name, DOS names, serial map, database, line; "5d": the default
-// line.
+// The state of the port's places: PortName, friendly name, DOS names, serial map, database, line. "5d" stands
+// for the default line.
 std::string State(sim::Machine& machine) {
     const Places places = PlacesOf(machine, port);
     sim::Text names;
@@ -129,7 +129,7 @@ std::string State(sim::Machine& machine) {
 constexpr const char* untouched = "5 | (5) | 5 | 5 | 5 | 5";
 constexpr const char* renamed = "7 | (7) | 7 | 7 | 7 | 7";
 
-using Call = std::pair<std::string_view, std::size_t>; // a name, and which of its calls
+using Call = std::pair<std::string_view, std::size_t>; // a name, and the number of the call
 struct Outcome {
     std::string state = renamed;
     std::string box = {};
@@ -161,11 +161,12 @@ const std::map<Call, Outcome> after_failure = {
     {{"WriteProfileStringW", 1}, {"7 | (7) | 7 | 7 | 7 | "}},
     {{"WriteProfileStringW", 2}, {"7 | (7) | 7 | 7 | 7 | 57"}},
 };
-// Where two failures leave something else than the later one, or the earlier where only that leaves anything.
+// Pairs of failures that leave something else than the later one alone, or than the earlier one if only that
+// leaves anything.
 const std::map<std::pair<Call, Call>, Outcome> after_both = {
     {{{"DefineDosDeviceW", 2}, {"DefineDosDeviceW", 3}},
      {"5 | (5) |  | 5 | 5 | 5", "There was an error renaming the COM port."}},
-    {{{"RegOpenKeyExW", 1}, {"RegSetValueExW", 1}}, {"5 | (7) | 7 | 5 | 7 | 7"}}, // that of PortName then
+    {{{"RegOpenKeyExW", 1}, {"RegSetValueExW", 1}}, {"5 | (7) | 7 | 5 | 7 | 7"}}, // the one of PortName
     {{{"RegEnumValueW", 1}, {"RegSetValueExW", 1}}, {"5 | (7) | 7 | 5 | 7 | 7"}},
     {{{"ComDBReleasePort", 1}, {"ComDBClaimPort", 1}}, {"7 | (7) | 7 | 7 | 5 | 7"}},
     {{{"GetProfileStringW", 1}, {"WriteProfileStringW", 1}}, {"7 | (7) | 7 | 7 | 7 | "}},
@@ -178,7 +179,7 @@ Outcome OutcomeOf(const Call& failed) {
     return row != after_failure.end() ? row->second : Outcome();
 }
 
-// Place by place, what differs from a rename without failure.
+// Place by place, the differences from a rename without failure.
 Outcome OutcomeOf(const Call& failed, const Call& failed_too) {
     const auto row = after_both.find({failed, failed_too});
     Outcome first = OutcomeOf(failed), second = OutcomeOf(failed_too);
@@ -208,7 +209,7 @@ Outcome OutcomeOf(const Call& failed, const Call& failed_too) {
     return {state, ""};
 }
 
-// Renames with failures at these operations; those that were met.
+// Renames with failures at these operations. Returns the failures that occurred.
 std::vector<Call> ExpectOutcomeWithFailures(const std::vector<std::size_t>& at) {
     sim::Machine machine = BoardOn({5, 6});
     const AtWork at_work(machine);
@@ -221,10 +222,10 @@ std::vector<Call> ExpectOutcomeWithFailures(const std::vector<std::size_t>& at) 
     SCOPED_TRACE(testing::PrintToString(failed));
     EXPECT_EQ(done, expected.done);
     EXPECT_EQ(State(machine), expected.state);
-    // Whatever of the property change fails, each step of it is made.
+    // Each step of the property change is made, whichever of them fails.
     EXPECT_EQ(Count(machine, "SetupDiSetClassInstallParamsW"), done ? 1u : 0u);
     EXPECT_EQ(Count(machine, "SetupDiCallClassInstaller"), done ? 1u : 0u);
-    // The second may be one of the box that tells of the first.
+    // The second failure may be in the box that reports the first.
     const bool is_untold =
         failed.size() == 2 && !OutcomeOf(failed[0]).done && !after_both.contains({failed[0], failed[1]});
     EXPECT_TRUE(is_untold || machine.boxes.size() == (done ? 0u : 1u));
@@ -318,7 +319,7 @@ TEST(PortRename, ADosNameThatStayedIsNotDefinedAgain) {
     EXPECT_EQ(Count(machine, "DefineDosDeviceW"), 2u);
 }
 
-// --- What stands around it ------------------------------------------------------------------------------
+// --- The steps before and after it ----------------------------------------------------------------------
 
 TEST(PortSettingsMigration, MovesALineAsItIsWithBothKeysThereAtTheNotice) {
     const sim::Text longest(80, u'9');

@@ -1,5 +1,5 @@
-// Sort UART on whole machines at random and on six ports in every order, each of them sound, and with one
-// operation that fails.
+// Sort UART on random machines and on six ports in every order, undisturbed and with one operation that
+// fails.
 #include <algorithm>
 #include <functional>
 #include <set>
@@ -18,13 +18,13 @@ using Numbers = std::vector<u32>;
 
 constexpr std::size_t renames_in_exchange = 3;
 
-// A machine with one board among other things.
+// A machine with one board among other devices.
 struct RandomMachine {
     sim::Machine machine;
-    Numbers numbers;                 // of the board's UARTs, by channel
+    Numbers numbers;                 // of the board's UARTs, in channel order
     std::vector<std::size_t> uarts;  // their devices
-    std::vector<std::size_t> others; // further ports
-    std::vector<Places> before;      // theirs
+    std::vector<std::size_t> others; // the other ports
+    std::vector<Places> before;      // places of the other ports
     std::size_t exchanges = 0;
 
     void Keep(std::size_t other) {
@@ -37,12 +37,12 @@ struct RandomMachine {
     }
 };
 
-// A COM number and what is on it: see MakeMachine.
+// A COM number and what has it: see MakeMachine.
 using Entries = std::vector<std::pair<u32, u32>>;
 constexpr u32 on_mainboard = 1;
 constexpr u32 on_board = 5;
 
-// Numbers are taken once, and one stays free.
+// Each number is used once, and at least one stays free.
 RandomMachine MakeMachine(const Entries& entries, bool reversed) {
     RandomMachine made;
     sim::Machine& machine = made.machine;
@@ -144,7 +144,7 @@ bool IsOfSerialMap(const sim::JournalEntry& entry) {
            entry.detail.starts_with("SERIALCOMM");
 }
 
-// Takes from both sides the places that a failing operation leaves behind for good, without a word.
+// Removes from both sides the places that a failing operation leaves wrong silently and permanently.
 void LeaveOut(const sim::JournalEntry& failed, Places& places) {
     const std::string_view name = failed.name;
     if (name.ends_with("DosDeviceW")) {
@@ -163,7 +163,7 @@ void LeaveOut(const sim::JournalEntry& failed, Places& places) {
     }
 }
 
-// True if there was an operation at that place.
+// Returns whether there was an operation at that position.
 bool SurvivesFailureAt(std::size_t at, RandomMachine made) {
     sim::Machine& machine = made.machine;
     machine.journal_reads = false;
@@ -200,7 +200,8 @@ bool SurvivesFailureAt(std::size_t at, RandomMachine made) {
         const bool name_is_wrong = failed.name == "RegSetValueExW" && !IsOfSerialMap(failed);
         RC_ASSERT(name_is_wrong || machine.journal.empty());
     } else {
-        // All places agree, and at most one port is on a number that was free. Another click finishes.
+        // All places agree, and at most one port has a number that was free before. Another click finishes
+        // the sort.
         Numbers after;
         for (const std::size_t uart : made.uarts) {
             after.push_back(ComNumberFromName(PlacesOf(machine, uart).port_name.c_str()));
@@ -220,7 +221,7 @@ bool SurvivesFailureAt(std::size_t at, RandomMachine made) {
 void SurvivesOneFailure() {
     RandomMachine made = AnyMachine();
     RC_PRE(made.exchanges != 0);
-    // An exchange is of a hundred operations and more; behind the last all goes well.
+    // An exchange takes a hundred operations or more. After the last operation nothing can fail.
     const std::size_t last = 130 * made.exchanges;
     SurvivesFailureAt(*rc::gen::resize(100, rc::gen::inRange<std::size_t>(1, last)), std::move(made));
 }
@@ -234,8 +235,9 @@ void SurvivesEachFailure() {
     RC_ASSERT(at > 9 * 30u);
 }
 
-// All orders of six ports, each operation of each failing once. A run takes one operation in a hundred, from
-// another one on with each order; a long one takes all, a quarter of a million sorts.
+// All orders of six ports, with each operation of each order failing once. A normal run takes one operation
+// in a hundred, starting at a different one for each order; a long run takes all, a quarter of a million
+// sorts.
 TEST(ComSort, SixPortsInEveryOrderEachOperationMayFailOnce) {
     const std::size_t step = IsLongRun() ? 1 : 97;
     Numbers numbers = {3, 4, 5, 6, 7, 8};

@@ -13,8 +13,8 @@ using namespace machines;
 using Numbers = std::vector<u32>;
 using Change = std::function<void(sim::Machine&)>;
 
-// The numbers of a board made by BoardOn, by channel, as all places have them; 0 for a port whose places
-// differ.
+// The numbers of a board made by BoardOn, in channel order, if all places agree; 0 for a port whose places
+// disagree.
 Numbers NumbersOf(sim::Machine& machine, std::size_t uarts) {
     Numbers numbers;
     for (std::size_t device = 1; device <= uarts; ++device) {
@@ -25,8 +25,8 @@ Numbers NumbersOf(sim::Machine& machine, std::size_t uarts) {
     return numbers;
 }
 
-// Opens the Advanced Port Control dialog on a channel, clicks Sort UART and closes it by Cancel, and any box
-// by OK.
+// Opens the Advanced Port Control dialog for a channel, clicks Sort UART and closes it with Cancel, and any
+// box with OK.
 void SortInDialog(sim::Machine& machine, BPPCHL* channel) {
     machine.user = [](HWND front) {
         if (sim::BoxStyle(front) != 0) {
@@ -39,7 +39,7 @@ void SortInDialog(sim::Machine& machine, BPPCHL* channel) {
     KvrBoardUartAdvancedDlgShow(nullptr, channel);
 }
 
-// The moves as the journal has them, "5->256".
+// The moves in the journal, as "5->256".
 std::vector<std::string> Moves(const sim::Machine& machine) {
     std::vector<std::string> moves;
     for (const sim::JournalEntry& entry : machine.journal) {
@@ -52,7 +52,7 @@ std::vector<std::string> Moves(const sim::Machine& machine) {
     return moves;
 }
 
-TEST(ComSort, MakesTheExchangesInThisOrderAndAsksNoPortInItsPlace) {
+TEST(ComSort, MakesTheExchangesInThisOrderAndChecksOnlyPortsThatMove) {
     const struct {
         Numbers before;
         std::vector<std::string> moves;
@@ -96,12 +96,12 @@ TEST(ComSort, MakesTheExchangesInThisOrderAndAsksNoPortInItsPlace) {
     }
 }
 
-// With channels 1 to 4 on 7, 5, 8 and 6.
-TEST(ComSort, AFailureLeavesWhatTheMovesBeforeItDid) {
+// The channels 1 to 4 are on 7, 5, 8 and 6.
+TEST(ComSort, AFailureKeepsTheMovesBeforeIt) {
     const auto nth = [](const char* operation, std::size_t call) {
         return [=](sim::Machine& machine) { machine.faults.at_call = {{operation, call}}; };
     };
-    // The n-th rename finds the old DOS name gone on the second look.
+    // At the second look the n-th rename finds that the old DOS name is gone.
     const auto rename = [=](std::size_t n) { return nth("QueryDosDeviceW", 2 * n); };
     const auto opened = [](std::size_t device) {
         return [=](sim::Machine& machine) { machine.devices[device].key.SetDword(u"ChlOpened", 1); };
@@ -146,7 +146,7 @@ TEST(ComSort, AFailureLeavesWhatTheMovesBeforeItDid) {
                                                      "1 on",  "2 on",  "844 on",  "1054 on"};
         buttons.erase(buttons.begin()); // the dialog's own
         EXPECT_EQ(buttons, each.box.starts_with("KVR") ? off_and_on : std::vector<std::string>{});
-        // Once the obstacle is gone, another click finishes.
+        // Once the obstacle is gone, another click finishes the sort.
         machine.faults = {};
         machine.devices[2].key.SetDword(u"ChlOpened", 0);
         machine.devices[3].key.SetDword(u"ChlOpened", 0);

@@ -1,4 +1,4 @@
-// The device store as hostile input, and how a board finds its channels and gives everything back.
+// The device store with hostile contents, and how a board finds its channels and releases everything.
 #include <algorithm>
 #include <cstring>
 #include <functional>
@@ -29,10 +29,10 @@ struct Reading {
     const char* what;
     u32 (*read)(HDEVINFO, SP_DEVINFO_DATA*, void*);
     std::size_t record_bytes;
-    std::vector<Field> fields; // in the order of reading, which is that of the record
+    std::vector<Field> fields; // in the order of reading, which is the order in the record
 };
 
-// Fields of 4 bytes, or of as many as stand behind a colon; the first one at `offset`.
+// Fields of 4 bytes, or of the number after a colon; the first one is at `offset`.
 std::vector<Field> Fields(std::size_t offset, const std::string& names) {
     std::vector<Field> fields;
     std::istringstream words(names);
@@ -77,7 +77,7 @@ const Reading readings[] = {
      Fields(0, "KvrCanCapability KvrCanTxMsgQueueSize KvrCanTxEventQueueSize KvrCanRxMsgQueueSize "
                "KvrCanNrRxFilterGroup KvrCanSystemClkRate KvrCanReferenceClkRate KvrCanFifoTXMMax "
                "KvrCanFifoTXEMax KvrCanFifoRXMMax")},
-    {OF(UartBasicInfo, UartGetBasic), // behind the name, which is read by itself
+    {OF(UartBasicInfo, UartGetBasic), // after the name, which is read separately
      Fields(128, "UartTxFifoSize UartRxFifoSize UartClkRate UartCapability UartDefCntFifoSettings "
                  "UartDefCntAdvanceSettings UartFifoEnable UartTxFifoLowHigh UartRxFifoLowHigh UartMode "
                  "UartAHDC UartCS UartAutoRS422485 UartRS422Termination UartRS485Termination")},
@@ -93,7 +93,7 @@ std::vector<BYTE> Pattern(std::size_t length, std::size_t seed) {
     return bytes;
 }
 
-// A device with all values of a reading, each filling its field to the last byte.
+// A device with all values of a reading. Each fills its field to the last byte.
 sim::Machine MachineFor(const Reading& reading) {
     sim::Machine machine;
     machine.devices.emplace_back().instance_id = u"D";
@@ -112,7 +112,7 @@ bool HasTerminator(const std::vector<BYTE>& text) {
     return false;
 }
 
-// What the record holds after the first `count` fields were read into a block that held 0xAA.
+// What the record holds after the first `count` fields were read into a block that was filled with 0xAA.
 std::vector<BYTE> ExpectedRecord(const Reading& reading, const sim::Machine& machine, std::size_t count) {
     std::vector<BYTE> record(reading.record_bytes, 0xAA);
     for (const Field& field : std::span(reading.fields).first(count)) {
@@ -126,7 +126,7 @@ std::vector<BYTE> ExpectedRecord(const Reading& reading, const sim::Machine& mac
     return record;
 }
 
-// Reads on a heap block of the record's very size, so that a byte behind it is found out.
+// Reads into a heap block of exactly the record's size, so that a byte written after it is detected.
 void ExpectReading(const Reading& reading, sim::Machine& machine, u32 status, std::size_t count,
                    const std::string& what) {
     const AtWork at_work(machine);
@@ -184,7 +184,7 @@ TEST(DeviceStore, EachReadingTakesItsValuesInOrderWhateverTheirTypeAndLength) {
 
 // --- Discovery ------------------------------------------------------------------------------------------
 
-// Two lines: what is listed in the order of enumeration, and what the walk visits, as "class:number".
+// Two lines: the channels in the order of enumeration, and those that the walk visits, as "class:number".
 std::string Channels(const BoardParams& params) {
     std::string text;
     const auto add = [&](const BPPCHL* chl) {
@@ -205,8 +205,8 @@ std::string Channels(const BoardParams& params) {
     return text;
 }
 
-// The board is device 0; its channels 5 to 1 are the devices 1 to 5, one of each class, UART last in number.
-// Then a mainboard port.
+// The board is device 0. Its channels 5 to 1 are the devices 1 to 5, one of each class, and the UART has the
+// highest device number. A mainboard port follows.
 sim::Machine OneOfEach() {
     sim::Machine machine;
     AddBoard(machine, {}, 6);
@@ -222,8 +222,8 @@ constexpr const char* all_of_each = " 1:5 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4 1:5"
 
 TEST(BoardDiscovery, ARecordIsMadeFromTheStoreAndTheClassOfItsInterface) {
     sim::Machine machine = OneOfEach();
-    machine.devices[3].key.SetDword(u"ChlType", 1);           // what the driver calls it has no influence
-    machine.devices[2].key.Set(u"DioNrBank", REG_BINARY, {}); // nothing stays of the channel before
+    machine.devices[3].key.SetDword(u"ChlType", 1);           // the driver's type has no influence
+    machine.devices[2].key.Set(u"DioNrBank", REG_BINARY, {}); // nothing is left of the channel before
     const AtWork at_work(machine);
     const OpenBoard board;
     EXPECT_TRUE(board.initiated);
@@ -254,7 +254,7 @@ TEST(BoardDiscovery, AChannelIsKeptIfItCanBeReadAndBelongsToTheBoard) {
     const auto without = [](std::size_t device, const char16_t* name) {
         return [=](sim::Machine& machine) { machine.devices[device].key.Erase(name); };
     };
-    // The path of the UART's interface such that the detail needs so many bytes.
+    // The path of the UART's interface, such that its detail needs that many bytes.
     const auto path_of = [](std::size_t needed) {
         return [=](sim::Machine& machine) {
             const std::size_t before = offsetof(SP_DEVICE_INTERFACE_DETAIL_DATA_W, DevicePath);
@@ -312,7 +312,7 @@ TEST(BoardDiscovery, TheBoardsOwnValuesMustAllBeReadable) {
     }
 }
 
-// What is left of OneOfEach if an operation fails once: the first that fits a call counts.
+// What OneOfEach still has if an operation fails once. The first row that fits a call applies.
 constexpr std::size_t any = ~std::size_t{0};
 const struct {
     std::string_view operation;
@@ -323,9 +323,9 @@ const struct {
     {"SetupDiGetClassDevsW", any, StatusNoInterfaceSet, 0, 0},
     {"LocalAlloc", 1, StatusNoMemory, 0, 0}, // the buffer; then a record and its path for each channel
     {"LocalAlloc", any, 0, 4, 5},
-    {"SetupDiOpenDevRegKey", 4, StatusNoKey, 0, 0}, // the board's own
+    {"SetupDiOpenDevRegKey", 4, StatusNoKey, 0, 0}, // of the board's own
     {"RegQueryValueExW", 18, StatusReadFailed, 0, 0},
-    {"SetupDiOpenDevRegKey", any, 0, 4, 5}, // of an interface, which may be nobody's channel
+    {"SetupDiOpenDevRegKey", any, 0, 4, 5}, // of an interface that may belong to no channel
     {"RegQueryValueExW", any, 0, 4, 5},
     {"SetupDiGetDeviceInterfaceDetailW", any, 0, 4, 5},
     {"SetupDiEnumDeviceInterfaces", any, 0, 4, 5},

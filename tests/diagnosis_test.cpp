@@ -1,5 +1,5 @@
-// What is found wrong with a machine, and the laws that hold for any: what is taken from the evidence takes
-// findings away, what the pages do brings none, what is mended is mended, and a patch goes there and back.
+// What is found wrong with a machine, and laws that hold for any machine: removing evidence removes findings,
+// the pages cause no new ones, mending works, and a patch can be applied and taken back.
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -27,8 +27,8 @@ namespace {
 using namespace machines;
 using Names = std::vector<std::string>;
 
-// A file that holds every place of a machine. An interface is told there by its path alone, and what the
-// machines of the tests have for settings lines no page shows as it is.
+// A file that holds every place of a machine. Such a file identifies an interface by its path alone, and no
+// page shows the test machines' settings lines as they are written.
 host::MachineFile FileOf(sim::Machine machine) {
     for (std::size_t index = 0; index < machine.interfaces.size(); ++index) {
         machine.interfaces[index].path = u"\\\\?\\" + PortName(static_cast<u32>(index));
@@ -50,7 +50,7 @@ host::Records RecordsOf(const host::MachineFile& file) {
     return host::RecordsOf(world);
 }
 
-// "stale-claim COM13", with the device's number in the list where there is no COM number.
+// "stale-claim COM13", or the device's number in the list if there is no COM number.
 Names Told(const host::Records& records) {
     Names names;
     for (const host::Finding& finding : host::Diagnose(records)) {
@@ -61,7 +61,7 @@ Names Told(const host::Records& records) {
     return names;
 }
 
-// A board with the channels 1 and 2 on COM3 and COM4, a port of its own on COM1.
+// A board with the channels 1 and 2 on COM3 and COM4, and a mainboard port on COM1.
 sim::Machine SoundMachine() {
     sim::Machine machine = BoardOn({3, 4});
     AddMainboardPort(machine, 1);
@@ -84,7 +84,7 @@ void TakeFromMap(sim::Machine& machine, std::u16string_view name) {
     });
 }
 
-constexpr std::size_t board = 0, first = 1, second = 2, mainboard = 3; // of the machine's devices
+constexpr std::size_t board = 0, first = 1, second = 2, mainboard = 3; // devices of the machine
 
 TEST(Diagnosis, FindsWhatIsWrong) {
     using Machine = sim::Machine;
@@ -95,7 +95,7 @@ TEST(Diagnosis, FindsWhatIsWrong) {
         {[](Machine&) {}, {}},
         {[](Machine& m) { sim::SetClaimed(m.port_usage, 13, true); }, {"stale-claim COM13"}},
         {[](Machine& m) { sim::SetClaimed(m.port_usage, 300, true); }, {"stale-claim COM300"}},
-        {[](Machine& m) { // some other driver's live port
+        {[](Machine& m) { // a live port of another driver
              sim::SetClaimed(m.port_usage, 13, true);
              m.serial_map.SetText(u"\\Device\\Modem", u"COM13");
          },
@@ -141,7 +141,7 @@ TEST(Diagnosis, FindsWhatIsWrong) {
     }
 }
 
-TEST(Diagnosis, TellsWhatItRestsOn) {
+TEST(Diagnosis, NamesThePlacesItDependsOn) {
     sim::Machine machine = SoundMachine();
     machine.devices[first].key.SetQword(u"ChlType", 1);
     machine.devices[first].description = u"A\nport\x1B[2J";
@@ -157,7 +157,7 @@ TEST(Diagnosis, TellsWhatItRestsOn) {
     EXPECT_EQ(list["sound"]["numbers"], (std::vector<int>{1, 4}));
     records.known &= ~static_cast<unsigned>(host::SerialMapPlace);
     EXPECT_EQ(host::DiagnosisLines(records)[0],
-              "not known: the serial map; nothing is concluded from that. To have it,");
+              "not known: the serial map; nothing is concluded from that. To know it,");
     for (const std::string& line : host::NumberLines(records, 13)) {
         EXPECT_LE(line.size(), 80u) << line;
     }
@@ -183,7 +183,7 @@ TEST(Diagnosis, SeesWhatAPageWouldNotShowAsItIsWritten) {
 
 // --- Laws -----------------------------------------------------------------------------------------------
 
-// Does commands on the machine of a file; what they answer.
+// Runs commands on the machine of a file. Returns their output.
 std::string Do(const host::MachineFile& file, const Names& commands, host::MachineFile* after = nullptr) {
     sim::Machine machine;
     host::SimulatedWorld world(file, machine);
@@ -199,7 +199,7 @@ std::string Do(const host::MachineFile& file, const Names& commands, host::Machi
     return out.str();
 }
 
-// A board's UARTs on any numbers, each at most once; the first one is the first channel's.
+// The numbers of a board's UARTs, each used once; the first is that of the first channel.
 std::vector<u32> AnyNumbers() {
     std::vector<u32> numbers = *rc::gen::unique<std::vector<u32>>(rc::gen::inRange<u32>(1, 60));
     numbers.resize(std::min<std::size_t>(numbers.size(), 8));
@@ -210,7 +210,7 @@ u32 AnyNumber() {
     return *rc::gen::inRange<u32>(1, 257);
 }
 
-// The same with anything wrong in the places.
+// The same, with anything wrong in the places.
 sim::Machine AnyMachine() {
     sim::Machine machine = BoardOn(AnyNumbers());
     for (std::size_t count = *rc::gen::inRange<std::size_t>(0, 6); count > 0; --count) {
@@ -238,7 +238,7 @@ sim::Machine AnyMachine() {
     return machine;
 }
 
-TEST(DiagnosisLaws, WhatIsTakenFromTheEvidenceOnlyTakesFindings) {
+TEST(DiagnosisLaws, LessEvidenceGivesNoNewFindings) {
     Check(200, 100, [] {
         host::Records records = RecordsOf(FileOf(AnyMachine()));
         const Names all = Told(records);
@@ -265,7 +265,7 @@ TEST(DiagnosisLaws, WhatIsTakenFromTheEvidenceOnlyTakesFindings) {
     });
 }
 
-TEST(DiagnosisLaws, WhatThePagesDoBringsNoFinding) {
+TEST(DiagnosisLaws, ThePagesCauseNoFindings) {
     Check(20, 100, [] {
         const std::vector<u32> numbers = AnyNumbers();
         const host::MachineFile file = FileOf(BoardOn(numbers));
@@ -273,7 +273,7 @@ TEST(DiagnosisLaws, WhatThePagesDoBringsNoFinding) {
             return std::ranges::find(numbers, number) == numbers.end();
         });
         host::MachineFile after;
-        // Whether numbers ascend is the user's choice, and the sort's work.
+        // Whether the numbers ascend is the user's choice and the task of the sort.
         Do(file, {"open 1", "pick 846 COM" + std::to_string(free), "sheet ok"}, &after);
         for (const std::string& name : Told(RecordsOf(after))) {
             RC_ASSERT(name == "numbers-unordered 1");
@@ -299,14 +299,14 @@ std::string Content(const std::string& path) {
     return content.str();
 }
 
-// The file as a registry has it into which a patch is imported.
+// The file as a registry has it after a patch was imported.
 host::MachineFile Imported(const host::MachineFile& file, const std::string& patch) {
     const std::string export_file = testing::TempDir() + "diagnosis_test.reg";
     std::string error;
     sim::Machine machine;
     host::GiveMachine(file, machine);
     EXPECT_TRUE(host::SaveMachine(file, machine, export_file, error)) << error;
-    const std::size_t first_line = 2 + 2 * (host::export_first_line.size() + 2); // with its mark
+    const std::size_t first_line = 2 + 2 * (host::export_first_line.size() + 2); // with its byte order mark
     return machine_files::Read(Content(export_file) + Content(patch).substr(first_line));
 }
 
@@ -321,7 +321,7 @@ bool IsEqual(const host::TreeKey& left, const host::TreeKey& right) {
            });
 }
 
-TEST(DiagnosisLaws, APatchGoesThereAndBack) {
+TEST(DiagnosisLaws, APatchCanBeAppliedAndTakenBack) {
     Check(40, 100, [] {
         const std::string patch = testing::TempDir() + "diagnosis_patch.reg";
         std::filesystem::remove(patch);
@@ -352,7 +352,7 @@ TEST(DiagnosisLaws, APatchGoesThereAndBack) {
     });
 }
 
-TEST(Bench, TakesBackWhatWasDoneAStepAtATime) {
+TEST(Bench, UndoesOneStepAtATime) {
     sim::Machine machine = BoardOn({4, 3});
     sim::SetClaimed(machine.port_usage, 13, true);
     const host::MachineFile file = FileOf(machine);
@@ -363,8 +363,8 @@ TEST(Bench, TakesBackWhatWasDoneAStepAtATime) {
             "undo", "changes", "undo", "undo", "reload"},
            &after);
     EXPECT_NE(
-        answers.find("> undo\ntaken back: click \"Sort UART\"\n> changes\ndatabase: COM13: claimed -> free\n"
-                     "> undo\ntaken back: free 13\n> undo\nerror: nothing"),
+        answers.find("> undo\nundone: click \"Sort UART\"\n> changes\ndatabase: COM13: claimed -> free\n"
+                     "> undo\nundone: free 13\n> undo\nerror: there is nothing"),
         std::string::npos)
         << answers;
     EXPECT_TRUE(host::KeyChanges(file, after).empty());
@@ -377,9 +377,9 @@ TEST(Bench, RefusesWhatALivePortContradicts) {
                   "claim COM9 --even-so", "why x"});
     for (const char* expected :
          {"error: not freed: device 3 (", "error: not freed: it is free already",
-          "error: not claimed: nothing is", "error: not forgotten: device 3 (",
+          "error: not claimed: there is nothing", "error: not forgotten: device 3 (",
           "error: there is no settings line \"COM9\"", "> free COM3 --even-so\nCOM3: freed",
-          "> claim COM9 --even-so\nCOM9: claimed", "error: \"x\" is no COM number"}) {
+          "> claim COM9 --even-so\nCOM9: claimed", "error: \"x\" is not a COM number"}) {
         EXPECT_NE(answers.find(expected), std::string::npos) << expected << "\n" << answers;
     }
 }

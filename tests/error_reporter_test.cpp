@@ -25,7 +25,7 @@ struct Expected {
     u32 choice = IDNO;
 };
 
-// Channel 7, COM8, COM9.
+// Reported for channel 7, COM8 and COM9.
 const Expected all_codes[] = {
     {1, 0, no_memory, plain, "Communications Port"},
     {2, 0, "Load string failure."},
@@ -65,7 +65,7 @@ const Expected all_codes[] = {
     {406, 0xFFFFFFFF, "KVR channle(7), temporary COM8 remap to COM9 failure. [serr:-1]"},
 };
 
-// Reports a failure on a fresh machine, changed before.
+// Reports a failure on a fresh machine, after `change`.
 void ExpectBox(const Expected& expected, const std::function<void(sim::Machine&)>& change = {}) {
     SCOPED_TRACE(std::to_string(expected.oerr) + " with " + std::to_string(expected.serr));
     sim::Machine machine;

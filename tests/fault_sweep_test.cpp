@@ -1,6 +1,5 @@
-// Both pages with each operation of their whole life failing once, at every position: nothing crashes, hangs
-// or leaks, the sheet always ends, the user is told only what the system has words for, and the next opening
-// works.
+// Both pages with each operation of their whole life failing once: nothing crashes, hangs or leaks, the sheet
+// always ends, the user sees only messages that the system has, and the next opening works.
 #include <cctype>
 #include <optional>
 #include <random>
@@ -13,7 +12,7 @@ namespace {
 using namespace machines;
 using namespace sheets;
 
-// A text with each number in it as one "#".
+// A text with each number replaced by "#".
 std::string WithoutNumbers(const std::string& text) {
     std::string shape;
     for (const char letter : text) {
@@ -26,9 +25,9 @@ std::string WithoutNumbers(const std::string& text) {
     return shape;
 }
 
-// Opens and operates the page of a machine with two UARTs and a port that is none while the operations at
-// these places fail; the shapes of all boxes, nothing if not all of the places were met. `then` looks at what
-// is left.
+// Opens and operates the page of a machine with two UARTs and a port of another kind while the operations at
+// these positions fail. Returns the shapes of all boxes, or nothing if some position was not reached. `then`
+// checks what is left.
 std::optional<std::set<std::string>> Survive(Page page, std::size_t device, const User& user,
                                              const std::vector<std::size_t>& at,
                                              const std::function<void(sim::Machine&)>& then,
@@ -57,10 +56,10 @@ std::optional<std::set<std::string>> Survive(Page page, std::size_t device, cons
     return shapes;
 }
 
-// Each operation of the page's whole life; the shapes of all boxes. Of the entries of a list, 256 at each
-// opening, only some: they are told apart by nothing.
+// Lets each operation of the page's whole life fail. Returns the shapes of all boxes. Of the 256 entries that
+// each opening adds to a list, only some are tried, because all behave alike.
 std::set<std::string> Sweep(Page page, std::size_t device, const User& user) {
-    std::vector<bool> adds; // an entry to a list
+    std::vector<bool> adds; // adds an entry to a list
     const auto list = [&](const sim::JournalEntry& entry) {
         adds.push_back(entry.detail.find("ADDSTRING") != std::string::npos);
         return false;
@@ -80,8 +79,9 @@ std::set<std::string> Sweep(Page page, std::size_t device, const User& user) {
     return shapes;
 }
 
-// Pairs of operations of a user who asks for the same each time, the same pairs in every run: whatever has
-// failed, the next time brings both ports' settings where an undisturbed first time would have.
+// Lets pairs of operations fail for a user who asks for the same each time; the pairs are the same in every
+// run. Whatever failed, the next time both ports' settings become what an undisturbed first time would have
+// made them.
 void SweepPairs(Page page, std::size_t device, const User& user, const std::string& settings) {
     const auto once_more = [&](sim::Machine&) {
         Open(page, device, user);

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The full screen as a person meets it: operated in a pseudo-terminal by keys and by the mouse, and left as it should be.
+"""The full screen as a person sees it: operated in a pseudo-terminal with keys and the mouse, and left as it should be.
 
     full_screen_test.py KVRHOST"""
 import os
@@ -23,7 +23,7 @@ def open_board(terminal):
 
 
 def listed(terminal):
-    """The ports of the board's list in sight."""
+    """The visible ports of the board's list."""
     return re.findall(r"(COM\d+) \(port\d+\)", terminal.text())
 
 
@@ -64,7 +64,7 @@ class FullScreen(unittest.TestCase):
             column, row = terminal.find("Port Number:")
             for up in (False, True):
                 terminal.mouse(0, terminal.screen.display[row].index(" v]"), row, up)
-            terminal.wait("Enter shut")
+            terminal.wait("Enter close")
             terminal.press("esc")
             terminal.wait("F4 list")
             terminal.click("Advanced...")
@@ -87,7 +87,7 @@ class FullScreen(unittest.TestCase):
             terminal.wait("This COM name is being", "F10 end")
             terminal.resize(80, 24)
             terminal.wait("This COM name is being", "F10 end")
-            # A change forth and back that is seen as one to the same size.
+            # A change and its reversal, which look like a resize to the same size.
             terminal.await_new_picture(lambda: terminal.child.kill(signal.SIGWINCH))
             terminal.wait("This COM name is being", "F10 end")
             terminal.press("alt-n")
@@ -132,7 +132,7 @@ class FullScreen(unittest.TestCase):
 
     def test_views(self):
         with Terminal(HOST, columns=120) as terminal:
-            terminal.wait("Communications Port (COM1)  (no page: it is no channel of a board)")
+            terminal.wait("Communications Port (COM1)  (no page: it is not a channel of a board)")
             open_board(terminal)
             terminal.press("f2")
             terminal.wait("PortName", "\\Device\\KvrUart0")
@@ -154,7 +154,7 @@ class FullScreen(unittest.TestCase):
             terminal.wait("The last change outside", gone=["<----"])
 
     def test_ends_cleanly(self):
-        """However it ends, the terminal is as it was."""
+        """However the program ends, the terminal is as it was."""
         for how in ("ctrl-c", signal.SIGTERM, signal.SIGHUP, signal.SIGSEGV, signal.SIGABRT):
             with self.subTest(str(how)), Terminal(HOST) as terminal:
                 open_board(terminal)
@@ -228,7 +228,7 @@ def processor_time(process):
 
 
 def large_machine():
-    """The sample machine with more ports on its first board: 256 in all, each made like the first."""
+    """The sample machine with 256 ports on its first board, each made like the first."""
     sample = (ROOT / "host/machines/sample.reg").read_text()
     board, rest = sample.split('"BoardNrController"=dword:0000000e', 1)
     port = re.search(r"^\[[^\n]*KVRBUS.UART.5&2B7D41E6&0&01\]\n.*?(?=^\[[^\n]*UART.5&2B7D41E6&0&02\])", sample, re.S | re.M)[0]

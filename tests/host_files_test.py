@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What the host writes and shows: a file that can't be written leaves the one that is there, and no text of a machine
+"""What the host writes and shows: a failed write leaves the existing file as it was, and no text of a machine
 commands the terminal.
 
     host_files_test.py KVRHOST"""

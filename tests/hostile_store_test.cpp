@@ -1,6 +1,6 @@
 // Both pages on machines whose stores hold anything: values of any type and length under every name, half
 // surrogate pairs, texts without terminators, lines of any length, any usage of the numbers. Nothing crashes,
-// leaks or is misused, and what is stored then is what a sound store may hold.
+// leaks or is misused, and what is stored afterwards is valid in a sound store.
 #include <algorithm>
 #include <cstring>
 #include <random>
@@ -12,7 +12,7 @@ namespace {
 using namespace machines;
 using namespace sheets;
 
-// The same machine for the same seed.
+// The same seed gives the same machine.
 struct Hostility {
     std::mt19937 random;
 
@@ -94,7 +94,7 @@ std::string RandomWords(Hostility& by, std::initializer_list<const char*> words)
     return said;
 }
 
-// What the pages write is what their controls can say.
+// The pages write only what their controls can express.
 void ExpectSoundWrites() {
     for (const std::string& change : Changes()) {
         const std::string value = change.substr(change.rfind('=') + 1);
@@ -136,7 +136,7 @@ TEST(HostileStores, NothingBreaksThePages) {
             ExpectSoundWrites();
         }
     }
-    EXPECT_GT(pages, machines_tried); // the machines are not so bad that no page opens
+    EXPECT_GT(pages, machines_tried); // not all machines are so bad that no page opens
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-"""What each folder includes, held to the table of docs/house.md."""
+"""Checks what each folder includes against the table in docs/house.md."""
 import pathlib
 import re
 

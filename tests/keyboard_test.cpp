@@ -1,6 +1,5 @@
-// The keyboard where the real dialogs are not asked, which tests/windows/keys_test.py does for the rest:
-// lists that open, letters typed in one go, hot keys that several controls share, and the focus when it is
-// taken away.
+// The keyboard in cases that tests/windows/keys_test.py does not compare with the real dialogs: open lists,
+// letters typed in a row, hot keys that several controls share, and the focus when it is taken away.
 #include <gtest/gtest.h>
 
 #include "host/screen/keyboard.h"
@@ -50,19 +49,19 @@ TEST(Keyboard, AnOpenListTakesEnterAndEscForItself) {
     }});
 }
 
-TEST(Keyboard, LettersTypedInOneGoFindTheItemThatBeginsWithThem) {
+TEST(Keyboard, LettersTypedInARowFindTheItemThatBeginsWithThem) {
     AtBoard({.at_page = [](HWND page) {
         const HWND sheet = SheetOf(page);
         Type(sheet, u"com1");
         EXPECT_EQ(sheets::Shown(page, IDC_PORT_LIST), "COM12 (port5)");
         Type(sheet, u"20");
         EXPECT_EQ(sheets::Shown(page, IDC_PORT_LIST), "COM120 (port6)");
-        Type(sheet, u"c"); // none goes on so: it begins anew
+        Type(sheet, u"c"); // no item begins with both, so the search starts again
         EXPECT_EQ(sheets::Shown(page, IDC_PORT_LIST), "COM13 (port7)");
     }});
 }
 
-TEST(Keyboard, AHotKeyOfSeveralGoesFromOneToTheNext) {
+TEST(Keyboard, ASharedHotKeyMovesFromOneControlToTheNext) {
     AtBoard({.at_page = [](HWND page) {
         const HWND sheet = SheetOf(page);
         const host::Key apply{0, 'a', false, true};
@@ -79,7 +78,7 @@ TEST(Keyboard, TheFocusComesBackAfterASortAndAfterADialog) {
     AtBoard({.at_page =
                  [](HWND page) {
                      host::PressKey(SheetOf(page), {0, 'v', false, true});
-                     EXPECT_EQ(Focused(), IDC_PORT_LIST); // the page puts it there, as the numbers are new
+                     EXPECT_EQ(Focused(), IDC_PORT_LIST); // the page moves it there: the numbers are new
                  },
              .at_dialog =
                  [](HWND dialog) {
@@ -89,7 +88,7 @@ TEST(Keyboard, TheFocusComesBackAfterASortAndAfterADialog) {
                      EXPECT_FALSE(sheets::Changes().empty());
                      EnableWindow(GetFocus(), FALSE);
                      EXPECT_EQ(Focused(), 0);
-                     host::PressKey(dialog, tab); // leads nowhere, as in the real ones; a hot key does
+                     host::PressKey(dialog, tab); // leads nowhere, as in the real dialogs; a hot key does
                      EXPECT_EQ(Focused(), 0);
                      host::PressKey(dialog, {0, 'T', false, true});
                      EXPECT_EQ(Focused(), IDC_INTERFACE_SELECT);

@@ -18,7 +18,7 @@ const sim::Catalogue& English() {
     return sim::CatalogueFor(1033);
 }
 
-// "%d%s": what the text's formatter takes.
+// "%d%s": the placeholders that the text's formatter fills.
 sim::Text Placeholders(std::u16string_view text) {
     sim::Text found;
     for (std::size_t at = text.find(u'%'); at != text.npos; at = text.find(u'%', at + 2)) {
@@ -31,7 +31,7 @@ bool IsBlank(char16_t unit) {
     return unit == u' ' || unit == u'\t' || unit == u'\u00A0' || unit == u'\u3000';
 }
 
-// What holds for each text beside its English one.
+// The rules for each text compared with the English one.
 void ExpectTextLike(std::u16string_view text, std::u16string_view english) {
     EXPECT_EQ(text.empty(), english.empty());
     EXPECT_EQ(Placeholders(text), Placeholders(english));
@@ -62,7 +62,7 @@ bool IsGroup(const sim::ControlTemplate& control) {
            (control.style & BS_TYPEMASK) == BS_GROUPBOX;
 }
 
-// All in the dialog, none over another, and each within a group or beside it.
+// All controls are in the dialog, none overlaps another, and each is either in a group or beside it.
 void ExpectApart(const sim::DialogTemplate& dialog) {
     const Box whole = {0, 0, dialog.cx, dialog.cy};
     for (const sim::ControlTemplate& one : dialog.controls) {
@@ -79,8 +79,8 @@ void ExpectApart(const sim::DialogTemplate& dialog) {
     }
 }
 
-// The letters that reach the sheet's own Apply, on Windows or on what stands in for it. English has them on
-// its pages once more, as given.
+// The hot keys of the sheet's own Apply, on Windows and on Wine. The English pages use the letter too, as
+// specified.
 const std::map<LANGID, std::u16string_view> sheet_letters = {
     {29, u"V"},    {1025, u"ت"}, {1028, u"A"}, {1029, u"P"}, {1030, u"A"},  {1031, u"AB"},
     {1032, u"ΕΦ"}, {1033, u""},  {1035, u"K"}, {1036, u"A"}, {1037, u"חה"}, {1038, u"A"},
@@ -88,8 +88,8 @@ const std::map<LANGID, std::u16string_view> sheet_letters = {
     {1046, u"A"},  {1049, u"М"}, {1051, u"P"}, {1054, u"น"}, {1055, u"U"},  {2052, u"A"},
     {2057, u"A"},  {2068, u"B"}, {2070, u"A"}, {3082, u"A"}, {3084, u"A"},  {4105, u"A"}};
 
-// At most one to a control, no letter twice in a dialog, nor in a page that of the sheet around it; in East
-// Asian texts a Latin letter in parentheses.
+// At most one hot key per control and no letter twice in a dialog. A page does not use those of the sheet
+// around it. In East Asian texts the hot key is a Latin letter in parentheses.
 void ExpectMnemonics(const sim::DialogTemplate& dialog, const sim::DialogTemplate& english, LANGID language) {
     const bool east_asian = language == 1028 || language == 1041 || language == 1042 || language == 2052;
     std::set<char16_t> taken;
@@ -175,7 +175,7 @@ TEST(Languages, StringsFitTheirBuffersAndListsKeepTheirItems) {
     }
 }
 
-TEST(Languages, OneThatIsMissingIsFoundWithoutItsCountryOrInEnglish) {
+TEST(Languages, AMissingOneIsReplacedByItsLanguageOrEnglish) {
     const std::pair<LANGID, LANGID> found[] = {{0x041D, 29}, {0x081D, 29},   {2058, 1033}, {3079, 1033},
                                                {5129, 1033}, {0x7FFF, 1033}, {29, 29},     {3084, 3084}};
     for (const auto& [asked, got] : found) {
@@ -183,7 +183,7 @@ TEST(Languages, OneThatIsMissingIsFoundWithoutItsCountryOrInEnglish) {
     }
 }
 
-TEST(UserLanguage, IsThatOfTheLocaleByCountryBeforeLanguage) {
+TEST(UserLanguage, IsThatOfTheLocaleWithItsCountryFirst) {
     const std::pair<const char*, LANGID> locales[] = {
         {"de_DE.UTF-8", 1031},
         {"de_AT", 1031},

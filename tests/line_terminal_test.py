@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The host's line commands at a terminal, as a person meets them."""
+"""The host's line commands at a terminal, as a person sees them."""
 import os
 import subprocess
 import sys
@@ -12,7 +12,7 @@ HOST = sys.argv[1]
 
 def main():
     with tempfile.TemporaryDirectory() as folder:
-        # A locale that knows no letters beyond ASCII, and a folder that is the caller's own.
+        # A locale that knows only ASCII letters, and the caller's own folder.
         host = pexpect.spawn(HOST, ["--line"], cwd=folder, encoding="utf-8", timeout=20, dimensions=(50, 200),
                              env={**os.environ, "LC_ALL": "C", "TERM": "xterm"})
         host.expect_exact("The sample machine")
@@ -35,7 +35,8 @@ def main():
         host.expect(pexpect.EOF)
         host.close()
         assert host.exitstatus == 1, host.exitstatus
-        # Where no person can be asked, the errors tell it. The file has what was exported: the box unchecked.
+        # If no person can be asked, the error output says so. The file has what was exported: the box
+        # unchecked.
         script = "open 1\ncheck 1039\nclick 1041\nsheet ok\n"
         done = subprocess.run([HOST, "Übung.reg"], cwd=folder, input=script, capture_output=True, encoding="utf-8")
         assert done.returncode == 0 and "was not exported" in done.stderr, done

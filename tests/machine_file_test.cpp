@@ -1,4 +1,4 @@
-// What a registry export says of a machine, and that a machine written is the machine that is read again.
+// What a registry export says about a machine, and that a machine reads back as it was written.
 #include <algorithm>
 #include <cstring>
 #include <fstream>
@@ -21,7 +21,7 @@ std::string Saved(const host::MachineFile& file, const sim::Machine& machine) {
     return content.str();
 }
 
-// The lines of a file as it is written.
+// The lines of a file as written.
 std::string Lines(const std::string& utf16) {
     Text text(utf16.size() / sizeof(WCHAR), u' ');
     std::memcpy(text.data(), utf16.data(), utf16.size());
@@ -153,7 +153,7 @@ TEST(MachineFile, SaysWhyItCannotBeWritten) {
     }
 }
 
-// Every place that holds a port's number agrees, so that a rename begins on sound ground.
+// Every place that holds a port's number agrees, so that a rename starts from a sound state.
 TEST(MachineFile, BringsASampleThatAgreesWithItself) {
     const sim::Machine machine = Loaded(std::string(host::SampleMachine()));
     EXPECT_EQ(machine.devices.size(), 19u);
@@ -174,7 +174,7 @@ TEST(MachineFile, BringsASampleThatAgreesWithItself) {
     EXPECT_EQ(Contents(Loaded(Saved(Read(std::string(host::SampleMachine())), machine))), Contents(machine));
 }
 
-// Each place alone comes back as it was, and no other with it.
+// Each place alone comes back as it was, and no other comes with it.
 TEST(MachineFile, WritesNothingThatItHasNotRead) {
     const std::string system = "\n[HKEY_LOCAL_MACHINE\\SYSTEM\\", set = system + "CurrentControlSet\\",
                       arbiter = set + "Control\\COM Name Arbiter]\n\"ComDB\"=",
@@ -197,8 +197,8 @@ TEST(MachineFile, WritesNothingThatItHasNotRead) {
     }
 }
 
-// The database of COM numbers keeps its length and the numbers that no page knows; one that the file does not
-// have is not made up, for whoever imported it would lose all others.
+// The COM port database keeps its length and the numbers that no page knows. If the file has none, none is
+// made up, because importing it would lose all other numbers.
 TEST(MachineFile, KeepsThePortDatabaseWhole) {
     for (const std::size_t bytes : {1u, 31u, 32u, 33u, 512u}) {
         Bytes data(bytes, 0x81);
@@ -223,7 +223,7 @@ TEST(MachineFile, KeepsThePortDatabaseWhole) {
     EXPECT_EQ(Lines(Saved(Read(first_line), machine)).find("ComDB"), std::string::npos);
 }
 
-// Texts of all that has a meaning in a file, and of half surrogates.
+// Any text that has a meaning in a file, and half surrogate pairs.
 rc::Gen<Text> AnyText() {
     return rc::gen::container<Text>(rc::gen::element<char16_t>(u'a', u'Z', u' ', u'"', u'\\', u'\n', u'\r',
                                                                u';', u'=', u']', u'-', u'@', u'\t', 0xD800,
@@ -238,7 +238,7 @@ sim::Values AnyValues() {
     sim::Values values;
     const int count = *rc::gen::inRange(0, 5);
     for (int i = 0; i < count; ++i) {
-        // Names differ by their number; without it, one is the default value.
+        // Names differ by their number. One without it is the default value.
         const Text name = i == 0 && Either() ? u"" : sim::FromUtf8(std::to_string(i)) + *AnyText();
         if (Either()) {
             values.SetText(name, *AnyText());
@@ -283,14 +283,14 @@ sim::Machine AnyMachine() {
     return machine;
 }
 
-TEST(MachineFile, GivesAnyMachineBackAsItWas) {
+TEST(MachineFile, ReadsAnyMachineBackAsItWas) {
     const host::MachineFile with_database =
         Read(first_line + "[HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\COM Name Arbiter]\n"
                           "\"ComDB\"=hex:00\n");
     EXPECT_TRUE(rc::check([&] {
         const sim::Machine machine = AnyMachine();
         sim::Machine read = Loaded(Saved(with_database, machine));
-        read.dos_names.clear(); // which the file holds as the serial map alone
+        read.dos_names.clear(); // the file holds them only as the serial map
         RC_ASSERT(Contents(read) == Contents(machine));
     }));
 }

@@ -1,4 +1,4 @@
-// Machine files for the tests: reads one that must be right, and makes what stands in it.
+// Machine files for the tests: reads one that must be correct, and makes values for one.
 #pragma once
 
 #include <cstring>

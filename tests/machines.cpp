@@ -14,7 +14,7 @@ sim::Text Decimal(u32 number) {
     return sim::FromUtf8(std::to_string(number));
 }
 
-// Names of values, each with what it holds; "#" is for the channel's number.
+// Names of values, each followed by its number; "#" stands for the channel's number.
 void SetNumbers(sim::Values& key, const char* names_and_numbers, u32 channel = 0) {
     std::istringstream words(names_and_numbers);
     for (std::string name, number; words >> name >> number;) {
@@ -34,7 +34,7 @@ void AddChannelBlock(sim::Values& key, BoardPlace place, u32 channel, u32 type) 
     key.SetQword(u"ChlPortAddr", 0xE000 + 8ull * channel);
 }
 
-// Of each class in turn.
+// By class.
 constexpr const char* class_values[ChannelClassCount] = {
     "UartTxFifoSize 128 UartRxFifoSize 128 UartClkRate 14745600 UartCapability 255 "
     "UartDefCntFifoSettings 0 UartDefCntAdvanceSettings 0 "

@@ -1,5 +1,5 @@
-// Each of the four dialogs in each language on a terminal of 80 by 24: nothing cut, nothing over another, all
-// inside.
+// Each of the four dialogs in each language on a terminal of 80 by 24: nothing is cut, nothing overlaps,
+// everything is inside.
 #include <gtest/gtest.h>
 
 #include "host/full_screen/placement.h"

@@ -1,4 +1,4 @@
-// Properties of whole machines at random.
+// Checks of properties on random machines.
 #pragma once
 
 #include <functional>
@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
 
-// One case of a property with a seed that its test names, so that each run is the same.
+// One case of a property. The test names the seed, so that each run is the same.
 template <class Property> void Check(int count, int size, const Property& property) {
     rc::detail::TestParams params;
     params.seed = std::hash<std::string>()(testing::UnitTest::GetInstance()->current_test_info()->name());

@@ -1,4 +1,4 @@
-// The lines of a registry export: the forms they can have and can't, and how they are written.
+// The lines of a registry export: which forms are valid, and how they are written.
 #include <sstream>
 
 #include "tests/machine_files.h"
@@ -23,7 +23,7 @@ std::string WithReturns(std::string text) {
     return text;
 }
 
-// The same text in every form that a file may have.
+// The same text in every encoding that a file may have.
 std::vector<std::string> InEveryForm(const std::string& text) {
     return {text, "\xEF\xBB\xBF" + WithReturns(text), InUtf16(text), InUtf16(WithReturns(text))};
 }
@@ -62,13 +62,13 @@ TEST(RegistryExport, TakesEveryFormOfAValue) {
                 << each.lines;
         }
     }
-    // The line ends within a text are part of it, as they stand.
+    // The line ends within a text are part of it, unchanged.
     const std::string lines = first_line + store + "\"A\"=\"one\n[two]\n\n\"";
     EXPECT_EQ(Loaded(lines).devices[0].key.list[0].data, BytesOf(u"one\n[two]\n\n"));
     EXPECT_EQ(Loaded(InUtf16(WithReturns(lines))).devices[0].key.list[0].data,
               BytesOf(u"one\r\n[two]\r\n\r\n"));
-    // A key may hold brackets and slashes, is known without regard to case, and has none of the values after
-    // its deletion.
+    // A key may hold brackets and slashes, is known in any case of letters, and loses its values when it is
+    // deleted.
     const sim::Machine machine = Loaded(R"(Windows Registry Editor Version 5.00
 [HKEY_LOCAL_MACHINE\SOFTWARE\Classes\MIME\Database\Content Type\text/html]
 [hkey_local_machine\system\CURRENTcontrolSET\enum\A\[b]\c;] ; x
@@ -140,7 +140,7 @@ TEST(RegistryExport, NamesTheFirstLineThatIsWrong) {
         {first_line + "; \xE2\x82", 2, "text in UTF-8"},
         {InUtf16(first_line + ";") + ' ', 2, "the second byte of the last character"},
     };
-    // Whatever was read before, a file that is wrong leaves it so.
+    // A malformed file leaves everything that was read before as it was.
     const auto expect_refusal = [](const std::string& bytes, std::size_t line, const char* expected) {
         std::istringstream in(bytes);
         host::MachineFile file;
@@ -152,7 +152,7 @@ TEST(RegistryExport, NamesTheFirstLineThatIsWrong) {
             << bytes;
         EXPECT_EQ(file.count, 3u);
     };
-    // The same in a key that matters and in one that does not.
+    // The same in a key that matters and in one that doesn't.
     for (const std::string& key : {store, std::string("[HKEY_USERS\\A]\n")}) {
         for (const auto& each : cases) {
             for (const std::string& bytes : InEveryForm(first_line + key + each.lines)) {

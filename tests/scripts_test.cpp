@@ -1,12 +1,12 @@
-// The operator scripts: each tests/scripts/*.txt runs on a machine of its own, and its transcript must be the
-// one that is kept beside it. Comments at the top of a script say on which machine, from the root of the
-// project:
+// The operator scripts: each tests/scripts/*.txt runs on a machine of its own, and its transcript must equal
+// the one that is kept beside it. Comments at the top of a script name the machine, relative to the root of
+// the project:
 //     # machine: host/machines/two_boards.reg
 //     # language: 1031
 //     # remote            (every device belongs to another machine)
 // and one of this form anywhere makes a call of an operation fail, here the fifth one from then on:
 //     # fail: DefineDosDeviceW 5
-// With KEEP_TRANSCRIPTS set in the environment the transcripts are written anew instead.
+// If KEEP_TRANSCRIPTS is set in the environment, the transcripts are written instead.
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
@@ -39,7 +39,7 @@ std::vector<std::string> LinesOf(const std::string& text) {
     return lines;
 }
 
-// What stands behind "# name: " in a line, empty if the line is another.
+// The rest of a line after "# name: "; empty if the line doesn't begin so.
 std::string Said(const std::string& line, const std::string& name) {
     const std::string start = "# " + name + ": ";
     return line.starts_with(start) ? line.substr(start.size()) : std::string{};
@@ -82,7 +82,7 @@ std::vector<std::string> Names() {
 
 class ScriptsTest : public testing::TestWithParam<std::string> {};
 
-TEST_P(ScriptsTest, RunsAsItsTranscriptTells) {
+TEST_P(ScriptsTest, MatchesItsTranscript) {
     const std::vector<std::string> lines = LinesOf(ContentOf(scripts / (GetParam() + ".txt")));
     std::string file;
     host::MachineFile machine_file;
@@ -125,7 +125,7 @@ TEST_P(ScriptsTest, RunsAsItsTranscriptTells) {
         << "\n  now:  " << (right == got.end() ? "(end)" : *right);
 }
 
-// By the numbers of the controls: the same commands in every language, and what they lead to.
+// By the numbers of the controls, the same commands work in every language and lead to the same.
 TEST(Tour, SortsAndRenamesInEveryLanguage) {
     std::string lines, ports;
     for (const std::string& line : host::TourOfSample()) {

@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "board_page/board_page_provider.h"
-#include "host/screen/screen.h"
+#include "host/screen/hand.h"
 #include "uart_page/uart_page_provider.h"
 
 namespace sheets {
@@ -28,29 +28,30 @@ BOOL CALLBACK Take(HPROPSHEETPAGE page, LPARAM shelf) {
     return to.answer;
 }
 
-// One that is not there is as nothing.
+// A missing control reads as an empty one.
 host::Control Read(HWND dialog, int id) {
     const host::Window window = host::ReadWindow(dialog, false);
     const auto found = std::ranges::find(window.controls, id, &host::Control::id);
     return found != window.controls.end() ? *found : host::Control();
 }
 
-HWND Touchable(HWND dialog, int id) {
-    const HWND control = GetDlgItem(dialog, id);
-    return control != nullptr && IsWindowEnabled(control) ? control : nullptr;
+// Passes a control to the hand with what the hand needs of it; its items, up to 256, would take long to read.
+template <class Act> void Touch(HWND dialog, int id, host::Kind kind, const Act& act) {
+    host::Control control;
+    control.window = GetDlgItem(dialog, id);
+    control.id = id;
+    control.kind = kind;
+    if (control.window != nullptr && IsWindowEnabled(control.window)) {
+        act(control);
+    }
 }
 
 void Slide(HWND dialog, int id, int position) {
-    if (const HWND slider = Touchable(dialog, id)) {
-        SendMessageW(slider, TBM_SETPOS, TRUE, position);
-        SendMessageW(dialog, WM_HSCROLL, TB_ENDTRACK, reinterpret_cast<LPARAM>(slider));
-    }
+    Touch(dialog, id, host::Kind::Slider, [&](const host::Control& slider) { host::Drag(slider, position); });
 }
 
 void Click(HWND dialog, int id) {
-    if (const HWND button = Touchable(dialog, id)) {
-        SendMessageW(button, BM_CLICK, 0, 0);
-    }
+    Touch(dialog, id, host::Kind::Button, host::Click);
 }
 
 } // namespace
@@ -72,7 +73,7 @@ Fault Lock(std::size_t device) {
 
 std::string Open(Page page, std::size_t device, const User& user, const Request& request) {
     sim::Machine& machine = sim::Current();
-    std::vector<HWND> met; // no handle is given twice
+    std::vector<HWND> met; // no handle is used twice
     Shelf shelf;
     shelf.answer = request.add_page;
     machine.user = [&](HWND front) {
@@ -110,11 +111,8 @@ std::string Open(Page page, std::size_t device, const User& user, const Request&
 }
 
 void Choose(HWND dialog, int id, int index) {
-    if (const HWND list = Touchable(dialog, id)) {
-        const UINT select = id == IDC_PORT_LIST ? LB_SETCURSEL : CB_SETCURSEL;
-        SendMessageW(list, select, static_cast<WPARAM>(index), 0);
-        SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(id, CBN_SELCHANGE), reinterpret_cast<LPARAM>(list));
-    }
+    Touch(dialog, id, id == IDC_PORT_LIST ? host::Kind::List : host::Kind::Combo,
+          [&](const host::Control& list) { host::PickItem(list, index); });
 }
 
 void Do(HWND dialog, std::string_view words) {

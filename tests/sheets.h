@@ -1,5 +1,5 @@
 // A page on its sheet: calls a provider as the device manager does, runs the sheet with a user made of
-// lambdas, and reads the controls back. Texts are UTF-8.
+// lambdas, and reads the controls. Texts are UTF-8.
 #pragma once
 
 #include <functional>
@@ -13,40 +13,40 @@ namespace sheets {
 
 using Lines = std::vector<std::string>;
 
-// What is done to the machine before it meets the user: an operation that fails from then on (0: each call),
-// a value that is missing.
+// A change to the machine before the user starts: an operation that fails from then on (0: each call), a
+// value that is missing.
 using Fault = std::function<void(sim::Machine&)>;
 Fault Fail(const char* operation, std::size_t call);
 Fault Erase(std::size_t device, const char16_t* value);
 Fault Lock(std::size_t device);
 inline const Fault no_fault = [](sim::Machine&) {};
 
-// How a sheet is left.
+// The ways to leave a sheet.
 inline constexpr WPARAM ok = PSBTN_OK;
 inline constexpr WPARAM cancel = PSBTN_CANCEL;
 
 enum class Page { Board, Port };
 
-// The language that a test makes up; no real one has this number.
+// A language that a test makes up. No real one has this number.
 constexpr LANGID made_up_language = 0x03F0;
 
-// What the device manager says and does; as it is in daily life without more.
+// What the device manager asks for and answers; the defaults are the usual case.
 struct Request {
     DWORD page_requested = SPPSR_ENUM_ADV_DEVICE_PROPERTIES;
-    BOOL add_page = TRUE; // what the add-page function gives
+    BOOL add_page = TRUE; // what the add-page function returns
 };
 
-// Who sits in front. Each part is called once a window, on a window that is there and in front.
+// The person at the screen. Each function is called once per window, when that window is in front.
 struct User {
     std::function<void(HWND page)> at_page = {};
-    std::function<void(HWND dialog)> at_dialog = {}; // the advanced dialog; cancelled if it then still stands
-    WPARAM leaves_by = cancel;                       // the sheet
-    int answers = IDNO;                              // a question
+    std::function<void(HWND dialog)> at_dialog = {}; // the advanced dialog, cancelled if still open
+    WPARAM leaves_by = cancel;                       // leaves the sheet
+    int answers = IDNO;                              // answers a question
 };
 
-// On the current machine, with the library attached. The sheet's title ends with the port's name at the
-// opening. "ok" or "left" is how the sheet ended; "no page", "no page, refused" and "not taken, refused" how
-// it never began.
+// Opens the sheet on the current machine, with the library attached. The sheet's title ends with the port's
+// name at that time. Returns "ok" or "left" as the sheet ended, or "no page", "no page, refused" or "not
+// taken, refused" if it never opened.
 std::string Open(Page page, std::size_t device, const User& user, const Request& request = {});
 
 // The user's hand, in words: "tx9 rx2" moves the sliders, "select1" a list's selection (-1 for none), "com20"
@@ -64,15 +64,15 @@ Lines Rows(HWND dialog); // of the resource list, "label: setting", below its he
 int Selection(HWND dialog, int id);
 bool IsOn(HWND dialog, int id);
 bool IsEnabled(HWND dialog, int id);
-// "on tx 5/128 High (5) rx 2 High (32) live", where "dead" is for eight disabled controls.
+// "on tx 5/128 High (5) rx 2 High (32) live"; "dead" means that all eight controls are disabled.
 std::string Fifo(HWND dialog);
 
 // The boxes shown since the last call.
 Lines Boxes();
-// What the logic has changed outside since the last call, "name detail" each, the device's place left out.
+// What the logic has changed outside since the last call, each as "name detail" without the device's path.
 Lines Changes();
 
-// A device's values joined by blanks; "-" for one that is missing.
+// A device's values, separated by blanks; "-" for a missing one.
 std::string Stored(std::size_t device, std::initializer_list<const char16_t*> names);
 std::string StoredFifo(std::size_t device);
 void StoreFifo(std::size_t device, const u32 (&values)[3]); // in the same order

@@ -1,4 +1,4 @@
-"""The full screen in a pseudo-terminal, read back through a terminal emulator."""
+"""The full screen in a pseudo-terminal, read through a terminal emulator."""
 import os
 import time
 
@@ -40,7 +40,7 @@ class Terminal:
         return "\n".join(self.screen.display)
 
     def wait(self, *texts, gone=(), seconds=20):
-        """Until all texts are on the screen and none of the others is."""
+        """Waits until all texts are on the screen and none of the others is."""
         end = time.monotonic() + seconds
         while not all(text in self.text() for text in texts) or any(text in self.text() for text in gone):
             if not self.read() and time.monotonic() > end:
@@ -51,7 +51,7 @@ class Terminal:
             pass
 
     def press(self, *keys):
-        """Names of keys, Alt and a letter as "alt-x", anything else as it is typed."""
+        """Takes names of keys, "alt-x" for Alt and a letter, and anything else as it is typed."""
         for key in keys:
             self.child.send("\x1b" + key[4:] if key.startswith("alt-") else NAMES.get(key, key))
 
@@ -73,14 +73,14 @@ class Terminal:
         self.mouse(0, column, row, up=True)
 
     def await_new_picture(self, act):
-        """Until the program has begun the screen anew for that: what is seen from here on was painted since."""
+        """Waits until the program repaints the whole screen because of that: everything seen afterwards was painted since."""
         self.settle()
         begun = self.raw.count(CLEAR)
         act()
         end = time.monotonic() + 20
         while self.raw.count(CLEAR) == begun:
             if not self.read() and time.monotonic() > end:
-                raise AssertionError(f"not begun anew:\n{self.text()}")
+                raise AssertionError(f"not repainted:\n{self.text()}")
 
     def resize(self, columns, rows):
         self.screen.resize(rows, columns)

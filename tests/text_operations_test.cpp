@@ -1,4 +1,4 @@
-// The bounded text operations: what stands in the destination and behind it, and the result.
+// The bounded text operations: the contents of the destination and of what follows it, and the result.
 #include <algorithm>
 #include <functional>
 
@@ -12,13 +12,13 @@ namespace {
 constexpr u32 room = 24;
 constexpr char16_t guard = u'\xFFFD';
 
-// A destination of `capacity` units behind which nothing may be written.
+// A destination of `capacity` units. Nothing may be written after it.
 struct Destination {
     explicit Destination(std::u16string_view before = {}) {
         std::ranges::fill(units, guard);
         before.copy(units, room);
     }
-    // The text, and whether all behind the capacity is as it was.
+    // The text, after a check that nothing was written after the capacity.
     std::string Text() const {
         return sim::ToUtf8(std::u16string_view(units, std::ranges::find(units, u'\0')));
     }

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The opening that docs/trace.md shows is, whole, the one of the transcript that it names.
+"""The opening that docs/trace.md shows is the complete one of the transcript that it names.
 
     trace_docs_test.py"""
 import pathlib

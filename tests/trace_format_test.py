@@ -12,7 +12,7 @@ SOURCE = pathlib.Path(__file__).resolve().parents[1] / "src"
 COMPILER = sys.argv.pop(1)
 IS_CLANG = "clang" in subprocess.run([*COMPILER.split(), "--version"], capture_output=True, text=True).stdout
 
-# The lines stand in a function of these.
+# The lines are compiled in this function.
 FUNCTION = """#include "reporting/trace.h"
 struct Row { u32 number; TraceFormat<TraceKind::Narrow, TraceKind::Number32> format; };
 constexpr Row rows[] = {{1, "%%s - %%d\\n"}};
@@ -40,7 +40,7 @@ WRONG = [
 
 
 def compiled(lines, live):
-    """Whether a function of these lines compiles, and the lines that the compiler complains of."""
+    """Whether a function of these lines compiles, and the lines that the compiler complains about."""
     source = FUNCTION % "\n    ".join(f"TraceOut({line});" for line in lines)
     done = subprocess.run([*COMPILER.split(), "-std=c++20", "-DKVR_SIMULATED", f"-I{SOURCE}", "-fsyntax-only", "-x", "c++", "-",
                            *(["-DTRACE_LIVE"] if live else []), *(["-ferror-limit=0"] if IS_CLANG else [])],

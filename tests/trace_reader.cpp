@@ -9,10 +9,11 @@
 
 namespace {
 
-// A line that the trace can have, and the operations that write it: all, or those that begin so before a '*'.
+// A line that the trace can contain, and the operations that write it: all, or those whose names begin with
+// the part before a '*'.
 struct Row {
     std::string format;
-    std::regex line; // its first group is what the first %s stands for
+    std::regex line; // its first group is the value of the first %s
     std::set<std::string> names;
     bool seen = false;
 };
@@ -32,7 +33,7 @@ std::regex PatternOf(const std::string& format) {
     return std::regex(pattern + '\n');
 }
 
-// A format at the beginning of a line, its operations below it.
+// Each format is at the beginning of a line, with its operations below it.
 std::vector<Row> Table() {
     std::vector<Row> table;
     std::ifstream file(SOURCE_DIR "/tests/trace_formats.txt");
@@ -56,7 +57,7 @@ bool IsAmong(const std::string& name, const std::set<std::string>& names) {
     return names.contains(name) || (name.starts_with("Kavro_Reg") && names.contains("Kavro_Reg*"));
 }
 
-// The row that a line is of, null without one, and the line's name. Most lines come again and again.
+// The row that a line matches, or null, and the line's name. Most lines occur again and again.
 const std::pair<const Row*, std::string>& Recognised(std::string_view line) {
     static std::map<std::string, std::pair<const Row*, std::string>, std::less<>> known;
     const auto place = known.find(line);
@@ -80,7 +81,7 @@ const std::pair<const Row*, std::string>& Recognised(std::string_view line) {
 
 void TraceReader::Read(std::string_view line) {
     if (open_.empty() && line.starts_with(" - ")) {
-        return; // of a helper that a test calls itself
+        return; // of a helper that a test calls directly
     }
     const auto& [found, name] = Recognised(line);
     if (found == nullptr) {
@@ -94,7 +95,7 @@ void TraceReader::Read(std::string_view line) {
     if (found->names.empty()) {
         return;
     }
-    if (!name.ends_with("DlgProc")) { // which opens nothing, being asked of everything
+    if (!name.ends_with("DlgProc")) { // it opens nothing, because it gets every message
         EXPECT_EQ(name, open_.empty() ? "" : open_.back()) << line;
     }
     if (format.starts_with("<---- ") && !open_.empty()) {

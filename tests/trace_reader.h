@@ -1,5 +1,5 @@
-// The trace read as a language. Its words are the table of all lines; its grammar is that entries and exits
-// nest like brackets, and that a line stands under the name of the operation that is open.
+// Reads the trace as a language. Its words are the table of all lines. Its grammar: entries and exits nest
+// like brackets, and a line belongs to the operation that is open.
 #pragma once
 
 #include <set>
@@ -9,12 +9,12 @@
 
 class TraceReader {
 public:
-    // A line with its line feed. What is wrong with it is a failure of the test.
+    // Reads a line with its line feed. The test fails if anything is wrong with it.
     void Read(std::string_view line);
 
-    // The operations that have not been left, the innermost last.
+    // The operations that are still open, the innermost last.
     const std::vector<std::string>& open() const { return open_; }
-    // The formats that no line of this process so far was made from.
+    // The formats that no line in this process has matched so far.
     static std::set<std::string> Unseen();
 
 private:

@@ -1,5 +1,5 @@
-// What the pages tell of themselves while they work. That every line is right where it stands is looked at in
-// every test that has a library at work; here every line of the table is made to come.
+// What the pages trace while they work. Every test with a library at work checks that each line is right
+// where it occurs; this one makes every line of the table occur.
 #include <gtest/gtest.h>
 
 #include "tests/sheets.h"
@@ -9,7 +9,7 @@ namespace {
 using namespace machines;
 using namespace sheets;
 
-// One sheet: what is wrong on the machine when it opens, and what the user's hand does.
+// One sheet: what is wrong with the machine when it opens, and what the user's hand does.
 struct Walk {
     Page page;
     Fault fault;
@@ -18,7 +18,7 @@ struct Walk {
     int answers = IDYES;
 };
 
-// The device's numbers, as the driver or a page might have left them.
+// The device's numbers as the driver or a page might have left them.
 Fault Store(std::initializer_list<std::pair<const char16_t*, DWORD>> values) {
     return [values = std::vector(values)](sim::Machine& machine) {
         for (const auto& [name, number] : values) {
@@ -68,7 +68,7 @@ TEST(Trace, HasEveryLineButOne) {
         Open(walk.page, walk.page == Page::Board ? 0 : 1, user);
         DllMain(sim::LibraryInstance(), DLL_PROCESS_DETACH, nullptr);
     }
-    // A mode is refused only without an offered one selected; by then this one's bits are there.
+    // A mode is refused only if no offered one is selected, and by then its bits are always there.
     EXPECT_EQ(TraceReader::Unseen(),
               std::set<std::string>{"%s - Set AUTORS422485 mode, capability(x%08X) not support"});
 }

@@ -11,7 +11,7 @@ using machines::AtWork;
 constexpr int combos[] = {IDC_BAUD_RATE, IDC_PARITY, IDC_DATA_BITS, IDC_STOP_BITS, IDC_FLOW_CONTROL};
 constexpr std::size_t port = 1; // the device of the UART on COM3
 
-// One UART, on COM3, with a settings line; none for a null pointer.
+// One UART on COM3 with a settings line; without one for a null pointer.
 sim::Machine UartWithLine(const char16_t* line) {
     sim::Machine machine = machines::BoardOn({3});
     if (line != nullptr) {
@@ -26,7 +26,7 @@ std::string Line() {
     return sim::ToUtf8(machines::Line(sim::Current(), 3));
 }
 
-// The five selections as shown, joined by bars.
+// The five selections as shown, separated by bars.
 std::string Selected(HWND page) {
     std::string texts;
     for (const int combo : combos) {
@@ -40,7 +40,7 @@ Lines Writing(const char* line) {
             "SendNotifyMessageW WM_WININICHANGE \"Ports\"", "SetupDiCallClassInstaller 1 DIF_PROPERTYCHANGE"};
 }
 
-// How many of the combos, and whether the two buttons, are enabled.
+// How many of the combos are enabled, and whether the two buttons are.
 std::string Enabled(HWND page) {
     int live = 0;
     for (const int combo : combos) {
@@ -143,7 +143,7 @@ TEST(UartPage, CombosHaveTheirItemsUnderAnySeparators) {
         };
         const auto at_dialog = [&](HWND dialog) { EXPECT_EQ(Shown(dialog).size(), one.language == 1033 ? 26u : 199u); };
         Open(Page::Port, port, {.at_page = at_page, .at_dialog = at_dialog, .leaves_by = ok});
-        EXPECT_EQ(Line(), "9600,n,8,1.5,x"); // whatever the display
+        EXPECT_EQ(Line(), "9600,n,8,1.5,x"); // whatever is displayed
     }
 }
 
@@ -153,14 +153,14 @@ TEST(UartPage, ALineIsReadAndWrittenOnlyIfItDiffers) {
     const struct {
         const char16_t* line; // null for a port without one
         const char* selected;
-        const char* after_ok; // null if nothing is written at OK
+        const char* after_ok; // null if OK writes nothing
     } cases[] = {
         {u"9600,n,8,1", defaults, nullptr},
         {u"9600,n,8,1 ", defaults, nullptr},
         {u"  9600,n,8,1", defaults, nullptr},
         {u"9600", defaults, nullptr},
         {u"115200,e,7,1.5,x", "115200|Even|7|1.5|Xon / Xoff", nullptr},
-        // The speed is searched by how an item begins, and compared as a number.
+        // The speed is searched for by the beginning of an item, and compared as a number.
         {u"19,n,8,1", "19200|None|8|1|None", "19200,n,8,1 "},
         {u"1,s,8,1", "110|Space|8|1|None", "110,s,8,1 "},
         {u"0,o,8,1", "75|Odd|8|1|None", "75,o,8,1 "},
@@ -195,13 +195,13 @@ TEST(UartPage, ALineIsReadAndWrittenOnlyIfItDiffers) {
 }
 // clang-format on
 
-// Each sheet finds what the one before it has written, saves it again without a write, and writes the next.
+// Each sheet finds what the previous one has written, saves it again without writing, and writes the next.
 TEST(UartPage, EverySelectionReadsBackToItself) {
     sim::Machine machine = UartWithLine(u"75,e,4,1,x");
     machine.journal_reads = false;
     const AtWork at_work(machine);
-    // Each speed with each number of data bits and so on: two lists meet in all their pairs, a field stands
-    // alone in the line.
+    // Each speed occurs with each number of data bits and so on: two lists are tried in all their pairs, a
+    // field that stands alone in the line once.
     constexpr int sheets_run = 21 * 5 * 3;
     const auto selections = [](int sheet) {
         return std::array{sheet % 21, sheet % 5, sheet / 21 % 5, sheet / 5 % 3, sheet / 35 % 3};
@@ -222,7 +222,7 @@ TEST(UartPage, EverySelectionReadsBackToItself) {
     }
 }
 
-TEST(UartPage, EveryChangeIsToldToTheSheetAndComparedWithWhatWasRead) {
+TEST(UartPage, EveryChangeIsReportedToTheSheetAndComparedWithWhatWasRead) {
     sim::Machine machine = UartWithLine(u"19200,e,7,1.5,x");
     const AtWork at_work(machine);
     const auto at_page = [](HWND page) {
@@ -266,8 +266,8 @@ TEST(UartPage, EveryChangeIsToldToTheSheetAndComparedWithWhatWasRead) {
     EXPECT_EQ(Boxes(), Lines{});
 }
 
-TEST(UartPage, ARemoteMachineIsShownAndItsLineSavedAllTheSame) {
-    for (const bool detail_fails : {false, true}) { // a set that doesn't tell counts as local
+TEST(UartPage, ARemoteMachineIsShownAndItsLineIsStillSaved) {
+    for (const bool detail_fails : {false, true}) { // a set that doesn't say counts as local
         sim::Machine machine = UartWithLine(u"19,n,8,1");
         machine.devices[port].remote = true;
         const AtWork at_work(machine);

@@ -11,7 +11,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 using ChangeList = std::vector<Change>;
-// What is there, by name; names are compared without case and shown as they are.
+// What is there, by name. Names are compared without case and shown as they are.
 using Entries = std::map<std::string, std::pair<std::string, std::string>>;
 
 Entries EntriesOf(const TextPairs& texts) {
@@ -31,7 +31,7 @@ Entries EntriesOf(const std::vector<StoreValue>& store) {
     return entries;
 }
 
-// "NAME: BEFORE -> AFTER" for each that is not the same, with `where` before it.
+// Adds "NAME: BEFORE -> AFTER", with `where` before it, for each entry that differs.
 void Compare(ChangeList& changes, ChangedPlace place, const std::string& where, const Entries& before,
              const Entries& after) {
     Entries all = before;
@@ -96,7 +96,7 @@ void CompareDatabases(ChangeList& changes, const std::vector<bool>& before, cons
 
 // --- A patch ---
 
-// What only the system or a driver writes, and how it gets right.
+// What only the system or a driver writes, and how it is put right.
 struct LeftOut {
     ChangedPlace place;
     const char* heading;
@@ -104,14 +104,13 @@ struct LeftOut {
 };
 constexpr LeftOut left_outs[] = {
     {ChangedPlace::SerialMap,
-     "Not in this file, as drivers make it anew whenever they start a port:",
-     {"It comes right at the restart: the driver enters the port under the number that PortName has then.",
-      ""}},
+     "Not in this file, because drivers make it anew whenever they start a port:",
+     {"The restart puts it right: the driver enters the port under the number that PortName has then.", ""}},
     {ChangedPlace::FriendlyName,
-     "Not in this file, as only the system writes this key:",
+     "Not in this file, because only the system writes this key:",
      {"Device Manager shows the old number, which misleads and does no harm, until the port is given its",
-      "number on its page there (Advanced) or its driver is installed anew."}},
-    {ChangedPlace::Device, "Not in this file, as the system finds devices by itself:", {"", ""}},
+      "number on its page there (Advanced) or its driver is reinstalled."}},
+    {ChangedPlace::Device, "Not in this file, because the system finds devices by itself:", {"", ""}},
 };
 
 bool IsInPatch(const Change& change) {
@@ -158,7 +157,7 @@ Lines ChangeLines(const Records& before, const Records& after) {
     }
     for (const MissingPlace& missing : MissingPlaces(before.known & after.known)) {
         if (((before.known | after.known) & missing.place) != 0) {
-            lines.push_back(std::string{"not compared: "} + missing.name + ", known in one of the two only");
+            lines.push_back(std::string{"not compared: "} + missing.name + ", known in only one of the two");
         }
     }
     return lines;

@@ -1,4 +1,4 @@
-// What differs between two states of a machine, in words and by place.
+// What differs between two states of a machine, as sentences, place by place.
 #pragma once
 
 #include <string>
@@ -15,19 +15,20 @@ struct Change {
     std::string text; // "database: COM13: claimed -> free", on one line
 };
 
-// In the order of the places. What is not known in both states is not compared.
+// In the order of the places. A place is compared only if it is known in both states.
 std::vector<Change> Changes(const Records& before, const Records& after);
 
-// The same as lines, with what could not be compared behind them; one line that says so if nothing differs.
+// The same as lines, followed by the places that could not be compared; a single line says so if nothing
+// differs.
 std::vector<std::string> ChangeLines(const Records& before, const Records& after);
 
-// What stands at the head of a patch: what it changes, how it is imported, and what it leaves out, with what
-// puts that right. `made_from` is the name of the export.
+// The comments at the head of a patch: what it changes, how to import it, what it leaves out, and how that is
+// put right. `made_from` is the name of the export.
 std::vector<std::string> PatchComments(const std::vector<Change>& changes, const std::string& made_from);
-// At the head of what takes it back; `patch` is the name of that file.
+// The comments at the head of the file that takes the patch back; `patch` is the name of the patch.
 std::vector<std::string> UndoComments(const std::vector<Change>& changes, const std::string& patch);
 
-// Of that file: "fix-undo.reg" for "fix.reg".
+// The path of that file: "fix-undo.reg" for "fix.reg".
 std::string UndoPath(const std::string& path);
 
 } // namespace host

@@ -1,4 +1,4 @@
-// The conditions of the rules that are about boards and their channels.
+// The conditions of the rules about boards and their channels.
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -13,7 +13,7 @@ unsigned long Number(const Model& model, std::size_t device, std::string_view na
     return StoredNumber(model.records.devices[device].store, name);
 }
 
-// "channel 3", with the number of a port.
+// "channel 3", for a port with its COM number before it.
 std::string ChannelName(const ChannelRecord& channel) {
     return "channel " + std::to_string(channel.number);
 }
@@ -23,7 +23,7 @@ void Add(const Model& model, Found& found, std::size_t device, std::string what)
     found.back().what = std::move(what);
 }
 
-// The readable channels that a board takes for its own.
+// The readable channels that belong to a board.
 template <class Take> void ForEachOfBoards(const Model& model, const Take& take) {
     for (const ChannelRecord& channel : model.channels) {
         if (channel.readable && channel.board) {
@@ -49,7 +49,7 @@ bool IsWalked(const Model& model, const ChannelRecord& channel) {
     return channel.number >= 1 && channel.number < Number(model, *channel.board, "BoardNrController");
 }
 
-// --- What a UART is capable of ---
+// --- What a UART can do ---
 
 struct Mode {
     unsigned long mode, needed; // of UartCapability
@@ -61,7 +61,7 @@ constexpr Mode modes[] = {
 std::string WrongMode(unsigned long mode, unsigned long capability) {
     const auto* const known = std::ranges::find(modes, mode, &Mode::mode);
     if (known == std::end(modes)) {
-        return "UartMode is " + std::to_string(mode) + ", which is none";
+        return "UartMode is " + std::to_string(mode) + ", which is no mode";
     }
     if ((capability & known->needed) == known->needed) {
         return {};
@@ -89,7 +89,7 @@ std::string WrongTrigger(const std::vector<StoreValue>& store) {
     for (const unsigned long stage : stages) {
         known += (known.empty() ? "" : ", ") + std::to_string(stage);
     }
-    return "UartRxFifoLowHigh is " + std::to_string(receive) + ", none of " + known;
+    return "UartRxFifoLowHigh is " + std::to_string(receive) + ", not one of " + known;
 }
 
 } // namespace
@@ -141,7 +141,7 @@ void FindChannelsBeyondBoard(const Model& model, Found& found) {
             Add(model, found, channel.device,
                 "its ChlNumber is " + std::to_string(channel.number) + ", and BoardNrController " +
                     std::to_string(Number(model, *channel.board, "BoardNrController")) +
-                    " shows those from 1 up to that, without it");
+                    " shows those from 1 up to but not including that");
         }
     });
 }

@@ -10,8 +10,9 @@ namespace {
 
 constexpr const char* restart = "restart the port or the machine";
 constexpr const char* number_anew = "open {open}, Advanced, and give it a number that is free";
-constexpr const char* driver = "the board's driver publishes these values: restart the board, or install its "
-                               "driver anew";
+constexpr const char* driver =
+    "the board's driver publishes these values: restart the board, or reinstall its "
+    "driver";
 
 // Worst first.
 constexpr Rule rules[] = {
@@ -25,7 +26,7 @@ constexpr Rule rules[] = {
     {"unclaimed-port", DevicesPlace | InterfacesPlace | DatabasePlace, true,
      "{com} is not claimed although {device} has it: the next new port may be given the same number.",
      "claim {com}", nullptr, FindUnclaimedPorts},
-    {"no-com-name", DevicesPlace, false, "{device} has a name that is no COM and a number: {what}.", nullptr,
+    {"no-com-name", DevicesPlace, false, "{device} has a name that is not COM and a number: {what}.", nullptr,
      number_anew, FindOddNames},
     {"not-in-serial-map", DevicesPlace | InterfacesPlace | SerialMapPlace, false,
      "{com} is not live: {device} has it, but the serial map does not, so its driver has not started or has "
@@ -47,7 +48,7 @@ constexpr Rule rules[] = {
     {"type-no-uart", DevicesPlace | InterfacesPlace, false, "{port} gets no page of its own: {what}.",
      nullptr, driver, FindOtherTypes},
     {"mode-impossible", DevicesPlace | InterfacesPlace, false,
-     "{port} stands in a mode that it is not capable of: {what}.", nullptr,
+     "{port} is set to a mode that it does not support: {what}.", nullptr,
      "open the board, select the port, Advanced, and choose its type", FindImpossibleModes},
     {"trigger-impossible", DevicesPlace | InterfacesPlace, false,
      "{port} has a trigger level that its page cannot show: {what}.", nullptr,
@@ -59,7 +60,7 @@ constexpr Rule rules[] = {
      "uninstall that device if it will not come back", FindGhostClaims},
     {"misread-line", DevicesPlace | SettingsPlace, false,
      "{com} has settings that its page cannot show as they are written: {what}.", nullptr,
-     "open {open} and choose them anew", FindMisreadLines},
+     "open {open} and choose them again", FindMisreadLines},
     {"orphan-line", DevicesPlace | SerialMapPlace | SettingsPlace, true,
      "{com} has settings and nothing is there: {what}.", "forget {key}", nullptr, FindOrphanLines},
     {"held-open", DevicesPlace | InterfacesPlace, false,

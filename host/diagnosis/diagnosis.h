@@ -1,5 +1,5 @@
-// What is wrong with a machine: a pure function of its records. The rules are a table; each says on which
-// places it rests, and where one of them is not known it says nothing.
+// What is wrong with a machine: a pure function of its records. The rules are a table. Each rule names the
+// places that it depends on, and finds nothing if one of them is not known.
 #pragma once
 
 #include <string>
@@ -9,12 +9,12 @@
 
 namespace host {
 
-// What a finding is about, and what a rule's sentence has blanks for.
+// What a finding is about: the values for the blanks in a rule's sentence.
 struct Subject {
-    unsigned long number = 0; // {com}: "COM5"; 0 without one
-    std::string device;       // {device}: how a sentence calls it; {port}: with its number before
+    unsigned long number = 0; // {com}: "COM5"; 0 if there is none
+    std::string device;       // {device}: its name in a sentence; {port}: the same with its number before it
     std::string id;           // its instance id
-    std::string open;         // {open}: what the command `open` calls it
+    std::string open;         // {open}: its name for the command `open`
     std::string what;         // {what}: the evidence
     std::string key;          // {key}: of a settings line, "COM44:"
 };
@@ -23,26 +23,26 @@ struct Finding {
     const char* rule = nullptr; // its name, which never changes
     Subject subject;
     std::string sentence; // with the evidence, on one line
-    bool safe = false;    // to be mended without a look at the machine
-    std::string command;  // that mends it; empty if none does
-    std::string remedy;   // what a person does where no command is safe; may be empty
+    bool safe = false;    // the command can be run without looking at the machine
+    std::string command;  // the command that mends it; empty if there is none
+    std::string remedy;   // what a person does if no command is safe; may be empty
 };
 
-// Worst first, those of one rule by number and in the order of the devices.
+// The worst first. Findings of one rule are in the order of their numbers and then of their devices.
 std::vector<Finding> Diagnose(const Records& records);
 
-// The findings that a number or its holder has a part in.
+// The findings that involve a number or its holder.
 std::vector<Finding> FindingsOf(const std::vector<Finding>& findings, unsigned long number,
                                 const Records& records);
 
-// What is not known, and the key of the registry that holds it: what to export to have it.
+// A place that is not known, and the registry key to export so that it is.
 struct MissingPlace {
     Place place;
     const char* name; // "the serial map"
     const char* json; // "serialMap"
     const char* key;
 };
-// Of the known places, the others.
+// The places that are not among the known ones.
 std::vector<MissingPlace> MissingPlaces(unsigned known);
 
 } // namespace host

@@ -13,7 +13,7 @@ TextPairs TextsOf(const NamedTexts& texts) {
     return result;
 }
 
-// An interface may belong to a device without a sheet: a channel that is no port.
+// An interface may belong to a device without a sheet: a channel that is not a port.
 DeviceRecord& Owner(std::vector<DeviceRecord>& devices, const Interface& one) {
     const auto found = std::ranges::find(devices, one.device, &DeviceRecord::id);
     if (found != devices.end()) {

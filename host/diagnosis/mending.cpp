@@ -15,7 +15,7 @@ NumberRecord RecordOf(const Records& records, unsigned long number) {
     return found == numbers.end() ? NumberRecord() : found->second;
 }
 
-// Who has the number, or may have it for all that is known.
+// Who has the number, or might have it as far as is known.
 std::optional<Objection> Holder(const Records& records, const NumberRecord& record) {
     if (!record.holders.empty()) {
         return Objection{LabelOf(records, records.devices[record.holders.front()]) + ", has it"};
@@ -67,7 +67,7 @@ std::optional<Objection> AgainstClaiming(const Records& records, unsigned long n
         return Objection{"more than one device has it"};
     }
     if (record.holders.empty() && record.mapped.empty()) {
-        return Objection{"nothing is there that it would be claimed for"};
+        return Objection{"there is nothing to claim it for"};
     }
     return {};
 }

@@ -1,4 +1,4 @@
-// The records of a machine as the rules look at them: its numbers, and its boards with their channels.
+// The records of a machine as the rules need them: its numbers, and its boards with their channels.
 #pragma once
 
 #include <optional>
@@ -14,7 +14,7 @@ struct ChannelRecord {
     unsigned channel_class = 0;
     unsigned long number = 0;         // on its board
     bool readable = false;            // all its values can be read
-    std::optional<std::size_t> board; // index of the device whose identity it has
+    std::optional<std::size_t> board; // index of the device that has the same identity
 };
 
 struct Model {
@@ -27,18 +27,18 @@ struct Model {
 
     bool Knows(unsigned places) const { return (records.known & places) == places; }
     bool IsPresent(std::size_t device) const { return records.devices[device].present; }
-    // With its label, its number and how it is opened.
+    // The device with its label, its number and its name for `open`.
     Subject About(std::size_t device) const;
 };
 
-// A rule hands each of its findings to this.
+// Takes the findings of a rule.
 using Found = std::vector<Subject>;
 
 struct Rule {
     const char* name;
     unsigned needs; // places
     bool safe;
-    const char* sentence; // {com}, {device} and so on stand for what the finding says
+    const char* sentence; // {com}, {device} and so on are replaced by the finding's values
     const char* command;  // the same; null if there is none
     const char* remedy;
     void (*find)(const Model& model, Found& found);
@@ -46,7 +46,7 @@ struct Rule {
 
 // --- The conditions -------------------------------------------------------------------------------------
 
-// On one device or number each; what they mean says the rule that has them.
+// Each is about one device or one number. The rule that uses it says what it means.
 void FindStaleClaims(const Model& model, Found& found);
 void FindGhostClaims(const Model& model, Found& found);
 void FindSharedNames(const Model& model, Found& found);

@@ -1,4 +1,4 @@
-// COM numbers as a list that is read aloud.
+// COM numbers as a list for people.
 #pragma once
 
 #include <string>
@@ -6,7 +6,8 @@
 
 namespace host {
 
-// "9, 10, 33, 40-59": three and more in a row become a range. The numbers ascend; "none" without any.
+// "9, 10, 33, 40-59": three or more consecutive numbers become a range. The numbers must ascend. "none" if
+// there are none.
 std::string RangesOf(const std::vector<unsigned long>& numbers);
 
 } // namespace host

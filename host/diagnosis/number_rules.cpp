@@ -1,4 +1,4 @@
-// The conditions of the rules that are about COM numbers.
+// The conditions of the rules about COM numbers.
 #include <algorithm>
 
 #include "host/diagnosis/model.h"
@@ -22,7 +22,7 @@ std::string Joined(const std::vector<std::string>& texts) {
     return joined;
 }
 
-// Each port with the name of a number.
+// Calls `take` for each port whose name has a number.
 template <class Take> void ForEachPort(const Model& model, const Take& take) {
     for (const auto& [number, record] : model.numbers) {
         for (const std::size_t holder : record.holders) {
@@ -73,7 +73,7 @@ void FindUnclaimedPorts(const Model& model, Found& found) {
     });
 }
 
-// A printer's port is in the class of the ports, too.
+// A printer's port is in the class of ports too.
 void FindOddNames(const Model& model, Found& found) {
     for (std::size_t index = 0; index < model.records.devices.size(); ++index) {
         const DeviceRecord& device = model.records.devices[index];

@@ -8,7 +8,7 @@ namespace {
 using Values = std::span<const PublishedValue>;
 
 constexpr std::size_t number = 4, address = 8, text = 128;
-// A longer name has no page of its own.
+// A port with a longer name has no page of its own.
 constexpr std::size_t port_name = 40;
 
 constexpr PublishedValue board_identity[] = {{"BoardPciBusNumber", number}, {"BoardIrq", number}};
@@ -110,7 +110,7 @@ std::string ToldShortly(const std::vector<ValueFault>& faults) {
 std::string WhyNoPage(DeviceKind kind, const std::vector<StoreValue>& store) {
     const bool is_board = kind == DeviceKind::Board;
     if (!is_board && !IsChannel(store)) {
-        return "it is no channel of a board";
+        return "it is not a channel of a board";
     }
     const std::vector<ValueFault> faults = is_board ? BoardFaults(store) : PortFaults(store);
     if (!faults.empty()) {

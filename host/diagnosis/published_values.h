@@ -1,5 +1,5 @@
-// What the board's driver must publish for a page, and what of it is wrong: a value that is missing or too
-// long makes its whole device unreadable for the pages.
+// What the board's driver must publish for a page, and what is wrong with it: one value that is missing or
+// too long makes its whole device unreadable for the pages.
 #pragma once
 
 #include <span>
@@ -13,10 +13,10 @@ namespace host {
 
 struct PublishedValue {
     std::string_view name;
-    std::size_t bytes; // the most it may have
+    std::size_t bytes; // the most that are read
 };
 
-// What keeps a value from being read.
+// Why a value can't be read.
 struct ValueFault {
     std::string_view name;
     std::string what; // "is missing", "is too long: texts of 300 bytes, at most 128 are read"
@@ -24,23 +24,24 @@ struct ValueFault {
 
 inline constexpr unsigned uart_class = 1;
 
-// Whether a port says that it belongs to a board at all: others are some other driver's.
+// Whether a port belongs to a board at all. Other ports belong to other drivers.
 bool IsChannel(const std::vector<StoreValue>& store);
 
-// Of a board's own device.
+// The faults of a board's own device.
 std::vector<ValueFault> BoardFaults(const std::vector<StoreValue>& store);
-// Of a channel of a class from 1 to 5, as its board's page reads it.
+// The faults of a channel of a class from 1 to 5, as its board's page reads it.
 std::vector<ValueFault> ChannelFaults(const std::vector<StoreValue>& store, unsigned channel_class);
-// Of a port, as its own page reads it.
+// The faults of a port, as its own page reads it.
 std::vector<ValueFault> PortFaults(const std::vector<StoreValue>& store);
 
-// "UartMode is missing; ChlNumber is too long: ..."; of many the first ones, and how many more there are.
+// "UartMode is missing; ChlNumber is too long: ...". If there are many, the first ones and how many more
+// there are.
 std::string ToldShortly(const std::vector<ValueFault>& faults);
 
 // Why the library has no page for a device with a sheet; empty if it has one.
 std::string WhyNoPage(DeviceKind kind, const std::vector<StoreValue>& store);
-// What of the values that its driver must publish can't be read, a board's or a port's. None of a port that
-// is no channel of a board.
+// The values of a board or a port that its driver must publish and that can't be read. None for a port that
+// is not a channel of a board.
 std::vector<ValueFault> StoreFaults(DeviceKind kind, const std::vector<StoreValue>& store);
 
 } // namespace host

@@ -16,7 +16,7 @@ using Lines = std::vector<std::string>;
 constexpr int columns = 80;
 constexpr const char* indent = "    ";
 
-// A paragraph, its further lines indented.
+// A paragraph. All its lines but the first are indented.
 void Add(Lines& lines, const std::string& text) {
     const Lines broken = BrokenAt(text, columns - 4);
     for (const std::string& line : broken) {
@@ -29,9 +29,9 @@ std::string MendingOf(const Finding& finding) {
         return "safe to mend: " + finding.command;
     }
     if (finding.command.empty()) {
-        return "not safe unseen, by hand: " + finding.remedy;
+        return "not safe without a look, by hand: " + finding.remedy;
     }
-    return "not safe unseen, by hand: " + finding.remedy + "; or: " + finding.command;
+    return "not safe without a look, by hand: " + finding.remedy + "; or: " + finding.command;
 }
 
 void AddFinding(Lines& lines, const Finding& finding) {
@@ -44,12 +44,12 @@ void AddFinding(Lines& lines, const Finding& finding) {
 void AddMissing(Lines& lines, const Records& records) {
     for (const MissingPlace& missing : MissingPlaces(records.known)) {
         Add(lines, std::string{"not known: "} + missing.name +
-                       "; nothing is concluded from that. To have it, export");
+                       "; nothing is concluded from that. To know it, export");
         lines.push_back(indent + std::string{missing.key});
     }
 }
 
-// The numbers of ports about which nothing was found, and the boards.
+// The numbers of the ports that nothing was found about, and the boards.
 struct Sound {
     std::vector<unsigned long> numbers;
     std::vector<std::string> boards; // their labels
@@ -123,7 +123,7 @@ std::string DiagnosisJson(const Records& records, const std::string& machine) {
                                     {"remedy", text(finding.remedy)}});
     }
     list["sound"] = {{"numbers", SoundOf(records, findings).numbers}};
-    // What is no text comes out as U+FFFD.
+    // Invalid UTF-8 becomes U+FFFD.
     return list.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
 }
 

@@ -1,4 +1,4 @@
-// What is found, for those who read it: lines of text, or a list for programs.
+// The findings for their readers: lines of text for people, a list for programs.
 #pragma once
 
 #include <string>
@@ -8,14 +8,14 @@
 
 namespace host {
 
-// What is not known and how to have it, each finding with what mends it, and what is sound.
+// What is not known and how to get it, each finding with what mends it, and what is sound.
 std::vector<std::string> DiagnosisLines(const Records& records);
 
-// The same as JSON: "notKnown", "findings" and "sound", whose names never change. `machine` is the file's
-// name; empty for a machine that is no file.
+// The same as JSON: "notKnown", "findings" and "sound", whose names never change. `machine` is the name of
+// the file, or empty if the machine is not a file.
 std::string DiagnosisJson(const Records& records, const std::string& machine);
 
-// All that is known of one number, place by place.
+// All that is known about one number, place by place.
 std::vector<std::string> NumberLines(const Records& records, unsigned long number);
 
 } // namespace host

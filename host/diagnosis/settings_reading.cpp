@@ -22,7 +22,8 @@ constexpr std::size_t longest_line = 80;
 
 enum class Match { WholeField, FirstLetter };
 
-// One field: what it may be, and what is shown for anything else. An empty one is that without being wrong.
+// One field: its possible values, and what is shown for any other. An empty field shows that too, but is not
+// wrong.
 struct Field {
     const char* name;
     std::span<const std::string_view> known;
@@ -63,7 +64,7 @@ std::string MisreadSpeed(std::string_view field) {
 
 std::string Misread(std::string_view line) {
     if (line.size() > longest_line) {
-        return "more than " + std::to_string(longest_line) + " characters, the rest is passed over";
+        return "more than " + std::to_string(longest_line) + " characters, the rest is ignored";
     }
     std::string_view rest = Trimmed(line);
     if (rest.empty()) {

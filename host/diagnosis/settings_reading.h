@@ -1,5 +1,5 @@
-// How the pages read a settings line, "9600,n,8,1,x": they take what they know and pass over the rest without
-// a word, and what they took is what they write.
+// How the pages read a settings line, "9600,n,8,1,x": they take what they know and silently ignore the rest.
+// What they took is what they write.
 #pragma once
 
 #include <string>
@@ -7,8 +7,8 @@
 
 namespace host {
 
-// The first part of a line that a page would not show as it is written, with what it shows instead:
-// `no speed "1000000", 75 is shown`. Empty for a line that reads back as it is.
+// The first part of a line that a page would show differently from what is written, and what it shows
+// instead: `no speed "1000000", 75 is shown`. Empty if the page shows the line as it is written.
 std::string Misread(std::string_view line);
 
 } // namespace host

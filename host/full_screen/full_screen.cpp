@@ -37,7 +37,7 @@ std::string KeysOf(const Control* control) {
     case Kind::Check:
         return "Space check";
     case Kind::Combo:
-        return control->dropped ? "Up/Down choose  Enter shut" : "Up/Down choose  F4 list";
+        return control->dropped ? "Up/Down choose  Enter close" : "Up/Down choose  F4 list";
     case Kind::List:
         return "Up/Down choose";
     case Kind::Slider:
@@ -52,7 +52,7 @@ std::string KeysOf(const Control* control) {
 
 FullScreen::FullScreen(World& world, Command command) : world_(world), command_(std::move(command)) {
     ReadDevices();
-    world_.Journal(); // what was before is no news
+    world_.Journal(); // what happened before is not news
     HearTrace();
 }
 
@@ -240,7 +240,7 @@ void FullScreen::DrawDevices(int columns, int rows) {
 }
 
 void FullScreen::DrawPane(int top, int rows) {
-    // Of the journal from where the last action begins, of the trace the end, where what came of it stands.
+    // The journal from the start of the last action, or the end of the trace, where its results are.
     const Lines& lines = tracing_ ? trace_ : journal_;
     const std::size_t seen = static_cast<std::size_t>(std::max(0, rows - 1)),
                       first = tracing_ ? trace_.size() - std::min(seen, trace_.size()) : news_,
@@ -264,7 +264,7 @@ void FullScreen::DrawKeys() {
     std::string keys = "Up/Down choose  Enter open  F1 help  F2 ports  F3 store  F5 journal  F10 end";
     if (!windows_.empty()) {
         keys = KeysOf(FocusedOf(front_.window));
-        // As many as there is room for, the most needed first.
+        // As many as fit, the most needed first.
         for (const char* const key :
              {"Tab next", "Esc cancel", "F1 help", "F10 end", "Alt+letter", "F2 ports"}) {
             const std::string more = keys + (keys.empty() ? "" : "  ") + key;
@@ -284,7 +284,7 @@ void FullScreen::DrawWindows() {
         }
         Painted painted;
         painted.window = ReadWindow(window, world_.BoxStyle(window) != 0);
-        // Beside the devices and above the changes if there is room, else over them.
+        // Beside the devices and above the changes if there is room, otherwise over them.
         for (const auto& [most_columns, most_rows] :
              {std::pair{all_columns - pane, rows}, {all_columns, rows}, {all_columns, all_rows}}) {
             painted.placement = Place(painted.window, most_columns, most_rows);

@@ -1,9 +1,9 @@
 // The machine on the full screen of a terminal: its devices, the windows that are open over them, what the
-// last action changed outside, and a line that says what the keys do now.
+// last action changed outside, and a line that says what the keys do at the moment.
 //
-// While a modal window waits, the world calls back and events go to that window until it has ended, as deep
-// as the windows lie over each other. A key becomes the messages of that key, a click what a hand does:
-// nothing of a dialog is known here but what is read from it.
+// While a modal window waits, the world calls back and events go to that window until it has ended, however
+// deeply windows are nested. A key becomes the messages of that key, and a click does what a hand does.
+// Nothing is known here about a dialog except what is read from it.
 #pragma once
 
 #include <functional>
@@ -16,21 +16,21 @@
 
 namespace host {
 
-constexpr int wheel_step = 3; // items or lines that the mouse's wheel turns by
+constexpr int wheel_step = 3; // items or lines that the mouse's wheel moves by
 
 class FullScreen {
 public:
-    // Makes the output of a command of the line, which views show.
+    // Produces the output of a command of the line, for views to show.
     using Command = std::function<Lines(const std::string& line)>;
 
-    // Both must outlive it. The terminal must be able to be filled.
+    // Both must outlive this. The terminal must be one that can be filled.
     FullScreen(World& world, Command command);
     ~FullScreen();
     FullScreen(const FullScreen&) = delete;
     FullScreen& operator=(const FullScreen&) = delete;
 
-    // Until its user leaves or the terminal is gone; windows still open then are cancelled, and questions
-    // answered with No.
+    // Runs until its user leaves or the terminal is gone. Windows that are still open then are cancelled, and
+    // questions are answered with No.
     void Run();
 
 private:
@@ -61,22 +61,22 @@ private:
     Terminal terminal_;
     struct ListedDevice {
         Device device;
-        std::string port;  // COM5; empty for what is no port
-        std::string state; // absent, no page and why, open; empty if nothing of that
+        std::string port;  // COM5; empty if it is not a port
+        std::string state; // absent, no page and why, open; empty if none of these
     };
     std::vector<ListedDevice> devices_;
     std::size_t selected_ = 0;
     int first_device_ = 0;
-    std::vector<HWND> windows_; // from the backmost to the one in front
+    std::vector<HWND> windows_; // from the backmost to the frontmost
     Painted front_;
     Turned turned_;
     HWND dragged_ = nullptr; // the slider that the mouse holds
-    Lines journal_;          // all there was
-    std::size_t news_ = 0;   // where in it the last action begins
-    Lines trace_;            // of the last action that had one; changes stand in it behind a *
+    Lines journal_;          // all of it
+    std::size_t news_ = 0;   // where the last action begins in it
+    Lines trace_;            // of the last action that had one; changes are in it after a *
     bool trace_is_old_ = true;
-    bool tracing_ = false; // the pane tells the trace, not the journal
-    std::string message_;  // said once, in the line of the keys
+    bool tracing_ = false; // the pane shows the trace, not the journal
+    std::string message_;  // shown once, in the line of the keys
     bool ending_ = false;
 };
 

@@ -42,7 +42,7 @@ void FullScreen::TakeClick(const Event& event) {
 void FullScreen::TakeListClick(const Control& list, int row, int rows) {
     const int item = FirstInSight(list, rows, turned_) + row;
     if (row >= 0 && row < rows && item < static_cast<int>(list.items.size())) {
-        turned_[list.window] = item - row; // it stays where it was clicked
+        turned_[list.window] = item - row; // the list stays where it was clicked
         Pick(list, '#' + std::to_string(item));
         if (list.kind == Kind::Combo) {
             SendMessageW(list.window, CB_SHOWDROPDOWN, FALSE, 0);
@@ -50,7 +50,7 @@ void FullScreen::TakeListClick(const Control& list, int row, int rows) {
     }
 }
 
-// The slider in hand to where the mouse is.
+// Moves the slider in hand to where the mouse is.
 void FullScreen::Drag(int column) {
     for (const Placed& placed : front_.placement.controls) {
         const Control& slider = *placed.control;

@@ -35,16 +35,13 @@ Look LookOf(const Control& control) {
     return {control.focused, control.is_default, !control.enabled, 0};
 }
 
-// Where the letter of the hot key stands in a caption as shown, and how wide it is; -1 without one.
+// Where the hot key's letter is in a caption as shown, and how wide it is; -1 if there is none.
 std::pair<int, int> HotKeyIn(const std::string& caption) {
     for (std::size_t at = caption.find('&'); at != std::string::npos; at = caption.find('&', at + 2)) {
         if (at + 1 < caption.size() && caption[at + 1] != '&') {
             const int before = Columns(Shown(caption.substr(0, at)));
-            std::size_t end = at + 2;
-            while (end < caption.size() && (caption[end] & 0xC0) == 0x80) {
-                ++end;
-            }
-            return {before, Columns(caption.substr(at + 1, end - at - 1))};
+            std::string_view letter = std::string_view(caption).substr(at + 1);
+            return {before, ColumnsOf(TakeUtf8(letter))};
         }
     }
     return {-1, 0};
@@ -56,7 +53,7 @@ struct Brush {
     Cells cells; // on the terminal
     const Turned& turned;
 
-    // A caption at the column, as far as there is room.
+    // Writes a caption at the column, as far as there is room.
     void Caption(int column, int columns, const Look& look) const {
         terminal.Write(cells.top, column, Marked(control, Shown(control.text)), columns, look);
         const auto [before, wide] = HotKeyIn(control.text);
@@ -84,7 +81,7 @@ struct Brush {
             if (hot >= 0 && hot < columns && control.enabled) {
                 terminal.Underline(row, left + hot, wide);
             }
-            hot -= columns + 1; // with the blank at which it is broken
+            hot -= columns + 1; // with the blank at which the line is broken
             ++row;
         }
     }
@@ -230,7 +227,7 @@ struct Brush {
     }
 };
 
-// The list of a combo, below it or where there is more room above.
+// The cells of a combo's list: below it, or above it if there is more room.
 Cells ListOf(const Terminal& terminal, const Control& combo, const Cells& cells) {
     const int items = std::max<int>(1, static_cast<int>(combo.items.size()));
     const int below = terminal.rows() - 2 - cells.top, above = cells.top - 1;
@@ -281,7 +278,7 @@ void Paint(Terminal& terminal, Painted& painted, bool front, const Turned& turne
             painted.open_list = ListOf(terminal, *placed.control, cells);
         }
     }
-    for (const Placed& placed : placement.controls) { // above all else
+    for (const Placed& placed : placement.controls) { // above everything else
         if (placed.control->dropped) {
             const Cells& list = painted.open_list;
             Frame(terminal, list, false, {false, true, false, colour_frame});

@@ -1,4 +1,4 @@
-// A window on the terminal: its frame, its controls at their places, and what its open list covers.
+// A window on the terminal: its frame, its controls at their places, and the open list over them.
 #pragma once
 
 #include <map>
@@ -8,7 +8,7 @@
 
 namespace host {
 
-// A window as it was painted last: what a click means.
+// A window as it was last painted. It decides what a click means.
 struct Painted {
     Window window;
     Placement placement;   // of that record
@@ -16,10 +16,10 @@ struct Painted {
     Cells open_list;       // on the terminal; no columns if no list is open
 };
 
-// The first item in sight of each list that was turned by hand.
+// The first visible item of each list that was scrolled by hand.
 using Turned = std::map<HWND, int>;
 
-// The first item in sight: the one to which the list was turned, or so that the selected one can be seen.
+// The first visible item: the one that the list was scrolled to, or one that keeps the selection in sight.
 int FirstInSight(const Control& list, int rows, const Turned& turned);
 
 void Paint(Terminal& terminal, Painted& painted, bool front, const Turned& turned);

@@ -11,14 +11,14 @@ namespace host {
 namespace {
 
 constexpr int wide_edge = 2;    // columns of the window's frame and the space beside it
-constexpr int fewest_items = 3; // of a list in sight
+constexpr int fewest_items = 3; // of a list, that are visible
 constexpr int most_columns_of_item = 34;
 
 bool HasFrame(const Control& control) {
     return control.kind == Kind::Group || control.kind == Kind::List || control.kind == Kind::Table;
 }
 
-constexpr int same_row = 4; // dialog units between the middles of what stands on one row
+constexpr int same_row = 4; // dialog units between the middles of controls on one row
 
 bool ShareRows(const Control& left, const Control& right) {
     const auto top = [](const Control& one) { return HasFrame(one) ? one.area.y : one.area.Middle(); };
@@ -34,7 +34,7 @@ bool IsInside(const Control& control, const Control& group) {
            control.area.Middle() < group.area.y + group.area.cy;
 }
 
-// A label that is tall enough for a second line has two rows, and needs the fewer columns.
+// A label that is tall enough for a second line gets two rows, and so needs fewer columns.
 bool IsTall(const Control& control) {
     constexpr int two_lines = 16; // dialog units
     return control.kind == Kind::Label && control.area.cy >= two_lines;
@@ -55,9 +55,9 @@ int WidestItem(const Control& list) {
     return std::min(list.widest_item, most_columns_of_item);
 }
 
-// The columns of a page's controls: from left to right, each as near to its own place as what stands before
-// it on its rows allows. Those that begin together in the window begin together here, but for a scale of 0:
-// then each row stands for itself, and all is as narrow as it can be.
+// The columns of a page's controls. They are placed from left to right, each as near to its own place as the
+// controls before it on its rows allow. Controls that share a left edge in the window share it here too,
+// except at a scale of 0: then each row is placed by itself, as narrow as possible.
 class Across {
 public:
     Across(const std::vector<const Control*>& controls, double scale) : controls_(controls), scale_(scale) {
@@ -77,7 +77,7 @@ public:
             for (;
                  end == first || (end < controls_.size() && begin_together(controls_[first], controls_[end]));
                  ++end) {
-                left = std::max({left, At(controls_[end]->area.x), BehindOthers(*controls_[end])});
+                left = std::max({left, At(controls_[end]->area.x), AfterOthers(*controls_[end])});
             }
             for (std::size_t one = first; one < end; ++one) {
                 left_[controls_[one]] = left;
@@ -91,7 +91,7 @@ public:
     int columns() const { return last_ + 1; }
     int LeftOf(const Control& control) const { return left_.at(&control); }
 
-    // The last column: as far as its own place reaches, but not into what stands behind it.
+    // The last column: as far as its own place reaches, but not into the control after it.
     int EndOf(const Control& control) const {
         int end =
             std::max(left_.at(&control) + needed_.at(&control) - 1, At(control.area.x + control.area.cx) - 1);
@@ -112,7 +112,7 @@ public:
 private:
     int At(int x) const { return static_cast<int>(std::lround(x * scale_)); }
 
-    // The last column that the control, or what stands in the group, can't do without.
+    // The last column that the control, or a control in the group, needs at least.
     int RightOf(const Control& control) const {
         int right = left_.at(&control) + needed_.at(&control) - 1;
         for (const auto& [other, left] : left_) {
@@ -123,7 +123,7 @@ private:
         return right;
     }
 
-    int BehindOthers(const Control& control) const {
+    int AfterOthers(const Control& control) const {
         int left = 0;
         for (const auto& [other, at] : left_) {
             if (IsInside(control, *other)) {
@@ -138,19 +138,19 @@ private:
     std::vector<const Control*> controls_;
     double scale_;
     bool close_ = scale_ == 0;
-    int spare_ = close_ ? 0 : 1;           // columns between a group and what stands in it
-    std::map<const Control*, int> needed_; // columns that it can't do without
+    int spare_ = close_ ? 0 : 1;           // columns between a group and the controls in it
+    std::map<const Control*, int> needed_; // the fewest columns for each
     std::map<const Control*, int> left_;
     int last_ = 0;
 };
 
-// The rows: all heights at which something stands, those next to each other on one row.
+// The rows: all heights with a control, where heights next to each other share a row.
 class Down {
 public:
     Down(const std::vector<const Control*>& controls, double scale) {
         std::map<int, const Control*> lists; // by their lower edges
-        std::set<int> tall;                  // heights of what has two rows
-        int free = 0;                        // the row behind the last that is taken
+        std::set<int> tall;                  // heights of the labels with two rows
+        int free = 0;                        // the row after the last one taken
         for (const Control* control : controls) {
             const Area& area = control->area;
             if (HasFrame(*control)) {
@@ -185,7 +185,7 @@ private:
     int last_ = -1;
 };
 
-// The last of the scales, from the widest on, that gives no more than `most`; the closest if none does.
+// The largest of the scales up to `widest` that takes no more than `most`; scale 0 if none does.
 template <class Along>
 Along Fit(const std::vector<const Control*>& controls, double widest, int (Along::*size)() const, int most) {
     constexpr int steps = 24;
@@ -198,7 +198,7 @@ Along Fit(const std::vector<const Control*>& controls, double widest, int (Along
     return Along(controls, 0);
 }
 
-// Buttons in a row, from the right or in the middle.
+// Places buttons in a row, at the right or in the middle.
 void PlaceButtons(Placement& placement, const std::vector<const Control*>& buttons, int row, int edge,
                   bool in_the_middle) {
     int columns = -2;
@@ -236,7 +236,7 @@ Placement PlaceBox(const Window& box, int columns) {
 } // namespace
 
 int ColumnsFor(const Control& control, bool close) {
-    const int text = Columns(Shown(control.text)) + 1; // a mark before what is disabled
+    const int text = Columns(Shown(control.text)) + 1; // the mark before a disabled control
     switch (control.kind) {
     case Kind::Button:
         return text + (close ? 2 : 4);
@@ -274,7 +274,7 @@ Placement Place(const Window& window, int columns, int rows) {
     if (window.kind == WindowKind::Box) {
         return PlaceBox(window, columns);
     }
-    constexpr double natural_columns = 0.39, natural_rows = 1.0 / 8; // a dialog unit, where there is room
+    constexpr double natural_columns = 0.39, natural_rows = 1.0 / 8; // per dialog unit, if there is room
     std::vector<const Control*> inside, of_frame;
     for (const Control& control : window.controls) {
         (control.of_frame ? of_frame : inside).push_back(&control);

@@ -1,4 +1,4 @@
-// The full screen as a program starts it.
+// The full screen, as a program starts it.
 #pragma once
 
 #include <functional>
@@ -9,9 +9,9 @@
 
 namespace host {
 
-// Sits before the world until its user leaves; `command` makes the output of a command that the user gives.
-// False if nothing has been done: with the reason if the terminal can't be filled, without one if there is no
-// person at a terminal.
+// Shows the world on the full screen until its user leaves; `command` produces the output of a command that
+// the user gives. Returns false if nothing has been done: with the reason if the terminal can't be filled,
+// without one if nobody is at a terminal.
 bool RunFullScreen(World& world, const std::function<Lines(const std::string& line)>& command,
                    std::string& reason);
 

@@ -10,10 +10,10 @@
 #include <cstring>
 #include <utility>
 
-#define NCURSES_NOMACROS // move and erase are names of the library too
+#define NCURSES_NOMACROS // move and erase are also names in the standard library
 #include <curses.h>
 #include <term.h>
-#undef columns // which the last makes macros of
+#undef columns // term.h makes macros of these
 #undef lines
 #include <poll.h>
 #include <termios.h>
@@ -24,16 +24,16 @@
 namespace host {
 namespace {
 
-constexpr int escape_wait = 400; // milliseconds in which a letter behind Esc makes a hot key of it
+constexpr int escape_wait = 400; // milliseconds in which a letter after Esc counts as a hot key
 constexpr const char* follow_the_mouse = "\033[?1002h";
 constexpr const char* leave_the_mouse = "\033[?1006l\033[?1002l\033[?1000l";
 
 termios before;
-sigset_t signals_before; // the mask, which the wait for input has too
+sigset_t signals_before; // the mask, which also applies during the wait for input
 std::array<char, 256> restoring{};
 volatile std::sig_atomic_t ending = 0;
 
-// All that it calls may be called from a signal.
+// Everything that it calls may be called from a signal handler.
 void Restore() {
     [[maybe_unused]] const auto written =
         write(STDOUT_FILENO, restoring.data(), std::strlen(restoring.data()));
@@ -46,7 +46,7 @@ void OnEnd(int) {
 
 void OnCrash(int signal) {
     Restore();
-    raise(signal); // the handler is gone by now
+    raise(signal); // the handler has been removed by now
 }
 
 void Handle(int signal, void (*handler)(int), int flags) {
@@ -118,7 +118,7 @@ Terminal::Terminal() {
     }
     set_escdelay(25);
     initscr();
-    raw(); // Ctrl-C and Ctrl-Z come as keys, so that a window is not torn away in the middle of a step
+    raw(); // Ctrl-C and Ctrl-Z come as keys, so that no window is torn away in the middle of a step
     noecho();
     nonl();
     keypad(stdscr, TRUE);
@@ -142,7 +142,7 @@ Terminal::Terminal() {
     }
     sequences += Capability("sgr0") + Capability("cnorm") + Capability("rmkx") + Capability("rmcup");
     sequences.copy(restoring.data(), restoring.size() - 1);
-    // These come only while input is awaited: none is lost between a look at what it left and the wait.
+    // These signals come only while input is awaited, so none is lost between the last check and the wait.
     sigset_t awaited;
     sigemptyset(&awaited);
     sigaddset(&awaited, SIGWINCH);
@@ -159,7 +159,7 @@ Terminal::Terminal() {
 Terminal::~Terminal() {
     endwin();
     Restore();
-    sigprocmask(SIG_SETMASK, &signals_before, nullptr); // those that waited are taken as the end that this is
+    sigprocmask(SIG_SETMASK, &signals_before, nullptr); // signals that waited now only set `ending`
     for (const int signal : {SIGHUP, SIGINT, SIGTERM, SIGQUIT, SIGSEGV, SIGABRT, SIGBUS, SIGFPE, SIGILL}) {
         Handle(signal, SIG_DFL, 0);
     }
@@ -217,7 +217,7 @@ void Terminal::Show() {
     refresh();
 }
 
-// What Ctrl-Z asks for. Comes back when the shell brings the program to the front again.
+// What Ctrl-Z asks for. Returns when the shell brings the program to the foreground again.
 Event Terminal::Suspend() {
     endwin();
     if (restoring[0] != 0) {
@@ -231,8 +231,8 @@ Event Terminal::Suspend() {
     return {};
 }
 
-// Esc alone is a key; the letter behind it is a hot key, whether the terminal sends the two for Alt or a hand
-// does.
+// Esc alone is a key. A letter after it makes a hot key, whether the terminal sends the two for Alt or a
+// person types them.
 Event Terminal::OfEscape() {
     pending_ = Read(escape_wait);
     const bool is_key = pending_ && pending_->kind == Event::Kind::Key;
@@ -271,79 +271,84 @@ std::optional<Event> Terminal::OfMouse() {
     return event;
 }
 
-// The next event; nothing if there is none so long. A negative time waits for ever.
+// The event of a key with a code of its own; nothing if it has no meaning here.
+std::optional<Event> Terminal::OfCode(std::wint_t code) {
+    if (code == KEY_RESIZE) {
+        clearok(curscr, TRUE); // the contents are gone even if the size is the same as before
+        return Event{};
+    }
+    if (code == KEY_MOUSE) {
+        return OfMouse();
+    }
+    for (const auto& [known, meant] : keys) {
+        if (code == static_cast<wint_t>(known)) {
+            return OfKey(meant);
+        }
+    }
+    if (code >= KEY_F(1) && code <= KEY_F(12)) {
+        Event event;
+        event.kind = Event::Kind::Function;
+        event.function = static_cast<int>(code - KEY_F0);
+        return event;
+    }
+    const char* const name = keyname(static_cast<int>(code));
+    if (name != nullptr && (std::strcmp(name, "kDN3") == 0 || std::strcmp(name, "kUP3") == 0)) {
+        return OfKey({static_cast<UINT>(name[1] == 'D' ? VK_DOWN : VK_UP), 0, false, true});
+    }
+    return {};
+}
+
+// The event of a character; nothing if it has no meaning here.
+std::optional<Event> Terminal::OfCharacter(std::wint_t character) {
+    switch (character) {
+    case 0x03:
+        return EndEvent();
+    case 0x0C:
+        clearok(curscr, TRUE);
+        return Event{};
+    case 0x1A:
+        return Suspend();
+    case 0x1B:
+        return OfEscape();
+    default:
+        break;
+    }
+    for (const auto& [code, meant] : controls) {
+        if (character == code) {
+            return OfKey(meant);
+        }
+    }
+    if (character >= 0x20 && character <= 0xFFFF) {
+        return OfKey({0, static_cast<WCHAR>(character)});
+    }
+    return {};
+}
+
+// The next event; nothing if there is none within that time. A negative time waits for ever.
 std::optional<Event> Terminal::Read(int milliseconds) {
     if (pending_) {
         return std::exchange(pending_, {});
     }
-    for (;;) {
-        if (ending) {
-            return EndEvent();
-        }
+    while (!ending) {
         wint_t key = 0;
         const int kind = get_wch(&key);
-        if (kind == ERR) {
-            pollfd input{STDIN_FILENO, POLLIN, 0};
-            const timespec time{milliseconds / 1000, milliseconds % 1000 * 1'000'000L};
-            const int ready = ppoll(&input, 1, milliseconds < 0 ? nullptr : &time, &signals_before);
-            if (ready == 0) {
-                return {};
-            }
-            if (ready > 0 && (input.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0) {
-                return EndEvent();
-            }
-            continue;
-        }
-        if (kind == KEY_CODE_YES) {
-            if (key == KEY_RESIZE) {
-                clearok(curscr, TRUE); // the contents are gone even if the size is the one from before
-                return Event{};
-            }
-            if (key == KEY_MOUSE) {
-                if (const auto event = OfMouse()) {
-                    return event;
-                }
-                continue;
-            }
-            for (const auto& [code, meant] : keys) {
-                if (key == static_cast<wint_t>(code)) {
-                    return OfKey(meant);
-                }
-            }
-            if (key >= KEY_F(1) && key <= KEY_F(12)) {
-                Event event;
-                event.kind = Event::Kind::Function;
-                event.function = static_cast<int>(key - KEY_F0);
+        if (kind != ERR) {
+            if (const auto event = kind == KEY_CODE_YES ? OfCode(key) : OfCharacter(key)) {
                 return event;
             }
-            const char* const name = keyname(static_cast<int>(key));
-            if (name != nullptr && (std::strcmp(name, "kDN3") == 0 || std::strcmp(name, "kUP3") == 0)) {
-                return OfKey({static_cast<UINT>(name[1] == 'D' ? VK_DOWN : VK_UP), 0, false, true});
-            }
             continue;
         }
-        switch (key) {
-        case 0x03:
-            return EndEvent();
-        case 0x0C:
-            clearok(curscr, TRUE);
-            return Event{};
-        case 0x1A:
-            return Suspend();
-        case 0x1B:
-            return OfEscape();
-        default:
+        pollfd input{STDIN_FILENO, POLLIN, 0};
+        const timespec time{milliseconds / 1000, milliseconds % 1000 * 1'000'000L};
+        const int ready = ppoll(&input, 1, milliseconds < 0 ? nullptr : &time, &signals_before);
+        if (ready == 0) {
+            return {};
+        }
+        if (ready > 0 && (input.revents & (POLLHUP | POLLERR | POLLNVAL)) != 0) {
             break;
         }
-        for (const auto& [code, meant] : controls) {
-            if (key == code) {
-                return OfKey(meant);
-            }
-        }
-        if (key >= 0x20 && key <= 0xFFFF) {
-            return OfKey({0, static_cast<WCHAR>(key)});
-        }
     }
+    return EndEvent();
 }
 
 Event Terminal::Next() {

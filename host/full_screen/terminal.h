@@ -1,6 +1,7 @@
-// The terminal: what a person does at it, and how it is left as it was found, however the program ends.
+// The terminal: what a person does at it. It is left as it was found, however the program ends.
 #pragma once
 
+#include <cwchar>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,14 +13,14 @@ namespace host {
 struct Event {
     enum class Kind {
         Key,      // for the window in front
-        Function, // F1 to F12 but F4, which is a key of windows
+        Function, // F1 to F12 except F4, which is a key of windows
         Press,    // of the mouse, at `row` and `column`
         Drag,
         Release,
         WheelUp,
         WheelDown,
         Resize,
-        End, // Ctrl-C, a signal that ends the program, or the terminal is gone
+        End, // Ctrl-C, a signal that ends the program, or the loss of the terminal
     };
     Kind kind = Kind::Resize;
     Key key{};
@@ -27,17 +28,17 @@ struct Event {
     int column = 0, row = 0;
 };
 
-// How a text stands out. All can be told apart without colours.
+// How a text stands out. All looks differ even without colours.
 struct Look {
     bool reversed = false, bold = false, dim = false;
-    int colour = 0; // one of the next, where there are colours
+    int colour = 0; // one of the constants below, if there are colours
 };
 constexpr int colour_frame = 1, colour_title = 2, colour_mark = 3, colour_hot_key = 4;
 
-// Why the terminal can't be filled; nothing if it can.
+// Why the terminal can't be filled; nothing if it can be.
 std::optional<std::string> WhyNoFullScreen();
 
-// The screen is its own while it lasts; one at a time.
+// Owns the screen while it lives. Only one may exist at a time.
 class Terminal {
 public:
     Terminal();
@@ -49,12 +50,12 @@ public:
     int rows() const;
 
     void Clear();
-    // At most `columns` of the text, with what would command the terminal written out; blanks up to that
-    // many.
+    // Writes at most `columns` of the text and fills up with blanks. Characters that command the terminal are
+    // written out.
     void Write(int row, int column, std::string_view text, int columns, const Look& look = {});
-    // One letter of what stands there is the hot key.
+    // Marks one letter of the text there as the hot key.
     void Underline(int row, int column, int columns);
-    void PointAt(int row, int column); // where the cursor stands; it is hidden until it is told after a Clear
+    void PointAt(int row, int column); // puts the cursor there; hidden until the first call after a Clear
     void Show();
 
     Event Next();
@@ -62,10 +63,12 @@ public:
 private:
     Event Suspend();
     std::optional<Event> Read(int milliseconds);
+    std::optional<Event> OfCode(std::wint_t code);
+    std::optional<Event> OfCharacter(std::wint_t character);
     Event OfEscape();
     std::optional<Event> OfMouse();
 
-    std::optional<Event> pending_; // what came behind an Esc that was none of its own
+    std::optional<Event> pending_; // what came after an Esc that did not belong to it
     bool cursor_ = false;
     bool pressed_ = false; // the mouse's button is down
 };

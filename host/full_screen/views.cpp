@@ -1,4 +1,4 @@
-// What the function keys show over the whole screen, and the command that one of them asks for.
+// What the function keys show over the whole screen, and the command line that one of them opens.
 #include <algorithm>
 #include <iterator>
 
@@ -8,28 +8,28 @@
 namespace host {
 namespace {
 
-// No larger than the smallest terminal shows at once.
+// It fits on the smallest terminal.
 constexpr const char* help[] = {
-    "Tab, Shift-Tab     the next control, the one before",
-    "Alt and a letter   the control whose letter is underlined; where the terminal",
-    "                   keeps Alt: Esc, and then the letter",
+    "Tab, Shift-Tab     the next or the previous control",
+    "Alt and a letter   the control whose letter is underlined; if the terminal",
+    "                   keeps Alt: Esc, then the letter",
     "Space              checks a box, presses a button",
     "Enter              presses the button <in these>",
     "Esc                cancels",
     "arrows             move within a list, a slider, a group",
-    "F4, Alt-Down       opens and shuts a combo's list",
-    "letters            find the item that begins so",
+    "F4, Alt-Down       opens and closes a combo's list",
+    "letters            find the item that begins with them",
     "mouse              click, drag a slider, turn the wheel over a list",
     "",
     "F2  all places that hold a port's number   F3  the store of the device",
-    "F5  all of what the pane below tells       F6  a command of the line",
-    "F7  what is wrong with the machine         F8  what differs from it as read",
-    "F9  lets the pane tell what the last action has changed outside, or its trace:",
-    "    what the pages decided, and at its place behind a * what they changed",
-    "F10, Ctrl-C  ends; what is open is cancelled",
-    "Ctrl-L       paints the screen anew",
+    "F5  everything that the pane below shows   F6  a typed command",
+    "F7  what is wrong with the machine         F8  what has changed since",
+    "F9  switches the pane between what the last action changed outside and its",
+    "    trace: what the pages decided and, after a *, what they changed",
+    "F10, Ctrl-C  ends and cancels all open windows",
+    "Ctrl-L       repaints the screen",
     "",
-    "~ stands before what is disabled.",
+    "~ marks a disabled control.",
 };
 
 } // namespace
@@ -89,11 +89,9 @@ void FullScreen::View(const std::string& title, const Lines& lines) {
         terminal_.Clear();
         terminal_.Write(0, 0, ' ' + title, columns, {false, true, false, colour_title});
         for (int row = 0; row < rows && first + row < static_cast<int>(lines.size()); ++row) {
-            std::string line = lines[static_cast<std::size_t>(first + row)];
+            std::string_view line = lines[static_cast<std::size_t>(first + row)];
             for (int cut = 0; cut < shift && !line.empty(); ++cut) {
-                do {
-                    line.erase(0, 1);
-                } while (!line.empty() && (line.front() & 0xC0) == 0x80);
+                TakeUtf8(line);
             }
             terminal_.Write(1 + row, 0, line, columns);
         }
@@ -131,7 +129,7 @@ void FullScreen::View(const std::string& title, const Lines& lines) {
 
 Lines FullScreen::Do(const std::string& line) {
     Lines said = command_(line);
-    HearTrace(); // the commands let go of it at their end
+    HearTrace(); // commands stop the trace when they end
     return said;
 }
 

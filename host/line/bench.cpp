@@ -20,7 +20,7 @@ unsigned long NumberIn(const std::string& word) {
     long number = 0;
     const unsigned long named = PortNumber(word);
     if (named == 0 && (!ParseNumber(word, number) || number < 1)) {
-        throw Refusal(Quoted(word) + " is no COM number");
+        throw Refusal(Quoted(word) + " is not a COM number");
     }
     return named != 0 ? named : static_cast<unsigned long>(number);
 }
@@ -105,7 +105,7 @@ Lines Bench::Mend(const Words&) {
             lines.insert(lines.end(), told.begin(), told.end());
         }
     }
-    return lines.empty() ? Lines{"nothing is there that is safe to mend"} : lines;
+    return lines.empty() ? Lines{"there is nothing that is safe to mend"} : lines;
 }
 
 Lines Bench::Changes(const Words&) {
@@ -122,9 +122,9 @@ Lines Bench::Undo(const Words&) {
     MustBeKept();
     const std::string command = history_.Undo();
     if (command.empty()) {
-        throw Refusal("nothing has been done that could be taken back");
+        throw Refusal("there is nothing to undo");
     }
-    return {"taken back: " + command};
+    return {"undone: " + command};
 }
 
 Lines Bench::Reload(const Words&) {
@@ -147,7 +147,7 @@ Lines Bench::Fail(const Words& words) {
     const bool off = words.size() == 2 && Folded(words[1]) == "off";
     long call = 0;
     if (!off && (words.size() < 3 || !ParseNumber(words[2], call) || call < 1)) {
-        throw Refusal("right is: fail OPERATION N, from 1, or fail off");
+        throw Refusal("use fail OPERATION N, from 1, or fail off");
     }
     Must(world_.Fail(off ? std::string() : words[1], static_cast<std::size_t>(call)),
          "the system itself can't be made to fail");

@@ -1,5 +1,5 @@
-// The service engineer's bench: what the commands do that tell what is wrong with a machine, mend it, and
-// make a patch of that. Each gives the lines that it answers and throws Refusal where it does nothing.
+// The service engineer's bench: what the commands do that find what is wrong with a machine, mend it, and
+// make a patch of the changes. Each returns the lines of its answer, and throws Refusal if it does nothing.
 #pragma once
 
 #include <string>
@@ -14,8 +14,8 @@ namespace host {
 
 class Bench {
 public:
-    // Takes the machine as it is now for what it was read as. The world must outlive it, and `source` is the
-    // name of its file, for a patch.
+    // Regards the machine in its present state as the one that was read. The world must outlive this, and
+    // `source` is the name of its file, for a patch.
     Bench(World& world, std::string source);
 
     Lines Diagnose(const Words& words);

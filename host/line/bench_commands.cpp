@@ -9,7 +9,7 @@ template <Lines (Bench::*Run)(const Words&)> void Do(Interpreter& host, const Wo
     host.Write((host.bench().*Run)(words));
 }
 
-// What sets the machine back would leave an open page with what is no more.
+// Setting the machine back would leave an open page with data that no longer exist.
 template <Lines (Bench::*Run)(const Words&)> void DoAlone(Interpreter& host, const Words& words) {
     if (const std::vector<std::string> open = host.OpenWindows(); !open.empty()) {
         throw Refusal(open.back() + " is open; close it first");
@@ -21,19 +21,20 @@ template <Lines (Bench::*Run)(const Words&)> void DoAlone(Interpreter& host, con
 
 std::span<const Command> BenchCommands() {
     static constexpr Command commands[] = {
-        {"diagnose", "", "tells what is wrong with the ports and boards, worst first, and what mends it",
+        {"diagnose", "", "lists what is wrong with the ports and boards, worst first, and what mends it",
          &Do<&Bench::Diagnose>},
-        {"why", "NUMBER", "tells all that is known of one COM number", &Do<&Bench::Why>},
+        {"why", "NUMBER", "shows all that is known about one COM number", &Do<&Bench::Why>},
         {"free", "NUMBER [--even-so]", "takes a number from the COM port database", &Do<&Bench::Free>},
         {"claim", "NUMBER [--even-so]", "marks a number as in use there", &Do<&Bench::Claim>},
         {"forget", "LINE [--even-so]", "deletes a settings line, such as COM44:", &Do<&Bench::Forget>},
-        {"mend", "", "does all that diagnose calls safe", &Do<&Bench::Mend>},
+        {"mend", "", "mends all that diagnose calls safe to mend", &Do<&Bench::Mend>},
         {"changes", "", "lists what differs from the machine as it was read", &Do<&Bench::Changes>},
-        {"undo", "", "takes back the last command that changed something", &DoAlone<&Bench::Undo>},
-        {"reload", "", "takes back all", &DoAlone<&Bench::Reload>},
+        {"undo", "", "undoes the last command that changed something", &DoAlone<&Bench::Undo>},
+        {"reload", "", "goes back to the machine as it was read", &DoAlone<&Bench::Reload>},
         {"patch", "[--over] FILE",
-         "writes what has changed as a file to import there, and one that takes it back", &Do<&Bench::Patch>},
-        {"fail", "OPERATION [N]", "lets the n-th call of an operation from now fail; fail off ends that",
+         "writes a file to import that makes the same changes, and one that takes it back",
+         &Do<&Bench::Patch>},
+        {"fail", "OPERATION [N]", "makes the n-th call of an operation from now on fail; fail off ends that",
          &Do<&Bench::Fail>},
     };
     return commands;

@@ -1,5 +1,5 @@
-// The commands, a table for each group. A new one is a row of its group's table and a function beside it; a
-// new group is a file of its own, named in commands.cpp.
+// The commands, with a table for each group. A new command is a row in its group's table and a function
+// beside it; a new group is a file of its own, named in commands.cpp.
 #pragma once
 
 #include <span>
@@ -15,32 +15,32 @@ using Words = std::vector<std::string>;
 
 struct Command {
     const char* name;
-    // A word each, in [] what may be left out. DEVICE, CONTROL, ITEM and words parted by | are completed at
-    // the terminal.
+    // One word each, in [] if it may be left out. DEVICE, CONTROL, ITEM and words separated by | are
+    // completed at the terminal.
     const char* arguments;
     const char* help;
     // `words` begins with the command's name; there are as many as the arguments allow. Throws Refusal if the
-    // command can't be done; nothing has changed then.
+    // command can't be carried out; nothing has changed then.
     void (*run)(Interpreter& host, const Words& words);
 };
 
 std::span<const Command> MachineCommands(); // what the machine holds
-std::span<const Command> TraceCommands();   // what the library tells of itself
-std::span<const Command> BenchCommands();   // what is wrong with it, and what mends it
+std::span<const Command> TraceCommands();   // what the library traces
+std::span<const Command> BenchCommands();   // what is wrong with the machine, and what mends it
 std::span<const Command> WindowCommands();  // what a hand does to its windows
 std::span<const Command> SessionCommands(); // the session itself
 
-// All of them, in the order in which help lists them.
+// All commands, in the order in which help lists them.
 const std::vector<Command>& Commands();
 
-// The command that a word means: its name, or the beginning of no other. Throws Refusal with what comes
-// nearest.
+// The command that a word means: by its name, or an unambiguous beginning of it. Throws Refusal with the
+// nearest names.
 const Command& FindCommand(std::string_view word);
 
-// The file of the words, which end in "[--over] FILE". Throws Refusal if it exists and is not to be replaced.
+// The file in words that end in "[--over] FILE". Throws Refusal if it exists and may not be replaced.
 std::string FileToWrite(const Words& words);
 
-// What may follow the words, in a line that is not finished.
+// What may follow the words in an unfinished line.
 Words Completions(Interpreter& host, const Words& words);
 
 } // namespace host

@@ -8,7 +8,7 @@
 namespace host {
 namespace {
 
-// Whether the command can be done to such a control.
+// Whether the command applies to such a control.
 bool IsFor(std::string_view command, Kind kind) {
     switch (kind) {
     case Kind::Button:

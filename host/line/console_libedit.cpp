@@ -1,4 +1,4 @@
-// The standard input as a terminal, by libedit: prompt, history, completion by the tabulator key.
+// The standard input at a terminal, through libedit: prompt, history, completion with the Tab key.
 #include <algorithm>
 #include <clocale>
 #include <csignal>
@@ -21,7 +21,7 @@ volatile std::sig_atomic_t interrupted = 0;
 class Terminal : public LineSource {
 public:
     Terminal() {
-        // A locale without a character set of its own, such as C, must not take letters from a name.
+        // A locale without a character set of its own, such as C, must not drop letters from a name.
         std::setlocale(LC_CTYPE, "");
         if (std::string_view{nl_langinfo(CODESET)} != "UTF-8") {
             std::setlocale(LC_CTYPE, "C.UTF-8");
@@ -38,7 +38,8 @@ public:
         el_wset(edit_, EL_ADDFN, L"complete", L"Completes the word", &Terminal::Complete);
         el_set(edit_, EL_BIND, "^I", "complete", nullptr);
         el_set(edit_, EL_SIGNAL, 1);
-        // Ctrl-C ends what is typed and nothing else; the editor passes the signal on and stops reading.
+        // Ctrl-C discards what has been typed and does nothing else; the editor passes the signal on and
+        // stops reading.
         struct sigaction interrupt {};
         interrupt.sa_handler = [](int) { interrupted = 1; };
         sigaction(SIGINT, &interrupt, nullptr);
@@ -89,8 +90,8 @@ private:
 
     static char* PromptOf(EditLine* edit) { return Of(edit).prompt_.data(); }
 
-    // Goes on with the word at the end of the line as far as all that can follow agrees; where nothing is to
-    // be added, it lists what can follow.
+    // Extends the word at the end of the line as far as all possible continuations agree. If it can't be
+    // extended, lists the continuations.
     static unsigned char Complete(EditLine* edit, int) {
         const LineInfo* const info = el_line(edit);
         std::vector<std::string> words;

@@ -1,5 +1,4 @@
-// The standard input of a program that has no live windows of its own to attend to: the console edits the
-// line.
+// The standard input of a program without live windows that need attention: the console edits the line.
 #include <windows.h>
 
 #include <fcntl.h>
@@ -34,7 +33,7 @@ std::unique_ptr<LineSource> OpenConsole() {
     return LinesOf(std::cin);
 }
 
-// The lines end as they do everywhere else.
+// Lines end as they do on other systems.
 void OpenOutput() {
     SetConsoleOutputCP(CP_UTF8);
     _setmode(_fileno(stdin), _O_BINARY);

@@ -1,5 +1,5 @@
-// The standard input on Windows. A person who types sees the windows live meanwhile and can operate them by
-// hand as well: while a line is awaited, the messages of this thread go their way.
+// The standard input on Windows. A person who types sees the windows live meanwhile and can also operate them
+// by hand: while a line is awaited, this thread's messages are dispatched.
 #include <fcntl.h>
 #include <io.h>
 
@@ -16,9 +16,9 @@ namespace {
 class Console : public LineSource {
 public:
     Console() {
-        // Ctrl-C gives the line up and ends nothing.
+        // Ctrl-C discards the line and ends nothing.
         SetConsoleCtrlHandler([](DWORD event) -> BOOL { return event == CTRL_C_EVENT; }, TRUE);
-        // Reads a line each time it is asked to; it may still wait for one when the program ends.
+        // Reads a line each time it is asked to. It may still be waiting for one when the program ends.
         std::thread([this] {
             for (bool open = true; open;) {
                 WaitForSingleObject(wanted_, INFINITE);
@@ -51,7 +51,7 @@ public:
                     DispatchMessageW(&message);
                 }
             }
-            // A window opened or closed by hand: what is in front is no longer what the line would be for.
+            // A window was opened or closed by hand, so the line would no longer be for the window in front.
             if (FrontWindow() != front) {
                 return std::string{};
             }
@@ -69,10 +69,10 @@ private:
     HANDLE typed_ = CreateEventW(nullptr, FALSE, FALSE, nullptr);
     std::string line_;
     bool at_end_ = false;
-    bool waiting_ = false; // a line has been asked for and not yet come
+    bool waiting_ = false; // a line has been asked for and has not come yet
 };
 
-// The console speaks UTF-8 for the life of the program and is left as it was found.
+// The console uses UTF-8 while the program runs, and is left as it was found.
 class Utf8Console {
 public:
     Utf8Console() {
@@ -100,7 +100,7 @@ std::unique_ptr<LineSource> OpenConsole() {
     return LinesOf(std::cin);
 }
 
-// The lines end as they do everywhere else.
+// Lines end as they do on other systems.
 void OpenOutput() {
     static const Utf8Console utf8;
     _setmode(_fileno(stdin), _O_BINARY);

@@ -1,4 +1,4 @@
-// What the commands have made of a machine, step by step, to be taken back.
+// What the commands have made of a machine, kept step by step so that it can be undone.
 #pragma once
 
 #include <memory>
@@ -11,17 +11,17 @@ namespace host {
 
 class History {
 public:
-    // The world must outlive it.
+    // The world must outlive this.
     explicit History(World& world);
 
-    // Ends a step: if the machine has changed since the last one, it can be taken back from here on.
+    // Ends a step. If the machine has changed since the last one, the step can be undone from now on.
     void Note(const std::string& command);
 
     // Whether this machine can be set back at all.
     bool IsKept() const { return first_ != nullptr; }
-    // Takes the last step back and gives its command; empty if there is none.
+    // Undoes the last step and returns its command; empty if there is none.
     std::string Undo();
-    // Goes back to the machine as it was read; that can be taken back too.
+    // Sets the machine back to what was read. That can be undone too.
     void Reload();
 
 private:

@@ -72,7 +72,7 @@ void Interpreter::Step() {
     }
     if (!comment) {
         ++commands_;
-        // What happens around a message box belongs to the command that has brought it.
+        // What happens around a message box belongs to the command that brought it up.
         const bool answers = !windows_.empty() && world_.BoxStyle(windows_.back().handle) != 0;
         Execute(line);
         if (!answers) {
@@ -122,8 +122,8 @@ void Interpreter::End() {
     const bool was_asked = asked_at_ >= 0 && commands_ - asked_at_ <= 1;
     if (lines_.IsPerson() && !was_asked && world_.HasUnsavedChanges()) {
         asked_at_ = commands_;
-        return Tell(
-            "The machine has changed and was not exported: export FILE keeps it, quit once more leaves it.");
+        return Tell("The machine has changed and was not exported: export FILE saves it, quit again discards "
+                    "the changes.");
     }
     ending_ = true;
 }

@@ -62,7 +62,7 @@ std::string FileToWrite(const Words& words) {
     const std::string& file = words.back();
     const bool over = words.size() > 2;
     if (over && words[1] != "--over") {
-        throw Refusal(Quoted(words[1]) + " is none of --over");
+        throw Refusal(Quoted(words[1]) + " is not --over");
     }
     std::error_code none;
     if (!over && std::filesystem::exists(std::filesystem::path(FromUtf8(file)), none)) {
@@ -75,10 +75,10 @@ std::span<const Command> MachineCommands() {
     static constexpr Command commands[] = {
         {"devices", "", "lists the devices: number, kind, name, instance id, and why one has no page",
          &Devices},
-        {"store", "DEVICE", "lists what the device store holds, and what of it is missing or too long",
+        {"store", "DEVICE", "lists what the device store holds, and which values are missing or too long",
          &Store},
-        {"ports", "", "lists all places that hold a port's number, and what disagrees", &Ports},
-        {"journal", "", "tells what the library has changed outside itself since the last time", &Journal},
+        {"ports", "", "lists all places that hold a port's number, and which of them disagree", &Ports},
+        {"journal", "", "lists what the library has changed outside itself since the last journal", &Journal},
         {"export", "[--over] FILE", "writes the machine as a registry file; --over replaces one that exists",
          &Export},
     };

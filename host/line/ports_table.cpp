@@ -14,8 +14,9 @@ namespace {
 
 constexpr std::array<const char*, 8> headings = {"device",   "channel",    "PortName", "friendly",
                                                  "DOS name", "serial map", "database", "settings line"};
-constexpr std::size_t dos_names = 4; // the column that is left out where room is short
+constexpr std::size_t dos_names = 4; // the column that is left out if room is short
 using Row = std::array<std::string, headings.size()>;
+using Rows = std::vector<Row>;
 
 constexpr const char* differs = " differs";
 constexpr const char* missing = "missing";
@@ -77,23 +78,11 @@ Row RowOf(const std::string& name, unsigned long number, const Device& device, c
     return row;
 }
 
-std::string Line(const Row& cells, const std::array<int, headings.size()>& widths) {
-    std::string line;
-    for (std::size_t column = 0; column < cells.size(); ++column) {
-        line += widths[column] != 0 ? "  " + PaddedTo(cells[column], widths[column]) : "";
-    }
-    return line.substr(0, line.find_last_not_of(' ') + 1);
-}
-
-} // namespace
-
-Lines PortsTable(World& world, int columns) {
-    const PortRecords records = world.Ports();
+// A row for each port, below the headings. `held` gets the numbers that the ports have.
+Rows RowsOf(World& world, const PortRecords& records, std::set<unsigned long>& held) {
+    Rows rows{{}};
+    std::ranges::copy(headings, rows.front().begin());
     const std::vector<Device> devices = world.Devices();
-    std::vector<Row> rows{{}};
-    std::copy(headings.begin(), headings.end(), rows.front().begin());
-    std::multiset<std::string> names;
-    std::set<unsigned long> held;
     for (std::size_t index = 0; index < devices.size(); ++index) {
         if (devices[index].kind != DeviceKind::Port) {
             continue;
@@ -108,48 +97,85 @@ Lines PortsTable(World& world, int columns) {
         const StoreValue* const channel_number = FindValue(store, "ChlNumber");
         rows.back()[1] =
             channel_number != nullptr && NumberOf(*channel_number, channel) ? std::to_string(channel) : "-";
-        names.insert(Folded(Escaped(name)));
         held.insert(number);
     }
+    return rows;
+}
+
+// Marks the names that are not COM and a number, and those that several ports have.
+void MarkNames(Rows& rows) {
+    std::multiset<std::string> names;
+    for (const Row& row : rows) {
+        names.insert(Folded(row[2]));
+    }
     for (auto row = rows.begin() + 1; row != rows.end(); ++row) {
-        if (PortNumber((*row)[2]) == 0 && (*row)[2] != "none") {
-            (*row)[2] += " is no COM";
-        } else if (names.count(Folded((*row)[2])) > 1) {
-            (*row)[2] += " twice";
+        std::string& name = (*row)[2];
+        if (name == "none") {
+            continue;
+        }
+        if (PortNumber(name) == 0) {
+            name += " is not COM";
+        } else if (names.count(Folded(name)) > 1) {
+            name += " twice";
         }
     }
+}
 
+Lines Written(const Rows& rows, const std::array<int, headings.size()>& widths) {
+    Lines lines;
+    for (const Row& row : rows) {
+        std::string line;
+        for (std::size_t column = 0; column < row.size(); ++column) {
+            line += widths[column] != 0 ? "  " + PaddedTo(row[column], widths[column]) : "";
+        }
+        lines.push_back(line.substr(0, line.find_last_not_of(' ') + 1));
+    }
+    return lines;
+}
+
+bool AreTooWide(const Lines& lines, int columns) {
+    return columns != 0 &&
+           std::ranges::any_of(lines, [&](const std::string& line) { return Columns(line) > columns; });
+}
+
+Lines LinesOf(const Rows& rows, int columns) {
     std::array<int, headings.size()> widths{};
     for (const Row& row : rows) {
         for (std::size_t column = 0; column < row.size(); ++column) {
             widths[column] = std::max(widths[column], Columns(row[column]));
         }
     }
-    Lines lines;
-    const auto write = [&] {
-        lines.clear();
-        for (const Row& row : rows) {
-            lines.push_back(Line(row, widths));
-        }
-    };
-    write();
-    const auto too_wide = [&] {
-        return columns != 0 &&
-               std::ranges::any_of(lines, [&](const std::string& line) { return Columns(line) > columns; });
-    };
-    if (too_wide()) {
-        widths[dos_names] = 0;
-        write();
+    Lines lines = Written(rows, widths);
+    if (!AreTooWide(lines, columns)) {
+        return lines;
+    }
+    widths[dos_names] = 0;
+    return Written(rows, widths);
+}
+
+std::string ClaimedWithoutDevice(const PortRecords& records, const std::set<unsigned long>& held) {
+    if (!records.usage) {
+        return unknown;
     }
     std::vector<unsigned long> unheld;
-    const std::size_t numbers = records.usage ? 8 * records.usage->size() : 0;
-    for (unsigned long number = 1; number <= numbers; ++number) {
+    for (unsigned long number = 1; number <= 8 * records.usage->size(); ++number) {
         if (IsClaimed(records, number) && !held.contains(number)) {
             unheld.push_back(number);
         }
     }
-    lines.push_back("  claimed without a device: " + (records.usage ? RangesOf(unheld) : unknown));
-    if (too_wide()) {
+    return RangesOf(unheld);
+}
+
+} // namespace
+
+Lines PortsTable(World& world, int columns) {
+    const PortRecords records = world.Ports();
+    std::set<unsigned long> held;
+    Rows rows = RowsOf(world, records, held);
+    MarkNames(rows);
+    Lines lines = LinesOf(rows, columns);
+    lines.push_back("  claimed without a device: " + ClaimedWithoutDevice(records, held));
+    if (AreTooWide(lines, columns)) {
         std::ranges::transform(lines, lines.begin(), [&](const auto& line) { return CutTo(line, columns); });
     }
     return lines;

@@ -1,5 +1,5 @@
-// The device manager's stand-in: opens the property sheets of a machine's devices with the pages of the
-// library and operates them by typed commands or a script, or tells what is wrong with a machine.
+// A stand-in for the device manager: it opens the property sheets of a machine's devices with the pages of
+// the library and operates them by typed commands or a script, or reports what is wrong with a machine.
 #include "host/line/program.h"
 
 #include <iostream>
@@ -21,7 +21,7 @@ namespace host {
 namespace {
 
 constexpr const char* unsaved = "kvrhost: the machine has changed and was not exported\n";
-constexpr int sound = 0, found = 1, unreadable = 2; // what the program ends with
+constexpr int sound = 0, found = 1, unreadable = 2; // exit statuses of the program
 
 void Write(const std::vector<std::string>& lines) {
     for (const std::string& line : lines) {
@@ -67,10 +67,10 @@ int Diff(const std::string& before, const std::string& after) {
 
 struct Session {
     std::string file;
-    std::string language; // as it was called; empty for that of the locale
+    std::string language; // as the user named it; empty for the language of the locale
     std::vector<std::string> commands;
     bool stop = false;
-    bool line = false; // at a prompt, though the terminal could be filled
+    bool line = false; // at a prompt, even if the terminal could be filled
 };
 
 struct OneLine : LineSource {
@@ -139,7 +139,7 @@ int Run(const Session& session, OpenLines open_console, FillScreen fill_screen) 
     if (lines->IsPerson()) {
         interpreter.Tell(
             world->Greeting() +
-            ": devices lists what can be opened, diagnose tells what is wrong, help the commands.");
+            ": devices lists what can be opened, diagnose finds what is wrong, help lists the commands.");
     }
     const int failed = interpreter.Run();
     if (!lines->IsPerson() && !interpreter.had_input()) {
@@ -156,29 +156,27 @@ int Run(const Session& session, OpenLines open_console, FillScreen fill_screen) 
 int RunProgram(int argc, char** argv, OpenLines open_console, FillScreen fill_screen) {
     CLI::App app{"Opens the property sheets of a board and its ports on the full screen of a terminal, or "
                  "operates them\n"
-                 "by commands from the standard input, one a line. The command help lists them."};
+                 "by commands from the standard input, one per line. The command help lists them."};
     app.set_version_flag("--version", "kvrhost " VERSION_TEXT);
     Session session;
     app.add_option("machine", session.file, "registry export of the machine; without it, the sample machine");
     app.add_option("--language", session.language,
                    "the user's language by number, code or name: 1031, de, german; without it, that of the "
                    "locale");
-    app.add_option("-c", session.commands, "the commands, one each, instead of those of the input");
-    app.add_flag("--line", session.line, "commands at a prompt, also where the terminal could be filled");
+    app.add_option("-c", session.commands, "one command each; they replace the standard input");
+    app.add_flag("--line", session.line, "commands at a prompt instead of the full screen");
     app.add_flag("--stop", session.stop, "end at the first command that fails");
 
     std::string file, other;
     bool json = false;
     CLI::App* const diagnose = app.add_subcommand(
-        "diagnose",
-        "Tells what is wrong and what mends it; ends with 0 if nothing is, with 1 if something is,\n"
-        "with 2 if the machine can't be read");
+        "diagnose", "Shows what is wrong and what mends it. The exit status is 0 if nothing is wrong, 1 if\n"
+                    "something is, and 2 if the machine can't be read.");
     diagnose->add_option("machine", file, "registry export of the machine");
-    diagnose->add_flag("--json", json, "as a list for programs");
+    diagnose->add_flag("--json", json, "prints a list for programs");
     CLI::App* const diff = app.add_subcommand(
-        "diff",
-        "Tells what differs between two exports of a machine; ends with 0 if nothing does, with 1 if\n"
-        "something does, with 2 if one can't be read");
+        "diff", "Shows what differs between two exports of a machine. The exit status is 0 if nothing does,\n"
+                "1 if something does, and 2 if one can't be read.");
     diff->add_option("old", file, "the older one")->required();
     diff->add_option("new", other, "the newer one")->required();
     CLI11_PARSE(app, argc, argv);

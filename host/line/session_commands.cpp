@@ -6,7 +6,7 @@ namespace host {
 namespace {
 
 void TellOf(Interpreter& host, const Command& command) {
-    host.Tell("  " + PaddedTo(std::string{command.name} + ' ' + command.arguments, 24) + command.help);
+    host.Tell("  " + PaddedTo(std::string{command.name} + ' ' + command.arguments, 25) + command.help);
 }
 
 void Help(Interpreter& host, const Words& words) {
@@ -16,11 +16,11 @@ void Help(Interpreter& host, const Words& words) {
     for (const Command& command : Commands()) {
         TellOf(host, command);
     }
-    host.Tell("A command may be cut short as long as no other begins so. A CONTROL is named by its caption, "
-              "by the");
-    host.Tell("label before it, or by its number. A caption with blanks stands in \"...\". Lines that begin "
-              "with # are");
-    host.Tell("comments.");
+    host.Tell(
+        "A command may be shortened as long as it stays unambiguous. A CONTROL is named by its caption, by");
+    host.Tell(
+        "the label before it, or by its number. A caption with blanks is put in \"...\". Lines that begin");
+    host.Tell("with # are comments.");
 }
 
 void Quit(Interpreter& host, const Words&) {
@@ -35,9 +35,9 @@ void Source(Interpreter& host, const Words& words) {
 
 std::span<const Command> SessionCommands() {
     static constexpr Command commands[] = {
-        {"source", "FILE", "does the commands of a file", &Source},
-        {"help", "[COMMAND]", "tells the commands", &Help},
-        {"quit", "", "cancels what is open and ends; exit does the same", &Quit},
+        {"source", "FILE", "runs the commands of a file", &Source},
+        {"help", "[COMMAND]", "lists the commands", &Help},
+        {"quit", "", "cancels all open windows and ends; exit does the same", &Quit},
     };
     return commands;
 }

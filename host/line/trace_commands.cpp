@@ -9,8 +9,8 @@
 namespace host {
 namespace {
 
-// A line of the trace stands as the library wrote it; one of the journal has a * before it. What a file holds
-// already stays before what comes.
+// A line of the trace is written as it is, one of the journal with a * before it. They are appended to what a
+// file already holds.
 World::TraceListener ListenerFor(Interpreter& host, const std::string& where) {
     const std::string word = Folded(where);
     if (word == "off") {
@@ -41,7 +41,7 @@ void Trace(Interpreter& host, const Words& words) {
 std::span<const Command> TraceCommands() {
     static constexpr Command commands[] = {
         {"trace", "on|off|FILE",
-         "shows or keeps what the library decides, and between it what it changes (*)", &Trace},
+         "shows or keeps what the library decides, and in between what it changes (*)", &Trace},
     };
     return commands;
 }

@@ -8,7 +8,7 @@
 namespace host {
 namespace {
 
-constexpr int apply_now = 0x3021; // the sheet's own Apply button, on every Windows
+constexpr int apply_now = 0x3021; // the number of the sheet's own Apply button, on every Windows
 
 constexpr struct {
     const char* word;
@@ -24,7 +24,7 @@ int IdOf(const auto& table, const std::string& word) {
         }
         words += std::string{words.empty() ? "" : ", "} + entry.word;
     }
-    throw Refusal(Quoted(word) + " is none of " + words);
+    throw Refusal(Quoted(word) + " is not one of " + words);
 }
 
 void Open(Interpreter& host, const Words& words) {
@@ -63,7 +63,7 @@ void SlideTo(Interpreter& host, const Words& words) {
     const Control& slider = host.InFront(front, words[1]);
     long position = 0;
     if (!ParseNumber(words[2], position)) {
-        throw Refusal(Quoted(words[2]) + " is no number");
+        throw Refusal(Quoted(words[2]) + " is not a number");
     }
     Slide(slider, position);
 }
@@ -108,7 +108,7 @@ std::span<const Command> WindowCommands() {
         {"pick", "CONTROL ITEM", "picks an item of a list: by its text, its first word, or #n counted from 0",
          &PickItem},
         {"check", "CONTROL", "checks a box", &CheckOn},
-        {"uncheck", "CONTROL", "takes the check from a box", &CheckOff},
+        {"uncheck", "CONTROL", "unchecks a box", &CheckOff},
         {"slide", "CONTROL POSITION", "moves a slider", &SlideTo},
         {"click", "CONTROL", "presses a button of the window in front", &ClickOn},
         {"answer", "yes|no|ok", "answers a message box", &Answer},

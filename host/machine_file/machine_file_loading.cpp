@@ -14,7 +14,7 @@ namespace {
 
 using TextView = std::u16string_view;
 
-// What a text holds up to its terminator; none if the value is missing or no text.
+// The text of a value up to its terminator; nothing if the value is missing or not a text.
 std::optional<Text> TextOf(const sim::Value* value) {
     if (value == nullptr || value->type != REG_SZ) {
         return std::nullopt;
@@ -22,7 +22,7 @@ std::optional<Text> TextOf(const sim::Value* value) {
     return TextIn(value->data);
 }
 
-// Missing values and those that are no numbers are 0.
+// Missing values and those that are not numbers are 0.
 DWORD NumberOf(const TreeKey* key, TextView name) {
     const sim::Value* const value = key != nullptr ? key->values.Find(name) : nullptr;
     DWORD number = 0;
@@ -32,7 +32,7 @@ DWORD NumberOf(const TreeKey* key, TextView name) {
     return number;
 }
 
-// The path of the control set that the file means.
+// The path of the control set that the file refers to.
 Text ControlSetOf(const TreeKey& root) {
     if (root.Find(current_set) != nullptr) {
         return Text(current_set);
@@ -43,7 +43,8 @@ Text ControlSetOf(const TreeKey& root) {
     return sim::FromUtf8(path);
 }
 
-// "@file.inf,%name%;Text" names a text of the file, with the text itself for where it can't be had.
+// "@file.inf,%name%;Text" refers to a text of an INF file and carries the text itself in case that is
+// missing.
 std::optional<Text> Description(std::optional<Text> text) {
     if (text && text->starts_with(u'@')) {
         text->erase(0, text->rfind(u';') + 1);
@@ -91,7 +92,7 @@ std::vector<sim::Device> DevicesOf(const TreeKey& set) {
     return devices;
 }
 
-// The interfaces that one key of a class stands for: as a rule the one without a reference string.
+// The interfaces that one key of a class stands for: usually just the one without a reference string.
 void AddInterfaces(const GUID& class_guid, TextView name, const TreeKey& key, std::size_t device,
                    std::vector<sim::Interface>& interfaces) {
     const bool linked = NumberOf(key.Find(u"Control"), u"Linked") != 0;
@@ -142,7 +143,7 @@ sim::PortUsage PortUsageOf(const sim::Value* database) {
     return usage;
 }
 
-// A port in the serial map has a DOS name for its object.
+// Each port in the serial map has a DOS name for its object.
 std::vector<std::pair<Text, Text>> DosNamesOf(const sim::Values& serial_map) {
     std::vector<std::pair<Text, Text>> names;
     for (const sim::Value& value : serial_map.list) {
@@ -188,7 +189,7 @@ bool LoadMachine(std::istream& in, const std::string& name, MachineFile& file, P
         return false;
     }
     read.control_set = ControlSetOf(read.root);
-    // The other sets are those of earlier or of failed starts.
+    // The other sets belong to earlier or failed starts.
     if (const auto system = read.root.keys.find(u"SYSTEM"); system != read.root.keys.end()) {
         const Text kept = read.control_set.substr(read.control_set.find(u'\\') + 1);
         std::erase_if(system->second.keys, [&](const auto& each) {

@@ -11,7 +11,7 @@ namespace {
 
 using sim::Text;
 
-// The keys of the file as they are to be written: what has changed is put into them.
+// The keys of the file as they are to be written, with the changes put into them.
 class ChangedKeys {
 public:
     ChangedKeys(MachineFile& file, const sim::Machine& machine) : file_(file), machine_(machine) {
@@ -81,7 +81,7 @@ private:
         });
     }
 
-    // The path is the name of the key, with # for each backslash; what follows a backslash of its own is a
+    // The path is the name of the key with # for each backslash. The part after a further backslash is a
     // reference string, which has a subkey.
     void PutInterface(const sim::Interface& one) {
         if (IsKnown(one)) {
@@ -110,7 +110,7 @@ private:
 
     MachineFile& file_;
     const sim::Machine& machine_;
-    sim::Machine before_; // as the file had it
+    sim::Machine before_; // as the file described it
 };
 
 // The keys below one, in the order in which they were read or made.

@@ -1,4 +1,4 @@
-// What is kept of a registry export while it is read: the keys and values that make a machine.
+// The part of a registry export that is kept while it is read: the keys and values that make up a machine.
 #include "host/machine_file/machine_keeper.h"
 
 #include <algorithm>
@@ -10,8 +10,8 @@ namespace {
 
 using TextView = std::u16string_view;
 
-// The keys below HKEY_LOCAL_MACHINE that mean something, and which of their values; all of them where none is
-// named. An asterisk stands for any one name, a question mark for that of a control set.
+// The keys below HKEY_LOCAL_MACHINE that have a meaning, and which of their values; all of them if none is
+// named. An asterisk stands for any name, a question mark for the name of a control set.
 struct KeptKey {
     TextView path;
     TextView values[4];
@@ -27,17 +27,17 @@ constexpr KeptKey kept_keys[] = {
     {u"SYSTEM\\?\\Control\\DeviceClasses\\*\\*\\*", {u"SymbolicLink"}},
     {u"SYSTEM\\?\\Control\\DeviceClasses\\*\\*\\*\\Control", {u"Linked"}},
     {u"SYSTEM\\?\\Control\\COM Name Arbiter", {u"ComDB"}},
-    // Newer systems keep the name of a device's class with the class alone.
+    // Newer systems keep the name of a device's class only with the class.
     {u"SYSTEM\\?\\Control\\Class\\*", {u"Class"}},
 };
 
 enum class Fit {
     None,
     Whole,
-    Mistaken, // a name that means something ends at a slash
+    Mistaken, // a name that has a meaning is followed by a slash
 };
 
-// Names may hold slashes, but whoever writes one after a name of the pattern means a backslash.
+// Names may hold slashes, but a slash after a name of the pattern is meant to be a backslash.
 Fit FitOf(TextView path, TextView pattern) {
     while (!pattern.empty() && !path.empty()) {
         const TextView wanted = TakeComponent(pattern);

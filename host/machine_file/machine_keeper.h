@@ -1,4 +1,4 @@
-// Takes from a registry export what makes a machine, and leaves the rest.
+// Takes what makes up a machine from a registry export, and ignores the rest.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,7 @@ namespace host {
 
 class MachineKeeper : public ExportReceiver {
 public:
-    // What is kept, below HKEY_LOCAL_MACHINE. Both are the keeper's caller's.
+    // What is kept goes below HKEY_LOCAL_MACHINE. Both arguments belong to the caller.
     MachineKeeper(TreeKey& root, std::size_t& count) : root_(root), count_(count) {}
 
     KeyUse Key(std::u16string_view path) override;
@@ -22,8 +22,7 @@ public:
 private:
     TreeKey& root_;
     std::size_t& count_;
-    std::span<const std::u16string_view>
-        values_; // that are kept of the current key; all if the first is empty
+    std::span<const std::u16string_view> values_; // kept of the current key; all if the first is empty
     TreeKey* key_ = nullptr;
 };
 

@@ -1,4 +1,4 @@
-// Where a registry keeps what makes a machine: the keys that loading and saving share.
+// Where a registry keeps what makes up a machine: the keys that loading and saving share.
 #pragma once
 
 #include <string>

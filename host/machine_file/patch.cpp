@@ -21,7 +21,7 @@ bool IsPatched(std::u16string_view path) {
     return false;
 }
 
-// Null stands for a key that is not there.
+// Null stands for a key that does not exist.
 const sim::Values& ValuesOf(const TreeKey* key) {
     static const sim::Values none;
     return key != nullptr ? key->values : none;

@@ -1,5 +1,4 @@
-// A patch: what differs between two states of a machine and nothing else, in the form that a registry editor
-// imports.
+// A patch: only what differs between two states of a machine, in the form that a registry editor imports.
 #pragma once
 
 #include <string>
@@ -9,7 +8,7 @@
 
 namespace host {
 
-// What is to be done to one key. A key itself is never removed: it may hold on the real machine what the
+// The changes to one key. A key itself is never removed, because on the real machine it may hold what the
 // export did not have.
 struct KeyChange {
     sim::Text path; // "HKEY_LOCAL_MACHINE\..."
@@ -17,12 +16,12 @@ struct KeyChange {
     std::vector<sim::Text> erased;
 };
 
-// What makes the second out of the first, in the order of the paths. Only the device stores, the COM port
-// database and the settings lines are looked at: an administrator may write these, and no driver makes them
-// anew at its start.
+// The changes that lead from the first to the second, in the order of the paths. They cover only the device
+// stores, the COM port database and the settings lines: an administrator may write these, and no driver makes
+// them anew when it starts.
 std::vector<KeyChange> KeyChanges(const MachineFile& before, const MachineFile& after);
 
-// False if the file can't be written, with the reason. The comments stand at its head, a line each.
+// The comments come first, one per line. Returns false with the reason if the file can't be written.
 bool WritePatch(const std::vector<KeyChange>& changes, const std::vector<std::string>& comments,
                 const std::string& path, std::string& error);
 

@@ -39,7 +39,7 @@ constexpr auto digit_values = [] {
     return values;
 }();
 
-// -1 if it is no hexadecimal digit.
+// -1 if it is not a hexadecimal digit.
 int DigitValue(WCHAR unit) {
     return unit < digit_values.size() ? digit_values[unit] : -1;
 }
@@ -105,7 +105,7 @@ private:
         return is_here;
     }
 
-    // A key's name may hold any bracket but ends at the last of the line.
+    // A key's name may hold any bracket. It ends at the last bracket of the line.
     void ReadKey() {
         ++at_;
         const bool deletes = Take('-');
@@ -134,7 +134,7 @@ private:
         state_ = use == KeyUse::Wanted ? State::Wanted : State::Unwanted;
     }
 
-    // No importer takes what follows a NUL.
+    // Importers ignore what follows a NUL.
     void RefuseNul(TextView text) const {
         if (text.find(WCHAR{0}) != TextView::npos) {
             Fail("a text without NUL");
@@ -162,7 +162,7 @@ private:
         } else if (at_ != end_ && *at_ == '"') {
             text_.clear();
             ReadQuoted(text_, true);
-            // The text's own terminator is its last unit.
+            // The last unit of the text is its own terminator.
             Deliver(REG_SZ,
                     {reinterpret_cast<const BYTE*>(text_.c_str()), (text_.size() + 1) * sizeof(WCHAR)});
         } else if (TakeWord(TEXT("dword:"))) {
@@ -186,7 +186,7 @@ private:
         }
     }
 
-    // What stands in quotes, and nothing else but blanks to the end of the line if it is a value's text.
+    // Reads a text in quotes. If it is a value's text, only blanks may follow on the line.
     void ReadQuoted(Text& text, bool is_value) {
         const std::size_t first_number = lines_.Number();
         ++at_;
@@ -220,7 +220,8 @@ private:
         if (!is_value) {
             return;
         }
-        // Where the first quote of a later line ends the text and more follows, it was meant to begin a name.
+        // If the first quote of a later line ends the text and more follows, that quote was meant to begin a
+        // name.
         const bool is_name = lines_.Number() != first_number && at_ == lines_.Line().data() + 1;
         SkipBlanks();
         if (!AtLineEnd()) {
@@ -253,7 +254,7 @@ private:
         return number;
     }
 
-    // Of "hex:" or "hex(type):", what stands after hex.
+    // Reads the rest of "hex:" or "hex(type):" after hex.
     DWORD ReadType() {
         DWORD type = REG_BINARY;
         if (Take('(')) {
@@ -268,7 +269,7 @@ private:
         return type;
     }
 
-    // Bytes parted by commas; the line goes on after a comma with \ at its end.
+    // Reads bytes separated by commas. The line continues after a comma with \ at its end.
     void ReadBytes() {
         data_.clear();
         SkipBlanks();
@@ -301,7 +302,7 @@ private:
         EndLine("a comma or the end of the line after the byte");
     }
 
-    // The bulk of a line: bytes of two digits with a comma after them.
+    // Reads the bulk of a line: bytes of two digits, each followed by a comma.
     void TakeWholeBytes() {
         for (; end_ - at_ >= 3 && at_[2] == ','; at_ += 3) {
             const int value = DigitValue(at_[0]) << 4 | DigitValue(at_[1]);
@@ -319,7 +320,7 @@ private:
     TextLines lines_;
     ExportReceiver& receiver_;
     State state_ = State::NoKey;
-    const WCHAR* at_ = nullptr; // what is left of the current line
+    const WCHAR* at_ = nullptr; // the rest of the current line
     const WCHAR* end_ = nullptr;
     Text name_, text_;
     std::vector<BYTE> data_;

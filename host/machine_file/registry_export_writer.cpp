@@ -11,7 +11,7 @@ using TextView = std::basic_string_view<WCHAR>;
 
 constexpr TextView line_end = TEXT("\r\n");
 
-// A text that stands in quotes as it is: one terminator, at its end, and no line end.
+// Whether a text can be written in quotes: it has one terminator, at its end, and no line end.
 bool IsQuotable(std::span<const BYTE> data) {
     if (data.size() < sizeof(WCHAR) || data.size() % sizeof(WCHAR) != 0) {
         return false;
@@ -56,7 +56,7 @@ void AppendHex(Text& line, DWORD number, int digits) {
     }
 }
 
-// As regedit wraps them: no line is longer than 80 columns but one with a long name.
+// As regedit wraps them: no line exceeds 80 columns unless its name is long.
 void AppendBytes(Text& line, std::span<const BYTE> data) {
     constexpr std::size_t last_column = 77;
     std::size_t line_begin = 0;

@@ -1,4 +1,4 @@
-// The sample machine, carried in the program byte for byte.
+// The sample machine, embedded in the program byte for byte.
 #include "host/machine_file/machine_file.h"
 
 // SAMPLE_MACHINE is the path of the file.

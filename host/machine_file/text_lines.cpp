@@ -11,7 +11,7 @@ namespace {
 
 static_assert(std::endian::native == std::endian::little, "UTF-16LE is read as it lies in the file");
 
-constexpr std::size_t block = 0x10000; // units or bytes that are read at once
+constexpr std::size_t block = 0x10000; // units or bytes that are read at a time
 
 } // namespace
 
@@ -21,7 +21,7 @@ TextLines::TextLines(std::istream& in) : in_(in), units_(block), bytes_(block) {
     constexpr BYTE utf16_mark[] = {0xFF, 0xFE}, utf8_mark[] = {0xEF, 0xBB, 0xBF};
     if (undecoded_ >= 2 && std::equal(utf16_mark, std::end(utf16_mark), bytes_.data())) {
         utf16_ = true;
-        // The third byte is half a unit, which FillUtf16 makes whole.
+        // The third byte is half a unit, which FillUtf16 completes.
         bytes_[0] = bytes_[2];
         undecoded_ -= 2;
     } else if (undecoded_ >= 2 &&
@@ -54,8 +54,8 @@ bool TextLines::Next() {
     return true;
 }
 
-// The byte of a line feed is looked for, as that is many times faster than looking for the unit. It is rare
-// as half of another unit.
+// Searches for the byte of a line feed, because that is many times faster than searching for the unit. The
+// byte is rarely half of another unit.
 bool TextLines::FindLineFeed() {
     const char* const begin = reinterpret_cast<const char*>(units_.data());
     const char* const end = begin + filled_ * sizeof(WCHAR);
@@ -112,14 +112,14 @@ void TextLines::FillUtf8() {
     const std::size_t decoded = Decode(bytes_.data(), count);
     undecoded_ = count - decoded;
     std::copy_n(bytes_.begin() + static_cast<std::ptrdiff_t>(decoded), undecoded_, bytes_.begin());
-    // A character's beginning can only wait for its other bytes.
+    // Only the beginning of a character may wait for the rest of its bytes.
     if (undecoded_ != 0 && (at_end_ || undecoded_ >= Utf8Length(bytes_[0]))) {
         broken_ = "text in UTF-8";
         at_end_ = true;
     }
 }
 
-// Gives the number of bytes taken: up to the end, or a character that is not whole or none.
+// Returns the number of bytes taken: all of them, or those before an incomplete or invalid character.
 std::size_t TextLines::Decode(const BYTE* bytes, std::size_t count) {
     std::size_t at = 0;
     while (at < count) {

@@ -15,10 +15,10 @@ bool WriteWhole(const std::string& path, const std::function<void(std::ostream&)
     std::error_code failure;
     fs::path place(FromUtf8(path));
     const fs::file_status status = fs::status(place, failure);
-    // A pipe or a terminal is written to and stays what it is.
+    // A pipe or a terminal is written to and not replaced.
     const bool replaces = !fs::exists(status) || fs::is_regular_file(status);
     if (const fs::path linked = fs::canonical(place, failure); replaces && !failure) {
-        place = linked; // a link stays one
+        place = linked; // a link stays a link
     }
     fs::path written = place;
     if (replaces) {

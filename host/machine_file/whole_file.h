@@ -1,4 +1,4 @@
-// Files that are written as a whole or not at all.
+// Files that are written completely or not at all.
 #pragma once
 
 #include <functional>
@@ -7,9 +7,9 @@
 
 namespace host {
 
-// Writes a file aside, under its name with ".part" behind it, and then puts it in the place of the one that
-// is there, whose permissions it takes. If that fails, the one that is there stays as it was; false then,
-// with the reason.
+// Writes a file under its name with ".part" appended, and then replaces the existing file with it, taking
+// over its permissions. If that fails, the existing file stays as it was, and false is returned with the
+// reason.
 bool WriteWhole(const std::string& path, const std::function<void(std::ostream&)>& write, std::string& error);
 
 } // namespace host

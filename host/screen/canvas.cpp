@@ -15,15 +15,15 @@ void Canvas::Put(int column, int row, std::string glyph, int columns) {
         return;
     }
     Row& cells = cells_[static_cast<std::size_t>(row)];
-    const auto first = static_cast<std::size_t>(column), behind = first + static_cast<std::size_t>(columns);
+    const auto first = static_cast<std::size_t>(column), end = first + static_cast<std::size_t>(columns);
     if (cells[first].empty()) {
         cells[first - 1] = " ";
     }
-    if (behind < cells.size() && cells[behind].empty()) {
-        cells[behind] = " ";
+    if (end < cells.size() && cells[end].empty()) {
+        cells[end] = " ";
     }
     cells[first] = std::move(glyph);
-    for (std::size_t half = first + 1; half < behind; ++half) {
+    for (std::size_t half = first + 1; half < end; ++half) {
         cells[half].clear();
     }
 }

@@ -1,4 +1,4 @@
-// A sheet of character cells to draw on. Coordinates are columns and rows from 0; what lies outside is cut
+// A sheet of character cells to draw on. Coordinates are columns and rows from 0; anything outside is cut
 // off. A wide character fills two cells; drawing over one half of it blanks the other.
 #pragma once
 
@@ -15,19 +15,19 @@ public:
     int columns() const { return columns_; }
     int rows() const { return static_cast<int>(cells_.size()); }
 
-    // Not cut to any width but the sheet's own: whoever must not go beyond a place cuts the text first.
+    // The text is cut only at the width of the sheet. A caller with a narrower place cuts it first.
     void Write(int column, int row, std::string_view text);
-    // A box with its corners at (left, top) and (right, bottom); the inside stays as it is. `title` stands in
-    // the upper edge.
+    // A box with its corners at (left, top) and (right, bottom). The inside is left alone. `title` is written
+    // into the upper edge.
     void Frame(int left, int top, int right, int bottom, std::string_view title, bool doubled = false);
-    // Lays another sheet over this one, which grows if it must.
+    // Lays another sheet over this one, which grows if necessary.
     void Lay(int column, int row, const Canvas& other);
 
-    // The rows as text, without blanks at their ends.
+    // The rows as text, without trailing blanks.
     std::vector<std::string> Lines() const;
 
 private:
-    // UTF-8: a character with the marks on it; empty for the right half of a wide one.
+    // UTF-8: a character with its combining marks; empty for the right half of a wide one.
     using Row = std::vector<std::string>;
 
     void Put(int column, int row, std::string glyph, int columns);

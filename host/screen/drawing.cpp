@@ -11,7 +11,7 @@ namespace host {
 namespace {
 
 constexpr double columns_per_unit = 0.39; // a dialog of 257 units takes 100 columns
-constexpr double rows_per_unit = 1.0 / 7; // even spaces between what stands 21 units apart, as most does
+constexpr double rows_per_unit = 1.0 / 7; // even spaces between controls 21 units apart, as most are
 
 int ColumnAt(int x) {
     return static_cast<int>(std::lround(x * columns_per_unit));
@@ -21,8 +21,8 @@ bool IsFrame(const Control& control) {
     return control.kind == Kind::Group || control.kind == Kind::List || control.kind == Kind::Table;
 }
 
-// The rows of a picture: all heights at which something stands, those next to each other on one row, and no
-// two rows of the window on one row of the picture.
+// The rows of a picture: all heights with a control, where heights next to each other share a row, but no two
+// rows of the window share one.
 class Rows {
 public:
     explicit Rows(const std::vector<Control>& controls) {
@@ -143,7 +143,7 @@ void DrawTable(Canvas& canvas, const Control& table, int left, int top, int righ
     }
 }
 
-// What stands on a dialog or a page, at its places.
+// Draws the controls of a dialog or a page, at their places.
 Canvas DrawPlaces(const std::vector<Control>& controls, int cx, int cy) {
     const Rows rows(controls);
     Canvas canvas(ColumnAt(cx), std::max(rows.last() + 1, static_cast<int>(std::lround(cy * rows_per_unit))));
@@ -173,7 +173,7 @@ Canvas DrawPlaces(const std::vector<Control>& controls, int cx, int cy) {
     return canvas;
 }
 
-// Buttons in a row, as wide as their texts ask for.
+// Buttons in a row, each as wide as its text needs.
 std::string ButtonRow(const std::vector<Control>& controls) {
     std::string row;
     for (const Control& control : controls) {

@@ -1,5 +1,5 @@
-// A picture of the screen in characters, from the places that the windows tell. The window in front has a
-// double frame and lies over those behind it, as in life; ~ marks what is disabled.
+// A picture of the screen in characters, from the places that the windows report. The window in front has a
+// double frame and covers those behind it, as on a real screen; ~ marks a disabled control.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@
 
 namespace host {
 
-// The windows from the backmost to the one in front; a line of text each row, the legend last.
+// The windows from the backmost to the frontmost; one line of text per row, the legend last.
 std::vector<std::string> Draw(const std::vector<Window>& windows);
 
 // A control's text, with ~ before it if the control is disabled.

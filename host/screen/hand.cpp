@@ -22,6 +22,14 @@ void Require(const Control& control, std::initializer_list<Kind> kinds, const ch
     }
 }
 
+void RequireItems(const Control& combo_or_list) {
+    Require(combo_or_list, {Kind::Combo, Kind::List}, "picked from");
+}
+
+void RequireSlider(const Control& slider) {
+    Require(slider, {Kind::Slider}, "slid");
+}
+
 void TellParent(const Control& control, UINT message, WPARAM wParam) {
     SendMessageW(GetParent(control.window), message, wParam, reinterpret_cast<LPARAM>(control.window));
 }
@@ -41,8 +49,12 @@ void SetCheck(const Control& check, bool checked) {
 }
 
 void Pick(const Control& combo_or_list, std::string_view name) {
-    Require(combo_or_list, {Kind::Combo, Kind::List}, "picked from");
-    const int item = FindItem(combo_or_list, name);
+    RequireItems(combo_or_list);
+    PickItem(combo_or_list, FindItem(combo_or_list, name));
+}
+
+void PickItem(const Control& combo_or_list, int item) {
+    RequireItems(combo_or_list);
     const bool combo = combo_or_list.kind == Kind::Combo;
     SendMessageW(combo_or_list.window, combo ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(item), 0);
     TellParent(combo_or_list, WM_COMMAND,
@@ -50,11 +62,16 @@ void Pick(const Control& combo_or_list, std::string_view name) {
 }
 
 void Slide(const Control& slider, long position) {
-    Require(slider, {Kind::Slider}, "slid");
+    RequireSlider(slider);
     if (position < slider.minimum || position > slider.maximum) {
         throw Refusal("the slider goes from " + std::to_string(slider.minimum) + " to " +
                       std::to_string(slider.maximum));
     }
+    Drag(slider, position);
+}
+
+void Drag(const Control& slider, long position) {
+    RequireSlider(slider);
     SendMessageW(slider.window, TBM_SETPOS, TRUE, static_cast<LPARAM>(position));
     TellParent(slider, WM_HSCROLL, MAKEWPARAM(TB_THUMBPOSITION, position));
     TellParent(slider, WM_HSCROLL, MAKEWPARAM(TB_ENDTRACK, 0));

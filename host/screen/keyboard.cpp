@@ -25,7 +25,7 @@ void PressKey(HWND front, const Key& key) {
     keys[VK_SHIFT] = key.shift ? down : 0;
     keys[VK_MENU] = key.alt ? down : 0;
     SetKeyboardState(keys);
-    // Without a focus the keys go to the window in front, which takes them as if Alt were down.
+    // If no control has the focus, keys go to the window in front, which takes them as if Alt were down.
     const HWND focus = GetFocus();
     const bool focused = IsChild(front, focus) != FALSE;
     const HWND target = focused ? focus : front;
@@ -36,7 +36,7 @@ void PressKey(HWND front, const Key& key) {
         return;
     }
     Deliver(front, target, system ? WM_SYSKEYDOWN : WM_KEYDOWN, key.code, how);
-    if (GetFocus() == target) { // else the key goes up over another window, which does nothing on that
+    if (GetFocus() == target) { // otherwise the key goes up over another window, which ignores that
         Deliver(front, target, system ? WM_SYSKEYUP : WM_KEYUP, key.code, how | goes_up);
     }
 }

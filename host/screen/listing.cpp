@@ -17,7 +17,7 @@ std::string StateOf(const Control& control) {
     if (control.kind == Kind::Combo || control.kind == Kind::List) {
         const auto selected = static_cast<std::size_t>(control.selection);
         if (control.selection < 0 || selected >= control.items.size()) {
-            state += ", nothing of " + std::to_string(control.items.size());
+            state += ", none of " + std::to_string(control.items.size());
         } else {
             state += ", " + std::to_string(selected + 1) + " of " + std::to_string(control.items.size()) +
                      ": " + control.items[selected];

@@ -1,4 +1,4 @@
-// What the host tells in lines: the devices, a device's store, the controls in front.
+// What the host shows in lines: the devices, a device's store, the controls in front.
 #pragma once
 
 #include <string>

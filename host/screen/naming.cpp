@@ -16,9 +16,9 @@ bool IsCalledByLabel(const Control& control) {
            control.kind == Kind::Table;
 }
 
-// The control that a label stands before: the next one to the right of it on its line.
+// The control that a label belongs to: the next one to the right of it on its line.
 const Control* LabelledBy(const Window& window, const Control& label) {
-    constexpr int line = 6; // dialog units between the middles of what stands on one line
+    constexpr int line = 6; // dialog units between the middles of controls on one line
     const Control* nearest = nullptr;
     for (const Control& control : window.controls) {
         if (!control.of_frame && IsCalledByLabel(control) && control.area.x > label.area.x &&

@@ -28,10 +28,10 @@ std::string ClassName(HWND window) {
 constexpr const char* dialog_class = "#32770";
 constexpr const char* tab_class = "systabcontrol32";
 
-// A combo may be told with the height of the list that it drops down.
+// The height reported for a combo may include the list that it drops down.
 constexpr int closed_combo = 14;
 
-// What 4,000 by 8,000 dialog units are on the screen.
+// The pixels of 4,000 by 8,000 dialog units.
 RECT Scale(HWND dialog) {
     RECT scale{0, 0, 4000, 8000};
     if (!MapDialogRect(dialog, &scale) || scale.right <= 0 || scale.bottom <= 0) {

@@ -1,5 +1,5 @@
-// The windows on the screen, read into plain records: all that the drawing, the listing and the hand need, so
-// that none of them asks a window anything. A record is a picture of one moment and is read anew for each
+// The windows on the screen, read into plain records with all that the drawing, the listing and the hand
+// need, so that none of them asks a window anything. A record describes one moment and is read anew for each
 // use.
 #pragma once
 
@@ -11,7 +11,7 @@
 
 namespace host {
 
-// In dialog units, from the upper left corner of the dialog or page that the control stands on.
+// In dialog units, from the upper left corner of the dialog or page that holds the control.
 struct Area {
     int x = 0, y = 0, cx = 0, cy = 0;
     int Middle() const { return y + cy / 2; }
@@ -19,7 +19,7 @@ struct Area {
 
 enum class Kind { Group, Label, Button, Check, Combo, List, Table, Slider };
 
-// As the listing calls it.
+// The name of the kind in a listing.
 const char* KindName(Kind kind);
 
 struct TableColumn {
@@ -27,13 +27,13 @@ struct TableColumn {
     int cx = 0; // dialog units
 };
 
-// Texts are UTF-8. What does not belong to a control's kind is left as it is here.
+// Texts are UTF-8. Fields that do not apply to a control's kind keep these values.
 struct Control {
     HWND window = nullptr;
-    int id = -1; // -1 for all that have none of their own
+    int id = -1; // -1 for all without one of their own
     Kind kind = Kind::Label;
     std::string text; // with its &
-    Area area;        // of a combo as it is closed
+    Area area;        // of a combo, without its list
     bool enabled = true;
     bool focused = false;
     bool is_default = false; // a button that Enter presses
@@ -57,21 +57,21 @@ struct Window {
     WindowKind kind = WindowKind::Dialog;
     std::string title;
     std::string page;              // the title of the sheet's page
-    bool page_focused = false;     // the keyboard is at that title
+    bool page_focused = false;     // the tab of that page has the focus
     int cx = 0, cy = 0;            // of the dialog or the page, in dialog units
-    std::vector<Control> controls; // visible ones in tab order, the page's before the sheet's own
+    std::vector<Control> controls; // the visible ones in tab order, the page's before the sheet's own
 };
 
-// `box` says that the window is a message box; a sheet is known by its page.
+// `box` says that the window is a message box. A sheet is recognised by its page.
 Window ReadWindow(HWND window, bool box);
 
-// The captions of its buttons, as shown, with commas between them.
+// The captions of its buttons, as shown, separated by commas.
 std::string ButtonNames(const Window& window);
 
-// The text of a message box: its labels but the icon.
+// The text of a message box: its labels without the icon.
 std::string BoxText(const Window& box);
 
-// False once the window has ended, also if it is not yet destroyed.
+// False once the window has ended, even if it is not destroyed yet.
 bool IsOpen(HWND window);
 
 } // namespace host

@@ -1,4 +1,4 @@
-// The device interface classes by which a board finds its channels.
+// The device interface classes through which a board finds its channels.
 #pragma once
 
 #include <array>
@@ -7,7 +7,8 @@
 
 namespace host {
 
-// That of the ports and the four of the board's own, in the order of the channel classes, which count from 1.
+// The class of ports and the four of the board's own, in the order of the channel classes, which count from
+// 1.
 extern const std::array<GUID, 5> channel_interface_classes;
 
 // The channel class of an interface class; 0 for any other.

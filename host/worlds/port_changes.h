@@ -5,7 +5,7 @@
 
 namespace host {
 
-// False with a reason in `error`.
+// False, with a reason in `error`, on failure.
 bool ReleaseNumber(unsigned long number, std::string& error);
 bool ClaimNumber(unsigned long number, std::string& error);
 // Deletes a settings line by its key, "COM44:".

@@ -54,7 +54,7 @@ std::string Told(const StoreValue& value) {
         std::snprintf(text, sizeof text, "%" PRIu64 " (0x%" PRIX64 ")", number, number);
         return text;
     }
-    // A text is told as such only if nothing of it is lost by that.
+    // A text is shown as a text only if nothing of it is lost.
     const Text text = TextIn(value.data);
     if ((value.type == REG_SZ || value.type == REG_EXPAND_SZ) &&
         value.data.size() == (text.size() + 1) * sizeof(WCHAR)) {

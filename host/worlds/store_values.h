@@ -1,4 +1,4 @@
-// What stands in the values of a device store.
+// The contents of values in a device store.
 #pragma once
 
 #include <string>
@@ -9,19 +9,19 @@
 
 namespace host {
 
-// A value of a device's store by its name, without regard to case; null if there is none.
+// A value of a device's store by its name, ignoring case; null if there is none.
 const StoreValue* FindValue(const std::vector<StoreValue>& store, std::string_view name);
 
-// A text up to its terminator or the end of its bytes.
+// The text up to its terminator or the end of its bytes.
 std::string TextOf(const StoreValue& value);
 
-// A value of exactly four bytes.
+// False unless the value has exactly four bytes.
 bool NumberOf(const StoreValue& value, unsigned long& number);
 
 // On one line: numbers in decimal and hexadecimal, texts in quotes, anything else as bytes.
 std::string Told(const StoreValue& value);
 
-// As a list calls it: "dword", "text".
+// The name of a type in a list: "dword", "text".
 std::string TypeName(DWORD type);
 
 } // namespace host

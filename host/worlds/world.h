@@ -1,7 +1,7 @@
-// What the host needs of the machine around it, and the whole of what differs between its two builds: on the
+// What the host needs from the machine around it, and everything that differs between its two builds: on the
 // simulated machine `simulated/world.cpp` answers from a `sim::Machine`, on Windows `windows/world.cpp` from
 // the system itself. Everything else in this folder is the same code for both, and reads and operates windows
-// by the operations of `platform/platform.h`.
+// through `platform/platform.h`.
 #pragma once
 
 #include <functional>
@@ -18,10 +18,10 @@ namespace host {
 
 enum class DeviceKind { Board, Port };
 
-// What is known and what is not. A registry export holds some of the places in which a number stands, rarely
-// all; a live system may refuse to tell one. An optional without value is a place that is not known: whether
-// it is empty or not nobody can say, and nothing may be concluded from it. An empty list is a place that is
-// known to hold nothing.
+// What is known and what is not. A registry export holds some of the places that keep a number, rarely all,
+// and a live system may refuse to show one. An optional without a value is a place that is not known: nobody
+// can say whether it is empty, and nothing may be concluded from it. An empty list is a place that is known
+// to hold nothing.
 
 // A device whose sheet can be opened: one with the values of a board, or a serial port.
 struct Device {
@@ -29,8 +29,8 @@ struct Device {
     DeviceKind kind = DeviceKind::Board;
     Text description;            // may be empty
     Text friendly_name;          // may be empty
-    std::optional<bool> present; // not known of a device without interfaces
-    // Why nobody can be asked for its pages; empty if somebody can, or if that is not known.
+    std::optional<bool> present; // not known for a device without interfaces
+    // Why nothing can be asked for its pages; empty if something can, or if that is not known.
     std::string provider_fault;
 };
 
@@ -48,7 +48,7 @@ using NamedTexts = std::vector<std::pair<Text, Text>>;
 // Every place outside the devices that holds a port's number.
 struct PortRecords {
     NamedTexts dos_names; // "COM5" and its target
-    // The DOS names of a machine file are those that its serial map makes: shown, but no evidence.
+    // The DOS names of a machine file are derived from its serial map: they are shown, but are no evidence.
     bool dos_names_are_derived = false;
     std::optional<NamedTexts> serial_map;     // value name and "COM5"
     std::optional<NamedTexts> settings_lines; // "COM5:" and its line
@@ -56,10 +56,10 @@ struct PortRecords {
     std::optional<std::vector<BYTE>> usage;
 };
 
-// Whether the database has claimed a number. False where it is not known.
+// Whether the database has claimed a number. False if it is not known.
 bool IsClaimed(const PortRecords& records, unsigned long number);
 
-// An interface of one of the five classes by which a board finds its channels; its device may be one without
+// An interface of one of the five classes through which a board finds its channels. Its device need not have
 // a sheet.
 struct Interface {
     std::string device;         // the instance id
@@ -68,7 +68,7 @@ struct Interface {
     bool present = false;
 };
 
-// All that a machine was at one moment.
+// The whole state of a machine at one moment.
 struct Moment {
     virtual ~Moment() = default;
 };
@@ -77,14 +77,14 @@ class World {
 public:
     virtual ~World() = default;
 
-    // What a person is told of this machine at the start.
+    // What a person is told about this machine at the start.
     virtual std::string Greeting() = 0;
 
-    // The commands to show it by when it is started without any input, a line each; none but of a machine on
-    // which nothing can be harmed.
+    // The commands that show it if it is started without any input, one per line; none unless nothing on the
+    // machine can be harmed.
     virtual std::vector<std::string> Tour() { return {}; }
 
-    // Whether Devices has them all: a list may also be short because the file has no devices.
+    // Whether Devices lists all of them: a list may also be short because the file has no devices.
     virtual bool KnowsDevices() = 0;
 
     // Boards first, then ports, each in the order of their instance ids.
@@ -98,14 +98,14 @@ public:
 
     virtual PortRecords Ports() = 0;
 
-    // Calls the device's provider and runs the sheet with its page; comes back when the sheet has closed, or
-    // at once when there is no provider or it gives no page. `attend` is called whenever a modal window waits
-    // for its user, message boxes included; it operates that window and comes back once it has ended or there
-    // is nothing left to do. False if there is no such device.
+    // Calls the device's provider and runs the sheet with its page. Returns when the sheet has closed, or at
+    // once if there is no provider or it gives no page. `attend` is called whenever a modal window waits for
+    // its user, message boxes included; it operates that window and returns once it has ended or there is
+    // nothing left to do. False if there is no such device.
     virtual bool RunSheet(const std::string& id, const std::function<void(HWND front)>& attend) = 0;
 
-    // What the library has changed outside itself since the last call, a line an operation, with
-    // "(failed)" behind it if it has been made to fail:
+    // What the library has changed outside itself since the last call, one line per operation, followed by
+    // "(failed)" if it was made to fail:
     //   RegSetValueExW <instance id> <value> = <data>      (numbers in decimal, texts in quotes)
     //   RegSetValueExW SERIALCOMM <value> = "COM5"
     //   DefineDosDeviceW COM5 -> <target>  /  DefineDosDeviceW remove COM5
@@ -118,45 +118,43 @@ public:
     //   SendNotifyMessageW WM_WININICHANGE "Ports"
     virtual std::vector<std::string> Journal() = 0;
 
-    // From now on `hear` is told each line of the library's trace, without its line feed, and between them,
-    // at its place, each line that the journal gets, `change` being true. An empty one ends it. False if this
-    // library traces nothing.
+    // From now on `hear` is called with each line of the library's trace, without its line feed, and between
+    // them, at its place, with each line that the journal gets, with `change` true. An empty function ends
+    // that. False if this library traces nothing.
     using TraceListener = std::function<void(const std::string& line, bool change)>;
     virtual bool HearTrace(TraceListener hear) = 0;
 
-    // The style that a message box in front was opened with; 0 if `box` is none.
+    // The style that a message box in front was opened with; 0 if `box` is not one.
     virtual UINT BoxStyle(HWND box) = 0;
 
     // Whether the machine differs from what was read or last exported. Never true of a world whose changes
-    // are made where they last.
+    // take effect at once.
     virtual bool HasUnsavedChanges() = 0;
 
-    // Writes the machine as a registry export. False, with a reason in `told`, if the file can't be written
-    // or this world has no such form of itself; where it is written, `told` is what of the changes it leaves
-    // out.
+    // Writes the machine as a registry export. Returns false, with a reason in `told`, if the file can't be
+    // written or this world can't be exported. On success `told` says which changes it leaves out.
     virtual bool Export(const std::string& file, std::string& told) = 0;
 
-    // Writes what has changed since the machine was read, as a patch for its registry, and beside it what
-    // takes it back, each with its comments at the head. False with a reason as above, or if there is nothing
-    // to write.
+    // Writes what has changed since the machine was read, as a patch for its registry, and beside it a file
+    // that takes it back, each with its comments first. Returns false with a reason in `error` if that fails
+    // or there is nothing to write.
     virtual bool Patch(const std::string& file, const std::vector<std::string>& comments,
                        const std::string& undo_file, const std::vector<std::string>& undo_comments,
                        std::string& error) = 0;
 
-    // The machine as it is now, to come back to; null where a machine is not the world's to set back. No
-    // sheet may be open when it is.
+    // The present state of the machine, to come back to; null if this world can't set its machine back. No
+    // sheet may be open when it is set back.
     virtual std::unique_ptr<Moment> Now() = 0;
     virtual bool IsStill(const Moment& moment) = 0;
     virtual void ComeBackTo(const Moment& moment) = 0;
 
-    // Lets the n-th call from now of an operation of the system fail, n from 1; without a name, none any
-    // more. False where operations can't be made to fail.
+    // Makes the n-th call of an operation of the system from now on fail, counted from 1; without a name,
+    // none any more. False if operations can't be made to fail.
     virtual bool Fail(const std::string& operation, std::size_t call) = 0;
 };
 
 // The world that the host works on. `file` is the registry export of the machine to simulate, empty for the
-// sample machine; a `language` of 0 leaves the machine's own. Null, with a reason in `error`, if it can't be
-// had.
+// sample machine; a `language` of 0 keeps the machine's own. Null, with a reason in `error`, on failure.
 std::unique_ptr<World> OpenWorld(const std::string& file, LANGID language, std::string& error);
 
 } // namespace host

@@ -45,7 +45,7 @@ void ClearBoxes(HWND hDlg) {
     SetBox(hDlg, IDC_ACS_ENABLE, false, false);
 }
 
-// Turns on the boxes that the mode has, with the values of the record. Both are clear before.
+// Turns on the boxes that the mode has, with the values of the record. Both have been cleared before.
 void ShowBoxes(HWND hDlg, const UartBasicInfo& uart, const UartMode& mode) {
     if (HasAny(uart.UartCapability, mode.termination)) {
         const bool terminated =
@@ -58,7 +58,7 @@ void ShowBoxes(HWND hDlg, const UartBasicInfo& uart, const UartMode& mode) {
     }
 }
 
-// The mode at a position of the combo; null if the position is none of theirs.
+// The mode at a position of the combo; null if no mode has that position.
 const UartMode* ModeAtEntry(const BPPCHL* chl, u32 position) {
     for (const UartMode& mode : UartModes) {
         if (chl->*mode.comboPos == position) {
@@ -97,7 +97,7 @@ bool _InitializeControls(HWND hDlg, BPPCHL* channel) {
     return bSuccess;
 }
 
-// The boxes show the record again, and earlier clicks on them are lost.
+// The boxes show the record again, so earlier clicks on them are lost.
 bool _InterfaceSelectClicked(HWND hDlg, const BPPCHL* channel) {
     TraceOut("----> %s( )\n", __func__);
     const UartMode* mode = ModeAtEntry(channel, SelectedEntry(hDlg));
@@ -138,7 +138,7 @@ void _RestoreDefaultClicked(HWND hDlg, const BPPCHL* channel) {
     TraceOut("<---- %s\n", __func__);
 }
 
-// This asks for less than offering an entry does, so it fails only if no offered entry is selected.
+// Storing a mode requires less than offering it, so this fails only if no offered entry is selected.
 bool IsSupported(const UartMode& mode, u32 capability) {
     bool supported = true;
     for (u32 bit = 1; bit != 0; bit <<= 1) {
@@ -159,7 +159,7 @@ void TraceSettings(const InterfaceSettings& settings) {
     TraceOut("%s - nRS485Termination:%d\n", TraceOperation(), settings.UartRS485Termination);
 }
 
-// Returns the status of the write, and 0 if the store already has the settings.
+// Returns the status of the write, or 0 if the store already has the settings.
 u32 WriteSettings(BPPCHL* channel, const InterfaceSettings& settings) {
     UartBasicInfo& saved = channel->SavedInfo.Uart;
     if (SameSettings(settings, SettingsOf(saved))) {

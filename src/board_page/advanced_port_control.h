@@ -4,6 +4,6 @@
 #include "device_model/board_params.h"
 
 // Runs the dialog for a UART, modally over `hParent`, and returns true when it has closed, whatever closed
-// it. By then the choice of its OK is stored, and the records have the numbers that Sort UART gave, with
-// ChlListChanged of the board set.
+// it. By then the choice made with OK is stored. If Sort UART gave new numbers, the records have them and
+// ChlListChanged of the board is set.
 bool KvrBoardUartAdvancedDlgShow(HWND hParent, BPPCHL* channel);

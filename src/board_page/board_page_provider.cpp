@@ -9,7 +9,7 @@
 
 namespace {
 
-// The values only show that the device is a board. The record reads them again.
+// The values only show that the device is a board. The page's record reads them again.
 bool CheckBoard(const SP_PROPSHEETPAGE_REQUEST* request) {
     BoardBasicInfo basic = {};
     const u32 sStatus = Kavro_RegBoardGetBasic(request->DeviceInfoSet, request->DeviceInfoData, &basic);

@@ -5,7 +5,7 @@
 
 // The device manager calls this for the board's device node. If the request is for a device's property sheet,
 // `addPage` is called with one page and `addPageParam`; any other request gets TRUE and no page. FALSE means
-// that the board's values can't be read or the page can't be made, and that a box has said so. The request's
-// set and device are borrowed for the page's life.
+// that the board's values can't be read or the page can't be made; a box has said so. The request's set and
+// device are borrowed for the page's life.
 extern "C" BOOL WINAPI KvrBoardPropPageProvider(PSP_PROPSHEETPAGE_REQUEST request,
                                                 LPFNADDPROPSHEETPAGE addPage, LPARAM addPageParam);

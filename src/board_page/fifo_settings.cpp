@@ -9,7 +9,7 @@
 
 namespace {
 
-// The other buttons that act on a UART only.
+// The other buttons that act only on a UART.
 constexpr int UartButtons[] = {IDC_APPLY, IDC_SET_TO_ALL, IDC_RESTORE};
 
 BPPCHL* UartAt(const BoardParams* params, u32 index) {

@@ -22,12 +22,12 @@ bool _FifoEnableClicked(HWND hDlg, BoardParams* params, u32 index);
 bool _RestoreDefaultClicked(HWND hDlg, BoardParams* params, u32 index);
 // Makes the page's values pending for every UART. Nothing is stored.
 bool _SetToAllClicked(HWND hDlg, BoardParams* params, u32 index);
-// Makes the page's values pending and stores what is pending. False if that failed, and a box has said so.
+// Makes the page's values pending and stores what is pending. False if that failed; a box has said so.
 bool _ApplyClicked(HWND hDlg, BoardParams* params, u32 index);
 
 // Makes the page's values pending for the selected UART.
 void TakeFifoSettings(HWND hDlg, BPPCHL* channel);
 
-// Stores what is pending. False if a write failed, and a box over `hDlg` has said so. That UART and those
-// after it stay pending.
+// Stores what is pending. False if a write failed; a box over `hDlg` has said so. That UART and those after
+// it stay pending.
 bool StorePendingFifo(HWND hDlg, BoardParams* params);

@@ -3,7 +3,7 @@
 
 #include "device_model/board_params.h"
 
-// Adds the two columns, once for each page. A column is left out if its heading can't be loaded.
+// Adds the two columns, once per page. A column is left out if its heading can't be loaded.
 void AddResourceColumns(HWND hDlg);
 
 // Shows the resources of a channel. If `channel` is null the list is left empty.

@@ -28,7 +28,7 @@ struct InterfaceSettings {
 };
 
 // One mode. Each condition is a mask of capability bits. `offered` and `required` need all of their bits, the
-// others any one of theirs.
+// others any of theirs.
 struct UartMode {
     u32 mode; // the value of `UartMode`
     const WCHAR* text;
@@ -38,7 +38,7 @@ struct UartMode {
     u32 termination;       // the termination box is enabled
     u32 acs;               // the ACS box is enabled
     u32 settings;          // the values that the mode can set, by their capability bits
-    // The trace line for a missing required bit, with the capability.
+    // The trace line for a missing required bit. It prints the capability.
     [[no_unique_address]] TraceFormatFor<TraceName, u32> unsupported;
 };
 

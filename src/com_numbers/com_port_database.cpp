@@ -12,10 +12,10 @@ namespace {
 // One bit for each COM number.
 using PortUsageBitmap = BYTE[ComNumberMax / 8];
 
-// Units of an entry of the combo, terminator included. Its suffix alone has the same limit.
+// Units of an entry of the combo, terminator included. The suffix alone has the same limit.
 constexpr u32 EntryCapacity = 40;
 
-// Returns 0, StatusNoDatabase or StatusNoUsage. CloseDatabase takes the handle in each case.
+// Returns 0, StatusNoDatabase or StatusNoUsage. The handle goes to CloseDatabase in each case.
 u32 ReadPortUsage(HCOMDB* database, PortUsageBitmap& usage) {
     DWORD portCount = 0;
     if (ComDBOpen(database) != ERROR_SUCCESS) {

@@ -1,5 +1,5 @@
 // The COM numbers that are taken, according to the system's COM port database. Each operation opens the
-// database, takes one snapshot of its usage, closes it and decides on the snapshot. Nothing is held or
+// database, takes one snapshot of its usage, closes it and decides from the snapshot. Nothing is held or
 // reserved.
 //
 // A port name is "COM" and a decimal number. Numbers run from 1 to 256.

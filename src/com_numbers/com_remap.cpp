@@ -10,7 +10,7 @@ namespace {
 constexpr u32 RemapTextCapacity = 81;
 constexpr u32 DescriptionBytes = 512;
 
-// The record of one rename, which exists only while the rename runs.
+// The record of one rename. It exists only while the rename runs.
 struct Remap {
     HDEVINFO DeviceInfoSet;
     SP_DEVINFO_DATA* DeviceInfoData;

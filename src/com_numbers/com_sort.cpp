@@ -165,8 +165,7 @@ void PortNamed(const PortRename& rename) {
              rename.newName);
 }
 
-// Moves one port to another number, and its records with it. False if the rename failed, and a box has said
-// so.
+// Moves one port to another number, together with its records. False if the rename failed; a box has said so.
 bool MovePort(HWND dialog, BPPCHL* port, u32 to, const SortMove& move) {
     const u32 from = port->SortCurrentCom;
     PortMove moved = {RenameOfChannel(port, from, to), port, &move};
@@ -219,7 +218,7 @@ void ExchangeAll(HWND dialog, BoardParams* board, u32 temporary) {
 }
 
 // Moves the ports that need it. Nothing moves unless a temporary number is free and every port that moves is
-// closed. True if the buttons have been disabled.
+// closed. Returns true if the buttons have been disabled.
 bool MovePorts(HWND dialog, BoardParams* board) {
     u32 avlMaxTempComNumber = 0;
     const u32 sStatus = Kavro_COMPortGetMaxNumberAvailable(&avlMaxTempComNumber);
@@ -242,7 +241,7 @@ void SortBoard(HWND dialog, BoardParams* board) {
         ErrorBoxShow(FailureNoMemory, 0, nullptr);
         return;
     }
-    const HWND focus = GetFocus(); // a button loses it by being disabled
+    const HWND focus = GetFocus(); // a button loses it when it is disabled
     const u32 count = GatherPairs(board, table);
     TraceNumbers(board, "----------------------------------------, BEFORE\n");
     SortComColumn(table, count);

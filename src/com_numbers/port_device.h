@@ -1,5 +1,5 @@
-// The two things between a rename and the port's device: the question whether the port is open, and the
-// notice that its number has changed.
+// What a rename asks of the port's device and tells it: whether the port is open, and that its number has
+// changed.
 #pragma once
 
 #include "platform/platform.h"
@@ -7,5 +7,5 @@
 // Returns 0 if the port isn't open, or StatusPortOpened, StatusNoKey or StatusReadFailed.
 u32 Kavro_COMPortCheckOpened(HDEVINFO DeviceInfoSet, SP_DEVINFO_DATA* DeviceInfoData);
 
-// Makes the device take up the change through its class installer. Failures are not reported.
+// Makes the device adopt the change, through its class installer. Failures are not reported.
 void Kavro_COMPortBroadcastRemap(HDEVINFO DeviceInfoSet, SP_DEVINFO_DATA* DeviceInfoData);

@@ -6,7 +6,7 @@
 
 constexpr const WCHAR* PortsSection = TEXT("Ports");
 
-// Units of a line as it is read, terminator included.
+// Units of the buffer that a line is read into, terminator included.
 constexpr u32 SettingsLineCapacity = 81;
 
 // The line for a port that has none.

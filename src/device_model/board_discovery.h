@@ -8,7 +8,7 @@
 constexpr u32 DetailBufferBytes = 1024;
 
 // Fills the record of a board. On entry DeviceInfoSet and DeviceInfoData hold the board's device, all of
-// InterfaceSet is INVALID_HANDLE_VALUE, and the rest is zero. Returns true exactly when the status is 0; a
+// InterfaceSet is INVALID_HANDLE_VALUE, and the rest is zero. Returns true if and only if the status is 0; a
 // board without channels succeeds. In either case the caller releases the contents with BoardDeinitiate. The
 // status is 0, StatusNoMemory, StatusNoInterfaceSet, or that of the first failed read of the board's own
 // values.

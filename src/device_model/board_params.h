@@ -1,14 +1,14 @@
-// The device model: what is known of one board and its channels.
+// The device model: what is known about one board and its channels.
 //
 // Each Port Control page works on one `BoardParams` and owns it. The `BoardParams` owns its `BPPCHL` records
 // and five interface sets, and each record owns its device path. The device of the provider's request is
-// borrowed. The records live from `BoardInitiate` to `BoardDeinitiate`, and the sets stay open as long,
-// because the device of a record means something only in its set. The store is read once and never again in
-// between.
+// borrowed. The records live from `BoardInitiate` to `BoardDeinitiate`. The sets stay open just as long,
+// because the device of a record means something only in its set. In between, the store is read once and not
+// again.
 //
-// A channel's values are held twice. `SavedInfo` mirrors the store and changes only after a successful write.
-// `CurrentInfo` holds what the page means to store. Only the comparison before a write reads `SavedInfo`, and
-// the move of a port's settings takes the old name from it.
+// Each value of a channel is held twice. `SavedInfo` mirrors the store and changes only after a successful
+// write. `CurrentInfo` holds what the page means to store. Only two things read `SavedInfo`: the comparison
+// before a write, and the move of a port's settings, which takes the old name from it.
 //
 // All records are plain and zero-filled at creation. Every text ends within its field.
 #pragma once
@@ -17,8 +17,8 @@
 #include "platform/platform.h"
 #include "reporting/text_operations.h"
 
-// The interface class through which a channel was found. This is its type, whatever the driver publishes as
-// `ChlType`.
+// The interface class through which a channel was found. This is its type, regardless of what the driver
+// publishes as `ChlType`.
 enum ChannelClass : u32 {
     ClassUart = 1,
     ClassDio = 2,
@@ -40,7 +40,7 @@ struct BoardBasicInfo {
 struct BoardOtherInfo {
     u32 BoardMajorVersion;
     u32 BoardMinorVersion;
-    u32 BoardNrController; // one more than the highest channel number that is walked
+    u32 BoardNrController; // one more than the highest channel number that the walk visits
     WCHAR BoardModelName[StoreTextCapacity];
 };
 
@@ -159,7 +159,7 @@ struct BPPCHL : ChlListEntry {
     HDEVINFO DeviceInfoSet;         // the set that enumerated the channel; the board's
     SP_DEVINFO_DATA DeviceInfoData; // the channel's device in that set
     WCHAR* DevicePath;              // for the trace; null if there was no memory for it
-    u32 ListIndex;                  // position in the channel list box, NotListed without one
+    u32 ListIndex;                  // position in the channel list box, NotListed if it has none
     FifoSliders Fifo;               // of a UART; all zero for other classes
     // Position of each mode in the UART type combo, all bits set for a mode that is not offered.
     u32 RS232ComboxPos;
@@ -167,7 +167,7 @@ struct BPPCHL : ChlListEntry {
     u32 RS485ComboxPos;
     u32 AutoRS422485ComboxPos;
     // Working values of a click on Sort UART: the channel's number, the COM number that it has, and the one
-    // that it gets.
+    // that it is to get.
     u32 SortChlNumber;
     u32 SortCurrentCom;
     u32 SortNewCom;
@@ -185,6 +185,6 @@ struct BoardParams {
     ConfigBasicInfo BoardConfig;
     u32 ChlCount; // records in ChlList
     ChlListEntry ChlList;
-    bool ChlListChanged; // Sort UART found ports to change: the channel list box is to be filled anew
+    bool ChlListChanged; // Sort UART found ports to change: the channel list box must be refilled
     BPPCHL* WalkFirst;   // see channel_list.h
 };

@@ -1,7 +1,7 @@
 // The list of a board's channels, the two lookups, and the channel walk.
 //
-// The list is circular, with a separate head, and in the order of enumeration: all UARTs, then each further
-// class.
+// The list is circular, with a separate head, and in the order of enumeration: all UARTs, then each of the
+// other classes.
 //
 // The walk visits the channels with numbers from 1 up to, but not including, `BoardNrController`, in
 // ascending order. A number without a channel is skipped. Of two channels with the same number only the one
@@ -27,7 +27,6 @@ void ChlListRemove(ChlListEntry* record);
 // Links a record into the walk if the walk visits it. `BoardNrController` must be set.
 void BoardChlWalkInsert(BoardParams* board, BPPCHL* record);
 
-// The first record in the list with this list box position, or with this channel number; null if there is
-// none.
+// The first record in the list with this list box position or this channel number, or null.
 BPPCHL* BoardChlByListIndex(const BoardParams* board, u32 index);
 BPPCHL* BoardChlByNumber(const BoardParams* board, u32 number);

@@ -139,7 +139,7 @@ template <SIZE_T Count> u32 WriteTo(HKEY key, const StoreNumber (&numbers)[Count
     return 0;
 }
 
-// The whole of an operation that reads; `operation` is its name.
+// A complete reading operation; `operation` is its name.
 template <SIZE_T Count>
 u32 ReadValues(HDEVINFO set, SP_DEVINFO_DATA* data, const StoreField (&fields)[Count], void* record,
                TraceName operation = __builtin_FUNCTION()) {
@@ -154,7 +154,7 @@ u32 ReadValues(HDEVINFO set, SP_DEVINFO_DATA* data, const StoreField (&fields)[C
     return sStatus;
 }
 
-// The same for one that writes.
+// The same for a writing operation.
 template <SIZE_T Count>
 u32 WriteValues(HDEVINFO set, SP_DEVINFO_DATA* data, const StoreNumber (&numbers)[Count],
                 TraceName operation = __builtin_FUNCTION()) {

@@ -1,6 +1,6 @@
-// The FIFO controls that the Port Control page and the Advanced Port Settings dialog have in common, with the
-// same numbers: the check box, and for each direction a slider with three labels. Each dialog decides itself
-// where the values go.
+// The FIFO controls that the Port Control page and the Advanced Port Settings dialog share, with the same
+// numbers: the check box, and for each direction a slider with three labels. Each dialog decides where the
+// values go.
 //
 // The position of the receive slider is a stage, 1 to 4. That of the transmit slider is the trigger level
 // itself, 1 to the depth of the FIFO. A high label shows the level at which its slider stands.
@@ -21,7 +21,7 @@ void ShowFifoCheckBox(HWND hDlg, bool checked);
 // Shows a number on one of the four labels, in the text IDS_LOW or IDS_HIGH.
 void ShowFifoLabel(HWND hDlg, int label, UINT stringId, u32 value);
 
-// Sets the range of a slider to 1 to `highest`, of which the low 16 bits count.
+// Sets the range of a slider to 1 to `highest`, of which only the low 16 bits count.
 void SetFifoSliderRange(HWND hDlg, int slider, u32 highest);
 
 // Moves a slider to a position and leaves its label alone.
@@ -31,8 +31,8 @@ void PutFifoSlider(HWND hDlg, int slider, u32 position);
 void PutTransmitSlider(HWND hDlg, u32 position);
 void PutReceiveSlider(HWND hDlg, u32 position, u32 level);
 
-// Brings the sliders into line with the check box after a click: to the remembered positions, or to 1. The
-// remembered positions stay.
+// Makes the sliders follow a click on the check box: to the remembered positions, or to 1. The remembered
+// positions stay.
 void FollowFifoCheckBox(HWND hDlg, FifoSliders* sliders);
 
 // Remembers the position of a slider that has moved, and shows its level on the high label. Any other control

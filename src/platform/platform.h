@@ -1,4 +1,4 @@
-// The one door to the operating system. The logic includes no other header of the system. This one includes
+// The only access to the operating system. The logic includes no other system header. This header includes
 // Windows' own headers or, where the build defines KVR_SIMULATED, those of the simulated system, which has
 // the same names, signatures and sizes. Only this file knows which of the two it is.
 #pragma once

@@ -1,17 +1,17 @@
-// The forms of a character in UTF-8 and UTF-16. Half a surrogate pair is a character of its own here, of
-// three bytes: texts of a registry may hold one.
+// The encodings of a character in UTF-8 and UTF-16. Half a surrogate pair counts as a character here, of
+// three bytes, because texts of a registry may hold one.
 #pragma once
 
 #include "platform/platform.h"
 
-constexpr u32 ReplacementCharacter = 0xFFFD; // stands for what is none
+constexpr u32 ReplacementCharacter = 0xFFFD; // stands for what is not a character
 
-// The bytes of a character by the first of them; 0 if none begins with it.
+// The number of bytes of a character, from the first of them; 0 if no character begins with it.
 constexpr u32 Utf8Length(BYTE lead) {
     return lead < 0x80 ? 1 : lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
 }
 
-// Gives the number of bytes written, at most four.
+// Returns the number of bytes written, at most four.
 constexpr u32 EncodeUtf8(u32 character, char* bytes) {
     constexpr u32 Leads[] = {0, 0, 0xC0, 0xE0, 0xF0};
     const u32 length = character < 0x80 ? 1 : character < 0x800 ? 2 : character < 0x10000 ? 3 : 4;
@@ -23,9 +23,9 @@ constexpr u32 EncodeUtf8(u32 character, char* bytes) {
     return length;
 }
 
-// Gives the number of bytes of the first character; 0 if none begins here or not all of it is there.
+// Returns the number of bytes of the first character; 0 if it is incomplete or no character begins here.
 constexpr u32 DecodeUtf8(const char* bytes, SIZE_T count, u32* character) {
-    constexpr u32 Least[] = {0, 0, 0x80, 0x800, 0x10000}; // a smaller one has a shorter form
+    constexpr u32 Least[] = {0, 0, 0x80, 0x800, 0x10000}; // a smaller character has a shorter form
     const u32 length = count != 0 ? Utf8Length(static_cast<BYTE>(bytes[0])) : 0;
     if (length == 0 || length > count) {
         return 0;
@@ -44,7 +44,7 @@ constexpr u32 DecodeUtf8(const char* bytes, SIZE_T count, u32* character) {
     return length;
 }
 
-// Gives the number of units written, at most two.
+// Returns the number of units written, at most two.
 constexpr u32 EncodeUtf16(u32 character, WCHAR* units) {
     if (character < 0x10000) {
         units[0] = static_cast<WCHAR>(character);
@@ -55,7 +55,7 @@ constexpr u32 EncodeUtf16(u32 character, WCHAR* units) {
     return 2;
 }
 
-// Gives the number of units of the first character. There must be one.
+// Returns the number of units of the first character. There must be one.
 constexpr u32 DecodeUtf16(const WCHAR* units, SIZE_T count, u32* character) {
     *character = units[0];
     if (count < 2 || units[0] >> 10 != 0xD800 >> 10 || units[1] >> 10 != 0xDC00 >> 10) {

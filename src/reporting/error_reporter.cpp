@@ -18,7 +18,7 @@ enum Argument : u32 { Nothing, Oerr, Serr, Channel, FirstNumber, SecondNumber, A
 
 struct Failure {
     u32 oerr;
-    u32 serr; // the status that the row is for; the rows of a code stand in order
+    u32 serr; // the status that the row is for; the rows of a code are in order
     Box box;
     const WCHAR* format;
     Argument arguments[4];

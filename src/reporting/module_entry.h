@@ -1,5 +1,5 @@
-// What the library does when it is loaded, and the state of the module as a whole, which is written at attach
-// and read-only afterwards.
+// What the library does when it is loaded, and the state of the module as a whole, which is set at attach and
+// read-only afterwards.
 #pragma once
 
 #include "platform/platform.h"

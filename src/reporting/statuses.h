@@ -1,5 +1,5 @@
-// The statuses of the library's operations: what a failed one gives to its caller, and the number that a box
-// shows behind "serr:". 0 is success everywhere.
+// The statuses of the library's operations: what a failed operation returns, and the number that a box shows
+// after "serr:". 0 is success everywhere.
 #pragma once
 
 #include "platform/platform.h"

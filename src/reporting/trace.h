@@ -1,11 +1,11 @@
-// The trace: what the library decides, a line each, at the entry and exit of its operations and where they
-// choose. The library that ships has none of it; a build with TRACE_LIVE passes each line to the sink that it
-// links (`trace_line.h`).
+// The trace of what the library decides, one line at a time: at the entry and exit of each operation, and
+// wherever it makes a choice. The library that ships contains no trace. A build with TRACE_LIVE passes each
+// line to the sink that it links (`trace_line.h`).
 //
-// A line begins with the name of its operation, or of none. "----> name" opens an operation and "<---- name"
-// closes it, on every path, so that lines nest like brackets; what a helper traces in between stands under
-// the name of the operation that it works for, `TraceOperation()`. Text operations, lookups and what only
-// computes trace nothing.
+// A line begins with the name of its operation, if it has one. "----> name" opens the operation, "<---- name"
+// closes it on every path, and so lines nest like brackets. A helper traces its lines under the name of the
+// operation that it works for, `TraceOperation()`. Text operations, lookups and pure computations trace
+// nothing.
 #pragma once
 
 #include <type_traits>
@@ -21,18 +21,18 @@ inline constexpr bool TraceIsLive = false;
 struct NoTraceText {
     constexpr NoTraceText(const char*) {}
 };
-// A narrow text of the trace; nothing where the trace is not live. A helper that is the whole of the
-// operation which calls it takes that one's name by a last parameter, `= __builtin_FUNCTION()`.
+// A narrow text in the trace; empty if the trace is not live. A helper that carries out a whole operation for
+// its caller takes the caller's name in a last parameter, `= __builtin_FUNCTION()`.
 using TraceName = std::conditional_t<TraceIsLive, const char*, NoTraceText>;
 
-// What a line can take. A bool, an enumeration and a number of 32 bits are Number32.
+// The kinds of value that a line can print. A bool, an enumeration and a 32-bit number are Number32.
 enum class TraceKind : u32 { Narrow, Wide, Number32, Number64, Pointer };
 
 struct TraceConversion {
-    const char* letters; // behind the %
-    TraceKind kind;      // "p" takes a text's address too
+    const char* letters; // after the %
+    TraceKind kind;      // "p" also prints the address of a text
     u32 base;
-    u32 digits; // at least so many
+    u32 digits; // the fewest to print
 };
 inline constexpr TraceConversion TraceConversions[] = {
     {"s", TraceKind::Narrow, 0, 0},       {"ws", TraceKind::Wide, 0, 0},
@@ -41,8 +41,9 @@ inline constexpr TraceConversion TraceConversions[] = {
     {"I64X", TraceKind::Number64, 16, 1}, {"p", TraceKind::Pointer, 16, 16},
 };
 
-// The index of the conversion that follows a %, with the place after it in `after`; the count for any other.
-// An index and no pointer, because a sanitized g++ compares no address while it compiles.
+// Returns the index of the conversion that follows a %, with the place after it in `after`, or
+// TraceConversionCount if it is not one of them. An index and not a pointer, because g++ with sanitizers
+// can't compare addresses at compile time.
 constexpr u32 TraceConversionCount = ARRAYSIZE(TraceConversions);
 constexpr u32 FindTraceConversion(const char* text, const char*& after) {
     for (u32 index = 0; index < TraceConversionCount; ++index) {
@@ -77,7 +78,7 @@ template <typename Argument> consteval TraceKind TraceKindOf() {
     }
 }
 
-// Never defined: a wrong format calls one of them while it is checked, and does not compile.
+// Never defined: the check of a wrong format calls one of these, which does not compile.
 void TraceFormatHasUnknownConversion();
 void TraceFormatNeedsAnotherArgument();
 void TraceFormatNeedsArgumentOfAnotherKind();
@@ -114,8 +115,8 @@ consteval void CheckTraceFormat(const char* format, const TraceKind* kinds, u32 
     }
 }
 
-// A format, checked when it is compiled against the kinds of its arguments. It keeps its text only where the
-// trace is live; elsewhere it is empty.
+// A format, checked at compile time against the kinds of its arguments. It keeps its text only if the trace
+// is live; otherwise it is empty.
 template <TraceKind... Kinds> struct TraceFormat {
     [[no_unique_address]] TraceName text;
 
@@ -137,7 +138,7 @@ union TraceArgument {
     requires(!std::is_pointer_v<T>) TraceArgument(T value) : number(static_cast<u64>(value)) {}
 };
 
-// The name of the innermost operation that is open; "" outside all.
+// The name of the innermost open operation; "" if none is open.
 const char* TraceOperation();
 void TraceLine(const char* format, const TraceArgument* arguments);
 
@@ -147,9 +148,9 @@ void TraceLineOf(const TraceFormatFor<Arguments...>& format, const Arguments&...
     TraceLine(format.text, list);
 }
 
-// TraceOut(format, arguments...) traces one line. Conversions: "%s" a narrow name, "%ws" a UTF-16 text, "%d",
-// "%03d" and "%08X" 32 bits, "%I64d" and "%I64X" 64 bits, "%p" a pointer. Where the trace is not live the
-// arguments are checked, but not evaluated.
+// TraceOut(format, arguments...) traces one line. The conversions are "%s" for a narrow name, "%ws" for a
+// UTF-16 text, "%d", "%03d" and "%08X" for 32 bits, "%I64d" and "%I64X" for 64 bits, and "%p" for a pointer.
+// If the trace is not live, the arguments are checked but not evaluated.
 #define TraceOut(...)                                                                                        \
     do {                                                                                                     \
         if constexpr (TraceIsLive) {                                                                         \

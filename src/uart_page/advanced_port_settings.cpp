@@ -20,7 +20,7 @@ UartAdvancedParams* DialogParams(HWND hDlg) {
     return reinterpret_cast<UartAdvancedParams*>(GetWindowLongPtrW(hDlg, DWLP_USER));
 }
 
-// A rename from this dialog, after which the title of the sheet follows.
+// A rename from this dialog. The title of the sheet follows it.
 struct RenameInDialog : PortRename {
     HWND hDlg;
 };
@@ -88,7 +88,7 @@ bool ShowTitle(HWND hDlg, const WCHAR* comName) {
     return true;
 }
 
-// If the initialisation fails, the dialog stays open as far as it was filled. Its OK and Cancel work.
+// If the initialisation fails, the dialog stays open, partly filled. Its OK and Cancel work.
 bool _OnInitDialog(HWND hDlg, LPARAM lParam) {
     TraceOut("----> %s( )\n", __func__);
     auto* params = reinterpret_cast<UartAdvancedParams*>(lParam);
@@ -138,7 +138,7 @@ void _RestoreDefaultClicked(HWND hDlg, UartAdvancedParams* params) {
     TraceOut("<---- %s\n", __func__);
 }
 
-// Returns the status of the write, and 0 if the values are those that were read when the dialog opened.
+// Returns the status of the write, or 0 if the values are those that were read when the dialog opened.
 u32 WriteFifoValues(UartAdvancedParams* params, const FifoValues& values) {
     const FifoValues old = FifoValuesOf(params->UartBasicInfo);
     if (SameFifoValues(values, old)) {
@@ -239,7 +239,7 @@ INT_PTR CALLBACK UartAdvancedDlgProc(HWND hDlg, UINT message, WPARAM wParam, LPA
     }
 }
 
-// Reads the port's name and values from the store. False if that fails, and a box has said so.
+// Reads the port's name and values from the store. False if that fails; a box has said so.
 bool ReadPort(HWND hParent, UartAdvancedParams* params) {
     u32 sStatus = Kavro_RegUartGetCOMName(params->DeviceInfoSet, params->DeviceInfoData, params->ComName,
                                           sizeof(params->ComName));

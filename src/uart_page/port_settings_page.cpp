@@ -46,7 +46,7 @@ bool _FillSettingsDlg(HWND hDlg, UartPageParams* params, u32* code, u32* status)
     return bSuccess;
 }
 
-// If the initialisation fails, the page stays as far as it was filled, with its buttons disabled.
+// If the initialisation fails, the page stays partly filled, with its buttons disabled.
 bool _OnInitDialog(HWND hDlg, LPARAM page) {
     TraceOut("----> %s( )\n", __func__);
     auto* params = reinterpret_cast<UartPageParams*>(reinterpret_cast<const PROPSHEETPAGEW*>(page)->lParam);
@@ -69,8 +69,8 @@ bool _OnInitDialog(HWND hDlg, LPARAM page) {
     return bSuccess;
 }
 
-// The dialog hands back a new name after a rename. It is the key of the next save. The saved fields stay,
-// because the line has moved with the port.
+// After a rename the dialog hands back the new name, which is the key of the next save. The saved fields
+// stay, because the line has moved with the port.
 void _AdvancedClicked(HWND hDlg, UartPageParams* params) {
     TraceOut("----> %s( )\n", __func__);
     UartAdvancedParams* advanced = params->AdvancedParams;

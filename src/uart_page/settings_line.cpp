@@ -81,7 +81,7 @@ void TrimBlanks(WCHAR* text) {
         ++first;
     }
     u32 length = 0;
-    u32 kept = 0; // up to the last character that is no blank
+    u32 kept = 0; // up to the last character that is not a blank
     for (; first[length] != 0; ++length) {
         text[length] = first[length];
         if (text[length] != TEXT(' ')) {

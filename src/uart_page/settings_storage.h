@@ -12,7 +12,7 @@ constexpr u32 SettingsKeyCapacity = 81;
 void _GetSettingsFromRegistryAndApplyToUI(HWND dialog, const WCHAR* key, UartPageParams* params);
 
 // Composes the line from the combos. If one of the five fields differs from `params->Saved`, the line is
-// written and applications and the device are notified. False, with nothing written, if a combo has no
+// written and applications and the device are notified. Returns false and writes nothing if a combo has no
 // selection or one that the line can't express.
 bool _SaveSettings(HWND dialog, const WCHAR* key, const UartPageParams* params);
 

@@ -1,6 +1,6 @@
 // The records of a port's page and of its advanced dialog. The page owns both. The set and device of the
-// provider's request are borrowed. The page reads the settings line once; the dialog reads the store at each
-// opening.
+// provider's request are borrowed. The page reads the settings line once; the dialog reads the store each
+// time it opens.
 #pragma once
 
 #include "device_model/board_params.h"
@@ -14,7 +14,7 @@ struct UartAdvancedParams {
     HDEVINFO DeviceInfoSet;
     SP_DEVINFO_DATA* DeviceInfoData;
     WCHAR ComName[ComNameCapacity];    // as read from the store at the opening
-    WCHAR NewComName[ComNameCapacity]; // what goes back to the page
+    WCHAR NewComName[ComNameCapacity]; // what the page gets back
     ::UartBasicInfo UartBasicInfo;     // as read at the opening; without PortName
     FifoSliders Fifo;
 };

@@ -9,7 +9,7 @@
 
 namespace {
 
-// What the driver publishes as `ChlType` of a UART.
+// What the driver of a UART publishes as `ChlType`.
 constexpr u32 ChlTypeUart = 1;
 
 bool CheckUart(const SP_PROPSHEETPAGE_REQUEST* request) {
@@ -26,7 +26,7 @@ bool CheckUart(const SP_PROPSHEETPAGE_REQUEST* request) {
     return true;
 }
 
-// A set counts as local if it can't be asked.
+// A set that can't be asked counts as local.
 bool IsRemote(HDEVINFO set) {
     SP_DEVINFO_LIST_DETAIL_DATA_W detail = {};
     detail.cbSize = sizeof(detail);

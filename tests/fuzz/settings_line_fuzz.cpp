@@ -1,5 +1,5 @@
-// Any bytes as a settings line, as the profile gives it: five fields in range come of it, and the line that
-// is put together from them reads back to the same.
+// Any bytes as a settings line from the profile: the five fields that are read are in range, and the line
+// composed from them reads back to the same fields.
 #include <cstdlib>
 #include <cstring>
 

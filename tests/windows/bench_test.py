@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""The bench on Windows: it answers every operator script with the bytes that are kept of the same bench elsewhere, and
-diagnoses each machine as that does. What it patches is imported by the system's own importer into the machine that it was
-made from, and taken back."""
+"""The bench on Windows: it answers every operator script with the transcript of the bench on Linux, byte for byte, and
+gives the same diagnosis of each machine. Windows' own importer applies its patch to the machine that the patch was made
+from, and takes it back."""
 import os
 import pathlib
 import subprocess
@@ -15,7 +15,7 @@ SAMPLE = ROOT / "host" / "machines" / "sample.reg"
 
 
 def same_transcript(prefix, script):
-    """A script's "# fail: OPERATION N" is a command here, and is no part of the transcript."""
+    """A script's "# fail: OPERATION N" is a command here, and not part of the transcript."""
     lines = script.read_text().splitlines()
     typed = [line.replace("# fail: ", "fail ") if line.startswith("# fail: ") else line for line in lines]
     machine = ROOT / (said(lines, "machine") or "host/machines/sample.reg")

@@ -1,7 +1,6 @@
 #!/usr/bin/env python3
-"""The two worlds compared: every operator script runs on the library itself, in a fresh Windows with the machine
-brought in by its own importer, and its transcript must be the one kept of the simulated machine, line by line but for
-the drawings.
+"""The two worlds compared: every operator script runs on the library itself, in a fresh Windows that has imported the
+machine, and its transcript must equal that of the simulated machine, line by line except for the drawings.
 
     compare_worlds.py [SCRIPT...]"""
 import difflib
@@ -16,7 +15,7 @@ SCRIPTS = ROOT / "tests" / "scripts"
 
 
 def said(lines, name):
-    """What a comment at the top of a script says behind its name."""
+    """The text after the name in a comment at the top of a script."""
     for line in lines:
         if not line.startswith("#"):
             break
@@ -30,7 +29,7 @@ def comparable(transcript):
 
 
 def setting(lines):
-    """The machine of a script and the options that the host runs it with."""
+    """The machine of a script and the host's options for it."""
     language = said(lines, "language")
     return ROOT / (said(lines, "machine") or "host/machines/sample.reg"), ["--language", language] if language else []
 
@@ -44,7 +43,7 @@ def run(script):
 
 
 def differences(expected, got):
-    """The hunks in which the transcripts differ, each the lines with - and + before them."""
+    """The hunks in which the transcripts differ, each as lines that begin with - or +."""
     hunk = []
     for line in difflib.ndiff(expected, got):
         if line.startswith(("- ", "+ ")):
@@ -57,7 +56,7 @@ def differences(expected, got):
 
 
 def main(names, left_out, run_both, jobs):
-    """Compares what `run_both` makes of a script in the two worlds, of the named scripts or all but those that begin so."""
+    """Compares what `run_both` makes of a script in the two worlds, for the named ones or all but those left out."""
     scripts = sorted(script for script in SCRIPTS.glob("*.txt")
                      if (script.stem in names if names else not script.stem.startswith(left_out)))
     template()
@@ -78,5 +77,5 @@ def main(names, left_out, run_both, jobs):
 
 
 if __name__ == "__main__":
-    # The library that ships has no trace.
+    # The library that ships contains no trace.
     sys.exit(main(sys.argv[1:], "trace_", run, int(os.environ.get("KVR_JOBS", 2))))

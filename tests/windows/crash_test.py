@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""A crash within the library that ships is found again: from the place that a process or an event log tells, the symbols
-give the function, the file and the line."""
+"""A crash within the library that ships can be located: the symbols turn the address that a process or an event log
+reports into the function, the file and the line."""
 import re
 import subprocess
 import sys

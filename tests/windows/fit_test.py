@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
-"""Every text of every dialog in every language has its room at every usual scale, measured on real windows by kvrfit."""
+"""Every text of every dialog in every language has enough room at every usual scale, as kvrfit measures on real windows."""
 import re
 import sys
 
 from wine import DEFAULT_FONT, FONTS, Prefix
 
 SCALES = [96, 120, 144, 192]
-# Windows' font of other times, as it comes with the stand-in, which has no letters for these languages in it.
+# The font of older Windows versions as Wine has it, without letters for these languages.
 SECOND_FONT = "Tahoma"
 NOT_IN_SECOND_FONT = [1028, 1032, 1037, 1041, 1042, 1054, 2052]
 

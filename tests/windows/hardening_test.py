@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """What a library that elevated processes load must be, read from the file itself.
 
-Takes the folder of the build from KVR_WINDOWS_BUILD; build/windows without it."""
+The folder of the build is KVR_WINDOWS_BUILD, or build/windows."""
 import os
 import pathlib
 import re
@@ -15,7 +15,7 @@ LIBRARY = BUILD / "kvrpagex64.dll"
 
 SYSTEM_LIBRARIES = {"KERNEL32.DLL", "USER32.DLL", "COMCTL32.DLL", "ADVAPI32.DLL", "SETUPAPI.DLL", "MSPORTS.DLL",
                     "MSVCRT.DLL"}
-# By these a library would be searched for, or a function found, at run time.
+# These would search for a library, or find a function, at run time.
 SEARCHES = ("LoadLibrary", "LoadModule", "GetProcAddress", "LdrLoad", "LdrGet", "CreateProcess", "ShellExecute")
 KIB = 1024
 
@@ -79,7 +79,7 @@ class Hardening(unittest.TestCase):
             for piece in [*re.split(r"%(?:ws|s|03d|08X|I64d|d|p)", form), *(set(names.split()) - exported)]:
                 if len(piece) > 5 and piece != ", COM%d":
                     self.assertNotIn(piece.rstrip("*").encode(), self.image.data, form)
-        # Only lines of the trace tell the last error.
+        # Only lines of the trace print the last error.
         self.assertNotIn("GetLastError", [name for names in self.image.imports().values() for name in names])
 
     def test_is_small_and_holds_no_trace_of_its_making(self):
@@ -88,7 +88,7 @@ class Hardening(unittest.TestCase):
         self.assertLess(len(data), 450 * KIB if len(languages) > 1 else 200 * KIB)
         for place in (str(ROOT), str(BUILD), ".debug", ".symtab", "GCC: ("):
             self.assertNotIn(place.encode(), data)
-        # What English alone takes is what the whole takes without the other languages.
+        # The size with English alone is the whole size without the other languages.
         others = sum(len(bytes_) for (_, _, language), bytes_ in self.image.resources().items()
                      if language not in (0, 1033))
         self.assertLess(len(data) - others, 200 * KIB)

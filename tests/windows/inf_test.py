@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""The INF that ships, as far as it can be checked without Windows: what it refers to is there, and what is there is
-referred to.
+"""The INF that ships, as far as it can be checked without Windows: everything that it refers to exists, and everything
+that exists is referred to.
 
-Takes the folder of the build from KVR_WINDOWS_BUILD; build/windows without it."""
+The folder of the build is KVR_WINDOWS_BUILD, or build/windows."""
 import os
 import pathlib
 import re
@@ -19,7 +19,7 @@ ENTRIES = {"Board_Pages.NTamd64", "Uart_Pages.NTamd64"}
 
 
 def sections(text):
-    """Name of each section to its lines, comments taken away."""
+    """The lines of each section by its name, without comments."""
     found, lines = {}, None
     for line in text.splitlines():
         line = re.sub(r'("[^"]*")|;.*', lambda match: match[1] or "", line).strip()
@@ -34,7 +34,7 @@ def sections(text):
 
 
 def faults(text, exports, library):
-    """Everything that is wrong, one line each."""
+    """Everything that is wrong, one line per fault."""
     found = sections(text)
     wrong, used, copied = [], set(KNOWN_BY_THE_SYSTEM) | ENTRIES, set()
     values = {name: dict(map(str.strip, line.split("=", 1)) for line in found.get(name, []) if "=" in line)

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""The INF installed for real, for a board and for one of its ports: the library lands in the system folder, each driver's
-key names its provider, and the host opens the pages through these names. Whoever is named by nobody has no page, and the
-host says why."""
+"""A real installation of the INF, for a board and for one of its ports: the library arrives in the system folder, each
+driver's key names its provider, and the host opens the pages through these names. A device without such a name has no
+page, and the host says why."""
 import re
 import sys
 
@@ -16,7 +16,7 @@ UNNAMED = "(no page: neither its driver nor its class has a value EnumPropPages3
 
 
 def driver_inf(device_class, class_guid, section, hardware_id):
-    """A driver's INF of nothing but the sections that ship and what leads to one of them."""
+    """A driver's INF with only the sections that ship and what leads to one of them."""
     text = (BUILD / "kvrpages.inf").read_text("ascii")
     text = text.replace("Class       = Ports", f"Class       = {device_class}").replace(PORTS.upper(), class_guid)
     text = re.sub("CatalogFile.*\n", "", text) # made last, and by Windows only

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""The keyboard compared: what each key does in each dialog in each language is the same in the simulated windows and in
-real ones, by the listings of kvrkeys.
+"""The keyboard compared: each key does the same in each dialog in each language in the simulated windows and in real
+ones, according to the listings of kvrkeys.
 
     keys_test.py [LANGUAGE...]"""
 import difflib

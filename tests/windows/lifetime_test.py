@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Loading and unloading the library and opening its pages leaves nothing behind: two hundred times in each run, a thousand
+"""Loading and unloading the library and opening its pages leaks nothing: two hundred times in each run, a thousand
 times with KVR_LONG.
 
     lifetime_test.py [TIMES]"""

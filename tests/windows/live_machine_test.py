@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""The host that ships on a machine that is alive: without input it changes nothing, and of the libraries that lie beside it
-it takes neither the pages nor the port database. Whoever starts it at a console is told where he is. Those of its import table are the loader's to find, by what
-package_test.py reads, to which the stand-in pays no heed."""
+"""The host that ships, on a live machine: without input it changes nothing, it loads neither the pages nor the port
+database from its own folder, and at a console it says that this is the live machine. The libraries in its import table
+are found by the loader, under rules that package_test.py reads and that Wine ignores."""
 import os
 import pty
 import re
@@ -14,13 +14,13 @@ from wine import BUILD, ROOT, Prefix, windows_path
 
 
 def registry(prefix):
-    """All values of the machine, by lines."""
+    """All values of the machine, line by line."""
     prefix.run("regedit", "/E", windows_path(prefix.place / "all.reg"), "HKEY_LOCAL_MACHINE")
     return (prefix.place / "all.reg").read_bytes().decode("utf-16").splitlines()
 
 
 def greeting(prefix):
-    """What the host says at a console before its first prompt, without the blanks, over which a console moves its cursor."""
+    """What the host says at a console before its first prompt, without blanks: a console moves its cursor over them."""
     ours, its = pty.openpty()
     run = subprocess.Popen(["wine", "C:\\kvr\\kvrhost.exe", "--line"], stdin=its, stdout=its, stderr=subprocess.DEVNULL,
                            env={**prefix.environment(), "TERM": "xterm"}, start_new_session=True)
@@ -37,7 +37,7 @@ def greeting(prefix):
 def main():
     with Prefix() as prefix:
         prefix.import_machine(ROOT / "host/machines/sample.reg")
-        prefix.run("kvrhost.exe", input=b"devices\n")  # the stand-in respells what it lists for the first time
+        prefix.run("kvrhost.exe", input=b"devices\n")  # Wine changes the spelling of what it lists for the first time
         before = registry(prefix)
         said, code = prefix.run("kvrhost.exe")
         after = registry(prefix)
@@ -51,7 +51,7 @@ def main():
             failed = True
         told = greeting(prefix)
         print(told)
-        # The stand-in has no other users than administrators.
+        # In Wine every user is an administrator.
         failed |= not told.startswith("Thismachine,live,asadministrator:whatthepageschangeischangedhere")
 
         for library in ("standins/msports.dll", "kvrpagex64.dll"):

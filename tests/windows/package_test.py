@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""The library that ships: what its loader and its debuggers are told, read by llvm's own tools.
+"""The library that ships: what it tells its loader and debuggers, as llvm's own tools read it.
 
-Takes the folder of the build from KVR_WINDOWS_BUILD; build/windows without it."""
+The folder of the build is KVR_WINDOWS_BUILD, or build/windows."""
 import os
 import pathlib
 import re

@@ -43,7 +43,7 @@ class Image:
         return self.data[at:self.data.index(b"\0", at)].decode("ascii")
 
     def exports(self):
-        """Ordinal to name, or to None where an export has no name."""
+        """Name by ordinal; None for an export without a name."""
         at = self.offset(self.directories[0][0])
         base, functions, names, table, name_table, ordinal_table = unpack("IIIIII", self.data, at + 16)
         addresses = unpack(f"{functions}I", self.data, self.offset(table))
@@ -55,7 +55,7 @@ class Image:
         return exports
 
     def imports(self):
-        """DLL name to the names imported from it; an ordinal stands as a number."""
+        """The names imported from each DLL; an ordinal is a number."""
         imports = {}
         at = self.offset(self.directories[1][0])
         while True:
@@ -70,7 +70,7 @@ class Image:
             at += 20
 
     def resources(self):
-        """(type, name, language) to the bytes; types and names of this library are numbers."""
+        """The bytes by (type, name, language); types and names of this library are numbers."""
         root = self.offset(self.directories[2][0])
         found = {}
 
@@ -150,7 +150,7 @@ def dialog(data):
 
 
 def strings(block, data):
-    """Reads one block of sixteen strings: number to text, without the empty ones that are not there."""
+    """Reads one block of sixteen strings, by number; the missing ones are empty there and left out."""
     found, at = {}, 0
     for i in range(16):
         length, = unpack("H", data, at)

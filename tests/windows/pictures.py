@@ -3,7 +3,7 @@
 
     pictures.py FOLDER [LANGUAGE|all]
 
-writes FOLDER/103.png and its like in English, FOLDER/103-1031.png in another language, and for `all` one sheet a dialog
+writes FOLDER/103.png and so on in English, FOLDER/103-1031.png in another language, and for `all` one sheet per dialog
 with all languages side by side, FOLDER/103-all.png."""
 import pathlib
 import subprocess

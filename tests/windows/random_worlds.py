@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""The two worlds compared on scripts that chance has written: sheets opened on the devices of a machine, operated with no
-plan, with operations that fail, in nine languages. Thirty in each run, always the same; three hundred with KVR_LONG.
+"""The two worlds compared on random scripts: they open sheets on the devices of a machine and operate them without a
+plan, with operations that fail, in nine languages. Each run has the same thirty scripts, or three hundred with KVR_LONG.
 
     random_worlds.py [FIRST [COUNT]]"""
 import os
@@ -15,14 +15,14 @@ from wine import ROOT, Prefix, Screen, template
 
 HOST = pathlib.Path(os.environ.get("KVR_HOST", ROOT / "build" / "debug" / "kvrhost"))
 MACHINES = {"host/machines/sample.reg": 12, "host/machines/four_uarts.reg": 8}
-# None of those in which the sheet's own buttons are found too: the simulated sheet speaks English.
+# No languages in which the sheet's own buttons are translated: the simulated sheet speaks English.
 LANGUAGES = [0] * 6 + [1025, 1031, 1041, 1049, 2057, 2068, 3084, 4105]
 BOX_BUTTON = "     1  button"
 FAILURES = ["QueryDosDeviceW", "DefineDosDeviceW", "WriteProfileStringW", "RegQueryValueExW", "RegSetValueExW",
             "RegEnumValueW", "SetupDiOpenDevRegKey", "ComDBOpen", "ComDBClaimPort", "ComDBReleasePort",
             "SetupDiSetDeviceRegistryPropertyW", "SetupDiCallClassInstaller", "LoadStringW"]
 
-# By number, for the captions are those of the language. Page, then dialog of Advanced...
+# By number, because captions differ by language. First the page, then its Advanced... dialog.
 BOARD = ["pick 301 #{few}", "check 1039", "uncheck 1039", "slide 821 {few}", "slide 842 {many}", "click 1040", "click 1041",
          "click 844", "pick 846 COM{many}", "controls"]
 BOARD_DIALOG = ["pick 1045 #{few}", "check 1047", "uncheck 1047", "check 1044", "uncheck 1044", "click 844", "click 1054",
@@ -33,7 +33,7 @@ PORT_DIALOG = ["check 1039", "uncheck 1039", "slide 821 {few}", "slide 842 {many
 
 
 def written(seed):
-    """A script, its machine and its language. A failure stands in it as "fail OPERATION N"."""
+    """A script, its machine and its language. It asks for a failure with "fail OPERATION N"."""
     by = random.Random(seed)
 
     def some(steps, most):
@@ -44,7 +44,7 @@ def written(seed):
         return chosen
 
     def leave(how):
-        # A box that is not there is not answered: both worlds say so.
+        # A box that does not exist is not answered: both worlds say so.
         return [how] + by.choice([["answer ok"], ["answer yes", "answer ok"], ["answer no"]])
 
     machine = by.choice(list(MACHINES))
@@ -57,7 +57,7 @@ def written(seed):
                 lines += ["click 840", *some(dialog, 6), *leave(by.choice(["click 1", "click 2"])), "click 2"]
             lines += some(page, 4)
         lines += [*leave("sheet " + by.choice(["ok", "apply", "cancel"])), "sheet cancel", "journal", "ports"]
-    # One failure of an operation at a time is all that the stand-in can be asked for.
+    # Wine can be asked for only one failure of an operation at a time.
     failures = [line.split()[1] for line in lines if line.startswith("fail ")]
     once = [line for line in lines if not line.startswith("fail ") or failures.count(line.split()[1]) == 1]
     return machine, by.choice(LANGUAGES), once
@@ -65,7 +65,7 @@ def written(seed):
 
 def said(transcript):
     """Without the lines that ask for a failure, for which each world has its own form, and with the two controls of a
-    message box in one order: the stand-in makes its button first."""
+    message box in one order: Wine makes its button first."""
     lines = [line for line in comparable(transcript) if not line.startswith(("> fail ", "> # fail: ", "# fail: "))]
     for at, line in enumerate(lines[1:], 1):
         if line.startswith(BOX_BUTTON) and lines[at - 1] == "> controls":

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""The dialogs and strings as they stand in the built library: every language has the same numbers and kinds.
+"""The dialogs and strings in the built library: every language has the same numbers and kinds.
 
-Takes the folder of the build from KVR_WINDOWS_BUILD; build/windows without it."""
+The folder of the build is KVR_WINDOWS_BUILD, or build/windows."""
 import os
 import pathlib
 import re
@@ -34,7 +34,7 @@ class Resources(unittest.TestCase):
                 cls.dialogs.setdefault(language, {})[name] = pe.dialog(data)
             elif kind == pe.RT_STRING:
                 cls.strings.setdefault(language, {}).update(pe.strings(name, data))
-        # One file a language, named by its number.
+        # One file per language, named by its number.
         files = (ROOT / "src/resources/languages").glob("*.h")
         cls.languages = sorted(int(file.name.split("_")[0]) for file in files)
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Shows the sheets of a machine's devices on the display at hand, or on one without a face where there is none, with
+"""Shows the sheets of a machine's devices on the current display, or on an invisible one if there is none, with
 the commands of the host at this terminal.
 
     run.py [MACHINE.reg]"""

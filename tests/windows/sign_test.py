@@ -16,7 +16,7 @@ TEXTS = {"kvrpages.inf", "packaging.md", "device_store.md", "service.md", "CHANG
 
 
 def identity(symbols):
-    """By which a debugger knows the library that these are the symbols of, as that library holds it."""
+    """The key by which a debugger matches these symbols to their library, as the library holds it."""
     said = subprocess.run(["llvm-pdbutil-14", "dump", "--summary", symbols], capture_output=True, text=True, check=True)
     return uuid.UUID(re.search(r"GUID: \{(.*)\}", said.stdout)[1]).bytes_le
 

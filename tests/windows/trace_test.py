@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The trace of the diagnostic library is that of the simulated machine, line by line, through every operator script.
+"""The trace of the diagnostic library equals that of the simulated machine, line by line, in every operator script.
 
     trace_test.py [SCRIPT...]"""
 import os
@@ -15,8 +15,8 @@ from wine import ROOT, Prefix
 HOST = pathlib.Path(os.environ.get("KVR_HOST", ROOT / "build" / "debug" / "kvrhost"))
 LIBRARY = ROOT / "build" / "windows-trace" / "kvrpagex64.dll"
 
-# Addresses and the numbers of the system's errors are each world's own, and how often a page is told what it passes over:
-# that something of it is drawn.
+# These differ between the worlds: addresses, the system's error numbers, and how often a page gets messages
+# about drawing, which it ignores.
 OWN = re.compile(r"\bx[0-9A-F]{16}\b|(?<=GetLastError\(\):)\d+")
 PASSED_OVER = re.compile(r"  ----> _OnNotify\( \)\n  <---- _OnNotify, bSuccess:0\n")
 
@@ -34,7 +34,7 @@ def run(script):
         shutil.copy(LIBRARY, prefix.library)
         prefix.import_machine(machine)
         got, _ = prefix.run("kvrhost_test.exe", *options, input="\n".join(commands).encode(), timeout=120)
-    # What a comment asks of the tests' host is a command of this one.
+    # A comment for the tests' host is a command for this one.
     commands = [line.replace("# fail: ", "fail ", 1) for line in commands]
     simulated = subprocess.run([HOST, machine, *options], input="\n".join(commands).encode(), stdout=subprocess.PIPE,
                                stderr=subprocess.DEVNULL, env={**os.environ, "LC_ALL": "C.UTF-8"}, timeout=120)
@@ -42,6 +42,6 @@ def run(script):
 
 
 if __name__ == "__main__":
-    # The devices of another machine are known to the tests' host alone. One script at a time: two on one screen take the
-    # focus from each other, which the trace tells.
+    # Only the tests' host can make devices belong to another machine. One script at a time: two on one screen
+    # take the focus from each other, and the trace shows that.
     sys.exit(compare_worlds.main(sys.argv[1:], "remote_", run, jobs=1))

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """One version, company and copyright in everything that ships: that of the project.
 
-Takes the folder of the build from KVR_WINDOWS_BUILD; build/windows without it."""
+The folder of the build is KVR_WINDOWS_BUILD, or build/windows."""
 import os
 import pathlib
 import re

@@ -1,5 +1,5 @@
-"""A stand-in Windows for the tests: a prefix of its own for each, made from one that is kept fresh as it was
-installed, with a screen of its own."""
+"""Wine as the Windows of the tests: each test has a prefix and a screen of its own. The prefix is a copy of one that is
+kept as it was installed."""
 import atexit
 import fcntl
 import os
@@ -20,23 +20,23 @@ PROGRAMS = ["kvrhost.exe", "kvrhost_test.exe", "kvrfit.exe", "kvrpictures.exe", 
 CLASSES = r"HKEY_LOCAL_MACHINE\SYSTEM\CurrentControlSet\Control\Class"
 PORTS = "{4d36e978-e325-11ce-bfc1-08002be10318}"
 
-# "MS Shell Dlg" is Microsoft Sans Serif on Windows, which has every script. Here each script has its own font; of
-# those that are small, the ones that come nearest.
+# "MS Shell Dlg" is Microsoft Sans Serif on Windows, which has every script. Here each script has its own
+# font; these are the nearest of the small ones.
 DEFAULT_FONT = "Liberation Sans"
 FONTS = {"DejaVu Sans": [1025, 1037], "Loma": [1054], "WenQuanYi Micro Hei": [1028, 1041, 1042, 2052]}
 
 SUBSTITUTES = r"HKLM\Software\Microsoft\Windows NT\CurrentVersion\FontSubstitutes"
 DESKTOP = r"HKCU\Control Panel\Desktop"
 SETTINGS = [
-    # No window manager: the windows draw their own frames, and no one is waited for when they close.
+    # No window manager: the windows draw their own frames, and nothing has to be awaited when they close.
     ["add", r"HKCU\Software\Wine\X11 Driver", "/v", "Managed", "/d", "N"],
-    # The serial ports of the machine at hand are none of the simulated one's.
+    # The serial ports of the real machine do not belong to the simulated one.
     ["add", r"HKLM\System\CurrentControlSet\Services\MountMgr", "/v", "Start", "/t", "REG_DWORD", "/d", "4"],
     ["delete", r"HKLM\Software\Microsoft\Windows NT\CurrentVersion\Ports"],
 ]
 
 
-# Whoever stops a test lets it clear up.
+# A test that is stopped still clears up.
 signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
 
 
@@ -49,7 +49,7 @@ def windows_path(file):
 
 
 class Screen:
-    """A display without a face, one for all prefixes."""
+    """An invisible display, one for all prefixes."""
     display = None
 
     @classmethod
@@ -71,8 +71,8 @@ class Screen:
 
 
 class Processor:
-    """A processor that no other prefix has, if there is one, for all programs of a prefix. Windows' programs and their
-    server speak in turns, thousands of times for a sheet: on one processor a sheet opens in half the time."""
+    """One processor for all programs of a prefix, shared with no other prefix if possible. Windows programs and their
+    server take turns thousands of times for a sheet: on one processor a sheet opens in half the time."""
 
     def __init__(self):
         self.number = None
@@ -93,7 +93,7 @@ class Processor:
 
 
 class Prefix:
-    """A fresh Windows, gone at the end of the with block."""
+    """A fresh Windows, deleted at the end of the with block."""
 
     def __init__(self, place=None, display=None):
         self.place = pathlib.Path(place) if place else None
@@ -106,8 +106,8 @@ class Prefix:
             self._copy_of(template(), self.place)
         self.library = self.place / "drive_c" / "windows" / "system32" / "kvrpagex64.dll" # where an INF puts it
         self.processor = Processor()
-        # What lies in the registry's volatile part lives as long as the server does: longer than between two programs,
-        # but not for ever if this process is killed.
+        # What is in the registry's volatile part lives as long as the server does: longer than between two
+        # programs, but not for ever if this process is killed.
         subprocess.run(self.processor.command("wineserver", "-p60"), env=self.environment(), check=True)
         self.programs = self.place / "drive_c" / "kvr"
         self.programs.mkdir(parents=True, exist_ok=True)
@@ -126,7 +126,7 @@ class Prefix:
 
     @staticmethod
     def _copy_of(origin, place):
-        """Registry, drive letters and the Windows folder of its own; what no one writes to is only linked."""
+        """Has its own registry, drive letters and Windows folder; whatever nobody writes to is only linked."""
         for file in origin.glob("*.reg"):
             shutil.copy(file, place)
         shutil.copy(origin / ".update-timestamp", place)
@@ -139,7 +139,7 @@ class Prefix:
             for entry in (origin / folder).iterdir():
                 if entry.name not in own:
                     (place / folder / entry.name).symlink_to(entry)
-        # Where the system's own would be.
+        # The place of the system's own.
         shutil.copy(HOST_BUILD / "standins" / "msports.dll", place / "drive_c" / "windows" / "system32")
 
     def environment(self):
@@ -147,7 +147,7 @@ class Prefix:
                 "WINEDLLOVERRIDES": "msports=n,b;mscoree,mshtml=d", "DISPLAY": self.display or Screen.name()}
 
     def run(self, *command, input=b"", timeout=300):
-        """Runs a program of the system or one of C:\\kvr; the bytes that it writes, and its exit code."""
+        """Runs a program of the system or of C:\\kvr. Returns the bytes that it writes, and its exit code."""
         program = command[0]
         if (self.programs / program).exists():
             program = "C:\\kvr\\" + program
@@ -183,7 +183,7 @@ class Prefix:
 
 
 def providers_of(export):
-    """The driver's key of each board and port of an export, and in it the provider of its page."""
+    """Makes the driver's key of each board and port of an export, with the provider of its page in it."""
     devices = {}
     for path, values in re.findall(r"^\[(HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Enum(?:\\[^\]\\]+){3})"
                                    r"(?:\\Device Parameters)?\]\n((?:(?:[^\[\n].*)?\n)*)", export, re.M):
@@ -201,7 +201,7 @@ def providers_of(export):
 
 
 def template():
-    """The prefix that all others are made from: installed once for each version of the system."""
+    """The prefix that all others are copied from, installed once for each version of Wine."""
     TEMPLATES.mkdir(parents=True, exist_ok=True)
     with open(TEMPLATES / "lock", "w") as lock:
         fcntl.flock(lock, fcntl.LOCK_EX)
@@ -221,11 +221,12 @@ def made_template():
                        stderr=subprocess.DEVNULL)
         for setting in SETTINGS + font_settings(DEFAULT_FONT):
             prefix.reg(*setting)
-        # The signs on the title bars' buttons are letters of this font.
+        # The symbols on the title bars' buttons are letters of this font.
         for font in pathlib.Path("/usr/share/wine/fonts").glob("marlett.ttf"):
             shutil.copy(font, making / "drive_c" / "windows" / "Fonts")
     shutil.rmtree(making / "drive_c" / "kvr")
-    # The system makes this key anew at each start, and then nothing can be imported into it, but for one that is kept.
+    # The system makes this key anew at each start, and nothing can be imported into it until a key there is
+    # kept.
     with open(making / "system.reg", "a") as registry:
         registry.write("\n[Hardware\\\\Devicemap\\\\Serialcomm]\n")
     making.rename(place)

@@ -1,5 +1,5 @@
-// The tour of the sample machine: commands for whoever starts the program without a word. Controls are named
-// by their numbers, so that it is the same in every language.
+// The tour of the sample machine: the commands that run if the program is started without any. Controls are
+// named by their numbers, so that the tour is the same in every language.
 #include "host/worlds/simulated/tour.h"
 
 #include "platform/platform.h"
@@ -12,7 +12,7 @@ std::vector<std::string> TourOfSample() {
         return std::string{command} + ' ' + std::to_string(control) + rest;
     };
     return {
-        "# A tour of the sample machine. `help` tells the commands; the same can be typed or piped in.",
+        "# A tour of the sample machine. `help` lists the commands, which can also be typed or piped in.",
         "devices",
         "# The places that hold the numbers of the ports, before anything is changed.",
         "ports",

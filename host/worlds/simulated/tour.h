@@ -5,7 +5,7 @@
 
 namespace host {
 
-// A line each.
+// One command per line.
 std::vector<std::string> TourOfSample();
 
 } // namespace host

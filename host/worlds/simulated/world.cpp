@@ -20,7 +20,7 @@
 namespace host {
 namespace {
 
-// What only a board's own device says.
+// Only a board's own device has this value.
 constexpr std::u16string_view board_value = u"BoardNrController";
 
 std::optional<DeviceKind> KindOf(const sim::Device& device) {
@@ -37,7 +37,7 @@ bool Holds(const MachineFile& file, std::u16string_view key) {
     return file.root.Find(Below(file.control_set, key)) != nullptr;
 }
 
-// What a file holds of the machine, and what follows from that.
+// What a file holds of the machine, and what follows from it.
 struct MachineMoment : Moment {
     explicit MachineMoment(const sim::Machine& machine)
         : devices(machine.devices), interfaces(machine.interfaces), dos_names(machine.dos_names),
@@ -53,7 +53,7 @@ struct MachineMoment : Moment {
     std::vector<std::pair<sim::Text, sim::Values>> profile;
 };
 
-// As the library's provider calls it: the page goes to the sheet's list.
+// The library's provider calls this: the page is added to the sheet's list.
 BOOL CALLBACK AddPage(HPROPSHEETPAGE page, LPARAM pages) {
     reinterpret_cast<std::vector<HPROPSHEETPAGE>*>(pages)->push_back(page);
     return TRUE;
@@ -282,7 +282,7 @@ bool SimulatedWorld::Fail(const std::string& operation, std::size_t call) {
     if (operation.empty()) {
         plan.at_call.clear();
     } else {
-        // The counts are kept by names that outlive the plan, as this one need not.
+        // The keys of the counts must outlive the plan, which this string need not.
         const auto seen = plan.count_by_name.find(operation);
         plan.at_call.emplace_back(operation, call + (seen != plan.count_by_name.end() ? seen->second : 0));
     }

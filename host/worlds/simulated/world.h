@@ -1,4 +1,4 @@
-// The world of a simulated machine: the library is loaded into it, and its pages are run on its windows.
+// The world of a simulated machine: the library is loaded into it, and its pages run on its windows.
 #pragma once
 
 #include "host/machine_file/machine_file.h"
@@ -7,14 +7,14 @@
 
 namespace host {
 
-// Reads the registry export of a machine, or that of the sample machine if `path` is empty. False with a
-// reason in `error`.
+// Reads the registry export of a machine, or that of the sample machine if `path` is empty. Returns false
+// with a reason in `error` on failure.
 bool OpenMachineFile(const std::string& path, MachineFile& file, std::string& error);
 
 class SimulatedWorld : public World {
 public:
     // Gives the machine what the file holds, makes it current and loads the library. The machine must outlive
-    // the world, and no other be made current meanwhile. Its journal is the world's from then on.
+    // the world, and no other may be made current meanwhile. From then on its journal belongs to the world.
     SimulatedWorld(MachineFile file, sim::Machine& machine);
     ~SimulatedWorld() override;
 
@@ -45,7 +45,7 @@ private:
     sim::Machine& machine_;
     sim::Machine saved_; // the data of the machine as it was read or last exported
     sim::Scope scope_;
-    std::size_t told_ = 0; // lines of the journal that whoever hears the trace has been told
+    std::size_t told_ = 0; // lines of the journal that have been passed to the trace's listener
 };
 
 } // namespace host

@@ -9,7 +9,7 @@ Attendance* current = nullptr;
 
 HWND FrontWindow() {
     HWND front = nullptr;
-    // The system gives the windows from the foremost backwards.
+    // The system lists the windows from the front to the back.
     EnumThreadWindows(
         GetCurrentThreadId(),
         [](HWND window, LPARAM found) -> BOOL {
@@ -32,7 +32,7 @@ Attendance::Attendance(const std::function<void(HWND front)>& attend) : attend_(
 }
 
 Attendance::~Attendance() {
-    if (timer_) {
+    if (timer_ != 0) {
         KillTimer(nullptr, timer_);
     }
     current = nullptr;
@@ -41,7 +41,7 @@ Attendance::~Attendance() {
 void CALLBACK Attendance::Tick(HWND, UINT, UINT_PTR, DWORD) {
     const HWND front = FrontWindow();
     auto& attended = current->attended_;
-    if (!front || (!attended.empty() && attended.back() == front)) {
+    if (front == nullptr || (!attended.empty() && attended.back() == front)) {
         return;
     }
     attended.push_back(front);

@@ -1,6 +1,6 @@
-// Who sits in front of the screen of this thread: whenever a modal window waits for its user, a function is
-// called with it, from within that window's own message loop. Windows that open meanwhile are attended inside
-// that call.
+// Takes the place of the person at this thread's screen: whenever a modal window waits for its user, a
+// function is called with it, from within that window's own message loop. Windows that open meanwhile are
+// attended to inside that call.
 #pragma once
 
 #include <functional>
@@ -10,11 +10,11 @@
 
 namespace host {
 
-// The dialog, sheet or message box of this thread that takes input; null while there is none.
+// The dialog, sheet or message box of this thread that takes input; null if there is none.
 HWND FrontWindow();
 
-// Attends the thread's windows while it lives; one at a time. An empty function leaves them to the person at
-// the screen.
+// Attends to the thread's windows while it lives; only one may exist at a time. An empty function leaves them
+// to the person at the screen.
 class Attendance {
 public:
     explicit Attendance(const std::function<void(HWND front)>& attend);
@@ -26,7 +26,7 @@ private:
     static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD);
 
     const std::function<void(HWND)>& attend_;
-    std::vector<HWND> attended_; // from the backmost to the one in front
+    std::vector<HWND> attended_; // from the backmost to the frontmost
     UINT_PTR timer_ = 0;
 };
 

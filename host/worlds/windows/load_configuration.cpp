@@ -1,5 +1,5 @@
-// The programs take the libraries of their import tables from the system folder only, whatever lies beside
-// them.
+// The programs load the libraries of their import tables only from the system folder, even if there are
+// others beside them.
 #include "platform/windows/load_configuration.h"
 
 const LoadConfiguration _load_config_used{

@@ -14,7 +14,7 @@ namespace {
 std::vector<std::string> journal;
 World::TraceListener trace_listener;
 constexpr std::size_t no_call = static_cast<std::size_t>(-1);
-std::map<HKEY, std::string> keys; // the keys that the library holds, by what the journal calls them
+std::map<HKEY, std::string> keys; // the keys that the library holds, with their names in the journal
 
 struct OpenBox {
     HWND window; // null until it is created
@@ -22,7 +22,7 @@ struct OpenBox {
 };
 std::vector<OpenBox> boxes; // the outermost first
 
-// What stood in the import table before: the system's own function, or what stands in for it.
+// What was in the import table before: the system's own function, or its replacement.
 #define NEXT(function) decltype(&::function) Next##function = nullptr
 NEXT(RegOpenKeyExW);
 NEXT(RegCloseKey);
@@ -41,9 +41,9 @@ NEXT(MessageBoxW);
 NEXT(OutputDebugStringA);
 #undef NEXT
 
-std::size_t being_made = no_call; // the line of the call that is being made
+std::size_t being_made = no_call; // the line of the call in progress
 
-// Writes the line down and makes the call.
+// Writes the line and makes the call.
 template <class Call> auto Journaled(std::string line, const Call& call) {
     journal.push_back(std::move(line));
     const std::size_t outer = std::exchange(being_made, journal.size() - 1);
@@ -56,7 +56,7 @@ template <class Call> auto Journaled(std::string line, const Call& call) {
 }
 
 std::string Utf8(LPCWSTR text) {
-    return text ? ToUtf8(text) : std::string{};
+    return text != nullptr ? ToUtf8(text) : std::string{};
 }
 
 std::string FunctionShown(DI_FUNCTION function) {
@@ -129,7 +129,7 @@ BOOL WINAPI ObservedSetupDiCallClassInstaller(DI_FUNCTION function, HDEVINFO set
 
 BOOL WINAPI ObservedDefineDosDeviceW(DWORD flags, LPCWSTR name, LPCWSTR target) {
     return Journaled("DefineDosDeviceW " +
-                         (target ? Utf8(name) + " -> " + Utf8(target) : "remove " + Utf8(name)),
+                         (target != nullptr ? Utf8(name) + " -> " + Utf8(target) : "remove " + Utf8(name)),
                      [&] { return NextDefineDosDeviceW(flags, name, target); });
 }
 
@@ -145,7 +145,7 @@ LONG WINAPI ObservedComDBClaimPort(HCOMDB database, DWORD number, BOOL force, PB
 
 BOOL WINAPI ObservedWriteProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR value) {
     return Journaled("WriteProfileStringW [" + Utf8(section) + "] " + Utf8(key) +
-                         (value ? " = " + Quoted(Utf8(value)) : " deleted"),
+                         (value != nullptr ? " = " + Quoted(Utf8(value)) : " deleted"),
                      [&] { return NextWriteProfileStringW(section, key, value); });
 }
 
@@ -156,7 +156,7 @@ BOOL WINAPI ObservedSendNotifyMessageW(HWND window, UINT message, WPARAM wParam,
                      [&] { return NextSendNotifyMessageW(window, message, wParam, lParam); });
 }
 
-// The first window that a message box creates is the box.
+// The first window that is created for a message box is the box.
 LRESULT CALLBACK NoteBox(int code, WPARAM wParam, LPARAM lParam) {
     if (code == HCBT_CREATEWND && !boxes.back().window) {
         boxes.back().window = reinterpret_cast<HWND>(wParam);

@@ -1,5 +1,5 @@
-// What the library does to the world outside itself, seen at its import table and written down in the lines
-// of `World::Journal`. A call is written down before it is passed on, whatever comes of it.
+// What the library does to the world outside itself, observed at its import table and written in the lines of
+// `World::Journal`. A call is written before it is passed on, whatever its result.
 #pragma once
 
 #include <string>
@@ -9,10 +9,10 @@
 
 namespace host {
 
-// Observes a library from here on. One library at a time.
+// Observes a library from now on. Only one library at a time.
 void Observe(HMODULE library);
 
-// Marks the line of the call that is being made as failed: for whoever makes calls fail below the observers.
+// Marks the line of the call in progress as failed, for code below the observers that makes calls fail.
 void NoteFailure();
 
 // The lines since the last call.
@@ -21,7 +21,7 @@ std::vector<std::string> TakeJournal();
 // As `World::HearTrace`.
 bool ObserveTrace(World::TraceListener hear);
 
-// The style that an open message box was opened with, 0 if `box` is none.
+// The style that an open message box was opened with, or 0 if `box` is not one.
 UINT OpenBoxStyle(HWND box);
 
 // The instance id of a device, UTF-8; empty if the set has no such device.

@@ -13,7 +13,7 @@ namespace {
 Text NamedIn(HKEY key) {
     const std::vector<StoreValue> values = RegistryKey(key).Values();
     const StoreValue* const named = FindValue(values, "EnumPropPages32");
-    return named ? TextIn(named->data) : Text();
+    return named != nullptr ? TextIn(named->data) : Text();
 }
 
 Text NamedFor(HDEVINFO set, SP_DEVINFO_DATA& data) {
@@ -33,9 +33,9 @@ Providers::~Providers() {
 
 HMODULE Providers::Load(LPCWSTR name) {
     const HMODULE library = LoadLibraryExW(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-    if (library && std::ranges::count(loaded_, library) != 0) {
-        FreeLibrary(library); // once is enough
-    } else if (library) {
+    if (library != nullptr && std::ranges::count(loaded_, library) != 0) {
+        FreeLibrary(library); // it stays loaded by one reference
+    } else if (library != nullptr) {
         loaded_.push_back(library);
         AttachTo(library);
     }
@@ -50,16 +50,16 @@ Provider Providers::Of(HDEVINFO set, SP_DEVINFO_DATA& data) {
     const std::string shown = "EnumPropPages32 is " + Quoted(ToUtf8(named)) + ", ";
     const std::size_t comma = named.find(TEXT(','));
     if (comma == Text::npos) {
-        return {nullptr, shown + "which is no library and function"};
+        return {nullptr, shown + "which does not name a library and a function"};
     }
     const HMODULE library = Load(named.substr(0, comma).c_str());
-    if (!library) {
+    if (library == nullptr) {
         return {nullptr, shown + "and that library can't be loaded: error " + std::to_string(GetLastError())};
     }
     const std::string function = ToUtf8(named.substr(named.find_first_not_of(TEXT(' '), comma + 1)));
     const auto ask = reinterpret_cast<decltype(Provider::ask)>(
         reinterpret_cast<void*>(GetProcAddress(library, function.c_str())));
-    return {ask, ask ? "" : shown + "and that library has no such function"};
+    return {ask, ask != nullptr ? "" : shown + "and that library has no such function"};
 }
 
 } // namespace host

@@ -1,6 +1,5 @@
-// Whom the device manager asks for the pages of a device: "library.dll,Function" under EnumPropPages32 of its
-// driver's key, or else of its class's. The library is taken from the system folder unless its path stands
-// there.
+// Who provides the pages of a device: "library.dll,Function" in EnumPropPages32 of its driver's key, or else
+// of its class's key. The library is loaded from the system folder unless the value has a path.
 #pragma once
 
 #include <string>
@@ -12,10 +11,10 @@ namespace host {
 
 struct Provider {
     BOOL(APIENTRY* ask)(SP_PROPSHEETPAGE_REQUEST*, LPFNADDPROPSHEETPAGE, LPARAM) = nullptr;
-    std::string fault; // why there is nobody to ask; empty if there is
+    std::string fault; // why there is no provider; empty if there is one
 };
 
-// The libraries of the providers, loaded and observed from the first time that one is asked for.
+// The libraries of the providers. Each is loaded and observed when it is first asked for.
 class Providers {
 public:
     Providers() = default;

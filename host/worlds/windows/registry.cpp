@@ -13,7 +13,7 @@ RegistryKey::RegistryKey(HKEY root, const WCHAR* path, REGSAM access) {
 RegistryKey::RegistryKey(HKEY opened) : key_(opened == INVALID_HANDLE_VALUE ? nullptr : opened) {}
 
 RegistryKey::~RegistryKey() {
-    if (key_) {
+    if (key_ != nullptr) {
         RegCloseKey(key_);
     }
 }
@@ -21,8 +21,9 @@ RegistryKey::~RegistryKey() {
 std::vector<StoreValue> RegistryKey::Values() const {
     std::vector<StoreValue> values;
     DWORD longest_name = 0, longest_data = 0;
-    if (!key_ || RegQueryInfoKeyW(key_, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-                                  &longest_name, &longest_data, nullptr, nullptr) != ERROR_SUCCESS) {
+    if (key_ == nullptr ||
+        RegQueryInfoKeyW(key_, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &longest_name,
+                         &longest_data, nullptr, nullptr) != ERROR_SUCCESS) {
         return values;
     }
     for (DWORD index = 0;; ++index) {
@@ -49,7 +50,8 @@ std::vector<std::pair<Text, Text>> RegistryKey::Texts() const {
 }
 
 bool RegistryKey::Has(const WCHAR* name) const {
-    return key_ && RegQueryValueExW(key_, name, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
+    return key_ != nullptr &&
+           RegQueryValueExW(key_, name, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
 }
 
 } // namespace host

@@ -9,15 +9,15 @@
 
 namespace host {
 
-inline constexpr const WCHAR* arbiter_key = L"SYSTEM\\CurrentControlSet\\Control\\COM Name Arbiter";
-inline constexpr const WCHAR* ports_key = L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Ports";
-inline constexpr const WCHAR* serial_map_key = L"HARDWARE\\DEVICEMAP\\SERIALCOMM";
+inline constexpr const WCHAR* arbiter_key = TEXT("SYSTEM\\CurrentControlSet\\Control\\COM Name Arbiter");
+inline constexpr const WCHAR* ports_key = TEXT("SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Ports");
+inline constexpr const WCHAR* serial_map_key = TEXT("HARDWARE\\DEVICEMAP\\SERIALCOMM");
 
-// An open key, closed at the end. A key that can't be opened has no values.
+// An open key, closed by the destructor. A key that can't be opened has no values.
 class RegistryKey {
 public:
     RegistryKey(HKEY root, const WCHAR* path, REGSAM access);
-    // Takes over a key that SetupAPI opened; INVALID_HANDLE_VALUE is none.
+    // Takes over a key that SetupAPI opened; INVALID_HANDLE_VALUE is no key.
     explicit RegistryKey(HKEY opened);
     ~RegistryKey();
     RegistryKey(const RegistryKey&) = delete;

@@ -11,7 +11,7 @@ void AttachTo(HMODULE library) {
 std::vector<std::pair<std::wstring, std::wstring>> SerialDosNames() {
     std::vector<std::pair<std::wstring, std::wstring>> names;
     for (int number = 1; number <= COMDB_MAX_PORTS_ARBITRATED; ++number) {
-        const std::wstring name = L"COM" + std::to_wstring(number);
+        const std::wstring name = TEXT("COM") + std::to_wstring(number);
         WCHAR target[MAX_PATH];
         if (QueryDosDeviceW(name.c_str(), target, ARRAYSIZE(target))) {
             names.emplace_back(name, target);

@@ -1,4 +1,4 @@
-// The system itself as the world of the host: its devices, its registry, its windows.
+// The system itself as the host's world: its devices, its registry, its windows.
 #include "host/worlds/world.h"
 
 #include <algorithm>
@@ -15,7 +15,7 @@
 namespace host {
 namespace {
 
-// A device information set, destroyed at the end.
+// A device information set, destroyed by the destructor.
 class DeviceSet {
 public:
     explicit DeviceSet(HDEVINFO set) : set_(set) {}
@@ -47,15 +47,15 @@ HKEY HardwareKey(HDEVINFO set, SP_DEVINFO_DATA& data) {
     return SetupDiOpenDevRegKey(set, &data, DICS_FLAG_GLOBAL, 0, DIREG_DEV, KEY_READ);
 }
 
-// The device as the host lists it, but for its presence and its provider; nothing if it is no board and no
-// port.
+// The device as the host lists it, without its presence and its provider; nothing if it is neither a board
+// nor a port.
 std::optional<Device> Describe(HDEVINFO set, SP_DEVINFO_DATA& data) {
     Device device;
     device.id = InstanceId(set, &data);
     const RegistryKey key(HardwareKey(set, data));
     if (Property(set, data, SPDRP_CLASS) == TEXT("Ports") || key.Has(TEXT("PortName"))) {
         device.kind = DeviceKind::Port;
-    } else if (!key.Has(TEXT("BoardNrController"))) { // what only a board's own device says
+    } else if (!key.Has(TEXT("BoardNrController"))) { // only a board's own device has it
         return {};
     }
     device.description = Property(set, data, SPDRP_DEVICEDESC);
@@ -71,7 +71,7 @@ bool Before(const Text& left, const Text& right) {
     return CompareStringOrdinal(left.c_str(), -1, right.c_str(), -1, TRUE) == CSTR_LESS_THAN;
 }
 
-// The devices that have an interface of any class; with DIGCF_PRESENT, a present one.
+// The devices that have an interface of any class, or a present one with DIGCF_PRESENT.
 std::vector<std::string> InterfaceOwners(DWORD flags) {
     std::vector<std::string> ids;
     const DeviceSet set(
@@ -88,7 +88,7 @@ BOOL CALLBACK TakePage(HPROPSHEETPAGE page, LPARAM pages) {
     return TRUE;
 }
 
-// A sheet that has ended stays on the screen until its loop sees it. Whoever operates it must see it go at
+// A sheet that has ended stays on the screen until its loop notices. Whoever operates it must see it go at
 // once.
 LRESULT CALLBACK HideWhenEnded(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
     const LRESULT result = DefSubclassProc(sheet, message, wParam, lParam);
@@ -108,7 +108,7 @@ void ShowSheet(const Text& title, std::vector<HPROPSHEETPAGE>& pages) {
     header.nPages = static_cast<UINT>(pages.size());
     header.phpage = pages.data();
     const HWND sheet = reinterpret_cast<HWND>(PropertySheetW(&header));
-    if (!sheet || sheet == INVALID_HANDLE_VALUE) {
+    if (sheet == nullptr || sheet == INVALID_HANDLE_VALUE) {
         return;
     }
     SetWindowSubclass(sheet, &HideWhenEnded, 0, 0);
@@ -139,7 +139,7 @@ bool IsElevated() {
 class System : public World {
 public:
     System() {
-        Devices(); // what their libraries do and tell is observed from here on
+        Devices(); // from now on what their libraries do and trace is observed
     }
 
     std::string Greeting() override {
@@ -199,7 +199,7 @@ public:
             one.cbSize = sizeof one;
             for (DWORD index = 0;
                  SetupDiEnumDeviceInterfaces(set.Handle(), nullptr, &interface_class, index, &one); ++index) {
-                // Asked for its device alone, the path does not fit.
+                // Asks for the device alone, because the path does not fit.
                 SP_DEVINFO_DATA data = EmptyDevice();
                 SetupDiGetDeviceInterfaceDetailW(set.Handle(), &one, nullptr, 0, nullptr, &data);
                 interfaces.push_back({InstanceId(set.Handle(), &data),
@@ -216,15 +216,15 @@ public:
         if (const RegistryKey map(HKEY_LOCAL_MACHINE, serial_map_key, KEY_READ); map.Handle()) {
             records.serial_map = map.Texts();
         }
-        // The section [Ports] of the profile lies there.
-        if (const RegistryKey ports(HKEY_LOCAL_MACHINE, ports_key, KEY_READ); ports.Handle()) {
+        // The [Ports] section of the profile is kept there.
+        if (const RegistryKey ports(HKEY_LOCAL_MACHINE, ports_key, KEY_READ); ports.Handle() != nullptr) {
             records.settings_lines = ports.Texts();
         }
-        // Read where it lies: to open the database by its own operations would make one where there is none.
+        // Read directly, because opening the database through its own operations would create a missing one.
         const std::vector<StoreValue> arbiter =
             RegistryKey(HKEY_LOCAL_MACHINE, arbiter_key, KEY_READ).Values();
         const StoreValue* const usage = FindValue(arbiter, "ComDB");
-        if (usage && usage->type == REG_BINARY && !usage->data.empty()) {
+        if (usage != nullptr && usage->type == REG_BINARY && !usage->data.empty()) {
             records.usage = usage->data;
         }
         return records;
@@ -286,10 +286,10 @@ private:
 
 std::unique_ptr<World> OpenWorld(const std::string& file, LANGID language, std::string& error) {
     if (!file.empty()) {
-        error = "the machine is the one at hand; bring " + file + " in by the registry editor";
+        error = "the machine is this one; import " + file + " with the registry editor";
         return nullptr;
     }
-    // Whatever lies beside the program or in the folder at hand, the system's libraries are the system's own.
+    // The system's own libraries are used, whatever is beside the program or in the current folder.
     SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
     if (language != 0 && !UseLanguage(language)) {
         error = "the system knows no language " + std::to_string(language);

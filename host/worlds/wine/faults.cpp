@@ -9,13 +9,13 @@
 namespace host {
 namespace {
 
-// An operation that can be made to fail: what it gives then, and the error that it leaves.
+// An operation that can be made to fail: its result then, and the error that it leaves.
 template <class Function, int Place> struct Fault;
 template <class Result, class... Arguments, int Place> struct Fault<Result(WINAPI*)(Arguments...), Place> {
     static inline Result(WINAPI* next)(Arguments...) = nullptr;
     static inline Result failure{};
     static inline DWORD error = 0;
-    static inline int calls_left = 0; // up to the one that fails; 0 for none
+    static inline int calls_left = 0; // until the one that fails; 0 for none
 
     static Result WINAPI Call(Arguments... arguments) {
         if (calls_left != 0 && --calls_left == 0) {
@@ -76,7 +76,7 @@ bool remote = false;
 BOOL WINAPI DetailOfRemote(HDEVINFO set, SP_DEVINFO_LIST_DETAIL_DATA_W* detail) {
     const BOOL found = NextDetail(set, detail);
     if (found && remote) {
-        detail->RemoteMachineHandle = set; // any value but null says so
+        detail->RemoteMachineHandle = set; // any value but null means remote
     }
     return found;
 }

@@ -1,5 +1,5 @@
-// Failures on demand: the next call of an operation fails as it can fail at any time, without being carried
-// out.
+// Failures on demand: the next call of an operation fails in a way that is always possible, without being
+// carried out.
 #pragma once
 
 #include <string>
@@ -8,13 +8,13 @@
 
 namespace host {
 
-// Makes the library's calls pass here, below whoever observes them. One library at a time.
+// Routes the library's calls through here, below the observers. Only one library at a time.
 void AllowFaults(HMODULE library);
 
-// Makes the `count`-th call from now on fail, from 1. False if this operation can't be made to fail.
+// Makes the `count`-th call from now on fail, counted from 1. False if this operation can't be made to fail.
 bool FailCall(const std::string& operation, int count);
 
-// Lets every device pass for one of another machine.
+// Makes every device appear to belong to another machine.
 void PretendRemote();
 
 } // namespace host

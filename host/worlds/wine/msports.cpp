@@ -1,16 +1,17 @@
-// Stands in for the COM port database where the system has none: the same value of the registry, and the five
-// operations on it that a rename needs. A number that is not in the database is no number.
+// Replaces the COM port database where the system has none: the same registry value, and the five operations
+// on it that a rename needs. A number outside the database is not valid.
 #include "platform/platform.h"
+#include "platform/port_usage.h"
 
 #include <algorithm>
 #include <vector>
 
 namespace {
 
-constexpr const WCHAR* arbiter_key = L"SYSTEM\\CurrentControlSet\\Control\\COM Name Arbiter";
-constexpr const WCHAR* usage_value = L"ComDB";
+constexpr const WCHAR* arbiter_key = TEXT("SYSTEM\\CurrentControlSet\\Control\\COM Name Arbiter");
+constexpr const WCHAR* usage_value = TEXT("ComDB");
 
-// A bit for each number, at least as many as every database has. No bytes if it can't be read.
+// One bit per number, for at least as many as every database has. No bytes if it can't be read.
 std::vector<BYTE> Read(HKEY key) {
     std::vector<BYTE> usage(COMDB_MAX_PORTS_ARBITRATED / 8);
     DWORD type = 0, bytes = static_cast<DWORD>(usage.size());
@@ -33,13 +34,13 @@ struct Place {
     BYTE mask;
 };
 
-// Reads the usage and finds the number in it. False if it is none of the database's.
+// Reads the usage and finds the number in it. False if the number is outside the database.
 bool Find(HCOMDB database, DWORD number, std::vector<BYTE>& usage, Place& place) {
     usage = Read(Key(database));
     if (number == 0 || number > usage.size() * 8) {
         return false;
     }
-    place = {(number - 1) / 8, static_cast<BYTE>(1u << (number - 1) % 8)};
+    place = {PortUsageByte(number), PortUsageMask(number)};
     return true;
 }
 
@@ -80,9 +81,8 @@ LONG WINAPI ComDBGetCurrentPortUsage(HCOMDB database, PBYTE buffer, DWORD bytes,
     if (buffer != nullptr) {
         reported = std::min<std::size_t>(all, reportType == CDB_REPORT_BITS ? std::size_t{bytes} * 8 : bytes);
         for (std::size_t i = 0; i < reported; ++i) {
-            const BYTE claimed = usage[i / 8] >> i % 8 & 1;
             if (reportType == CDB_REPORT_BYTES) {
-                buffer[i] = claimed;
+                buffer[i] = IsPortClaimed(usage.data(), static_cast<u32>(i + 1));
             } else if (i % 8 == 0) {
                 buffer[i / 8] = usage[i / 8];
             }

@@ -1,6 +1,6 @@
-// The live system where Wine stands in for Windows. This program answers what Wine lacks: the DOS names of
-// serial ports, the two class installer calls and the registry's share in the profile. It takes the names and
-// the [Ports] values from the registry as it is when the library is attached.
+// The live system with Wine in the place of Windows. This program answers what Wine lacks: the DOS names of
+// serial ports, the two class installer calls and the profile sections that are kept in the registry. It
+// takes the names and the [Ports] values from the registry as it is when the library is attached.
 #include "host/worlds/windows/system.h"
 
 #include <algorithm>
@@ -27,7 +27,7 @@ DWORD WINAPI StandInQueryDosDeviceW(LPCWSTR name, LPWSTR target, DWORD capacity)
         SetLastError(ERROR_FILE_NOT_FOUND);
         return 0;
     }
-    // A list with one text: the text's terminator and the list's.
+    // A list of one text: the text's terminator and the list's.
     const DWORD length = static_cast<DWORD>(found->second.size()) + 2;
     if (capacity < length) {
         SetLastError(ERROR_INSUFFICIENT_BUFFER);
@@ -62,22 +62,23 @@ BOOL WINAPI StandInSetupDiCallClassInstaller(DI_FUNCTION, HDEVINFO, SP_DEVINFO_D
     return TRUE;
 }
 
-// Windows keeps the section [Ports] of the profile in the registry. Wine has a file for it, which knows
-// nothing of what the registry brings and loses the blank at the end of a line.
+// Windows keeps the [Ports] section of the profile in the registry. Wine uses a file instead, which ignores
+// what is in the registry and loses the blank at the end of a line.
 bool IsMapped(LPCWSTR section) {
-    return section && _wcsicmp(section, L"Ports") == 0;
+    return section != nullptr && _wcsicmp(section, TEXT("Ports")) == 0;
 }
 
 DWORD WINAPI StandInGetProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR fallback, LPWSTR buffer,
                                       DWORD capacity) {
-    if (!IsMapped(section) || !key || capacity == 0) {
+    if (!IsMapped(section) || key == nullptr || capacity == 0) {
         return GetProfileStringW(section, key, fallback, buffer, capacity);
     }
-    std::wstring line = fallback ? fallback : L"";
+    std::wstring line = fallback != nullptr ? fallback : TEXT("");
     for (const auto& [name, text] : RegistryKey(HKEY_LOCAL_MACHINE, ports_key, KEY_READ).Texts()) {
         if (_wcsicmp(name.c_str(), key) == 0) {
-            // One pair of quotation marks around a value is not part of it.
-            const bool quoted = text.size() >= 2 && (text.front() == L'"' || text.front() == L'\'') &&
+            // One pair of quotation marks around a value does not belong to it.
+            const bool quoted = text.size() >= 2 &&
+                                (text.front() == TEXT('"') || text.front() == TEXT('\'')) &&
                                 text.front() == text.back();
             line = quoted ? text.substr(1, text.size() - 2) : text;
         }
@@ -89,7 +90,7 @@ DWORD WINAPI StandInGetProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR fall
 }
 
 BOOL WINAPI StandInWriteProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR value) {
-    if (!IsMapped(section) || !key) {
+    if (!IsMapped(section) || key == nullptr) {
         return WriteProfileStringW(section, key, value);
     }
     HKEY ports = nullptr;
@@ -97,12 +98,12 @@ BOOL WINAPI StandInWriteProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR val
                         nullptr, &ports, nullptr) != ERROR_SUCCESS) {
         return FALSE;
     }
-    const LSTATUS status = value
+    const LSTATUS status = value != nullptr
                                ? RegSetValueExW(ports, key, 0, REG_SZ, reinterpret_cast<const BYTE*>(value),
                                                 static_cast<DWORD>((std::wcslen(value) + 1) * sizeof(WCHAR)))
                                : RegDeleteValueW(ports, key);
     RegCloseKey(ports);
-    return status == ERROR_SUCCESS || !value;
+    return status == ERROR_SUCCESS || value == nullptr;
 }
 
 } // namespace
@@ -133,8 +134,8 @@ std::vector<std::pair<std::wstring, std::wstring>> SerialDosNames() {
     return dos_names;
 }
 
-// Wine looks resources up by the thread's locale, and SetThreadLocale makes a language without a country one
-// with its default country. So the locale goes to its place in the thread's block itself.
+// Wine looks resources up by the thread's locale, and SetThreadLocale replaces a language without a country
+// by the one of its default country. So the locale is written directly into the thread's block.
 bool UseLanguage(LANGID language) {
     const LCID locale = MAKELCID(language, SORT_DEFAULT);
     if (!IsValidLocale(locale, LCID_INSTALLED)) {

@@ -52,9 +52,9 @@ struct Catalogue {
 // All catalogues of the program, in no particular order. Valid once main has begun.
 Table<const Catalogue*> Catalogues();
 
-// The catalogue that the system's resource lookup takes where all of it is set to a language: the exact id,
-// then the primary language without a country, then English (United States). So Mexico's Spanish finds
-// English.
+// The catalogue that the system's resource lookup finds when all of the system is set to a language: the
+// exact id, then the primary language without a country, then English (United States). So Mexico's Spanish
+// finds English.
 const Catalogue& CatalogueFor(LANGID language);
 
 // Registers a catalogue; called by the languages' own files only.

@@ -10,7 +10,7 @@ namespace {
 struct Set {
     std::optional<GUID> interface_class;
     std::vector<std::size_t> interfaces;
-    std::optional<std::size_t> device; // that of a request
+    std::optional<std::size_t> device; // the device of a provider's request
 };
 sim::Handles<HDEVINFO, Set> sets("set");
 
@@ -172,7 +172,7 @@ BOOL SetupDiGetDeviceInfoListDetailW(HDEVINFO handle, SP_DEVINFO_LIST_DETAIL_DAT
         const sim::Device& device = sim::Current().devices[*set->device];
         detail->ClassGuid = device.class_guid.value_or(GUID{});
         if (device.remote) {
-            // Any non-null value says so.
+            // Any value but null means that the set is remote.
             detail->RemoteMachineHandle = handle;
             sim::Text(u"\\\\REMOTE").copy(detail->RemoteMachineName, SP_MAX_MACHINENAME_LENGTH - 1);
         }

@@ -101,7 +101,8 @@ BOOL SetupDiSetClassInstallParamsW(HDEVINFO set, SP_DEVINFO_DATA* data, SP_CLASS
     if (device == nullptr || !sim::HasItsSize(params, __func__)) {
         return FALSE;
     }
-    // Of all changes the one of which a device is told that its properties are others, in all profiles.
+    // The only change that the logic asks for: the device's properties have changed, in all hardware
+    // profiles.
     const auto* const change = reinterpret_cast<const SP_PROPCHANGE_PARAMS*>(params);
     if (params->InstallFunction != DIF_PROPERTYCHANGE || bytes != sizeof *change ||
         change->StateChange != DICS_PROPCHANGE || change->Scope != DICS_FLAG_GLOBAL ||

@@ -1,5 +1,5 @@
-// The keyboard of a dialog: who gets a key, where Tab, the arrows and the hot keys lead, and what Enter and
-// Esc press.
+// The keyboard of a dialog: which control gets a key, where Tab, the arrows and the hot keys lead, and what
+// Enter and Esc press.
 #include <algorithm>
 #include <array>
 
@@ -14,8 +14,8 @@ bool IsLive(const Window& window) {
     return (window.style & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE;
 }
 
-// The controls of a top-level window in tab order, those of a page in the page's place; hidden and disabled
-// ones too, but not what stands on a page that is.
+// The controls of a top-level window in tab order, with those of a page in the page's place. Hidden and
+// disabled controls are included, but not those on a hidden or disabled page.
 void Collect(const Window& parent, std::vector<Window*>& controls) {
     for (const auto& child : parent.children) {
         if (child->children.empty()) {
@@ -32,9 +32,9 @@ std::vector<Window*> ControlsOf(const Window& top_level) {
     return controls;
 }
 
-// The controls once around, from the one behind `from`, which comes last; all from the first if it is none of
+// All the controls, starting after `from` and ending with it; starting with the first if `from` is not among
 // them.
-std::vector<Window*> Behind(std::vector<Window*> controls, const Window* from, bool backwards) {
+std::vector<Window*> After(std::vector<Window*> controls, const Window* from, bool backwards) {
     if (backwards) {
         std::ranges::reverse(controls);
     }
@@ -47,24 +47,24 @@ std::vector<Window*> Behind(std::vector<Window*> controls, const Window* from, b
 
 // The next stop of the Tab key; null if there is none.
 Window* NextStop(const Window& top_level, const Window* from, bool backwards) {
-    const auto around = Behind(ControlsOf(top_level), from, backwards);
+    const auto around = After(ControlsOf(top_level), from, backwards);
     const auto stop = std::ranges::find_if(
         around, [](const Window* one) { return (one->style & WS_TABSTOP) != 0 && IsLive(*one); });
     return stop == around.end() ? nullptr : *stop;
 }
 
-// The next control of the same group; a group goes from a control with WS_GROUP to the one before the next,
-// past the end of the window on to its beginning.
+// The next control of the same group. A group runs from a control with WS_GROUP to the one before the next
+// such control, and wraps around at the end of the window.
 Window* NextInGroup(const Window& top_level, const Window& from, bool backwards) {
     const auto controls = ControlsOf(top_level);
     const auto starts = [](const Window* one) { return (one->style & WS_GROUP) != 0; };
-    const auto before = Behind(controls, &from, true);
+    const auto before = After(controls, &from, true);
     const auto found = std::ranges::find_if(before, starts);
     const Window* start = starts(&from) || found == before.end() ? &from : *found;
-    auto group = Behind(controls, start, false);
+    auto group = After(controls, start, false);
     std::rotate(group.begin(), std::prev(group.end()), group.end());
     group.erase(std::find_if(std::next(group.begin()), group.end(), starts), group.end());
-    const auto around = Behind(std::move(group), &from, backwards);
+    const auto around = After(std::move(group), &from, backwards);
     const auto next = std::ranges::find_if(around, [](const Window* one) { return IsLive(*one); });
     return next == around.end() ? nullptr : *next;
 }
@@ -77,7 +77,7 @@ bool IsPushButton(Window& window) {
     return (CodeOf(window) & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
 }
 
-// The letter behind a caption's single &; 0 without one.
+// The letter after the single & of a caption; 0 if there is none.
 char16_t HotKey(std::u16string_view caption) {
     for (std::size_t at = 0; at + 1 < caption.size(); ++at) {
         if (caption[at] == u'&') {
@@ -93,10 +93,10 @@ void Press(Window& button) {
     TellParent(button, WM_COMMAND, MAKEWPARAM(button.id, BN_CLICKED));
 }
 
-// A label passes the key on to the stop behind it. Where several share a letter, it goes from one to the next
-// and presses none.
+// A label passes the key on to the stop after it. If several controls share a letter, the focus moves to the
+// next of them and nothing is pressed.
 bool TakeHotKey(const Window& top_level, const Window& from, WPARAM letter) {
-    auto around = Behind(ControlsOf(top_level), &from, false);
+    auto around = After(ControlsOf(top_level), &from, false);
     std::erase_if(around, [&](Window* one) {
         return !IsLive(*one) || (CodeOf(*one) & (DLGC_BUTTON | DLGC_STATIC)) == 0 ||
                HotKey(one->text) != Upper(static_cast<char16_t>(letter));
@@ -120,7 +120,7 @@ bool TakeHotKey(const Window& top_level, const Window& from, WPARAM letter) {
     return true;
 }
 
-// The button that Enter presses: the one with the focus, else the dialog's own.
+// The button that Enter presses: the one with the focus, or else the dialog's own.
 Window* DefaultButton(const Window& top_level) {
     Window* focus = FindWindow(Focus());
     if (focus != nullptr && &focus->TopLevel() == &top_level && IsPushButton(*focus)) {
@@ -145,7 +145,7 @@ void TakeEscape(Window& top_level) {
                      reinterpret_cast<LPARAM>(cancel == nullptr ? nullptr : cancel->handle));
 }
 
-// Whether the dialog itself took the message.
+// Returns whether the dialog itself took the message.
 bool TakeKey(Window& top_level, Window& target, const MSG& message) {
     const LRESULT wanted = target.Answer(WM_GETDLGCODE, message.wParam, reinterpret_cast<LPARAM>(&message));
     if ((wanted & DLGC_WANTMESSAGE) != 0) {
@@ -184,7 +184,7 @@ bool TakeKey(Window& top_level, Window& target, const MSG& message) {
     }
 }
 
-// Marks the button that Enter presses as things stand.
+// Marks the button that Enter would press now.
 void MarkDefaultButton(const Window& top_level) {
     const Window* marked = DefaultButton(top_level);
     for (Window* control : ControlsOf(top_level)) {

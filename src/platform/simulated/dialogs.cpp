@@ -1,4 +1,4 @@
-// Dialogs: how they come from their templates, how their procedures are called and how they run.
+// Dialogs: how they are made from their templates, how their procedures are called and how they run.
 #include <algorithm>
 #include <utility>
 
@@ -8,9 +8,9 @@
 namespace sim {
 namespace {
 
-constexpr int most_calls = 10'000; // of an operator, for one window
+constexpr int most_calls = 10'000; // calls of an operator for one window
 constexpr LONG first_corner =
-    40; // pixels, of a window over none; the next ones each lie that much further in
+    40; // pixels, for a window without an owner; an owned one lies this much further in
 
 std::unique_ptr<Window> MakeLabel() {
     return std::make_unique<Window>(u"Static");
@@ -157,7 +157,7 @@ void Dialog::Run(INT_PTR if_left) {
     }
 }
 
-// The focus goes back to where it was, or to the first stop below if nothing is there to take it.
+// The focus goes back to where it was, or to the first stop of the window below if that can't take it.
 void Dialog::End(INT_PTR value) {
     ended = true;
     result = value;
@@ -219,7 +219,7 @@ INT_PTR DialogBoxParamW(HINSTANCE instance, LPCWSTR name, HWND parent, DLGPROC p
     return dialog.result;
 }
 
-// For a page this hides the page, as on Windows, and the sheet goes on.
+// For a page this hides the page, as on Windows, and the sheet stays open.
 BOOL EndDialog(HWND handle, INT_PTR result) {
     sim::Dialog* dialog = sim::DialogOf(handle, __func__);
     if (Operation(Reach::Screen, __func__, [=] { return std::to_string(result); }) || dialog == nullptr) {

@@ -25,7 +25,7 @@ struct Items {
         texts.emplace_back(MessageText(text));
         return static_cast<LRESULT>(texts.size()) - 1;
     }
-    // An index that is no item clears the selection.
+    // An index without an item clears the selection.
     LRESULT Select(WPARAM index) {
         selection = Has(index) ? static_cast<LRESULT>(index) : LB_ERR;
         return selection;
@@ -38,7 +38,7 @@ struct Items {
     LRESULT Length(WPARAM index) const {
         return Has(index) ? static_cast<LRESULT>(texts[index].size()) : LB_ERR;
     }
-    // The caller of these messages guarantees the room.
+    // The caller of these messages guarantees that the buffer is large enough.
     LRESULT Copy(WPARAM index, LPARAM buffer) const {
         return Has(index) ? CopyOut(texts[index], reinterpret_cast<LPWSTR>(buffer), texts[index].size() + 1)
                           : LB_ERR;
@@ -57,8 +57,8 @@ struct Items {
         }
         return CB_ERR;
     }
-    // The item to which a key leads from the selected one, `page` items being in sight; LB_ERR for any other
-    // key and without items.
+    // The item to which a key moves the selection, with `page` items in sight. LB_ERR for any other key and
+    // if there are no items.
     LRESULT Reached(WPARAM key, LRESULT page) const {
         const LRESULT last = static_cast<LRESULT>(texts.size()) - 1;
         const LRESULT step = std::max<LRESULT>(page - 1, 1);
@@ -80,7 +80,7 @@ struct Items {
     }
 };
 
-// The letters typed in one go, as far as an item begins with them.
+// The letters typed in a row, as long as an item begins with them.
 struct Typing {
     Text beginning;
 
@@ -97,12 +97,12 @@ struct Typing {
     }
 
 private:
-    LRESULT FindFrom(const Items& items, LRESULT behind) const {
-        return items.Find(behind, reinterpret_cast<LPARAM>(beginning.c_str()));
+    LRESULT FindFrom(const Items& items, LRESULT start) const {
+        return items.Find(start, reinterpret_cast<LPARAM>(beginning.c_str()));
     }
 };
 
-// How many items a place of that height has in sight.
+// How many items fit into that height.
 LRESULT ItemsIn(LONG height) {
     return height / PixelsDown(8);
 }
@@ -188,7 +188,7 @@ struct ComboBox : Window {
         return TRUE;
     }
 
-    // The choice is given up, whether the list is open or not.
+    // Cancels the choice, whether or not the list is open.
     void LoseFocus() {
         const bool closes = std::exchange(is_dropped, false);
         Notify(CBN_SELENDCANCEL);
@@ -220,7 +220,7 @@ struct ComboBox : Window {
         return Choose(items.Reached(key, ItemsIn(place.bottom - place.top - PixelsDown(closed_height))));
     }
 
-    // While its list is open, Enter and Esc are its own.
+    // While its list is open, the combo handles Enter and Esc itself.
     LRESULT Code(const MSG* message) const {
         const bool closes = is_dropped && message != nullptr && message->message == WM_KEYDOWN &&
                             (message->wParam == VK_RETURN || message->wParam == VK_ESCAPE);

@@ -8,7 +8,7 @@ namespace {
 
 struct Column {
     Text heading;
-    int width = 10; // pixels; the width of a column that names none
+    int width = 10; // pixels; for a column that doesn't give one
 };
 
 struct ListView : Window {
@@ -66,7 +66,7 @@ struct ListView : Window {
         return index;
     }
 
-    // The cell that an item names, or null.
+    // The cell that an item refers to, or null.
     Text* Cell(int row, int column) {
         const bool is_there = row >= 0 && row < std::ssize(rows) && column >= 0 &&
                               column < std::ssize(rows[static_cast<std::size_t>(row)]);

@@ -1,14 +1,14 @@
 // The simulated machine: everything outside the library that the logic can read, write, show or break.
 //
-// A `Machine` is plain data and one machine is current at a time. Whoever makes it owns it; the operations of
-// `windows_api.h` work on the current one. Every operation of the logic passes `Operation` once, which writes
-// it into the journal and asks the fault plan whether it fails. Two things are neither journaled nor counted
-// nor failed: what a host or an operator does while a window waits for it, and calls that cannot fail on an
-// existing window (its slots, its number, its parent, the focus).
+// A `Machine` is plain data, and one machine is current at a time. Whoever makes it owns it; the operations
+// of `windows_api.h` work on the current one. Every operation of the logic passes `Operation` once, which
+// writes it into the journal and asks the fault plan whether it fails. Two things are neither journaled nor
+// counted nor failed: what a host or an operator does while a window waits for it, and calls that cannot fail
+// on an existing window (its slots, its number, its parent, the focus).
 //
 // Keys, sets, databases, pages, top-level windows and allocations are counted. `Machine::open` is empty again
-// once the logic has given back all that it took. `Machine::misuse` has a line for every invalid handle
-// (closed twice, never opened, of another kind) and for memory freed twice.
+// once the logic has given everything back. `Machine::misuse` has a line for every invalid handle (closed
+// twice, never opened, of another kind) and for memory freed twice.
 #pragma once
 
 #include <array>
@@ -49,7 +49,7 @@ struct Values {
 };
 
 struct Device {
-    Text instance_id; // "PCI\VEN_...\3&11583659&0&20", the place below Enum
+    Text instance_id; // "PCI\VEN_...\3&11583659&0&20", the path below Enum
     Text class_name;  // "Ports", may be empty
     std::optional<GUID> class_guid;
     std::optional<Text> description; // what SPDRP_DEVICEDESC gives
@@ -131,7 +131,7 @@ struct Machine {
     PortUsage port_usage{};
     std::vector<std::pair<Text, Values>> profile; // section and keys, all REG_SZ
     Text decimal_separator = u".";
-    LANGID language = 1033; // a language without resources falls back as Windows does, at last to 1033
+    LANGID language = 1033; // a language without resources falls back as Windows does, finally to 1033
 
     std::vector<JournalEntry> journal;
     bool journal_reads = true; // false: only Reach::Write is journaled, for long runs; everything is counted
@@ -139,8 +139,8 @@ struct Machine {
     FaultPlan faults;
     Operator user;
     std::vector<ShownBox> boxes;
-    std::vector<UINT> missing_strings; // string numbers that LoadStringW fails to find
-    std::vector<int> missing_controls; // control numbers that no dialog has
+    std::vector<UINT> missing_strings; // numbers of strings that LoadStringW does not find
+    std::vector<int> missing_controls; // numbers of controls that no dialog has
 
     std::map<std::string, std::size_t, std::less<>>
         open; // what has not been given back, by kind; no zero entries

@@ -118,7 +118,7 @@ struct Sheet : Dialog {
     }
 
     LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (procedure != nullptr) { // whoever watches the sheet has put it there
+        if (procedure != nullptr) { // set by whoever watches the sheet
             return Dialog::Answer(message, wParam, lParam);
         }
         switch (message) {

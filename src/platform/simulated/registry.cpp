@@ -35,7 +35,7 @@ LSTATUS Enter(sim::Reach reach, std::string_view operation, const Key* key, REGS
     if (sim::Operation(reach, operation, detail)) {
         return ERROR_GEN_FAILURE;
     }
-    if (!key) {
+    if (key == nullptr) {
         return ERROR_INVALID_HANDLE;
     }
     return key->access & right ? ERROR_SUCCESS : ERROR_ACCESS_DENIED;

@@ -39,7 +39,7 @@ void Misuse(std::string line);
 // The same for a handle that the operation does not accept.
 void MisuseOfHandle(std::string_view operation, std::string_view kind, const void* handle);
 
-// A value that no handle of this program has had before. Fits in 32 bits.
+// A value that no handle of this program has had before. It fits in 32 bits.
 ULONG_PTR NextHandle();
 
 // The open objects of one kind by their handles. No handle is given out twice, so using one after it was
@@ -99,14 +99,13 @@ Device* DeviceOf(HDEVINFO set, const SP_DEVINFO_DATA* data, std::string_view ope
 BOOL Fail(DWORD error);
 // Whether a structure states its own size; if not, adds a line to `misuse` and sets the last error.
 template <class Structure> bool HasItsSize(const Structure* structure, std::string_view operation) {
-    if (structure && structure->cbSize == sizeof *structure) {
+    if (structure != nullptr && structure->cbSize == sizeof *structure) {
         return true;
     }
     Misuse(std::string(operation) + ": a structure without its size");
     return Fail(ERROR_INVALID_USER_BUFFER);
 }
-// Adds a line to `misuse` unless a text to be stored ends with its terminator, and nothing stands behind
-// that.
+// Adds a line to `misuse` unless a text to be stored ends with its terminator and has nothing after it.
 void ExpectItsTerminator(std::span<const BYTE> data, std::string_view operation);
 // A text with its terminator, as bytes.
 std::vector<BYTE> BytesOf(std::u16string_view text);

@@ -1,5 +1,5 @@
-// The tabs of a property sheet. There is one page, so there is nothing to turn over: what is left is its
-// place among the stops of the keyboard.
+// The tabs of a property sheet. There is only one page to show, so a tab control does no more than take its
+// place among the tab stops.
 #include "platform/simulated/window.h"
 
 namespace sim {

@@ -1,4 +1,4 @@
-// The trace of the library on the simulated machine: whoever set `Machine::trace` hears it.
+// The trace of the library on the simulated machine: each line goes to `Machine::trace`, if that is set.
 #include "platform/simulated/machine.h"
 #include "reporting/live_trace/trace_line.h"
 

@@ -13,13 +13,14 @@ struct TrackBar : Window {
 
     TrackBar() : Window(u"msctls_trackbar32") {}
 
-    // The upper limit wins, even if the limits are the wrong way round.
+    // The upper limit wins, even if it is below the lower one.
     void MoveTo(LONG wanted) {
         position = wanted < minimum ? minimum : wanted;
         position = position > maximum ? maximum : position;
     }
 
-    // What a key does to it as it goes down, told to the parent if that has moved it, and as it goes up.
+    // Handles a key. As it goes down, the slider moves and tells its parent if it has moved; as it goes up,
+    // it tells the parent that the movement has ended.
     void TakeKey(WPARAM key, bool goes_up) {
         const LONG page = std::max((maximum - minimum) / 5, 1);
         const struct {

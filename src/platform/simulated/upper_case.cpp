@@ -1,4 +1,4 @@
-// The upper-case letter of each unit. A table of its own, as the C library's differs from system to system.
+// The upper-case letter of each unit. It has its own table, because the C library's differs between systems.
 #include <algorithm>
 #include <iterator>
 
@@ -7,7 +7,7 @@
 namespace sim {
 namespace {
 
-// Small letters in a row, each or every second unit, and how far their capitals are.
+// A row of small letters, in each or in every second unit, and the distance to their capitals.
 struct SmallLetters {
     char16_t first, last;
     int step, distance;
@@ -79,7 +79,7 @@ constexpr SmallLetters small_letters[] = {
 
 } // namespace
 
-// Windows folds each unit by itself, through a table that does not depend on the user's language and that
+// Windows folds each unit on its own, through a table that does not depend on the user's language and that
 // never maps a letter outside ASCII to one inside.
 char16_t Upper(char16_t unit) {
     if (unit < 0x80) {

@@ -14,7 +14,7 @@
 #include "platform/simulated/catalogue.h"
 #include "platform/simulated/machine.h"
 
-// What a window is told and the library passes over.
+// Messages to windows that the library ignores.
 #define WM_SETFOCUS 0x0007
 #define LBN_SETFOCUS 4
 #define LBN_KILLFOCUS 5
@@ -44,7 +44,7 @@ struct Window {
     virtual LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam);
 
     Window& TopLevel();
-    Window* Child(int number) const; // the first with that number, null if there is none
+    Window* Child(int number) const; // the first child with that number, or null
     void Enable(bool enable);
     // As the user sees it, with the state of all its ancestors.
     bool IsShown() const;
@@ -54,7 +54,7 @@ struct Window {
 // A window with a dialog procedure: a dialog, or a page of a sheet.
 struct Dialog : Window {
     DLGPROC procedure = nullptr;
-    int default_id = IDOK;       // of the button that Enter presses where the focus is on none
+    int default_id = IDOK;       // of the button that Enter presses if the focus is on no button
     LONG_PTR user = 0;           // DWLP_USER
     LONG_PTR message_result = 0; // DWLP_MSGRESULT
     bool ended = false;
@@ -64,19 +64,21 @@ struct Dialog : Window {
     ~Dialog() override;
     LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    // Makes this a top-level window owned by the one that holds `above` (may be null), which is disabled
+    // Makes this a top-level window, owned by the one that holds `above` (may be null). The owner is disabled
     // meanwhile.
     void OpenOver(Window* above);
-    // Takes title, size and controls from a template; the left upper corner of `place` is set before.
+    // Takes title, size and controls from a template. The upper left corner of `place` must be set before.
     void Furnish(const DialogTemplate& form);
     // Sends WM_INITDIALOG and, if the procedure leaves the focus to the system, focuses the first control.
     void Initialise(LPARAM parameter);
-    // Shows the window and calls the operator until it has ended; `if_left` is the result if nobody ends it.
+    // Shows the window and calls the operator until the window has ended; `if_left` is the result if nobody
+    // ends it.
     void Run(INT_PTR if_left);
     void End(INT_PTR value);
 
 private:
-    // WM_NEXTDLGCTL: to the window that `to` names, or to the next stop or, if it is not 0, the one before.
+    // WM_NEXTDLGCTL: moves the focus to the window that `to` names, or else to the next stop, or to the
+    // previous one if `to` is not 0.
     void GoTo(WPARAM to, bool is_handle);
 
     Window* disabled_ = nullptr; // the owner, while this window keeps it disabled
@@ -93,9 +95,9 @@ Dialog* DialogOf(HWND handle, std::string_view operation);
 
 // The window with the keyboard focus, or null.
 HWND& Focus();
-// Gives it to another window, or to none, and tells both. The handle of the one that had it.
+// Gives the focus to another window or to none, and tells both windows. Returns the one that had it.
 HWND PassFocus(HWND window);
-// The same as a key or a click does it: the mark of the default button goes along, to the button that gets
+// Moves the focus as a key or a click does: the default button's mark moves along, to the button that gets
 // the focus or back to the dialog's own.
 void MoveFocus(Window& control);
 // A message to the window that holds the control.

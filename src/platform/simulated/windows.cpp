@@ -100,7 +100,7 @@ HWND PassFocus(HWND window) {
         left->Answer(WM_KILLFOCUS, reinterpret_cast<WPARAM>(window), 0);
     }
     Window* entered = FindWindow(window);
-    if (entered != nullptr && Focus() == window) { // who was told may have passed it on
+    if (entered != nullptr && Focus() == window) { // a window that was told may have moved it on
         entered->Answer(WM_SETFOCUS, reinterpret_cast<WPARAM>(before), 0);
     }
     return before;

@@ -538,7 +538,8 @@ BOOL IsWindow(HWND window);
 BOOL IsWindowVisible(HWND window);
 BOOL IsWindowEnabled(HWND window);
 
-// For a host only: the keyboard. The message goes where the dialog of the window takes it, or to its window.
+// For a host only: the keyboard. The dialog that holds the window takes the message, or else passes it on to
+// the window.
 BOOL IsDialogMessageW(HWND dialog, MSG* message);
-BOOL SetKeyboardState(BYTE* keys); // 256 of them, 0x80 for one that is down
+BOOL SetKeyboardState(BYTE* keys); // 256 keys, 0x80 for each one that is down
 SHORT GetKeyState(int key);

@@ -1,8 +1,8 @@
-// The library's imports come from the system folder only, and each indirect call is checked against the table
+// The library's imports come only from the system folder, and each indirect call is checked against the table
 // of functions whose address is taken.
 //
-// The loader replaces the two guard pointers by its own functions where the process guards its calls. The
-// functions here serve where it does not: one lets every target pass, the other also goes there.
+// The loader replaces the two guard pointers with its own functions if the process guards its calls.
+// Otherwise the functions here are called: one accepts every target, the other also jumps to it.
 #include "platform/windows/load_configuration.h"
 
 extern "C" {

@@ -1,4 +1,4 @@
-// What a file asks of the loader before any of its code runs, by the name under which the linker looks for
+// What a module asks of the loader before any of its code runs, under the name by which the linker looks for
 // it.
 #pragma once
 
@@ -20,7 +20,7 @@ struct LoadConfiguration {
     u64 maximum_allocation = 0, virtual_memory_threshold = 0, process_affinity = 0;
     u32 process_heap_flags = 0;
     WORD csd_version = 0;
-    WORD dependent_load_flags = 0; // as of LoadLibraryEx
+    WORD dependent_load_flags = 0; // flags of LoadLibraryEx
     const void* edit_list = nullptr;
     const void* security_cookie = nullptr;
     const void* handler_table = nullptr;
@@ -28,7 +28,7 @@ struct LoadConfiguration {
     const GuardFunction* guard_check = nullptr;
     const GuardFunction* guard_dispatch = nullptr;
     const void* guard_table = nullptr;
-    const void* guard_count = nullptr; // a number that the linker gives as an address
+    const void* guard_count = nullptr; // a number that the linker provides as an address
     u32 guard_flags = 0;
     u32 code_integrity[3] = {};
 };

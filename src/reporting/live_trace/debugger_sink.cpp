@@ -6,7 +6,7 @@ bool TraceIsHeard() {
     return true;
 }
 
-// The last error outlives the line: another line may be about to tell it.
+// The last error is kept, because the next line may print it.
 void PassTraceLine(const char* line, u32) {
     const DWORD error = GetLastError();
     OutputDebugStringA(line);

@@ -7,8 +7,8 @@
 
 namespace {
 
-// The operations that are open, the innermost last. The pages run on one thread; with a second sheet on
-// another, a helper's line may stand under a name of the other sheet, and nothing worse happens.
+// The operations that are open, the innermost last. The pages run on one thread. If a second sheet runs on
+// another, a helper's line may carry the name of an operation of the other sheet, but nothing worse happens.
 constexpr u32 OperationsMax = 64;
 std::atomic<const char*> operations[OperationsMax];
 std::atomic<u32> openOperations;
@@ -42,7 +42,7 @@ struct Line {
 
 constexpr u32 Room = TraceLineCapacity - 2; // for all but the line feed and the terminator
 
-// All of the bytes, or, from the first that do not fit, none.
+// Puts all of the bytes or none. Once some did not fit, nothing more is put.
 void Put(Line& line, const char* bytes, u32 count) {
     line.cut = line.cut || count > Room - line.length;
     for (u32 i = 0; i < count && !line.cut; ++i) {

@@ -6,7 +6,7 @@
 //
 // The dialogs are laid out from left to right, so captions have no colon: it would stand at the far end from
 // their control. Invisible marks keep a text in reading order. A text that ends in dots or a parenthesis has
-// U+200F (right-to-left mark) behind it; one that mixes in Latin letters or %s stands between U+202B
+// U+200F (right-to-left mark) after it; one that mixes in Latin letters or %s stands between U+202B
 // (right-to-left embedding) and U+202C (its end). The texts of message boxes begin with U+200F twice: Windows
 // then shows the whole box from right to left. STRING_IN_USE_SUFFIX has no mark: it follows a Latin name.
 
@@ -30,7 +30,7 @@
 #define PORT_SETTINGS_RESTORE "ا&ستعادة الافتراضيات"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(166, 130, 84, 14)
 
-// The dialog behind "خيارات متقدمة..." of a COM port. The title shows only where
+// The dialog for "خيارات متقدمة..." of a COM port. The title shows only where
 // STRING_ADVANCED_SETTINGS_TITLE is missing. The number of bytes in %d has up to five digits; those of
 // "منخفض" and "مرتفع" up to three.
 #define ADVANCED_PORT_SETTINGS "إعدادات المنفذ المتقدمة"
@@ -93,7 +93,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 104, 10)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(123, 193, 72, 90)
 
-// The dialog behind "خيارات متقدمة..." of the board. ACS is a function of the RS-485 driver; مقاومة الإنهاء
+// The dialog for "خيارات متقدمة..." of the board. ACS is a function of the RS-485 driver; مقاومة الإنهاء
 // is the resistor that terminates the line.
 #define ADVANCED_PORT_CONTROL "التحكم المتقدم في المنفذ"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "‫ميزات UART‬"
@@ -129,7 +129,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,أجهزة,بلا"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "‫الإعدادات المتقدمة لـ %s‬"
 #define STRING_LOW "منخفض (%d)‏"
 #define STRING_HIGH "مرتفع (%d)‏"

@@ -1,7 +1,7 @@
 // Chinese (traditional, Taiwan).
 //
 // For translators: the terms are those of the device manager (連接埠, 每秒傳輸位元, 同位檢查, 緩衝區). The
-// letter that reaches a control by the keyboard stands as (&X) behind the text, before a colon or dots: one
+// letter that reaches a control by the keyboard stands as (&X) after the text, before a colon or dots: one
 // at most in a text, no letter twice in one dialog. %d is a number and %s a port name, put in at run time:
 // keep them. Commas in the lists are ASCII; sentences have Chinese punctuation but ASCII parentheses, with a
 // blank around them. \r is a line end. The file is UTF-8.
@@ -24,7 +24,7 @@
 #define PORT_SETTINGS_ADVANCED "進階(&V)..."
 #define PORT_SETTINGS_RESTORE "還原預設值(&R)"
 
-// The dialog behind "進階..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
+// The dialog for "進階..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
 // missing. The number of bytes in %d has up to five digits; those of "低" and "高" up to three.
 #define ADVANCED_PORT_SETTINGS "進階連接埠設定"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "啟用 %d 位元組 FIFO 緩衝區(&E)"
@@ -66,7 +66,7 @@
 #define PORT_CONTROL_PORT_NUMBER_RECT INSTEAD(81, 216, 90, 90)
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION "LPT 輪詢週期 (秒):"
 
-// The dialog behind "進階..." of the board. ACS is a function of the RS-485 driver; 終端電阻 is the resistor
+// The dialog for "進階..." of the board. ACS is a function of the RS-485 driver; 終端電阻 is the resistor
 // that terminates the line.
 #define ADVANCED_PORT_CONTROL "進階連接埠控制"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "UART 功能"
@@ -99,7 +99,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,硬體,無"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "%s 的進階設定"
 #define STRING_LOW "低 (%d)"
 #define STRING_HIGH "高 (%d)"

@@ -1,6 +1,6 @@
 // Danish.
 //
-// For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h.
+// For translators: 1033_english_united_states.h says what a text's name and its &, %d, %s and \r mean.
 // The imperative of verbs in -ere bears an accent: "Aktivér", "Sortér"; "Annuller" alone has none, as in
 // Windows. A text that needs more room than the layout gives carries its own rectangle. The three buttons
 // under the sliders fill their row.
@@ -25,7 +25,7 @@
 #define PORT_SETTINGS_RESTORE "&Gendan standardværdier"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(150, 130, 100, 14)
 
-// The dialog behind "Avanceret..." of a COM port. The number of bytes in %d has up to five digits; those of
+// The dialog for "Avanceret..." of a COM port. The number of bytes in %d has up to five digits; those of
 // the low and high ends up to three.
 #define ADVANCED_PORT_SETTINGS "Avancerede portindstillinger"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "&Aktivér FIFO-buffere på %d byte"
@@ -82,7 +82,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 111, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(132, 193, 72, 90)
 
-// The dialog behind "Avanceret..." of the board. ACS is a function of the RS-485 driver.
+// The dialog for "Avanceret..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Avanceret portstyring"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "UART-funktioner"
 #define ADVANCED_PORT_CONTROL_SORT_COM "Sortér UART'er"
@@ -113,7 +113,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,Hardware,Ingen"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "Avancerede indstillinger for %s"
 #define STRING_LOW "Lav (%d)"
 #define STRING_HIGH "Høj (%d)"

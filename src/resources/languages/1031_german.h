@@ -1,6 +1,6 @@
 // German.
 //
-// For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h.
+// For translators: 1033_english_united_states.h says what a text's name and its &, %d, %s and \r mean.
 // "Standard", "Standardwerte" and "Standardwerte wiederherstellen" say the same, each as long as its button
 // has room. A text that needs more room than the layout gives carries its own rectangle.
 
@@ -24,7 +24,7 @@
 #define PORT_SETTINGS_RESTORE "Standardwerte &wiederherstellen"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(124, 130, 126, 14)
 
-// The dialog behind "Erweitert..." of a COM port. The number of bytes in %d has up to five digits; those of
+// The dialog for "Erweitert..." of a COM port. The number of bytes in %d has up to five digits; those of
 // the low and high ends up to three.
 #define ADVANCED_PORT_SETTINGS "Erweiterte Anschlusseinstellungen"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "&FIFO-Puffer mit %d Byte aktivieren"
@@ -81,7 +81,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 119, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(140, 193, 72, 90)
 
-// The dialog behind "Erweitert..." of the board. ACS is a function of the RS-485 driver.
+// The dialog for "Erweitert..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Erweiterte Anschlusssteuerung"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "UART-Funktionen"
 #define ADVANCED_PORT_CONTROL_SORT_COM "UARTs sortieren"
@@ -112,7 +112,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,Hardware,Keine"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "Erweiterte Einstellungen für %s"
 #define STRING_LOW "Niedrig (%d)"
 #define STRING_HIGH "Hoch (%d)"

@@ -1,7 +1,7 @@
 // Greek.
 //
-// For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h.
-// The letters behind & are Greek and bear no accent. The question mark is ;. A text that needs more room than
+// For translators: 1033_english_united_states.h says what a text's name and its &, %d, %s and \r mean.
+// The letters after & are Greek and bear no accent. The question mark is ;. A text that needs more room than
 // the layout gives carries its own rectangle. The three buttons under the sliders fill their row.
 
 #define LANGUAGE_PRIMARY 0x08
@@ -24,7 +24,7 @@
 #define PORT_SETTINGS_RESTORE "Επαναφορά &προεπιλογών"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(148, 130, 102, 14)
 
-// The dialog behind "Για προχωρημένους..." of a COM port. The number of bytes in %d has up to five digits;
+// The dialog for "Για προχωρημένους..." of a COM port. The number of bytes in %d has up to five digits;
 // those of the low and high ends up to three.
 #define ADVANCED_PORT_SETTINGS "Ρυθμίσεις θύρας για προχωρημένους"
 #define ADVANCED_PORT_SETTINGS_RECT INSTEAD(0, 0, 376, 145)
@@ -86,7 +86,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 172, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(193, 193, 52, 90)
 
-// The dialog behind "Για προχωρημένους..." of the board. ACS is a function of the RS-485 driver.
+// The dialog for "Για προχωρημένους..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Έλεγχος θυρών για προχωρημένους"
 #define ADVANCED_PORT_CONTROL_RECT INSTEAD(0, 0, 287, 202)
 #define ADVANCED_PORT_CONTROL_UART_GROUP "Λειτουργίες UART"
@@ -122,7 +122,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,Υλικό,Κανένας"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "Ρυθμίσεις για προχωρημένους - %s"
 #define STRING_LOW "Χαμηλό (%d)"
 #define STRING_HIGH "Υψηλό (%d)"

@@ -18,7 +18,7 @@
 #define PORT_SETTINGS_ADVANCED "&Advanced..."
 #define PORT_SETTINGS_RESTORE "&Restore Defaults"
 
-// The dialog behind "Advanced..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
+// The dialog for "Advanced..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
 // missing. The number of bytes in %d has up to five digits; those of "Low" and "High" up to three.
 #define ADVANCED_PORT_SETTINGS "Advenced Port Settings"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "&Enable %d Byte FIFO buffers"
@@ -49,7 +49,7 @@
 #define PORT_CONTROL_PORT_NUMBER_CAPTION "&Port Number:"
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION "LPT polling cycle (second):"
 
-// The dialog behind "Advanced..." of the board. ACS is a function of the RS-485 driver.
+// The dialog for "Advanced..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Advanced Port Control"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "UART Feature"
 #define ADVANCED_PORT_CONTROL_SORT_COM "Sort UART"
@@ -77,7 +77,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,Hardware,None"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "Advanced Settings for %s"
 #define STRING_LOW "Low (%d)"
 #define STRING_HIGH "High (%d)"

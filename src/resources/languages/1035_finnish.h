@@ -1,6 +1,6 @@
 // Finnish.
 //
-// For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h. A
+// For translators: 1033_english_united_states.h says what a text's name and its &, %d, %s and \r mean. A
 // check box that enables something says "Käytä", as in Windows; so does the button that applies. The port's
 // name in %s has a noun before it, so that it need not be inflected. A text that needs more room than the
 // layout gives carries its own rectangle.
@@ -25,7 +25,7 @@
 #define PORT_SETTINGS_RESTORE "Palauta &oletukset"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(176, 130, 74, 14)
 
-// The dialog behind "Lisäasetukset..." of a COM port. The number of bytes in %d has up to five digits; those
+// The dialog for "Lisäasetukset..." of a COM port. The number of bytes in %d has up to five digits; those
 // of the low and high ends up to three.
 #define ADVANCED_PORT_SETTINGS "Portin lisäasetukset"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "&Käytä %d tavun FIFO-puskureita"
@@ -83,7 +83,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 103, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(124, 193, 72, 90)
 
-// The dialog behind "Lisäasetukset..." of the board. ACS is a function of the RS-485 driver.
+// The dialog for "Lisäasetukset..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Porttien hallinnan lisäasetukset"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "UART-toiminnot"
 #define ADVANCED_PORT_CONTROL_SORT_COM "Järjestä UART-piirit"
@@ -114,7 +114,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,Laitteisto,Ei mitään"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "Portin %s lisäasetukset"
 #define STRING_LOW "Matala (%d)"
 #define STRING_HIGH "Korkea (%d)"

@@ -6,7 +6,7 @@
 //
 // The dialogs are laid out from left to right, so captions have no colon: it would stand at the far end from
 // their control. Invisible marks keep a text in reading order. A text that ends in dots or a parenthesis has
-// U+200F (right-to-left mark) behind it; one that mixes in Latin letters or %s stands between U+202B
+// U+200F (right-to-left mark) after it; one that mixes in Latin letters or %s stands between U+202B
 // (right-to-left embedding) and U+202C (its end). The texts of message boxes begin with U+200F twice: Windows
 // then shows the whole box from right to left. STRING_IN_USE_SUFFIX has no mark: it follows a Latin name.
 
@@ -30,7 +30,7 @@
 #define PORT_SETTINGS_RESTORE "שחז&ר ברירות מחדל"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(178, 130, 72, 14)
 
-// The dialog behind "מתקדם..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
+// The dialog for "מתקדם..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
 // missing. The number of bytes in %d has up to five digits; those of "נמוך" and "גבוה" up to three.
 #define ADVANCED_PORT_SETTINGS "הגדרות יציאה מתקדמות"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "‫&אפשר מאגרי FIFO של %d בתים‬"
@@ -83,7 +83,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 104, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(123, 193, 72, 90)
 
-// The dialog behind "מתקדם..." of the board. ACS is a function of the RS-485 driver; נגדי סיום are the
+// The dialog for "מתקדם..." of the board. ACS is a function of the RS-485 driver; נגדי סיום are the
 // resistors that terminate the line.
 #define ADVANCED_PORT_CONTROL "בקרת יציאה מתקדמת"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "‫תכונות UART‬"
@@ -116,7 +116,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,חומרה,ללא"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "‫הגדרות מתקדמות עבור %s‬"
 #define STRING_LOW "נמוך (%d)‏"
 #define STRING_HIGH "גבוה (%d)‏"

@@ -1,6 +1,6 @@
 // Hungarian.
 //
-// For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h.
+// For translators: 1033_english_united_states.h says what a text's name and its &, %d, %s and \r mean.
 // "Alapértelmezés" stands alone where its button has no room for "Alapértelmezés visszaállítása". A text that
 // needs more room than the layout gives carries its own rectangle. The three buttons under the sliders fill
 // their row.
@@ -25,7 +25,7 @@
 #define PORT_SETTINGS_RESTORE "A&lapértelmezés visszaállítása"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(132, 130, 118, 14)
 
-// The dialog behind "Speciális..." of a COM port. The number of bytes in %d has up to five digits; those of
+// The dialog for "Speciális..." of a COM port. The number of bytes in %d has up to five digits; those of
 // the low and high ends up to three.
 #define ADVANCED_PORT_SETTINGS "Speciális portbeállítások"
 #define ADVANCED_PORT_SETTINGS_RECT INSTEAD(0, 0, 388, 145)
@@ -82,7 +82,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 140, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(161, 193, 72, 90)
 
-// The dialog behind "Speciális..." of the board. ACS is a function of the RS-485 driver.
+// The dialog for "Speciális..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Speciális portvezérlés"
 #define ADVANCED_PORT_CONTROL_RECT INSTEAD(0, 0, 299, 202)
 #define ADVANCED_PORT_CONTROL_UART_GROUP "UART-funkciók"
@@ -118,7 +118,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,Hardver,Nincs"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "%s speciális beállításai"
 #define STRING_LOW "Alacsony (%d)"
 #define STRING_HIGH "Magas (%d)"

@@ -1,6 +1,6 @@
 // Italian.
 //
-// For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h. A
+// For translators: 1033_english_united_states.h says what a text's name and its &, %d, %s and \r mean. A
 // text that needs more room than the layout gives carries its own rectangle. The three buttons under the
 // sliders fill their row.
 
@@ -24,7 +24,7 @@
 #define PORT_SETTINGS_RESTORE "&Ripristina valori predefiniti"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(144, 130, 106, 14)
 
-// The dialog behind "Avanzate..." of a COM port. The number of bytes in %d has up to five digits; those of
+// The dialog for "Avanzate..." of a COM port. The number of bytes in %d has up to five digits; those of
 // the low and high ends up to three.
 #define ADVANCED_PORT_SETTINGS "Impostazioni avanzate porta"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "A&bilita buffer FIFO da %d byte"
@@ -81,7 +81,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 113, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(134, 193, 72, 90)
 
-// The dialog behind "Avanzate..." of the board. ACS is a function of the RS-485 driver.
+// The dialog for "Avanzate..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Controllo avanzato porte"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "Funzioni UART"
 #define ADVANCED_PORT_CONTROL_SORT_COM "Ordina UART"
@@ -112,7 +112,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,Hardware,Nessuno"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "Impostazioni avanzate per %s"
 #define STRING_LOW "Basso (%d)"
 #define STRING_HIGH "Alto (%d)"

@@ -2,7 +2,7 @@
 //
 // For translators: the terms are those of the device manager, with a half-width blank between the parts of a
 // katakana compound (データ ビット) and the long vowel mark in バッファー. The letter that reaches a control
-// by the keyboard stands as (&X) behind the text, before a colon or dots: one at most in a text, no letter
+// by the keyboard stands as (&X) after the text, before a colon or dots: one at most in a text, no letter
 // twice in one dialog. %d is a number and %s a port name, put in at run time: keep them. Commas in the lists
 // are ASCII. \r is a line end. The file is UTF-8.
 
@@ -26,7 +26,7 @@
 #define PORT_SETTINGS_RESTORE "既定値に戻す(&R)"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(183, 130, 67, 14)
 
-// The dialog behind "詳細設定..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
+// The dialog for "詳細設定..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
 // missing. The number of bytes in %d has up to five digits; those of "低" and "高" up to three.
 #define ADVANCED_PORT_SETTINGS "ポートの詳細設定"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "%d バイトの FIFO バッファーを有効にする(&E)"
@@ -78,7 +78,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 96, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(115, 193, 72, 90)
 
-// The dialog behind "詳細設定..." of the board. ACS is a function of the RS-485 driver; 終端抵抗 is the
+// The dialog for "詳細設定..." of the board. ACS is a function of the RS-485 driver; 終端抵抗 is the
 // resistor that terminates the line.
 #define ADVANCED_PORT_CONTROL "ポート制御の詳細設定"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "UART 機能"
@@ -111,7 +111,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,ハードウェア,なし"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "%s の詳細設定"
 #define STRING_LOW "低 (%d)"
 #define STRING_HIGH "高 (%d)"

@@ -1,7 +1,7 @@
 // Korean.
 //
 // For translators: the terms are those of the device manager (비트/초, 패리티, 흐름 제어, 버퍼). The letter
-// that reaches a control by the keyboard stands as (&X) behind the text, before a colon or dots: one at most
+// that reaches a control by the keyboard stands as (&X) after the text, before a colon or dots: one at most
 // in a text, no letter twice in one dialog. %d is a number and %s a port name, put in at run time: keep them,
 // and let no particle follow them whose form depends on the sound before it. \r is a line end. The file is
 // UTF-8.
@@ -26,7 +26,7 @@
 #define PORT_SETTINGS_RESTORE "기본값 복원(&R)"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(181, 130, 69, 14)
 
-// The dialog behind "고급..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
+// The dialog for "고급..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
 // missing. The number of bytes in %d has up to five digits; those of "낮음" and "높음" up to three.
 #define ADVANCED_PORT_SETTINGS "고급 포트 설정"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "%d바이트 FIFO 버퍼 사용(&E)"
@@ -79,7 +79,7 @@
 #define PORT_CONTROL_PORT_NUMBER_RECT INSTEAD(77, 216, 90, 90)
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION "LPT 폴링 주기(초):"
 
-// The dialog behind "고급..." of the board. ACS is a function of the RS-485 driver; 종단 저항 is the resistor
+// The dialog for "고급..." of the board. ACS is a function of the RS-485 driver; 종단 저항 is the resistor
 // that terminates the line.
 #define ADVANCED_PORT_CONTROL "고급 포트 제어"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "UART 기능"
@@ -112,7 +112,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,하드웨어,없음"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "%s에 대한 고급 설정"
 #define STRING_LOW "낮음(%d)"
 #define STRING_HIGH "높음(%d)"

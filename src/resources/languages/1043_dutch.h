@@ -1,6 +1,6 @@
 // Dutch.
 //
-// For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h.
+// For translators: 1033_english_united_states.h says what a text's name and its &, %d, %s and \r mean.
 // "Standaard", "Standaardwaarden" and "Standaardwaarden herstellen" say the same, each as long as its button
 // has room. A text that needs more room than the layout gives carries its own rectangle. The three buttons
 // under the sliders fill their row.
@@ -25,7 +25,7 @@
 #define PORT_SETTINGS_RESTORE "Standaardwaarden &herstellen"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(132, 130, 118, 14)
 
-// The dialog behind "Geavanceerd..." of a COM port. The number of bytes in %d has up to five digits; those of
+// The dialog for "Geavanceerd..." of a COM port. The number of bytes in %d has up to five digits; those of
 // the low and high ends up to three.
 #define ADVANCED_PORT_SETTINGS "Geavanceerde poortinstellingen"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "&FIFO-buffers van %d bytes inschakelen"
@@ -83,7 +83,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 113, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(134, 193, 72, 90)
 
-// The dialog behind "Geavanceerd..." of the board. ACS is a function of the RS-485 driver.
+// The dialog for "Geavanceerd..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Geavanceerde poortbesturing"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "UART-functies"
 #define ADVANCED_PORT_CONTROL_SORT_COM "UART's sorteren"
@@ -115,7 +115,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,Hardware,Geen"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "Geavanceerde instellingen voor %s"
 #define STRING_LOW "Laag (%d)"
 #define STRING_HIGH "Hoog (%d)"

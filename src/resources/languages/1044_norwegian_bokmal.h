@@ -1,6 +1,6 @@
 // Norwegian (Bokmål).
 //
-// For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h.
+// For translators: 1033_english_united_states.h says what a text's name and its &, %d, %s and \r mean.
 // "I/U" stands for inndata/utdata, as in Windows. A text that needs more room than the layout gives carries
 // its own rectangle. The three buttons under the sliders fill their row.
 
@@ -24,7 +24,7 @@
 #define PORT_SETTINGS_RESTORE "&Gjenopprett standardverdier"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(137, 130, 113, 14)
 
-// The dialog behind "Avansert..." of a COM port. The number of bytes in %d has up to five digits; those of
+// The dialog for "Avansert..." of a COM port. The number of bytes in %d has up to five digits; those of
 // the low and high ends up to three.
 #define ADVANCED_PORT_SETTINGS "Avanserte portinnstillinger"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "&Aktiver FIFO-buffere på %d byte"
@@ -81,7 +81,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 111, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(132, 193, 72, 90)
 
-// The dialog behind "Avansert..." of the board. ACS is a function of the RS-485 driver.
+// The dialog for "Avansert..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Avansert portstyring"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "UART-funksjoner"
 #define ADVANCED_PORT_CONTROL_SORT_COM "Sorter UART-er"
@@ -112,7 +112,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,Maskinvare,Ingen"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "Avanserte innstillinger for %s"
 #define STRING_LOW "Lav (%d)"
 #define STRING_HIGH "Høy (%d)"

@@ -1,6 +1,6 @@
 // Portuguese (Brazil).
 //
-// For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h. A
+// For translators: 1033_english_united_states.h says what a text's name and its &, %d, %s and \r mean. A
 // text that needs more room than the layout gives carries its own rectangle.
 
 #define LANGUAGE_PRIMARY 0x16
@@ -23,7 +23,7 @@
 #define PORT_SETTINGS_RESTORE "&Restaurar padrões"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(173, 130, 77, 14)
 
-// The dialog behind "Avançado..." of a COM port. The number of bytes in %d has up to five digits; those of
+// The dialog for "Avançado..." of a COM port. The number of bytes in %d has up to five digits; those of
 // the low and high ends up to three.
 #define ADVANCED_PORT_SETTINGS "Configurações avançadas da porta"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "&Habilitar buffers FIFO de %d bytes"
@@ -80,7 +80,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 137, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(158, 193, 72, 90)
 
-// The dialog behind "Avançado..." of the board. ACS is a function of the RS-485 driver.
+// The dialog for "Avançado..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Controle avançado de portas"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "Funções UART"
 #define ADVANCED_PORT_CONTROL_SORT_COM "Ordenar UARTs"
@@ -111,7 +111,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,Hardware,Nenhum"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "Configurações avançadas para %s"
 #define STRING_LOW "Baixo (%d)"
 #define STRING_HIGH "Alto (%d)"

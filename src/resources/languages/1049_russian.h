@@ -1,9 +1,9 @@
 // Russian.
 //
-// For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h.
-// The letters behind & are Cyrillic, those of ОК too. The letter ё is written е, as Windows does. A text that
+// For translators: 1033_english_united_states.h says what a text's name and its &, %d, %s and \r mean.
+// The letters after & are Cyrillic, those of ОК too. The letter ё is written е, as Windows does. A text that
 // needs more room than the layout gives carries its own rectangle. On the board's page a caption before a
-// slider stands in two lines, parted at a blank.
+// slider stands in two lines, split at a blank.
 
 #define LANGUAGE_PRIMARY 0x19
 #define LANGUAGE_SUB 0x01
@@ -25,7 +25,7 @@
 #define PORT_SETTINGS_RESTORE "&Восстановить умолчания"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(146, 130, 104, 14)
 
-// The dialog behind "Дополнительно..." of a COM port. The number of bytes in %d has up to five digits; those
+// The dialog for "Дополнительно..." of a COM port. The number of bytes in %d has up to five digits; those
 // of the low and high ends up to three.
 #define ADVANCED_PORT_SETTINGS "Дополнительные параметры порта"
 #define ADVANCED_PORT_SETTINGS_RECT INSTEAD(0, 0, 386, 145)
@@ -87,7 +87,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 128, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(149, 193, 72, 90)
 
-// The dialog behind "Дополнительно..." of the board. ACS is a function of the RS-485 driver.
+// The dialog for "Дополнительно..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Дополнительные параметры управления портами"
 #define ADVANCED_PORT_CONTROL_RECT INSTEAD(0, 0, 297, 202)
 #define ADVANCED_PORT_CONTROL_UART_GROUP "Функции UART"
@@ -121,7 +121,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,Аппаратное,Нет"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "Дополнительные параметры %s"
 #define STRING_LOW "Низкий (%d)"
 #define STRING_HIGH "Высокий (%d)"

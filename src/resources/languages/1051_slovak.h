@@ -1,8 +1,8 @@
 // Slovak.
 //
-// For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h. A
+// For translators: 1033_english_united_states.h says what a text's name and its &, %d, %s and \r mean. A
 // text that needs more room than the layout gives carries its own rectangle. The captions before the sliders
-// stand in two lines, parted at a blank. The three buttons under the sliders fill their row.
+// stand in two lines, split at a blank. The three buttons under the sliders fill their row.
 
 #define LANGUAGE_PRIMARY 0x1B
 #define LANGUAGE_SUB 0x01
@@ -24,7 +24,7 @@
 #define PORT_SETTINGS_RESTORE "&Obnoviť predvolené"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(168, 130, 82, 14)
 
-// The dialog behind "Rozšírené..." of a COM port. The number of bytes in %d has up to five digits; those of
+// The dialog for "Rozšírené..." of a COM port. The number of bytes in %d has up to five digits; those of
 // the low and high ends up to three.
 #define ADVANCED_PORT_SETTINGS "Rozšírené nastavenie portu"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "&Povoliť vyrovnávacie pamäte FIFO s veľkosťou %d bajtov"
@@ -81,7 +81,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 132, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(153, 193, 72, 90)
 
-// The dialog behind "Rozšírené..." of the board. ACS is a function of the RS-485 driver.
+// The dialog for "Rozšírené..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Rozšírené riadenie portov"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "Funkcie UART"
 #define ADVANCED_PORT_CONTROL_SORT_COM "Zoradiť UART"
@@ -111,7 +111,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,Hardvérové,Žiadne"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "Rozšírené nastavenie pre %s"
 #define STRING_LOW "Nízka (%d)"
 #define STRING_HIGH "Vysoká (%d)"

@@ -23,7 +23,7 @@
 #define PORT_SETTINGS_ADVANCED "ขั้น&สูง..."
 #define PORT_SETTINGS_RESTORE "คืนค่าเริ่ม&ต้น"
 
-// The dialog behind "ขั้นสูง..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
+// The dialog for "ขั้นสูง..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
 // missing. The number of bytes in %d has up to five digits; those of "ต่ำ" and "สูง" up to three.
 #define ADVANCED_PORT_SETTINGS "การตั้งค่าพอร์ตขั้นสูง"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "เ&ปิดใช้งานบัฟเฟอร์ FIFO ขนาด %d ไบต์"
@@ -66,7 +66,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 98, 10)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(117, 193, 72, 90)
 
-// The dialog behind "ขั้นสูง..." of the board. ACS is a function of the RS-485 driver; ตัวต้านทานปลายสาย is
+// The dialog for "ขั้นสูง..." of the board. ACS is a function of the RS-485 driver; ตัวต้านทานปลายสาย is
 // the resistor that terminates the line.
 #define ADVANCED_PORT_CONTROL "การควบคุมพอร์ตขั้นสูง"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "คุณลักษณะของ UART"
@@ -100,7 +100,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,ฮาร์ดแวร์,ไม่มี"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "การตั้งค่าขั้นสูงสำหรับ %s"
 #define STRING_LOW "ต่ำ (%d)"
 #define STRING_HIGH "สูง (%d)"

@@ -1,8 +1,8 @@
 // Turkish.
 //
-// For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h. A
+// For translators: 1033_english_united_states.h says what a text's name and its &, %d, %s and \r mean. A
 // text that needs more room than the layout gives carries its own rectangle. On the board's page a caption
-// before a slider stands in two lines, parted at a blank. The three buttons under the sliders fill their row.
+// before a slider stands in two lines, split at a blank. The three buttons under the sliders fill their row.
 
 #define LANGUAGE_PRIMARY 0x1F
 #define LANGUAGE_SUB 0x01
@@ -24,7 +24,7 @@
 #define PORT_SETTINGS_RESTORE "Varsa&yılanları Geri Yükle"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(149, 130, 101, 14)
 
-// The dialog behind "Gelişmiş..." of a COM port. The number of bytes in %d has up to five digits; those of
+// The dialog for "Gelişmiş..." of a COM port. The number of bytes in %d has up to five digits; those of
 // the low and high ends up to three.
 #define ADVANCED_PORT_SETTINGS "Gelişmiş Bağlantı Noktası Ayarları"
 #define ADVANCED_PORT_SETTINGS_RECT INSTEAD(0, 0, 379, 145)
@@ -85,7 +85,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 119, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(140, 193, 72, 90)
 
-// The dialog behind "Gelişmiş..." of the board. ACS is a function of the RS-485 driver.
+// The dialog for "Gelişmiş..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Gelişmiş Bağlantı Noktası Denetimi"
 #define ADVANCED_PORT_CONTROL_RECT INSTEAD(0, 0, 290, 202)
 #define ADVANCED_PORT_CONTROL_UART_GROUP "UART Özellikleri"
@@ -119,7 +119,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,Donanım,Yok"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "%s için Gelişmiş Ayarlar"
 #define STRING_LOW "Düşük (%d)"
 #define STRING_HIGH "Yüksek (%d)"

@@ -1,7 +1,7 @@
 // Chinese (simplified).
 //
 // For translators: the terms are those of the device manager (端口, 每秒位数, 奇偶校验, 缓冲区). The letter
-// that reaches a control by the keyboard stands as (&X) behind the text, before a colon or dots: one at most
+// that reaches a control by the keyboard stands as (&X) after the text, before a colon or dots: one at most
 // in a text, no letter twice in one dialog. %d is a number and %s a port name, put in at run time: keep them.
 // Commas in the lists are ASCII; sentences have Chinese punctuation. \r is a line end. The file is UTF-8.
 
@@ -18,7 +18,7 @@
 #define PORT_SETTINGS_ADVANCED "高级(&V)..."
 #define PORT_SETTINGS_RESTORE "还原默认值(&R)"
 
-// The dialog behind "高级..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
+// The dialog for "高级..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
 // missing. The number of bytes in %d has up to five digits; those of "低" and "高" up to three.
 #define ADVANCED_PORT_SETTINGS "高级端口设置"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "启用 %d 字节 FIFO 缓冲区(&E)"
@@ -57,7 +57,7 @@
 #define PORT_CONTROL_PORT_NUMBER_CAPTION "端口号(&P):"
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION "LPT 轮询周期(秒):"
 
-// The dialog behind "高级..." of the board. ACS is a function of the RS-485 driver; 终端电阻 is the resistor
+// The dialog for "高级..." of the board. ACS is a function of the RS-485 driver; 终端电阻 is the resistor
 // that terminates the line.
 #define ADVANCED_PORT_CONTROL "高级端口控制"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "UART 功能"
@@ -89,7 +89,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,硬件,无"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "%s 的高级设置"
 #define STRING_LOW "低(%d)"
 #define STRING_HIGH "高(%d)"

@@ -1,6 +1,6 @@
 // English (United Kingdom).
 //
-// For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h. A
+// For translators: 1033_english_united_states.h says what a text's name and its &, %d, %s and \r mean. A
 // text that needs more room than the layout gives carries its own rectangle.
 
 #define LANGUAGE_PRIMARY 0x09
@@ -16,7 +16,7 @@
 #define PORT_SETTINGS_ADVANCED "Ad&vanced..."
 #define PORT_SETTINGS_RESTORE "&Restore Defaults"
 
-// The dialog behind "Advanced..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
+// The dialog for "Advanced..." of a COM port. The title shows only where STRING_ADVANCED_SETTINGS_TITLE is
 // missing. The number of bytes in %d has up to five digits; those of "Low" and "High" up to three.
 #define ADVANCED_PORT_SETTINGS "Advanced Port Settings"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "&Enable %d-byte FIFO buffers"
@@ -61,7 +61,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 96, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(115, 193, 72, 90)
 
-// The dialog behind "Advanced..." of the board. ACS is a function of the RS-485 driver.
+// The dialog for "Advanced..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Advanced Port Control"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "UART Features"
 #define ADVANCED_PORT_CONTROL_SORT_COM "Sort UART"
@@ -90,7 +90,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,Hardware,None"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "Advanced Settings for %s"
 #define STRING_LOW "Low (%d)"
 #define STRING_HIGH "High (%d)"

@@ -1,8 +1,8 @@
 // Portuguese (Portugal).
 //
-// For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h.
+// For translators: 1033_english_united_states.h says what a text's name and its &, %d, %s and \r mean.
 // A buffer is a "memória intermédia", as in Windows. A text that needs more room than the layout gives
-// carries its own rectangle. The captions before the sliders stand in two lines, parted at a blank. The three
+// carries its own rectangle. The captions before the sliders stand in two lines, split at a blank. The three
 // buttons under the sliders fill their row.
 
 #define LANGUAGE_PRIMARY 0x16
@@ -25,7 +25,7 @@
 #define PORT_SETTINGS_RESTORE "&Restaurar predefinições"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(153, 130, 97, 14)
 
-// The dialog behind "Avançadas..." of a COM port. The number of bytes in %d has up to five digits; those of
+// The dialog for "Avançadas..." of a COM port. The number of bytes in %d has up to five digits; those of
 // the low and high ends up to three.
 #define ADVANCED_PORT_SETTINGS "Definições avançadas da porta"
 #define ADVANCED_PORT_SETTINGS_RECT INSTEAD(0, 0, 381, 145)
@@ -88,7 +88,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 130, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(151, 193, 72, 90)
 
-// The dialog behind "Avançadas..." of the board. ACS is a function of the RS-485 driver.
+// The dialog for "Avançadas..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Controlo avançado de portas"
 #define ADVANCED_PORT_CONTROL_RECT INSTEAD(0, 0, 292, 202)
 #define ADVANCED_PORT_CONTROL_UART_GROUP "Funções UART"
@@ -123,7 +123,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,Hardware,Nenhum"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "Definições avançadas de %s"
 #define STRING_LOW "Baixa (%d)"
 #define STRING_HIGH "Alta (%d)"

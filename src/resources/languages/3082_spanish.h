@@ -1,6 +1,6 @@
 // Spanish.
 //
-// For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h. A
+// For translators: 1033_english_united_states.h says what a text's name and its &, %d, %s and \r mean. A
 // text that needs more room than the layout gives carries its own rectangle. The three buttons under the
 // sliders fill their row.
 
@@ -24,7 +24,7 @@
 #define PORT_SETTINGS_RESTORE "&Restaurar predeterminados"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(140, 130, 110, 14)
 
-// The dialog behind "Opciones avanzadas..." of a COM port. The number of bytes in %d has up to five digits;
+// The dialog for "Opciones avanzadas..." of a COM port. The number of bytes in %d has up to five digits;
 // those of the low and high ends up to three.
 #define ADVANCED_PORT_SETTINGS "Configuración avanzada de puerto"
 #define ADVANCED_PORT_SETTINGS_RECT INSTEAD(0, 0, 394, 145)
@@ -86,7 +86,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 126, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(147, 193, 72, 90)
 
-// The dialog behind "Opciones avanzadas..." of the board. ACS is a function of the RS-485 driver.
+// The dialog for "Opciones avanzadas..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Control avanzado de puertos"
 #define ADVANCED_PORT_CONTROL_RECT INSTEAD(0, 0, 305, 202)
 #define ADVANCED_PORT_CONTROL_UART_GROUP "Funciones UART"
@@ -121,7 +121,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,Hardware,Ninguno"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "Configuración avanzada de %s"
 #define STRING_LOW "Bajo (%d)"
 #define STRING_HIGH "Alto (%d)"

@@ -1,9 +1,9 @@
 // French (Canada).
 //
-// For translators: what a text's name and its &, %d, %s and \r mean stands in 1033_english_united_states.h.
+// For translators: 1033_english_united_states.h says what a text's name and its &, %d, %s and \r mean.
 // The blank before a colon is a no-break space (U+00A0); ; and ? stand without one, as is the custom in
 // Canada. A text that needs more room than the layout gives carries its own rectangle. On the board's page a
-// caption before a slider stands in two lines, parted at a blank. The three buttons under the sliders fill
+// caption before a slider stands in two lines, split at a blank. The three buttons under the sliders fill
 // their row.
 
 #define LANGUAGE_PRIMARY 0x0C
@@ -26,7 +26,7 @@
 #define PORT_SETTINGS_RESTORE "Rétablir les valeurs par dé&faut"
 #define PORT_SETTINGS_RESTORE_RECT INSTEAD(129, 130, 121, 14)
 
-// The dialog behind "Avancé..." of a COM port. The number of bytes in %d has up to five digits; those of the
+// The dialog for "Avancé..." of a COM port. The number of bytes in %d has up to five digits; those of the
 // low and high ends up to three.
 #define ADVANCED_PORT_SETTINGS "Paramètres avancés du port"
 #define ADVANCED_PORT_SETTINGS_LARGEFIFO "&Activer les tampons FIFO de %d octets"
@@ -83,7 +83,7 @@
 #define PORT_CONTROL_POLLING_CYCLE_CAPTION_RECT INSTEAD(16, 195, 144, 8)
 #define PORT_CONTROL_POLLING_CYCLE_RECT INSTEAD(165, 193, 72, 90)
 
-// The dialog behind "Avancé..." of the board. ACS is a function of the RS-485 driver.
+// The dialog for "Avancé..." of the board. ACS is a function of the RS-485 driver.
 #define ADVANCED_PORT_CONTROL "Contrôle avancé des ports"
 #define ADVANCED_PORT_CONTROL_UART_GROUP "Fonctions UART"
 #define ADVANCED_PORT_CONTROL_SORT_COM "Trier les UART"
@@ -114,7 +114,7 @@
 #define STRING_STOP_BITS_LIST ",1,1.5,2"
 #define STRING_FLOW_CONTROL_LIST ",Xon / Xoff,Matériel,Aucun"
 
-// The suffix begins with a blank and stands behind a port's name.
+// The suffix begins with a blank and follows a port's name.
 #define STRING_ADVANCED_SETTINGS_TITLE "Paramètres avancés pour %s"
 #define STRING_LOW "Faible (%d)"
 #define STRING_HIGH "Élevé (%d)"

@@ -1,5 +1,5 @@
-// English (Canada): the texts of the United Kingdom. A text that Canada says otherwise is defined anew here, behind an
-// #undef of the other.
+// English (Canada): the texts of the United Kingdom. A text that differs in Canada is defined again here,
+// after an #undef of the other.
 
 #include "2057_english_united_kingdom.h"
 

@@ -1,4 +1,4 @@
-// Which device a program opens that needs one of each kind and nobody to name it.
+// The device that a program opens if it needs one of each kind and nobody names it.
 #pragma once
 
 #include <optional>
@@ -7,7 +7,7 @@
 
 namespace host {
 
-// The first device of the kind that the board's driver has described, so that its provider has a page for it.
+// The first device of the kind with values from the board's driver, so that its provider has a page for it.
 std::optional<Device> FirstDevice(World& world, DeviceKind kind);
 
 } // namespace host

@@ -1,5 +1,5 @@
-// Crashes within the library, as a process does whose request is not there, and tells where: by the distance
-// from the library's beginning, as an event log does.
+// Crashes within the library, like a process whose request is missing, and reports where: as the offset from
+// the start of the library, as an event log does.
 #include <cstdio>
 
 #include "platform/platform.h"
@@ -19,10 +19,10 @@ LONG WINAPI TellPlace(EXCEPTION_POINTERS* exception) {
 } // namespace
 
 int main() {
-    library = LoadLibraryW(L"kvrpagex64.dll");
+    library = LoadLibraryW(TEXT("kvrpagex64.dll"));
     const auto provider = reinterpret_cast<BOOL(WINAPI*)(void*, LPFNADDPROPSHEETPAGE, LPARAM)>(
         reinterpret_cast<void*>(GetProcAddress(library, "KvrBoardPropPageProvider")));
-    if (!provider) {
+    if (provider == nullptr) {
         return 2;
     }
     SetUnhandledExceptionFilter(&TellPlace);

@@ -1,7 +1,6 @@
-// Measures on real windows whether every text of every dialog in every language has the room that it needs,
-// with the texts that the library puts in at run time, in the dialog's own font and at the screen's scale;
-// and whether the controls keep clear of each other. A line tells each failure; the last one counts what was
-// measured.
+// Measures on real windows whether every text of every dialog in every language has enough room, with the
+// texts that the library puts in at run time, in the dialog's own font and at the screen's scale; and whether
+// the controls keep clear of each other. Each failure is a line, and the last line counts what was measured.
 #include <windows.h>
 
 #include <commctrl.h>
@@ -25,10 +24,10 @@ int measured = 0, failures = 0;
 constexpr WORD all_dialogs[] = {IDD_PORT_SETTINGS, IDD_ADVANCED_PORT_SETTINGS, IDD_PORT_CONTROL,
                                 IDD_ADVANCED_PORT_CONTROL};
 
-// What stands beside or around a text in a control, in pixels at 96 dots per inch.
-constexpr int check_box = 17;     // the box and the gap behind it
+// The space beside or around a text in a control, in pixels at 96 dots per inch.
+constexpr int check_box = 17;     // the box and the gap after it
 constexpr int button_margin = 8;  // both sides together, with the frame
-constexpr int group_margin = 18;  // before and behind the caption in the frame
+constexpr int group_margin = 18;  // before and after the caption in the frame
 constexpr int combo_margin = 4;   // both sides together, within the item's place
 constexpr int list_margin = 4;    // both sides together
 constexpr int cell_margin = 12;   // both sides together, in a heading and a cell
@@ -44,7 +43,7 @@ int Scaled(int pixels) {
 
 constexpr const char too_narrow[] = "too narrow", overlaps[] = "overlaps another";
 
-// The english geometry is given. These labels are up to four pixels too narrow in it or, between two scales,
+// The English geometry is given. These labels are up to four pixels too narrow in it or, between two scales,
 // share a column of pixels with their slider, and stay so.
 struct Exception {
     WORD dialog;
@@ -83,7 +82,7 @@ struct Dialog {
         return {place.right, place.bottom};
     }
 
-    // Counts a failure of so many pixels, unless it is one of those that are known; the word for it.
+    // Counts a failure by that many pixels, unless it is a known one. Returns the word for it.
     const char* Judge(int control, const char* what, int pixels) const {
         const bool known =
             language == english &&
@@ -109,13 +108,13 @@ struct Dialog {
         }
     }
 
-    // A label breaks its text at blanks; what does not fit its height is not seen.
+    // A label breaks its text at blanks. What exceeds its height is not visible.
     void CheckLabel(int control, const Text& text, const RECT& place) const {
         const int width = static_cast<int>(place.right - place.left),
                   height = static_cast<int>(place.bottom - place.top);
         const SIZE broken = Measure(text, DT_WORDBREAK, width);
         const SIZE line = Measure(text, DT_SINGLELINE);
-        // A line may lose the last pixels of its letters' room below, but no more.
+        // A line may lose the last pixels of the room below its letters, but no more.
         const bool fits_broken =
             height >= 2 * line.cy - Scaled(2) && broken.cx <= width && broken.cy <= height + Scaled(1);
         ++measured;
@@ -147,9 +146,9 @@ Control MeasureControl(const Dialog& dialog, HWND window) {
     const Text text = RunTimeText(dialog.language, dialog.id, id, buffer);
     Control control = {id, false, PlaceIn(dialog.window, window)};
     const int width = static_cast<int>(control.place.right - control.place.left);
-    if (lstrcmpiW(kind, L"Static") == 0) {
+    if (lstrcmpiW(kind, TEXT("Static")) == 0) {
         dialog.CheckLabel(id, text, control.place);
-    } else if (lstrcmpiW(kind, L"Button") == 0) {
+    } else if (lstrcmpiW(kind, TEXT("Button")) == 0) {
         control.group = (style & BS_TYPEMASK) == BS_GROUPBOX;
         const int around = control.group                              ? group_margin
                            : (style & BS_TYPEMASK) == BS_AUTOCHECKBOX ? check_box
@@ -157,7 +156,7 @@ Control MeasureControl(const Dialog& dialog, HWND window) {
         if (!text.empty()) {
             dialog.Check(id, text, width - Scaled(around));
         }
-    } else if (lstrcmpiW(kind, L"ComboBox") == 0) {
+    } else if (lstrcmpiW(kind, TEXT("ComboBox")) == 0) {
         COMBOBOXINFO info = {};
         info.cbSize = sizeof info;
         GetComboBoxInfo(window, &info);
@@ -166,10 +165,10 @@ Control MeasureControl(const Dialog& dialog, HWND window) {
                          static_cast<int>(info.rcItem.right - info.rcItem.left) - Scaled(combo_margin),
                          DT_SINGLELINE | DT_NOPREFIX);
         }
-    } else if (lstrcmpiW(kind, L"ListBox") == 0) {
+    } else if (lstrcmpiW(kind, TEXT("ListBox")) == 0) {
         RECT client;
         GetClientRect(window, &client);
-        dialog.Check(id, L"COM256 (port16)", static_cast<int>(client.right) - Scaled(list_margin),
+        dialog.Check(id, TEXT("COM256 (port16)"), static_cast<int>(client.right) - Scaled(list_margin),
                      DT_SINGLELINE | DT_NOPREFIX);
     } else if (lstrcmpiW(kind, WC_LISTVIEWW) == 0 && scale == usual_scale) {
         for (const UINT string : {IDS_RESOURCE_TYPE, IDS_SETTING, IDS_IO_RANGE, IDS_IRQ}) {
@@ -196,7 +195,7 @@ void CheckPlaces(const Dialog& dialog, const std::vector<Control>& controls) {
             if (!IntersectRect(&common, &one->place, &other->place)) {
                 continue;
             }
-            // A group holds a control wholly or not at all.
+            // A group holds a control completely or not at all.
             const bool held = (one->group && EqualRect(&common, &other->place)) ||
                               (other->group && EqualRect(&common, &one->place));
             if (!held) {
@@ -213,19 +212,20 @@ void CheckTitle(const Dialog& dialog) {
     RECT client;
     GetClientRect(dialog.window, &client);
     const bool port_dialog = dialog.id == IDD_ADVANCED_PORT_SETTINGS;
-    const Text text =
-        port_dialog ? Filled(String(dialog.language, IDS_ADVANCED_SETTINGS_TITLE), L"COM256") : Text(title);
+    const Text text = port_dialog
+                          ? Filled(String(dialog.language, IDS_ADVANCED_SETTINGS_TITLE), TEXT("COM256"))
+                          : Text(title);
     NONCLIENTMETRICSW metrics = {};
     metrics.cbSize = sizeof metrics;
     SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-    // A page's title stands on a tab in the dialog's font, a dialog's own in the caption's.
+    // A page's title is on a tab in the dialog's font, a dialog's own in the caption's font.
     const bool page = dialog.id == IDD_PORT_SETTINGS || dialog.id == IDD_PORT_CONTROL;
     const HFONT font = page ? nullptr : CreateFontIndirectW(&metrics.lfCaptionFont);
-    if (font) {
+    if (font != nullptr) {
         SelectObject(dialog.dc, font);
     }
     dialog.Check(0, text, static_cast<int>(client.right) - Scaled(title_margin), DT_SINGLELINE | DT_NOPREFIX);
-    if (font) {
+    if (font != nullptr) {
         SelectObject(dialog.dc, dialog.font);
         DeleteObject(font);
     }
@@ -233,11 +233,11 @@ void CheckTitle(const Dialog& dialog) {
 
 bool MeasureDialog(LANGID language, WORD id) {
     const auto* const form = static_cast<const DLGTEMPLATE*>(Resource(RT_DIALOG, id, language));
-    const HWND window =
-        form ? CreateDialogIndirectParamW(
-                   library, form, nullptr, [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0)
-             : nullptr;
-    if (!window) {
+    const HWND window = form != nullptr ? CreateDialogIndirectParamW(
+                                              library, form, nullptr,
+                                              [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0)
+                                        : nullptr;
+    if (window == nullptr) {
         std::printf("language %u, dialog %u: can't be created\n", language, id);
         return false;
     }
@@ -279,8 +279,8 @@ int main(int argc, char** argv) {
     scale = GetDeviceCaps(screen, LOGPIXELSX);
     ReleaseDC(nullptr, screen);
     SetConsoleOutputCP(CP_UTF8);
-    library = LoadLibraryW(L"kvrpagex64.dll");
-    if (!library) {
+    library = LoadLibraryW(TEXT("kvrpagex64.dll"));
+    if (library == nullptr) {
         std::printf("kvrpagex64.dll can't be loaded\n");
         return 2;
     }

@@ -8,7 +8,7 @@ HMODULE library;
 
 const void* Resource(LPCWSTR type, WORD name, LANGID language) {
     const HRSRC found = FindResourceExW(library, type, MAKEINTRESOURCEW(name), language);
-    return found ? LockResource(LoadResource(library, found)) : nullptr;
+    return found != nullptr ? LockResource(LoadResource(library, found)) : nullptr;
 }
 
 Text String(LANGID language, UINT id) {
@@ -16,11 +16,11 @@ Text String(LANGID language, UINT id) {
     for (UINT i = 0; at && i < id % 16; ++i) {
         at += *at + 1;
     }
-    return at ? Text(at + 1, *at) : Text();
+    return at != nullptr ? Text(at + 1, *at) : Text();
 }
 
 Text Filled(Text format, const Text& value) {
-    const std::size_t at = format.find(L'%');
+    const std::size_t at = format.find(TEXT('%'));
     return at == Text::npos ? format : format.replace(at, 2, value);
 }
 
@@ -44,16 +44,16 @@ std::vector<Text> ComboItems(LANGID language, WORD dialog, int id) {
         case IDC_FLOW_CONTROL:
             return ListItems(String(language, IDS_FLOW_CONTROL_LIST));
         default:
-            return {L"1500000"};
+            return {TEXT("1500000")};
         }
     }
     switch (id) {
     case IDC_PORT_NUMBER:
-        return {L"COM256" + String(language, IDS_IN_USE_SUFFIX)};
+        return {TEXT("COM256") + String(language, IDS_IN_USE_SUFFIX)};
     case IDC_INTERFACE_SELECT:
-        return {L"Auto RS-422/485"};
+        return {TEXT("Auto RS-422/485")};
     default:
-        return {L"5"};
+        return {TEXT("5")};
     }
 }
 
@@ -62,11 +62,11 @@ Text RunTimeText(LANGID language, WORD dialog, int id, const Text& text) {
     switch (id) {
     case IDC_RECEIVE_LOW:
     case IDC_TRANSMIT_LOW:
-        return Filled(board ? String(language, IDS_LOW) : text, L"1");
+        return Filled(board ? String(language, IDS_LOW) : text, TEXT("1"));
     case IDC_RECEIVE_HIGH:
     case IDC_TRANSMIT_HIGH:
-        return Filled(board ? String(language, IDS_HIGH) : text, L"128");
+        return Filled(board ? String(language, IDS_HIGH) : text, TEXT("128"));
     default:
-        return Filled(text, L"128");
+        return Filled(text, TEXT("128"));
     }
 }

@@ -1,4 +1,4 @@
-// The texts of the built library's dialogs, language by language, as they stand while it runs.
+// The texts of the built library's dialogs in each language, as they are at run time.
 #pragma once
 
 #include <windows.h>
@@ -15,9 +15,9 @@ extern HMODULE library;
 const void* Resource(LPCWSTR type, WORD name, LANGID language);
 // A string of the table in one language; empty if there is none.
 Text String(LANGID language, UINT id);
-// The format with what stands for its placeholder put in.
+// The format with the value in place of its placeholder.
 Text Filled(Text format, const Text& value);
 // The widest items that a combo shows.
 std::vector<Text> ComboItems(LANGID language, WORD dialog, int id);
-// The text of a label or check box, whose template says `text`, with the numbers that the library puts in.
+// The text of a label or check box whose template says `text`, with the numbers that the library puts in.
 Text RunTimeText(LANGID language, WORD dialog, int id, const Text& text);

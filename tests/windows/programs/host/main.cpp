@@ -1,4 +1,4 @@
-// The host of the tests: the one that ships, on what stands in for Windows, with the trouble that a script
+// The host of the tests: the one that ships, on Wine in the place of Windows, with the failures that a script
 // asks for.
 #include <algorithm>
 #include <iostream>
@@ -12,8 +12,8 @@ namespace {
 
 using host::LineSource, host::OpenConsole, host::FailCall, host::PretendRemote;
 
-// A script can say what trouble it wants: "# fail: DefineDosDeviceW 2" makes the second call of that
-// operation from there on fail, "# remote" puts its devices on another machine.
+// A script can ask for failures: "# fail: DefineDosDeviceW 2" makes the second call of that operation from
+// there on fail, "# remote" makes its devices belong to another machine.
 class Script : public LineSource {
 public:
     std::optional<std::string> Next(const std::string& prompt) override {

@@ -1,5 +1,5 @@
-// Installs a driver's INF for a device by its hardware id, as the device manager does when it is given the
-// folder of a driver.
+// Installs a driver's INF for a device by its hardware id, as the device manager does when a person points it
+// to the driver's folder.
 //
 //     kvrinstall INF DEVICE
 #include <cstdio>
@@ -14,7 +14,7 @@ bool Install(LPCWSTR inf, HDEVINFO set, SP_DEVINFO_DATA& data) {
     if (!SetupDiGetDeviceInstallParamsW(set, &data, &parameters)) {
         return false;
     }
-    // This file and no other, for a device that no bus has to start.
+    // Only this file, for a device that no bus has to start.
     parameters.Flags |= DI_ENUMSINGLEINF | DI_QUIETINSTALL | DI_DONOTCALLCONFIGMG;
     lstrcpynW(parameters.DriverPath, inf, ARRAYSIZE(parameters.DriverPath));
     return SetupDiSetDeviceInstallParamsW(set, &data, &parameters) &&

@@ -1,10 +1,9 @@
-// Lists what the keyboard does in each of the four dialogs, by keys sent to the windows themselves. Built for
-// both worlds: the two listings must be the same.
+// Lists what the keyboard does in each of the four dialogs when keys are sent to the windows themselves. It
+// is built for both worlds, and the two listings must be the same.
 //
 //     kvrkeys LANGUAGE...
 //
-// Nothing happens in consequence of a key: the dialogs' procedures are put aside, and what would reach them
-// is listed.
+// The keys have no further effect: the dialogs' procedures are replaced, and what would reach them is listed.
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
@@ -22,8 +21,8 @@ namespace {
 
 constexpr UINT most_stops = 40;
 
-std::map<HWND, LONG_PTR> procedures; // of the dialogs that are listened to
-std::string reached;                 // what the procedures would have got since it was emptied
+std::map<HWND, LONG_PTR> procedures; // of the dialogs that are watched
+std::string reached;                 // what the procedures would have received since this was emptied
 
 INT_PTR CALLBACK Listen(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_COMMAND && HIWORD(wParam) <= CBN_SELCHANGE) { // the pages know no other code
@@ -55,7 +54,7 @@ void FocusOn(HWND window, HWND control) {
     SendMessageW(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
 }
 
-// The stops from the focus on, once around.
+// All tab stops, starting at the focus.
 std::vector<HWND> Walk(HWND window, bool back) {
     std::vector<HWND> stops;
     const HWND first = GetFocus();

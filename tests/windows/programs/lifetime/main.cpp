@@ -1,5 +1,5 @@
 // Loads and unloads the library, and opens and closes its pages, so many times each in one process, and
-// tells what the process holds more than before: handles, USER and GDI objects, private memory.
+// prints what the process then holds more than before: handles, USER and GDI objects, private memory.
 #include <windows.h>
 
 #include <algorithm>
@@ -20,9 +20,8 @@ struct Holdings {
     long long counts[std::size(names)];
 };
 
-// The stand-in system counts neither a process's handles nor its USER objects. But both tables give a freed
-// place out again before a new one, so where nothing leaks a new object comes to stand where one stood
-// before.
+// Wine counts neither a process's handles nor its USER objects. But both tables reuse a free place before
+// they take a new one, so if nothing leaks, a new object gets the place of an earlier one.
 long long HandlePlace() {
     const HANDLE handle = CreateEventW(nullptr, FALSE, FALSE, nullptr);
     CloseHandle(handle);
@@ -48,8 +47,9 @@ long long GdiObjects() {
     const BYTE* process = nullptr;
     __asm__("movq %%gs:0x60, %0" : "=r"(process));
     const Entry* const table = *reinterpret_cast<const Entry* const*>(process + 0xF8);
-    return table ? std::count_if(table, table + places, [](const Entry& entry) { return entry.type != 0; })
-                 : 0;
+    return table != nullptr
+               ? std::count_if(table, table + places, [](const Entry& entry) { return entry.type != 0; })
+               : 0;
 }
 
 Holdings Take() {
@@ -64,10 +64,10 @@ Holdings Take() {
     return taken;
 }
 
-// What a run may add, for the system's own caches: far below one thing a round.
+// What a run may add for the system's own caches: far less than one object per round.
 constexpr long long allowed[] = {4, 4, 4, 16, 4096};
 
-// Runs `once` so often, after a few rounds in which the system fills its caches, and compares.
+// Runs `once` that many times, after a few rounds in which the system fills its caches, and compares.
 bool Repeat(const char* what, int times, const auto& once) {
     for (int i = 0; i < 20; ++i) {
         once();
@@ -97,7 +97,8 @@ int main(int argc, char** argv) {
         std::printf("%s\n", error.c_str());
         return 2;
     }
-    bool steady = Repeat("loaded and unloaded", times, [] { FreeLibrary(LoadLibraryW(L"kvrpagex64.dll")); });
+    bool steady =
+        Repeat("loaded and unloaded", times, [] { FreeLibrary(LoadLibraryW(TEXT("kvrpagex64.dll"))); });
     const std::unique_ptr<host::World> world = host::OpenWorld({}, 0, error);
     for (const auto& [kind, what] : {std::pair{host::DeviceKind::Board, "the board's page opened and closed"},
                                      std::pair{host::DeviceKind::Port, "a port's page opened and closed"}}) {

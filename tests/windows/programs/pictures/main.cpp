@@ -1,9 +1,9 @@
-// Takes a picture of each of the four dialogs from the real windows, as they stand on the screen: opens the
-// sheet of the first board and of the first port, and from each the dialog behind "Advanced...".
+// Takes a picture of each of the four dialogs from the real windows on the screen: opens the sheets of the
+// first board and of the first port, and from each of them its "Advanced..." dialog.
 //
 //     kvrpictures FOLDER LANGUAGE...
 //
-// writes FOLDER/103-1031.bmp and its like, a file a dialog and language.
+// writes FOLDER/103-1031.bmp and so on, one file per dialog and language.
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
@@ -71,9 +71,9 @@ void Save(HWND window, int dialog) {
     ReleaseDC(nullptr, screen);
 }
 
-// The page of a sheet; null if the window is none.
+// The page of a sheet; null if the window is not a sheet.
 HWND PageOf(HWND window) {
-    return FindWindowExW(window, nullptr, L"#32770", nullptr);
+    return FindWindowExW(window, nullptr, TEXT("#32770"), nullptr);
 }
 
 void Press(HWND window, int button) {
