@@ -265,6 +265,9 @@ TEST(PortRename, TakesTheMachineAsItFindsIt) {
     const auto description = [](const std::optional<sim::Text>& text) {
         return [=](sim::Machine& machine) { machine.devices[port].description = text; };
     };
+    const auto database = [](HCOMDB handle) {
+        return [=](sim::Machine& machine) { machine.faults.databases = {{2, handle}}; };
+    };
     const std::string a71(71, 'a'), a80(80, 'a');
     const auto wide = [](std::size_t count) { return sim::Text(count, u'a'); };
     const struct {
@@ -289,6 +292,8 @@ TEST(PortRename, TakesTheMachineAsItFindsIt) {
          "7 | (7) | 7 | 5 | 7 | 7"},
         {"a text in the map without terminator",
          [](auto& machine) { machine.serial_map.list[0].data.resize(8); }, renamed},
+        {"a database of no handle", database(nullptr), "7 | (7) | 7 | 7 | 5 | 7"},
+        {"a database of no valid handle", database(HCOMDB_INVALID_HANDLE_VALUE), "7 | (7) | 7 | 7 | 5 | 7"},
         {"no description", description(std::nullopt), "7 | 7 | 7 | 7 | 7 | 7"},
         {"an empty description", description(u""), "7 |  (7) | 7 | 7 | 7 | 7"},
         {"a description with just enough room", description(wide(71)), "7 | " + a71 + " (7) | 7 | 7 | 7 | 7"},

@@ -135,7 +135,7 @@ TEST(ErrorReporter, ABoxThatCantBeShownAndACallerWithoutInterestDoNoHarm) {
     sim::Machine machine;
     const AtWork at_work(machine);
     ErrorBoxShow(204, 3, nullptr, 0, 0, 0, nullptr);
-    EXPECT_FALSE(machine.boxes.front().owned);
+    EXPECT_EQ(machine.boxes.front().owner, nullptr);
     machine.faults.at_call = {{"MessageBoxW", 0}};
     u32 choice = IDYES;
     ErrorBoxShow(303, 202, nullptr, 0, 0, 0, &choice);
