@@ -25,18 +25,27 @@ Numbers NumbersOf(sim::Machine& machine, std::size_t uarts) {
     return numbers;
 }
 
-// Opens the Advanced Port Control dialog on a channel, clicks Sort UART and closes it by Cancel, and any box
-// by OK.
-void SortInDialog(sim::Machine& machine, BPPCHL* channel) {
-    machine.user = [](HWND front) {
+struct Dialog {
+    HWND window, button;
+};
+
+// Opens the Advanced Port Control dialog on a channel, clicks Sort UART, which keeps the focus, and closes it
+// by Cancel, and any box by OK.
+Dialog SortInDialog(sim::Machine& machine, BPPCHL* channel) {
+    Dialog dialog = {};
+    machine.user = [&](HWND front) {
         if (sim::BoxStyle(front) != 0) {
             SendMessageW(front, WM_COMMAND, IDOK, 0);
         } else {
+            dialog = {front, GetDlgItem(front, IDC_SORT_COM)};
+            SetFocus(dialog.button);
             SendMessageW(front, WM_COMMAND, IDC_SORT_COM, 0);
+            EXPECT_EQ(GetFocus(), dialog.button);
             SendMessageW(front, WM_COMMAND, IDCANCEL, 0);
         }
     };
     KvrBoardUartAdvancedDlgShow(nullptr, channel);
+    return dialog;
 }
 
 // The moves as the journal has them, "5->256".
@@ -131,9 +140,10 @@ TEST(ComSort, AFailureLeavesWhatTheMovesBeforeItDid) {
         const OpenBoard board;
         Forget(machine);
         each.change(machine);
-        SortInDialog(machine, board.Channel(3));
+        const Dialog dialog = SortInDialog(machine, board.Channel(3));
         EXPECT_EQ(NumbersOf(machine, 4), each.after);
         ASSERT_EQ(machine.boxes.size(), 1u);
+        EXPECT_EQ(machine.boxes[0].owner, each.box == no_memory ? dialog.button : dialog.window);
         EXPECT_EQ(sim::ToUtf8(machine.boxes[0].text), each.box);
         EXPECT_EQ(board.params.ChlListChanged, each.box != no_memory);
         std::vector<std::string> buttons;

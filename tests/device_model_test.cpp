@@ -182,6 +182,22 @@ TEST(DeviceStore, EachReadingTakesItsValuesInOrderWhateverTheirTypeAndLength) {
     }
 }
 
+// --- The FIFO ---------------------------------------------------------------------------------------------
+
+TEST(FifoStages, APositionIsAStageAndATriggerLevelTheHighestThatItReaches) {
+    constexpr u32 stages[] = {7, 20, 40, 60};
+    constexpr u32 stage_of_position[] = {1, 7, 20, 40, 60, 1};
+    for (u32 position = 0; position < std::size(stage_of_position); ++position) {
+        EXPECT_EQ(RxStageOfPosition(stages, position), stage_of_position[position]);
+    }
+    constexpr std::pair<u32, u32> positions[] = {{0, 1},  {7, 1},  {19, 1}, {20, 2},
+                                                 {59, 3}, {60, 4}, {~0u, 4}};
+    for (const auto& [trigger, position] : positions) {
+        EXPECT_EQ(RxPositionOfTrigger(stages, trigger, true), position);
+        EXPECT_EQ(RxPositionOfTrigger(stages, trigger, false), 1u);
+    }
+}
+
 // --- Discovery ------------------------------------------------------------------------------------------
 
 // Two lines: what is listed in the order of enumeration, and what the walk visits, as "class:number".
@@ -236,9 +252,17 @@ TEST(BoardDiscovery, ARecordIsMadeFromTheStoreAndTheClassOfItsInterface) {
         EXPECT_EQ(std::memcmp(&chl->SavedInfo, &chl->CurrentInfo, sizeof chl->SavedInfo), 0);
         EXPECT_EQ(chl->CurrentInfo.BoardBasic.BoardIrq, BoardPlace().irq);
         EXPECT_EQ(chl->Fifo.RxFifo4Stage[0], chl->Class == ClassUart ? 1u : 0u);
-        EXPECT_TRUE(sim::ToUtf8(chl->DevicePath).starts_with("\\\\?\\KVR\\Channel"));
+        EXPECT_EQ(chl->DevicePath, machine.interfaces[6 - chl->Class].path);
         EXPECT_EQ(BoardChlByListIndex(&board.params, static_cast<u32>(-1)), nullptr);
     }
+    std::vector<std::string> memory = {"LocalAlloc 1024 bytes"};
+    for (const BPPCHL* chl = board.params.WalkFirst; chl != nullptr; chl = chl->WalkNext) {
+        const std::size_t path = 2 * sim::Text(chl->DevicePath).size() + 2;
+        memory.push_back("LocalAlloc " + std::to_string(sizeof *chl) + " bytes");
+        memory.push_back("LocalAlloc " + std::to_string(path) + " bytes"); // each path is as long
+    }
+    memory.emplace_back("LocalFree");
+    EXPECT_EQ(Journal(machine, {Reach::Memory}), memory);
     const ChannelInfo& uart = board.Channel(5)->CurrentInfo;
     EXPECT_EQ(sim::ToUtf8(uart.Uart.PortName), "COM7");
     EXPECT_EQ(board.Channel(4)->CurrentInfo.Dio.DioNrBank, 0u);
@@ -254,11 +278,16 @@ TEST(BoardDiscovery, AChannelIsKeptIfItCanBeReadAndBelongsToTheBoard) {
     const auto without = [](std::size_t device, const char16_t* name) {
         return [=](sim::Machine& machine) { machine.devices[device].key.Erase(name); };
     };
-    // The path of the UART's interface such that the detail needs so many bytes.
-    const auto path_of = [](std::size_t needed) {
+    const auto name_of = [](std::size_t bytes) {
+        return [=](sim::Machine& machine) {
+            machine.devices[1].key.Set(u"PortName", REG_SZ, Pattern(bytes, 0));
+        };
+    };
+    // The path of an interface such that the detail needs so many bytes.
+    const auto path_of = [](std::size_t needed, std::size_t place = 5) {
         return [=](sim::Machine& machine) {
             const std::size_t before = offsetof(SP_DEVICE_INTERFACE_DETAIL_DATA_W, DevicePath);
-            machine.interfaces.back().path = sim::Text((needed - before) / 2 - 1, u'p');
+            machine.interfaces[place].path = sim::Text((needed - before) / 2 - 1, u'p');
         };
     };
     const struct {
@@ -268,12 +297,15 @@ TEST(BoardDiscovery, AChannelIsKeptIfItCanBeReadAndBelongsToTheBoard) {
     } cases[] = {
         {"a path that needs 1024 bytes", path_of(1024), all_of_each},
         {"a path that needs 1026 bytes", path_of(1026), " 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
+        {"such a path before the UART's", path_of(1026, 0), all_of_each},
         {"another bus", number(1, u"BoardPciBusNumber", 4), " 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
         {"another IRQ", number(2, u"BoardIrq", 18), " 1:5 3:3 4:2 5:1 | 5:1 4:2 3:3 1:5"},
         {"no board in the key", without(3, u"BoardIrq"), " 1:5 2:4 4:2 5:1 | 5:1 4:2 2:4 1:5"},
         {"no channel version, which nothing uses", without(4, u"ChlVersion"),
          " 1:5 2:4 3:3 5:1 | 5:1 3:3 2:4 1:5"},
         {"no value of its class", without(5, u"KvrCanFifoRXMMax"), " 1:5 2:4 3:3 4:2 | 4:2 3:3 2:4 1:5"},
+        {"a port name that fills its field", name_of(128), all_of_each},
+        {"a port name beyond its field", name_of(130), " 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
         {"no port name", without(1, u"PortName"), " 2:4 3:3 4:2 5:1 | 5:1 4:2 3:3 2:4"},
         {"no access", [](auto& machine) { machine.devices[2].access_denied = true; },
          " 1:5 3:3 4:2 5:1 | 5:1 4:2 3:3 1:5"},
@@ -296,6 +328,36 @@ TEST(BoardDiscovery, AChannelIsKeptIfItCanBeReadAndBelongsToTheBoard) {
         EXPECT_TRUE(board.initiated) << each.what;
         EXPECT_EQ(Channels(board.params), each.channels) << each.what;
     }
+}
+
+TEST(BoardDiscovery, WhatIsTakenOutOfAListIsAListOfItsOwn) {
+    ChlListEntry head, one, two;
+    ChlListInit(&head);
+    ChlListInsertTail(&head, &one);
+    ChlListInsertTail(&head, &two);
+    ChlListRemove(&one);
+    EXPECT_TRUE(ChlListIsEmpty(&one) && one.Prev == &one);
+    EXPECT_TRUE(head.Next == &two && head.Prev == &two && two.Next == &head && two.Prev == &head);
+}
+
+TEST(BoardDiscovery, AnInterfaceFindsAClearBufferHoweverLarge) {
+    sim::Machine machine = OneOfEach();
+    machine.interfaces.back().path = sim::Text(520, u'p');
+    const AtWork at_work(machine);
+    OpenBoard board;
+    const GUID uart = InterfaceClass(ClassUart);
+    std::vector<BYTE> buffer(1100, 0xAA);
+    machine.faults.at_call = {{"SetupDiGetDeviceInterfaceDetailW", 0}};
+    BoardEnumClass(&board.params, buffer.data(), 1099, board.params.InterfaceSet[0], &uart, ClassUart);
+    EXPECT_EQ(std::ranges::count(buffer, 0), 1098);
+    EXPECT_EQ(buffer[0], sizeof(SP_DEVICE_INTERFACE_DETAIL_DATA_W));
+    EXPECT_EQ(buffer[1099], 0xAA);
+    machine.faults = {};
+    BoardEnumClass(&board.params, buffer.data(), 1099, board.params.InterfaceSet[0], &uart, ClassUart);
+    EXPECT_EQ(board.params.ChlCount, 4u); // the UART has no place in it all the same
+    BoardDeinitiate(&board.params);
+    EXPECT_EQ(board.params.WalkFirst, nullptr);
+    std::ranges::fill(board.params.InterfaceSet, INVALID_HANDLE_VALUE); // nothing to give back twice
 }
 
 TEST(BoardDiscovery, TheBoardsOwnValuesMustAllBeReadable) {

@@ -49,6 +49,8 @@ TEST(TextOperations, FormatGivesEveryConversionAndCutsAtTheCapacity) {
          "1FEC0ABCD"},
         {"the highest address just fits", 17, FORMAT(u"%I64X", ~u64{0}), TextDone, "FFFFFFFFFFFFFFFF"},
         {"a percent sign", room, FORMAT(u"100%%", 0), TextDone, "100%"},
+        {"the highest capacity", room,
+         [](WCHAR* to, u32) { return FormatText(to, TextMaxCapacity, u"%d", 0); }, TextDone, "0"},
         {"a value too few ends the text", room, FORMAT(u"a%db%d", 1), TextCut, "a1b"},
         {"a value too many is passed over", room, FORMAT(u"a%d", 1, 2), TextDone, "a1"},
         {"a text where a number is due is not read", room, FORMAT(u"a%d", u"5"), TextCut, "a"},
@@ -87,6 +89,8 @@ TEST(TextOperations, CopyAndAppendStayWithinTheCapacity) {
         {"append: one unit too long", appends, {u"ab\0", 3}, 6, u"cdef", TextCut, "abcde", 6},
         {"append: no text leaves the text", appends, {u"ab\0", 3}, 3, u"", TextDone, "ab", 3},
         {"append: to a full text", appends, {u"ab\0", 3}, 3, u"c", TextCut, "ab", 3},
+        {"copy: the highest capacity", copies, u"", TextMaxCapacity, u"abc", TextDone, "abc", 4},
+        {"append: the highest capacity", appends, {u"\0", 1}, TextMaxCapacity, u"abc", TextDone, "abc", 4},
         {"append: to the empty text", appends, {u"\0", 1}, 3, u"ab", TextDone, "ab", 3},
     };
     for (const auto& each : cases) {

@@ -93,6 +93,7 @@ TEST(UartPage, CombosHaveTheirItemsUnderAnySeparators) {
             string.text = string.id == IDS_PARITY_LIST      ? u";a,b;c;;d;e"
                           : string.id == IDS_STOP_BITS_LIST ? u"|1|1.5.0|2|"
                           : string.id == IDS_FLOW_CONTROL_LIST ? u"xaxbxc"
+                          : string.id == IDS_IN_USE_SUFFIX ? u"012345678901234567890123456789012345678"
                                                                : string.text;
         }
         return made_up;
@@ -118,6 +119,7 @@ TEST(UartPage, CombosHaveTheirItemsUnderAnySeparators) {
         sim::Machine machine = UartWithLine(u"9600,n,8,1.5");
         machine.language = one.language;
         machine.decimal_separator = one.decimal;
+        sim::SetClaimed(machine.port_usage, 4, true);
         const AtWork at_work(machine);
         const auto at_page = [&](HWND page) {
             EXPECT_EQ(Items(page, IDC_BAUD_RATE),
@@ -129,8 +131,14 @@ TEST(UartPage, CombosHaveTheirItemsUnderAnySeparators) {
             EXPECT_EQ(Shown(page, IDC_STOP_BITS), one.stop_bits[1]);
             EXPECT_EQ(Enabled(page), "5 advanced restore");
             Choose(page, IDC_FLOW_CONTROL, 0);
+            Do(page, "advanced");
         };
-        Open(Page::Port, port, {.at_page = at_page, .leaves_by = ok});
+        const auto at_dialog = [&](HWND dialog) { // a long suffix is cut
+            EXPECT_EQ(Items(dialog, IDC_PORT_NUMBER)[3], one.language == 1033
+                                                             ? "COM4 (in use)"
+                                                             : "COM401234567890123456789012345678901234");
+        };
+        Open(Page::Port, port, {.at_page = at_page, .at_dialog = at_dialog, .leaves_by = ok});
         EXPECT_EQ(Line(), "9600,n,8,1.5,x"); // whatever the display
     }
 }

@@ -13,8 +13,8 @@ constexpr u32 BoxCapacity = 512;
 
 enum class Box { OutOfMemory, Plain, Question, Notice };
 
-// The values that a text can print.
-enum Argument : u32 { Nothing, Oerr, Serr, Channel, FirstNumber, SecondNumber, ArgumentKinds };
+// The values that a text can print. Those behind the last that it prints are passed over.
+enum Argument : u32 { Oerr, Serr, Channel, FirstNumber, SecondNumber, ArgumentKinds };
 
 struct Failure {
     u32 oerr;
@@ -90,7 +90,7 @@ constexpr Failure Failures[] = {
 // clang-format on
 
 constexpr Failure UndefinedFailure = {
-    0, AnyStatus, Box::Plain, TEXT("Undefine error. [oerr:%d, serr:%d]"), {Oerr, Serr}};
+    {}, AnyStatus, Box::Plain, TEXT("Undefine error. [oerr:%d, serr:%d]"), {Oerr, Serr}};
 
 constexpr UINT ErrorStyle = MB_SYSTEMMODAL | MB_ICONHAND;
 
@@ -135,7 +135,7 @@ void ErrorBoxShow(u32 oerr, u32 serr, HWND parent, u32 channel, u32 firstNumber,
             ShowOutOfMemory(owner);
             break;
         case Box::Plain: {
-            const u32 values[ArgumentKinds] = {0, oerr, serr, channel, firstNumber, secondNumber};
+            const u32 values[ArgumentKinds] = {oerr, serr, channel, firstNumber, secondNumber};
             const Argument* arguments = failure.arguments;
             FormatText(text, BoxCapacity, failure.format, values[arguments[0]], values[arguments[1]],
                        values[arguments[2]], values[arguments[3]]);

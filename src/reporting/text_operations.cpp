@@ -45,13 +45,12 @@ void PutNumber(Output& output, u64 number, u32 base) {
 void PutValue(Output& output, const FormatArgument& argument) {
     switch (argument.kind) {
     case FormatArgument::Number32: {
-        const INT value = static_cast<INT>(argument.number);
+        LONG64 value = static_cast<INT>(argument.number);
         if (value < 0) {
             Put(output, TEXT('-'));
+            value = -value;
         }
-        PutNumber(output,
-                  value < 0 ? 0ull - static_cast<u64>(static_cast<LONG64>(value)) : static_cast<u64>(value),
-                  10);
+        PutNumber(output, static_cast<u64>(value), 10);
         break;
     }
     case FormatArgument::Number64:
