@@ -254,6 +254,7 @@ TEST(BoardDiscovery, ARecordIsMadeFromTheStoreAndTheClassOfItsInterface) {
         EXPECT_EQ(chl->Fifo.RxFifo4Stage[0], chl->Class == ClassUart ? 1u : 0u);
         EXPECT_EQ(chl->DevicePath, machine.interfaces[6 - chl->Class].path);
         EXPECT_EQ(BoardChlByListIndex(&board.params, static_cast<u32>(-1)), nullptr);
+        EXPECT_EQ(BoardChlByNumber(&board.params, 0), nullptr);
     }
     std::vector<std::string> memory = {"LocalAlloc 1024 bytes"};
     for (const BPPCHL* chl = board.params.WalkFirst; chl != nullptr; chl = chl->WalkNext) {

@@ -43,24 +43,19 @@ void PutNumber(Output& output, u64 number, u32 base) {
 }
 
 void PutValue(Output& output, const FormatArgument& argument) {
-    switch (argument.kind) {
-    case FormatArgument::Number32: {
+    if (argument.kind == FormatArgument::Number32) {
         LONG64 value = static_cast<INT>(argument.number);
         if (value < 0) {
             Put(output, TEXT('-'));
             value = -value;
         }
         PutNumber(output, static_cast<u64>(value), 10);
-        break;
-    }
-    case FormatArgument::Number64:
+    } else if (argument.kind == FormatArgument::Number64) {
         PutNumber(output, argument.number, 16);
-        break;
-    case FormatArgument::Text:
+    } else {
         for (const WCHAR* unit = argument.text; *unit != 0; ++unit) {
             Put(output, *unit);
         }
-        break;
     }
 }
 
