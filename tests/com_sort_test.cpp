@@ -203,9 +203,9 @@ TEST(ComSort, ABoardThatBreaksTheAssumptionsEndsWithoutHarm) {
             names += sim::ToUtf8(PlacesOf(machine, device).port_name) + ' ';
         }
         EXPECT_EQ(names, each.names);
+        BPPCHL of_no_board = {};
+        EXPECT_FALSE(_SortCOMClicked(nullptr, nullptr) || _SortCOMClicked(nullptr, &of_no_board));
     }
-    BPPCHL of_no_board = {};
-    EXPECT_FALSE(_SortCOMClicked(nullptr, nullptr) || _SortCOMClicked(nullptr, &of_no_board));
 }
 
 TEST(ComSort, PromisedChannelsCostNothingAndThoseBeyondTheNumbersDoNoHarm) {
