@@ -289,13 +289,13 @@ TEST(ComSort, EachOperationMayFailOnce) {
     Check(1, 0, SurvivesEachFailure);
 }
 TEST(ComSortAtRandom, SmallMachines) {
-    Check(IsLongRun() ? 9500 : 200, 20, SortsAnyMachine);
+    Check(IsLongRun() ? 9500 : 150, 20, SortsAnyMachine);
 }
 TEST(ComSortAtRandom, LargeMachines) {
     Check(IsLongRun() ? 700 : 10, 100, SortsAnyMachine);
 }
 TEST(ComSortAtRandom, OneOrTwoOperationsFail) {
-    Check(IsLongRun() ? 9500 : 200, 30, SurvivesOneOrTwoFailures);
+    Check(IsLongRun() ? 9500 : 100, 30, SurvivesOneOrTwoFailures);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
-// Sort UART: the exchanges it makes, what a failure leaves, and boards that break its assumptions.
+// Sort UART: the exchanges it makes, what a failure leaves, and boards of all kinds, also such as break its
+// assumptions.
 #include <algorithm>
 #include <functional>
 
@@ -89,6 +90,8 @@ TEST(ComSort, MakesTheExchangesInThisOrderAndAsksNoPortInItsPlace) {
         const auto first_enabled = std::ranges::find_if(machine.journal, [](const auto& entry) {
             return entry.name == "EnableWindow" && entry.detail == "1 on";
         });
+        EXPECT_EQ(first_enabled == machine.journal.end(), each.moves.empty());
+        EXPECT_EQ(Journal(machine, {sim::Reach::Memory})[0], "LocalAlloc 2048 bytes");
         EXPECT_EQ(std::count_if(first_enabled, machine.journal.end(),
                                 [](const auto& entry) { return entry.name == "LocalFree"; }),
                   0); // the table is gone before the buttons come back
@@ -105,6 +108,10 @@ TEST(ComSort, MakesTheExchangesInThisOrderAndAsksNoPortInItsPlace) {
     }
 }
 
+Change Opened(std::size_t device) {
+    return [=](sim::Machine& machine) { machine.devices[device].key.SetDword(u"ChlOpened", 1); };
+}
+
 // With channels 1 to 4 on 7, 5, 8 and 6.
 TEST(ComSort, AFailureLeavesWhatTheMovesBeforeItDid) {
     const auto nth = [](const char* operation, std::size_t call) {
@@ -112,9 +119,6 @@ TEST(ComSort, AFailureLeavesWhatTheMovesBeforeItDid) {
     };
     // The n-th rename finds the old DOS name gone on the second look.
     const auto rename = [=](std::size_t n) { return nth("QueryDosDeviceW", 2 * n); };
-    const auto opened = [](std::size_t device) {
-        return [=](sim::Machine& machine) { machine.devices[device].key.SetDword(u"ChlOpened", 1); };
-    };
     const struct {
         Change change;
         std::string box;
@@ -124,8 +128,8 @@ TEST(ComSort, AFailureLeavesWhatTheMovesBeforeItDid) {
         {nth("ComDBOpen", 1), "Get COM port max number available failure. [serr:200]"},
         {[](auto& machine) { machine.port_usage.fill(0xFF); },
          "Get COM port max number available failure. [serr:203]"},
-        {opened(3), "COM8 has been opened by another application. Close and try again."},
-        {opened(2), "COM5 has been opened by another application. Close and try again."},
+        {Opened(3), "COM8 has been opened by another application. Close and try again."},
+        {Opened(2), "COM5 has been opened by another application. Close and try again."},
         {nth("RegQueryValueExW", 4), "COM6 check opened failure. [serr:101]"},
         {rename(1), "KVR channle(2), COM5 remap to temporary COM256 failure. [serr:300]"},
         {rename(2), "KVR channle(1), COM7 remap to COM5 failure. [serr:300]", {7, 256, 8, 6}},
@@ -168,9 +172,13 @@ TEST(ComSort, AFailureLeavesWhatTheMovesBeforeItDid) {
     }
 }
 
-TEST(ComSort, ABoardThatBreaksTheAssumptionsEndsWithoutHarm) {
+TEST(ComSort, TakesABoardAsItFindsIt) {
     const auto name = [](std::size_t device, const char16_t* text) {
         return [=](sim::Machine& machine) { machine.devices[device].key.SetText(u"PortName", text); };
+    };
+    const auto no_uart_first = [](sim::Machine& machine) {
+        AddChannel(machine, {}, ClassDio, 1);
+        machine.devices[1].key.SetDword(u"ChlNumber", 4);
     };
     const auto unclaimed = [](sim::Machine& machine) { machine.port_usage = {}; };
     const auto unwalked = [](sim::Machine& machine) { machine.devices[1].key.SetDword(u"ChlNumber", 2); };
@@ -180,6 +188,9 @@ TEST(ComSort, ABoardThatBreaksTheAssumptionsEndsWithoutHarm) {
         Change change;
         const char* names;
     } cases[] = {
+        {"an open port behind one that stays", {1, 9, 5}, Opened(3), "COM1 COM9 COM5 "},
+        {"an open port that stays", {1, 9, 5}, Opened(1), "COM1 COM5 COM9 "},
+        {"a channel in front that is no UART", {9, 5, 3}, no_uart_first, "COM9 COM3 COM5 "},
         {"two UARTs on one number", {9, 5, 5, 3}, [](auto&) {}, "COM3 COM5 COM5 COM9 "},
         {"all UARTs on one number", {5, 5, 5}, [](auto&) {}, "COM5 COM5 COM5 "},
         {"a name without digits takes no part", {9, 5, 3}, name(2, u"COM"), "COM3 COM COM9 "},
