@@ -148,7 +148,7 @@ void SweepPairs(Page page, std::size_t device, const User& user, const std::stri
         };
         Survive(page, device, user, {}, once_more, fails);
         const std::size_t operations = count;
-        const std::size_t wanted = IsLongRun() ? 20000 : 60;
+        const std::size_t wanted = IsLongRun() ? 10000 : 60;
         for (met = 0; met < wanted && !testing::Test::HasFailure(); count = 0) {
             first = 1 + random() % operations;
             second = first + 1 + random() % (random() % 2 ? 20 : 500);
