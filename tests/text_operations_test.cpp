@@ -138,8 +138,8 @@ TEST(TextOperations, NumbersAreReadFromLeadingDigitsOnly) {
         {u" 5", 0},      {u"-5", 0},    {u"+5", 0},  {u"x5", 0},        {u"4294967296", 0},
         {u"5\u0665", 5}, {u"5/", 5},    {u"5:", 5},  {u"4294967301", 5}};
     const std::initializer_list<std::pair<const WCHAR*, u32>> names = {
-        {u"COM5", 5}, {u"COM256", 256}, {u"LPT7", 7}, {u"COM", 0},
-        {u"CO", 0},   {u"", 0},         {u"COMx", 0}, {u"COM 5", 0}};
+        {u"COM5", 5},     {u"COM256", 256}, {u"LPT7", 7}, {u"COM", 0},
+        {u"CO\0\x37", 0}, {u"\0OM7", 0},    {u"COMx", 0}, {u"COM 5", 0}};
     for (const auto& [text, number] : decimals) {
         EXPECT_EQ(ParseDecimal(text), number) << sim::ToUtf8(text);
     }
