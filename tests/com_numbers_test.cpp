@@ -53,13 +53,12 @@ TEST(ComPortDatabase, NumbersAreBitsAndTheHighestFreeOneWins) {
 
 // --- The rename -----------------------------------------------------------------------------------------
 
-// A user's rename of a UART from COM5 to COM7, who may or may not take a number that is claimed.
-bool RenameFrom5To7(bool may_take = false) {
+// A user's rename of a UART from COM5 to COM7, who may not take a number that is claimed.
+bool RenameFrom5To7() {
     OpenDevice device(port);
     WCHAR saved[StoreTextCapacity] = u"COM5";
     WCHAR current[StoreTextCapacity] = u"COM5";
-    const RenameTerms terms = {may_take ? FailurePortNumberInUse : FailureBoardNumberInUse, FailurePortOpened,
-                               FailurePortRemap, may_take};
+    constexpr RenameTerms terms = {FailurePortNumberInUse, FailurePortOpened, FailurePortRemap, false};
     const bool renamed = RenamePortForUser(
         nullptr, terms, {device.set, &device.data, 5, 7, saved, current, saved, StoreTextCapacity, nullptr});
     EXPECT_EQ(sim::ToUtf8(current), renamed ? "COM7" : "COM5");
@@ -324,25 +323,6 @@ TEST(PortRename, ADosNameThatStayedIsNotDefinedAgain) {
     EXPECT_FALSE(RenameFrom5To7());
     EXPECT_EQ(State(machine), untouched);
     EXPECT_EQ(Count(machine, "DefineDosDeviceW"), 2u);
-}
-
-TEST(PortRename, TracesTheAnswersOfAUserWhoIsAsked) {
-    for (const bool may_take : {false, true}) {
-        for (const bool claimed : {false, true}) {
-            sim::Machine machine = BoardOn({5, 6});
-            machine.devices[port].key.SetDword(u"ChlOpened", 1);
-            sim::SetClaimed(machine.port_usage, 7, claimed);
-            const AtWork at_work(machine);
-            std::string answers;
-            machine.trace = [&, read = machine.trace](std::string_view line) {
-                read(line);
-                const std::size_t at = line.find(", nUserDialogChoice");
-                answers += at != line.npos ? line.substr(at - 1, 1) : "";
-            };
-            EXPECT_FALSE(RenameFrom5To7(may_take));
-            EXPECT_EQ(answers, !may_take ? "" : claimed ? "12" : "2");
-        }
-    }
 }
 
 // --- What stands around it ------------------------------------------------------------------------------

@@ -44,16 +44,10 @@ std::optional<std::set<std::string>> Survive(Page page, std::size_t device, cons
     machine.faults.at = at;
     machine.faults.when = when;
     std::set<HWND> windows;
-    User seen = user;
-    seen.at_page = [&](HWND sheets_page) {
-        windows.insert(sheets_page);
-        user.at_page(sheets_page);
+    const auto noted = [&](const std::function<void(HWND)>& act) {
+        return [&windows, act](HWND window) { windows.insert(window), act(window); };
     };
-    seen.at_dialog = [&](HWND dialog) {
-        windows.insert(dialog);
-        user.at_dialog(dialog);
-    };
-    Open(page, device, seen);
+    Open(page, device, {noted(user.at_page), noted(user.at_dialog), user.leaves_by, user.answers});
     if (machine.faults.hits < at.size()) {
         return {};
     }
@@ -96,31 +90,21 @@ std::set<std::string> Sweep(Page page, std::size_t device, const User& user) {
     return shapes;
 }
 
-constexpr u32 numbers[] = {7, 5}; // of the two UARTs
-constexpr u32 wanted_number = 20; // for one of them
-
-// In how many places a port is not as on a number, be it its own or the wanted one.
+// In how many places a port is not as on a number.
 int PlacesOff(sim::Machine& machine, std::size_t device, u32 number) {
-    const u32 own = numbers[device - 1];
-    const Places are = PlacesOf(machine, device);
-    const Places wanted = PlacesAt(machine, device, number);
-    const bool claimed_too = number != own && sim::IsClaimed(machine.port_usage, own);
-    const bool has_line_too = number != own && !Line(machine, own).empty();
+    const Places are = PlacesOf(machine, device), wanted = PlacesAt(machine, device, number);
     return (are.port_name != wanted.port_name) + (are.friendly_name != wanted.friendly_name) +
            (are.dos_name != wanted.dos_name) + (are.serial_map != wanted.serial_map) +
-           (claimed_too || !sim::IsClaimed(machine.port_usage, number)) +
-           (has_line_too || Line(machine, number).empty());
+           !sim::IsClaimed(machine.port_usage, number) + Line(machine, number).empty();
 }
 
 // A failed write leaves those before it, and of a rename a failure its own place at most.
 void ExpectWhatTwoFailuresLeave(sim::Machine& machine) {
-    for (const std::size_t device : {1, 2}) {
+    for (const auto& [device, number] : {std::pair(1u, 7u), std::pair(2u, 5u)}) {
         const std::string fifo = StoredFifo(device), mode = StoredMode(device);
         EXPECT_TRUE(fifo == "1 128 112" || fifo == "1 50 112" || fifo == "1 50 32") << fifo;
         EXPECT_TRUE(mode == "100000" || mode == "400000" || mode == "410000") << mode;
-        EXPECT_LE(std::min(PlacesOff(machine, device, numbers[device - 1]),
-                           PlacesOff(machine, device, wanted_number)),
-                  2);
+        EXPECT_LE(std::min(PlacesOff(machine, device, number), PlacesOff(machine, device, 20)), 2);
     }
 }
 

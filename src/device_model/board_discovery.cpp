@@ -201,7 +201,6 @@ void BoardDeinitiate(BoardParams* board) {
         LocalFree(chl);
         --board->ChlCount;
     }
-    board->WalkFirst = nullptr;
     for (const HDEVINFO set : board->InterfaceSet) {
         SetupDiDestroyDeviceInfoList(set);
     }
