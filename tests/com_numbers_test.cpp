@@ -78,24 +78,26 @@ TEST(PortRename, TouchesTheOutsideInThisOrder) {
         // The port is closed.
         "SetupDiOpenDevRegKey " + device, "RegQueryValueExW " + device + " ChlOpened", "RegCloseKey",
         // The rename.
-        "SetupDiOpenDevRegKey " + device, "ComDBOpen", "QueryDosDeviceW COM5", "QueryDosDeviceW COM5",
-        "DefineDosDeviceW remove COM5", "DefineDosDeviceW COM7 -> \\Device\\Serial1",
+        "LocalAlloc 696 bytes", "SetupDiOpenDevRegKey " + device, "ComDBOpen", "QueryDosDeviceW COM5",
+        "QueryDosDeviceW COM5", "DefineDosDeviceW remove COM5", "DefineDosDeviceW COM7 -> \\Device\\Serial1",
         "RegOpenKeyExW Hardware\\DeviceMap\\SerialComm", "RegEnumValueW SERIALCOMM 0",
         "RegSetValueExW SERIALCOMM \\Device\\Serial1 = \"COM7\"", "RegCloseKey", "ComDBReleasePort 5",
         "ComDBClaimPort 7 force", "SetupDiGetDeviceRegistryPropertyW " + device + " description",
         "SetupDiSetDeviceRegistryPropertyW " + device + " friendly name = \"Board channel (COM7)\"",
-        "RegSetValueExW " + device + " PortName = \"COM7\"", "ComDBClose", "RegCloseKey",
+        "RegSetValueExW " + device + " PortName = \"COM7\"", "ComDBClose", "RegCloseKey", "LocalFree",
         // The device is told.
         "SetupDiGetDeviceInstallParamsW " + device,
         "SetupDiSetDeviceInstallParamsW " + device + " flags 0x00004010",
         "SetupDiSetClassInstallParamsW " + device + " DIF_PROPERTYCHANGE",
         "SetupDiCallClassInstaller " + device + " DIF_PROPERTYCHANGE",
         // The settings move.
+        "LocalAlloc 12 bytes", "LocalAlloc 12 bytes",
         "GetProfileStringW [Ports] COM5:", "WriteProfileStringW [Ports] COM7: = \"1201,e,7,1\"",
         "SendNotifyMessageW WM_WININICHANGE \"Ports\"", "WriteProfileStringW [Ports] COM5: deleted",
+        "LocalFree", "LocalFree",
         // The test's own set.
         "SetupDiDestroyDeviceInfoList"};
-    EXPECT_EQ(Journal(machine, {Reach::Read, Reach::Write}), expected);
+    EXPECT_EQ(Journal(machine, {Reach::Memory, Reach::Read, Reach::Write}), expected);
     EXPECT_EQ(PlacesOf(machine, port), PlacesAt(machine, port, 7));
     EXPECT_EQ(PlacesOf(machine, 2), PlacesAt(machine, 2, 6));
 }
@@ -266,6 +268,9 @@ TEST(PortRename, TakesTheMachineAsItFindsIt) {
     const auto description = [](const std::optional<sim::Text>& text) {
         return [=](sim::Machine& machine) { machine.devices[port].description = text; };
     };
+    const auto database = [](HCOMDB handle) {
+        return [=](sim::Machine& machine) { machine.faults.databases = {{2, handle}}; };
+    };
     const std::string a71(71, 'a'), a80(80, 'a');
     const auto wide = [](std::size_t count) { return sim::Text(count, u'a'); };
     const struct {
@@ -290,6 +295,8 @@ TEST(PortRename, TakesTheMachineAsItFindsIt) {
          "7 | (7) | 7 | 5 | 7 | 7"},
         {"a text in the map without terminator",
          [](auto& machine) { machine.serial_map.list[0].data.resize(8); }, renamed},
+        {"a database of no handle", database(nullptr), "7 | (7) | 7 | 7 | 5 | 7"},
+        {"a database of no valid handle", database(HCOMDB_INVALID_HANDLE_VALUE), "7 | (7) | 7 | 7 | 5 | 7"},
         {"no description", description(std::nullopt), "7 | 7 | 7 | 7 | 7 | 7"},
         {"an empty description", description(u""), "7 |  (7) | 7 | 7 | 7 | 7"},
         {"a description with just enough room", description(wide(71)), "7 | " + a71 + " (7) | 7 | 7 | 7 | 7"},

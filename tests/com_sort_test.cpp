@@ -1,4 +1,5 @@
-// Sort UART: the exchanges it makes, what a failure leaves, and boards that break its assumptions.
+// Sort UART: the exchanges it makes, what a failure leaves, and boards of all kinds, also such as break its
+// assumptions.
 #include <algorithm>
 #include <functional>
 
@@ -25,18 +26,27 @@ Numbers NumbersOf(sim::Machine& machine, std::size_t uarts) {
     return numbers;
 }
 
-// Opens the Advanced Port Control dialog for a channel, clicks Sort UART and closes it with Cancel, and any
-// box with OK.
-void SortInDialog(sim::Machine& machine, BPPCHL* channel) {
-    machine.user = [](HWND front) {
+struct Dialog {
+    HWND window, button;
+};
+
+// Opens the Advanced Port Control dialog for a channel, clicks Sort UART, which keeps the focus, and closes it
+// with Cancel, and any box with OK.
+Dialog SortInDialog(sim::Machine& machine, BPPCHL* channel) {
+    Dialog dialog = {};
+    machine.user = [&](HWND front) {
         if (sim::BoxStyle(front) != 0) {
             SendMessageW(front, WM_COMMAND, IDOK, 0);
         } else {
+            dialog = {front, GetDlgItem(front, IDC_SORT_COM)};
+            SetFocus(dialog.button);
             SendMessageW(front, WM_COMMAND, IDC_SORT_COM, 0);
+            EXPECT_EQ(GetFocus(), dialog.button);
             SendMessageW(front, WM_COMMAND, IDCANCEL, 0);
         }
     };
     KvrBoardUartAdvancedDlgShow(nullptr, channel);
+    return dialog;
 }
 
 // The moves in the journal, as "5->256".
@@ -80,6 +90,8 @@ TEST(ComSort, MakesTheExchangesInThisOrderAndChecksOnlyPortsThatMove) {
         const auto first_enabled = std::ranges::find_if(machine.journal, [](const auto& entry) {
             return entry.name == "EnableWindow" && entry.detail == "1 on";
         });
+        EXPECT_EQ(first_enabled == machine.journal.end(), each.moves.empty());
+        EXPECT_EQ(Journal(machine, {sim::Reach::Memory})[0], "LocalAlloc 2048 bytes");
         EXPECT_EQ(std::count_if(first_enabled, machine.journal.end(),
                                 [](const auto& entry) { return entry.name == "LocalFree"; }),
                   0); // the table is gone before the buttons come back
@@ -96,16 +108,17 @@ TEST(ComSort, MakesTheExchangesInThisOrderAndChecksOnlyPortsThatMove) {
     }
 }
 
-// The channels 1 to 4 are on 7, 5, 8 and 6.
+Change Opened(std::size_t device) {
+    return [=](sim::Machine& machine) { machine.devices[device].key.SetDword(u"ChlOpened", 1); };
+}
+
+// With channels 1 to 4 on 7, 5, 8 and 6.
 TEST(ComSort, AFailureKeepsTheMovesBeforeIt) {
     const auto nth = [](const char* operation, std::size_t call) {
         return [=](sim::Machine& machine) { machine.faults.at_call = {{operation, call}}; };
     };
     // At the second look the n-th rename finds that the old DOS name is gone.
     const auto rename = [=](std::size_t n) { return nth("QueryDosDeviceW", 2 * n); };
-    const auto opened = [](std::size_t device) {
-        return [=](sim::Machine& machine) { machine.devices[device].key.SetDword(u"ChlOpened", 1); };
-    };
     const struct {
         Change change;
         std::string box;
@@ -115,8 +128,8 @@ TEST(ComSort, AFailureKeepsTheMovesBeforeIt) {
         {nth("ComDBOpen", 1), "Get COM port max number available failure. [serr:200]"},
         {[](auto& machine) { machine.port_usage.fill(0xFF); },
          "Get COM port max number available failure. [serr:203]"},
-        {opened(3), "COM8 has been opened by another application. Close and try again."},
-        {opened(2), "COM5 has been opened by another application. Close and try again."},
+        {Opened(3), "COM8 has been opened by another application. Close and try again."},
+        {Opened(2), "COM5 has been opened by another application. Close and try again."},
         {nth("RegQueryValueExW", 4), "COM6 check opened failure. [serr:101]"},
         {rename(1), "KVR channle(2), COM5 remap to temporary COM256 failure. [serr:300]"},
         {rename(2), "KVR channle(1), COM7 remap to COM5 failure. [serr:300]", {7, 256, 8, 6}},
@@ -131,9 +144,10 @@ TEST(ComSort, AFailureKeepsTheMovesBeforeIt) {
         const OpenBoard board;
         Forget(machine);
         each.change(machine);
-        SortInDialog(machine, board.Channel(3));
+        const Dialog dialog = SortInDialog(machine, board.Channel(3));
         EXPECT_EQ(NumbersOf(machine, 4), each.after);
         ASSERT_EQ(machine.boxes.size(), 1u);
+        EXPECT_EQ(machine.boxes[0].owner, each.box == no_memory ? dialog.button : dialog.window);
         EXPECT_EQ(sim::ToUtf8(machine.boxes[0].text), each.box);
         EXPECT_EQ(board.params.ChlListChanged, each.box != no_memory);
         std::vector<std::string> buttons;
@@ -158,9 +172,13 @@ TEST(ComSort, AFailureKeepsTheMovesBeforeIt) {
     }
 }
 
-TEST(ComSort, ABoardThatBreaksTheAssumptionsEndsWithoutHarm) {
+TEST(ComSort, TakesABoardAsItFindsIt) {
     const auto name = [](std::size_t device, const char16_t* text) {
         return [=](sim::Machine& machine) { machine.devices[device].key.SetText(u"PortName", text); };
+    };
+    const auto no_uart_first = [](sim::Machine& machine) {
+        AddChannel(machine, {}, ClassDio, 1);
+        machine.devices[1].key.SetDword(u"ChlNumber", 4);
     };
     const auto unclaimed = [](sim::Machine& machine) { machine.port_usage = {}; };
     const auto unwalked = [](sim::Machine& machine) { machine.devices[1].key.SetDword(u"ChlNumber", 2); };
@@ -170,6 +188,9 @@ TEST(ComSort, ABoardThatBreaksTheAssumptionsEndsWithoutHarm) {
         Change change;
         const char* names;
     } cases[] = {
+        {"an open port behind one that stays", {1, 9, 5}, Opened(3), "COM1 COM9 COM5 "},
+        {"an open port that stays", {1, 9, 5}, Opened(1), "COM1 COM5 COM9 "},
+        {"a channel in front that is no UART", {9, 5, 3}, no_uart_first, "COM9 COM3 COM5 "},
         {"two UARTs on one number", {9, 5, 5, 3}, [](auto&) {}, "COM3 COM5 COM5 COM9 "},
         {"all UARTs on one number", {5, 5, 5}, [](auto&) {}, "COM5 COM5 COM5 "},
         {"a name without digits takes no part", {9, 5, 3}, name(2, u"COM"), "COM3 COM COM9 "},
@@ -193,7 +214,8 @@ TEST(ComSort, ABoardThatBreaksTheAssumptionsEndsWithoutHarm) {
             names += sim::ToUtf8(PlacesOf(machine, device).port_name) + ' ';
         }
         EXPECT_EQ(names, each.names);
-        EXPECT_FALSE(_SortCOMClicked(nullptr, nullptr));
+        BPPCHL of_no_board = {};
+        EXPECT_FALSE(_SortCOMClicked(nullptr, nullptr) || _SortCOMClicked(nullptr, &of_no_board));
     }
 }
 
@@ -215,6 +237,7 @@ TEST(ComSort, PromisedChannelsCostNothingAndThoseBeyondTheNumbersDoNoHarm) {
     sim::SetClaimed(machine.port_usage, 200, false);
     const AtWork at_work(machine);
     machine.journal_reads = false;
+    machine.trace = nullptr; // its lines are those of every sort
     const OpenBoard board;
     EXPECT_EQ(board.params.ChlCount, 300u);
     _SortCOMClicked(nullptr, board.Channel(300));

@@ -1,4 +1,5 @@
-// Every failure code with its box, and the boxes without memory or strings.
+// Every failure code with its box, the boxes without memory or strings, and what is loaded for them at
+// attach.
 #include <functional>
 
 #include "reporting/error_reporter.h"
@@ -135,7 +136,10 @@ TEST(ErrorReporter, ABoxThatCantBeShownAndACallerWithoutInterestDoNoHarm) {
     sim::Machine machine;
     const AtWork at_work(machine);
     ErrorBoxShow(204, 3, nullptr, 0, 0, 0, nullptr);
-    EXPECT_FALSE(machine.boxes.front().owned);
+    EXPECT_EQ(machine.boxes.front().owner, nullptr);
+    EXPECT_EQ(Journal(machine, {sim::Reach::Memory}),
+              (std::vector<std::string>{"LocalAlloc 1024 bytes", "LocalAlloc 1024 bytes", "LocalFree",
+                                        "LocalFree"}));
     machine.faults.at_call = {{"MessageBoxW", 0}};
     u32 choice = IDYES;
     ErrorBoxShow(303, 202, nullptr, 0, 0, 0, &choice);
@@ -143,6 +147,19 @@ TEST(ErrorReporter, ABoxThatCantBeShownAndACallerWithoutInterestDoNoHarm) {
     choice = IDYES;
     ErrorBoxShow(203, 202, nullptr, 0, 0, 0, &choice);
     EXPECT_NE(choice, static_cast<u32>(IDYES));
+}
+
+TEST(ModuleEntry, LoadsWhatItNeedsAtAttachAndIsContentWithAnyReason) {
+    sim::Machine machine;
+    const AtWork at_work(machine);
+    for (const DWORD reason : {DLL_PROCESS_ATTACH, DLL_PROCESS_DETACH, 2, 3, 77}) {
+        Forget(machine);
+        EXPECT_TRUE(DllMain(sim::LibraryInstance(), reason, nullptr));
+        const std::vector<std::string> loaded = {"DisableThreadLibraryCalls", "LoadStringW 0",
+                                                 "LoadStringW 1"};
+        EXPECT_EQ(Journal(machine, {sim::Reach::Memory, sim::Reach::Screen}),
+                  reason == DLL_PROCESS_ATTACH ? loaded : std::vector<std::string>());
+    }
 }
 
 } // namespace

@@ -240,6 +240,7 @@ OpenBoard::OpenBoard(std::size_t index) : device(index) {
     params.DeviceInfoSet = device.set;
     params.DeviceInfoData = &device.data;
     std::ranges::fill(params.InterfaceSet, INVALID_HANDLE_VALUE);
+    params.ChlCount = 1; // counted anew
     initiated = BoardInitiate(&params, &status);
 }
 

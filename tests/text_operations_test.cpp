@@ -49,6 +49,8 @@ TEST(TextOperations, FormatGivesEveryConversionAndCutsAtTheCapacity) {
          "1FEC0ABCD"},
         {"the highest address just fits", 17, FORMAT(u"%I64X", ~u64{0}), TextDone, "FFFFFFFFFFFFFFFF"},
         {"a percent sign", room, FORMAT(u"100%%", 0), TextDone, "100%"},
+        {"the highest capacity", room,
+         [](WCHAR* to, u32) { return FormatText(to, TextMaxCapacity, u"%d", 0); }, TextDone, "0"},
         {"a value too few ends the text", room, FORMAT(u"a%db%d", 1), TextCut, "a1b"},
         {"a value too many is passed over", room, FORMAT(u"a%d", 1, 2), TextDone, "a1"},
         {"a text where a number is due is not read", room, FORMAT(u"a%d", u"5"), TextCut, "a"},
@@ -87,6 +89,8 @@ TEST(TextOperations, CopyAndAppendStayWithinTheCapacity) {
         {"append: one unit too long", appends, {u"ab\0", 3}, 6, u"cdef", TextCut, "abcde", 6},
         {"append: no text leaves the text", appends, {u"ab\0", 3}, 3, u"", TextDone, "ab", 3},
         {"append: to a full text", appends, {u"ab\0", 3}, 3, u"c", TextCut, "ab", 3},
+        {"copy: the highest capacity", copies, u"", TextMaxCapacity, u"abc", TextDone, "abc", 4},
+        {"append: the highest capacity", appends, {u"\0", 1}, TextMaxCapacity, u"abc", TextDone, "abc", 4},
         {"append: to the empty text", appends, {u"\0", 1}, 3, u"ab", TextDone, "ab", 3},
     };
     for (const auto& each : cases) {
@@ -134,8 +138,8 @@ TEST(TextOperations, NumbersAreReadFromLeadingDigitsOnly) {
         {u" 5", 0},      {u"-5", 0},    {u"+5", 0},  {u"x5", 0},        {u"4294967296", 0},
         {u"5\u0665", 5}, {u"5/", 5},    {u"5:", 5},  {u"4294967301", 5}};
     const std::initializer_list<std::pair<const WCHAR*, u32>> names = {
-        {u"COM5", 5}, {u"COM256", 256}, {u"LPT7", 7}, {u"COM", 0},
-        {u"CO", 0},   {u"", 0},         {u"COMx", 0}, {u"COM 5", 0}};
+        {u"COM5", 5},     {u"COM256", 256}, {u"LPT7", 7}, {u"COM", 0},
+        {u"CO\0\x37", 0}, {u"\0OM7", 0},    {u"COMx", 0}, {u"COM 5", 0}};
     for (const auto& [text, number] : decimals) {
         EXPECT_EQ(ParseDecimal(text), number) << sim::ToUtf8(text);
     }

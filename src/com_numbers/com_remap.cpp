@@ -8,7 +8,7 @@
 namespace {
 
 constexpr u32 RemapTextCapacity = 81;
-constexpr u32 DescriptionBytes = 512;
+constexpr u32 DescriptionCapacity = 256;
 
 // The record of one rename. It exists only while the rename runs.
 struct Remap {
@@ -101,10 +101,10 @@ void RenameInDatabase(Remap* remap) {
 
 void WriteFriendlyName(Remap* remap) {
     // One unit more than is asked for, so that a description without its terminator gets one.
-    WCHAR description[DescriptionBytes / sizeof(WCHAR) + 1] = {};
+    WCHAR description[DescriptionCapacity + 1] = {};
     if (SetupDiGetDeviceRegistryPropertyW(remap->DeviceInfoSet, remap->DeviceInfoData, SPDRP_DEVICEDESC,
-                                          nullptr, reinterpret_cast<BYTE*>(description), DescriptionBytes,
-                                          nullptr) == 1) {
+                                          nullptr, reinterpret_cast<BYTE*>(description),
+                                          DescriptionCapacity * sizeof(WCHAR), nullptr) == 1) {
         FormatText(remap->Buffer1, RemapTextCapacity, TEXT("%ws (%ws)"), description, remap->NewComName);
     } else {
         CopyText(remap->Buffer1, RemapTextCapacity, remap->NewComName);
@@ -143,20 +143,18 @@ u32 RenameEverywhere(Remap* remap) {
 
 u32 _EnactComNameChanges(Remap* remap) {
     TraceOut("----> %s( )\n", __func__);
-    u32 sStatus = 0;
+    u32 sStatus = StatusNoKey;
     remap->DeviceKey = OpenDeviceKey(remap->DeviceInfoSet, remap->DeviceInfoData);
-    if (remap->DeviceKey == INVALID_HANDLE_VALUE) {
-        sStatus = StatusNoKey;
-    } else if (ComDBOpen(&remap->ComDbHandle) != ERROR_SUCCESS) {
-        TraceOut("%s - ComDBOpen fail, GetLastError():%d\n", __func__, GetLastError());
-        sStatus = StatusNoDatabase;
-    } else {
-        sStatus = RenameEverywhere(remap);
-    }
-    if (remap->ComDbHandle != nullptr) {
-        ComDBClose(remap->ComDbHandle);
-    }
     if (remap->DeviceKey != INVALID_HANDLE_VALUE) {
+        if (ComDBOpen(&remap->ComDbHandle) == ERROR_SUCCESS) {
+            sStatus = RenameEverywhere(remap);
+        } else {
+            TraceOut("%s - ComDBOpen fail, GetLastError():%d\n", __func__, GetLastError());
+            sStatus = StatusNoDatabase;
+        }
+        if (remap->ComDbHandle != nullptr) {
+            ComDBClose(remap->ComDbHandle);
+        }
         RegCloseKey(remap->DeviceKey);
     }
     TraceOut("<---- %s, sStatus:%d\n", __func__, sStatus);

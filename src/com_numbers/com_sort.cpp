@@ -85,8 +85,8 @@ void SortComColumn(SortPairTable* table, u32 count) {
 
 void AssignNewNumbers(BoardParams* board, const SortPairTable* table, u32 count) {
     u32 next = 0;
-    for (BPPCHL* chl = board->WalkFirst; chl != nullptr && next < count; chl = chl->WalkNext) {
-        if (chl->CurrentInfo.ChlBasic.ChlNumber == table->pairs[next].channel) {
+    for (BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
+        if (next < count && chl->CurrentInfo.ChlBasic.ChlNumber == table->pairs[next].channel) {
             chl->SortNewCom = table->pairs[next++].com;
         }
     }
@@ -140,8 +140,8 @@ void EnableSortButtons(HWND dialog, BOOL enable) {
     }
 }
 
-// The port that holds the number which the channel wants, or null. If several hold it, the last in the order
-// of the walk.
+// The port that holds the number which the channel wants. There is one, because the numbers are exchanged and
+// stay the same. If several hold it, the last in the order of the walk.
 BPPCHL* FindPartner(BoardParams* board, const BPPCHL* chl) {
     BPPCHL* partner = nullptr;
     for (BPPCHL* other = board->WalkFirst; other != nullptr; other = other->WalkNext) {
@@ -206,11 +206,7 @@ bool ExchangePorts(HWND dialog, BPPCHL* chl, BPPCHL* partner, u32 temporary) {
 // again.
 void ExchangeAll(HWND dialog, BoardParams* board, u32 temporary) {
     for (BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
-        if (!NeedsMove(chl)) {
-            continue;
-        }
-        BPPCHL* partner = FindPartner(board, chl);
-        if (partner != nullptr && !ExchangePorts(dialog, chl, partner, temporary)) {
+        if (NeedsMove(chl) && !ExchangePorts(dialog, chl, FindPartner(board, chl), temporary)) {
             return;
         }
     }
@@ -220,7 +216,7 @@ void ExchangeAll(HWND dialog, BoardParams* board, u32 temporary) {
 // Moves the ports that need it. Nothing moves unless a temporary number is free and every port that moves is
 // closed. Returns true if the buttons have been disabled.
 bool MovePorts(HWND dialog, BoardParams* board) {
-    u32 avlMaxTempComNumber = 0;
+    u32 avlMaxTempComNumber;
     const u32 sStatus = Kavro_COMPortGetMaxNumberAvailable(&avlMaxTempComNumber);
     TraceOut("%s - avlMaxTempComNumber:%d\n", TraceOperation(), avlMaxTempComNumber);
     if (sStatus != 0) {

@@ -56,7 +56,7 @@ bool RenamePortForUser(HWND dialog, const RenameTerms& terms, const PortRename& 
     u32 sStatus = Kavro_COMPortCheckNumberInUse(rename.newNumber);
     if (sStatus != 0) {
         ErrorBoxShow(terms.numberInUse, sStatus, dialog, 0, 0, 0, answer);
-        if (answer != nullptr) {
+        if (terms.mayTakeClaimed) {
             TraceOut("%s - 1, nUserDialogChoice:%d\n", TraceOperation(), nUserDialogChoice);
         }
         if (nUserDialogChoice != IDYES) {
@@ -66,7 +66,7 @@ bool RenamePortForUser(HWND dialog, const RenameTerms& terms, const PortRename& 
     sStatus = Kavro_COMPortCheckOpened(rename.DeviceInfoSet, rename.DeviceInfoData);
     if (sStatus != 0) {
         ErrorBoxShow(terms.portOpened, sStatus, dialog, 0, 0, 0, answer);
-        if (answer != nullptr) {
+        if (terms.mayTakeClaimed) {
             TraceOut("%s - 2, nUserDialogChoice:%d\n", TraceOperation(), nUserDialogChoice);
         }
         return false;

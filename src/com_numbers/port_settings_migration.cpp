@@ -17,8 +17,7 @@ WCHAR* AllocateSettingsKey(const WCHAR* portName) {
 
 // Applications are notified while both keys exist.
 void MoveSettingsLine(const WCHAR* oldKey, const WCHAR* newKey) {
-    WCHAR value[SettingsLineCapacity];
-    value[0] = 0;
+    WCHAR value[SettingsLineCapacity] = {};
     GetProfileStringW(PortsSection, oldKey, TEXT(""), value, ARRAYSIZE(value));
     WriteProfileStringW(PortsSection, newKey, value[0] != 0 ? value : DefaultSettingsLine);
     SendNotifyMessageW(HWND_BROADCAST, WM_WININICHANGE, 0, reinterpret_cast<LPARAM>(PortsSection));

@@ -1,7 +1,5 @@
 #include "device_model/board_discovery.h"
 
-#include <cstddef>
-
 #include "device_model/channel_list.h"
 #include "device_model/device_store.h"
 #include "reporting/statuses.h"
@@ -83,22 +81,18 @@ bool BelongsToBoard(const BoardParams* board, const ChannelInfo& info) {
     return false;
 }
 
-// Returns a copy of the path for the caller to free, or null if there is no memory. The path ends within
-// `capacity` units.
-WCHAR* CopyDevicePath(const WCHAR* path, u32 capacity) {
-    u32 length = 0;
-    while (length < capacity && path[length] != 0) {
-        ++length;
-    }
-    auto* copy = static_cast<WCHAR*>(LocalAlloc(LPTR, (length + 1) * sizeof(WCHAR)));
+// Returns a copy of the path for the caller to free, or null if there is no memory.
+WCHAR* CopyDevicePath(const WCHAR* path) {
+    const u32 capacity = static_cast<u32>(lstrlenW(path)) + 1;
+    auto* copy = static_cast<WCHAR*>(LocalAlloc(LPTR, capacity * sizeof(WCHAR)));
     if (copy != nullptr) {
-        CopyText(copy, length + 1, path);
+        CopyText(copy, capacity, path);
     }
     return copy;
 }
 
 void AddChannel(BoardParams* board, HDEVINFO set, const SP_DEVINFO_DATA& data, u32 channelClass,
-                const ChannelInfo& info, const WCHAR* path, u32 pathCapacity) {
+                const ChannelInfo& info, const WCHAR* path) {
     auto* chl = static_cast<BPPCHL*>(LocalAlloc(LPTR, sizeof(BPPCHL)));
     if (chl == nullptr) {
         return;
@@ -114,7 +108,7 @@ void AddChannel(BoardParams* board, HDEVINFO set, const SP_DEVINFO_DATA& data, u
     }
     chl->DeviceInfoSet = set;
     chl->DeviceInfoData = data;
-    chl->DevicePath = CopyDevicePath(path, pathCapacity);
+    chl->DevicePath = CopyDevicePath(path);
     ChlListInsertTail(&board->ChlList, chl);
     BoardChlWalkInsert(board, chl);
     ++board->ChlCount;
@@ -170,8 +164,6 @@ void BoardEnumClass(BoardParams* board, BYTE* buffer, u32 bufferSize, HDEVINFO s
                     const GUID* interfaceClass, u32 channelClass) {
     TraceOut("----> %s( )\n", __func__);
     auto* detail = reinterpret_cast<SP_DEVICE_INTERFACE_DETAIL_DATA_W*>(buffer);
-    const u32 pathCapacity =
-        (bufferSize - offsetof(SP_DEVICE_INTERFACE_DETAIL_DATA_W, DevicePath)) / sizeof(WCHAR);
     SP_DEVICE_INTERFACE_DATA interfaceData = {};
     interfaceData.cbSize = sizeof(interfaceData);
     ChannelInfo info;
@@ -190,7 +182,7 @@ void BoardEnumClass(BoardParams* board, BYTE* buffer, u32 bufferSize, HDEVINFO s
         data.cbSize = sizeof(data);
         if (SetupDiGetDeviceInterfaceDetailW(set, &interfaceData, detail, needed, &needed, &data) &&
             ReadChannel(set, &data, channelClass, &info) && BelongsToBoard(board, info)) {
-            AddChannel(board, set, data, channelClass, info, detail->DevicePath, pathCapacity);
+            AddChannel(board, set, data, channelClass, info, detail->DevicePath);
         }
     }
     TraceOut("<---- %s\n", __func__);
@@ -209,7 +201,6 @@ void BoardDeinitiate(BoardParams* board) {
         LocalFree(chl);
         --board->ChlCount;
     }
-    board->WalkFirst = nullptr;
     for (const HDEVINFO set : board->InterfaceSet) {
         SetupDiDestroyDeviceInfoList(set);
     }

@@ -13,8 +13,8 @@ constexpr u32 BoxCapacity = 512;
 
 enum class Box { OutOfMemory, Plain, Question, Notice };
 
-// The values that a text can print.
-enum Argument : u32 { Nothing, Oerr, Serr, Channel, FirstNumber, SecondNumber, ArgumentKinds };
+// The values that a text can print. Those behind the last that it prints are passed over.
+enum Argument : u32 { Oerr, Serr, Channel, FirstNumber, SecondNumber, ArgumentKinds };
 
 struct Failure {
     u32 oerr;
@@ -90,7 +90,7 @@ constexpr Failure Failures[] = {
 // clang-format on
 
 constexpr Failure UndefinedFailure = {
-    0, AnyStatus, Box::Plain, TEXT("Undefine error. [oerr:%d, serr:%d]"), {Oerr, Serr}};
+    {}, AnyStatus, Box::Plain, TEXT("Undefine error. [oerr:%d, serr:%d]"), {Oerr, Serr}};
 
 constexpr UINT ErrorStyle = MB_SYSTEMMODAL | MB_ICONHAND;
 
@@ -126,30 +126,20 @@ void ErrorBoxShow(u32 oerr, u32 serr, HWND parent, u32 channel, u32 firstNumber,
     const HWND owner = parent != nullptr ? parent : GetFocus();
     auto* text = static_cast<WCHAR*>(LocalAlloc(LPTR, BoxCapacity * sizeof(WCHAR)));
     auto* caption = static_cast<WCHAR*>(LocalAlloc(LPTR, BoxCapacity * sizeof(WCHAR)));
-    if (text == nullptr || caption == nullptr) {
+    const Failure& failure = FindFailure(oerr, serr);
+    if (text == nullptr || caption == nullptr || failure.box == Box::OutOfMemory) {
         ShowOutOfMemory(owner);
+    } else if (failure.box == Box::Plain) {
+        const u32 values[ArgumentKinds] = {oerr, serr, channel, firstNumber, secondNumber};
+        const Argument* arguments = failure.arguments;
+        FormatText(text, BoxCapacity, failure.format, values[arguments[0]], values[arguments[1]],
+                   values[arguments[2]], values[arguments[3]]);
+        MessageBoxW(owner, text, TEXT("Error"), ErrorStyle);
+    } else if (failure.box == Box::Question) {
+        ShowFromStrings(owner, IDS_NAME_IN_USE_QUESTION, MB_YESNO | MB_ICONINFORMATION, text, caption,
+                        nUserDialogChoice);
     } else {
-        const Failure& failure = FindFailure(oerr, serr);
-        switch (failure.box) {
-        case Box::OutOfMemory:
-            ShowOutOfMemory(owner);
-            break;
-        case Box::Plain: {
-            const u32 values[ArgumentKinds] = {0, oerr, serr, channel, firstNumber, secondNumber};
-            const Argument* arguments = failure.arguments;
-            FormatText(text, BoxCapacity, failure.format, values[arguments[0]], values[arguments[1]],
-                       values[arguments[2]], values[arguments[3]]);
-            MessageBoxW(owner, text, TEXT("Error"), ErrorStyle);
-            break;
-        }
-        case Box::Question:
-            ShowFromStrings(owner, IDS_NAME_IN_USE_QUESTION, MB_YESNO | MB_ICONINFORMATION, text, caption,
-                            nUserDialogChoice);
-            break;
-        case Box::Notice:
-            ShowFromStrings(owner, IDS_RENAME_FAILED, MB_OK | MB_ICONHAND, text, caption, nUserDialogChoice);
-            break;
-        }
+        ShowFromStrings(owner, IDS_RENAME_FAILED, MB_OK | MB_ICONHAND, text, caption, nUserDialogChoice);
     }
     if (text != nullptr) {
         LocalFree(text);

@@ -9,17 +9,14 @@ WCHAR OutOfMemoryCaption[30];
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
     constexpr const char* szDebugTag = "0911 - 1_0";
-    switch (reason) {
-    case DLL_PROCESS_ATTACH:
+    if (reason == DLL_PROCESS_ATTACH) {
         TraceOut("LOAD, DBGSTR:%s\n", szDebugTag);
         ModuleInstance = instance;
         DisableThreadLibraryCalls(instance);
         LoadStringW(instance, IDS_OUT_OF_MEMORY, OutOfMemoryText, ARRAYSIZE(OutOfMemoryText));
         LoadStringW(instance, IDS_OUT_OF_MEMORY_CAPTION, OutOfMemoryCaption, ARRAYSIZE(OutOfMemoryCaption));
-        break;
-    case DLL_PROCESS_DETACH:
+    } else if (reason == DLL_PROCESS_DETACH) {
         TraceOut("UNLOAD, DBGSTR:%s\n", szDebugTag);
-        break;
     }
     return TRUE;
 }

@@ -43,25 +43,19 @@ void PutNumber(Output& output, u64 number, u32 base) {
 }
 
 void PutValue(Output& output, const FormatArgument& argument) {
-    switch (argument.kind) {
-    case FormatArgument::Number32: {
-        const INT value = static_cast<INT>(argument.number);
+    if (argument.kind == FormatArgument::Number32) {
+        LONG64 value = static_cast<INT>(argument.number);
         if (value < 0) {
             Put(output, TEXT('-'));
+            value = -value;
         }
-        PutNumber(output,
-                  value < 0 ? 0ull - static_cast<u64>(static_cast<LONG64>(value)) : static_cast<u64>(value),
-                  10);
-        break;
-    }
-    case FormatArgument::Number64:
+        PutNumber(output, static_cast<u64>(value), 10);
+    } else if (argument.kind == FormatArgument::Number64) {
         PutNumber(output, argument.number, 16);
-        break;
-    case FormatArgument::Text:
+    } else {
         for (const WCHAR* unit = argument.text; *unit != 0; ++unit) {
             Put(output, *unit);
         }
-        break;
     }
 }
 
@@ -135,7 +129,7 @@ u32 CopyText(WCHAR* destination, u32 capacity, const WCHAR* source) {
 }
 
 u32 AppendText(WCHAR* destination, u32 capacity, const WCHAR* source) {
-    if (capacity == 0 || capacity > TextMaxCapacity) {
+    if (capacity > TextMaxCapacity) {
         return TextInvalid;
     }
     u32 length = 0;

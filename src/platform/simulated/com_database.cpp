@@ -28,12 +28,13 @@ LONG Enter(sim::Reach reach, std::string_view operation, HCOMDB database, const 
 } // namespace
 
 LONG WINAPI ComDBOpen(PHCOMDB database) {
-    if (sim::Operation(sim::Reach::Read, __func__)) {
-        *database = HCOMDB_INVALID_HANDLE_VALUE;
-        return Answer(ERROR_ACCESS_DENIED);
-    }
-    *database = databases.Open({});
-    return ERROR_SUCCESS;
+    const bool fails = sim::Operation(sim::Reach::Read, __func__);
+    sim::FaultPlan& faults = sim::Current().faults;
+    const auto planned = faults.databases.find(faults.count_by_name[__func__]);
+    *database = planned != faults.databases.end() ? planned->second
+                : fails                           ? HCOMDB_INVALID_HANDLE_VALUE
+                                                  : databases.Open({});
+    return fails ? Answer(ERROR_ACCESS_DENIED) : ERROR_SUCCESS;
 }
 
 LONG WINAPI ComDBClose(HCOMDB database) {

@@ -138,6 +138,10 @@ BOOL SetupDiGetDeviceInterfaceDetailW(HDEVINFO handle, SP_DEVICE_INTERFACE_DATA*
         (device != nullptr && !sim::HasItsSize(device, __func__))) {
         return FALSE;
     }
+    if (detail == nullptr && bytes != 0) {
+        sim::Misuse("SetupDiGetDeviceInterfaceDetailW: a size without a buffer");
+        return sim::Fail(ERROR_INVALID_USER_BUFFER);
+    }
     const std::vector<BYTE> path = sim::BytesOf(found->path);
     const auto size =
         static_cast<DWORD>(offsetof(SP_DEVICE_INTERFACE_DETAIL_DATA_W, DevicePath) + path.size());

@@ -96,10 +96,11 @@ struct JournalEntry {
 // operations of `windows_api.h` and may change the machine's data; like an operator's, its calls are not
 // journaled. Counts run from 1 and restart with `Machine::faults = {}`.
 struct FaultPlan {
-    std::vector<std::size_t> at;                                     // the n-th operations of all
-    std::vector<std::pair<std::string, std::size_t>> at_call;        // the n-th call of a name; 0: each call
-    std::function<bool(const JournalEntry&)> when;                   // any other rule
-    std::size_t count = 0;                                           // operations seen so far
+    std::vector<std::size_t> at;                              // the n-th operations of all
+    std::vector<std::pair<std::string, std::size_t>> at_call; // the n-th call of a name; 0: each call
+    std::function<bool(const JournalEntry&)> when;            // any other rule
+    std::map<std::size_t, HCOMDB> databases; // the handle that the n-th ComDBOpen leaves, failed or not
+    std::size_t count = 0;                   // operations seen so far
     std::unordered_map<std::string_view, std::size_t> count_by_name; // names are those of functions
     std::size_t hits = 0;                                            // operations failed so far
 };
@@ -119,7 +120,7 @@ struct ShownBox {
     Text caption;
     UINT style = 0;
     int answer = 0;
-    bool owned = false; // it had an owner window
+    HWND owner = nullptr;
 };
 
 struct Machine {

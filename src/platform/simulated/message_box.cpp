@@ -77,6 +77,6 @@ int MessageBoxW(HWND owner, LPCWSTR text, LPCWSTR caption, UINT style) {
     // Without an operator the default button answers; if an operator never answers, the careful button does.
     box.Run(!box.is_question ? IDOK : sim::Current().user ? IDNO : IDYES);
     const int answer = static_cast<int>(box.result);
-    sim::Current().boxes.push_back({message, box.text, style, answer, owner != nullptr});
+    sim::Current().boxes.push_back({message, box.text, style, answer, owner});
     return answer;
 }

@@ -57,5 +57,5 @@ HLOCAL LocalFree(HLOCAL memory) {
 }
 
 BOOL DisableThreadLibraryCalls(HMODULE) {
-    return TRUE;
+    return sim::Operation(sim::Reach::Memory, __func__) ? sim::Fail(ERROR_GEN_FAILURE) : TRUE;
 }

@@ -41,6 +41,13 @@ LSTATUS Enter(sim::Reach reach, std::string_view operation, const Key* key, REGS
     return key->access & right ? ERROR_SUCCESS : ERROR_ACCESS_DENIED;
 }
 
+// What is reserved, or an option that is not simulated.
+void ExpectZero(DWORD parameter, std::string_view operation) {
+    if (parameter != 0) {
+        sim::Misuse(std::string(operation) + ": a parameter that must be 0");
+    }
+}
+
 // Returns type, size and data of a value as far as they are asked for.
 LSTATUS Deliver(const sim::Value& value, LPDWORD type, LPBYTE data, LPDWORD bytes) {
     if (type != nullptr) {
@@ -65,7 +72,8 @@ HKEY sim::OpenDeviceKey(std::size_t device, REGSAM access) {
     return keys.Open({device, access});
 }
 
-LSTATUS RegOpenKeyExW(HKEY root, LPCWSTR path, DWORD, REGSAM access, PHKEY key) {
+LSTATUS RegOpenKeyExW(HKEY root, LPCWSTR path, DWORD options, REGSAM access, PHKEY key) {
+    ExpectZero(options, __func__);
     *key = nullptr;
     if (sim::Operation(sim::Reach::Read, __func__, [&] { return sim::ToUtf8(path); })) {
         return ERROR_ACCESS_DENIED;
@@ -96,7 +104,8 @@ LSTATUS RegQueryValueExW(HKEY handle, LPCWSTR name, LPDWORD, LPDWORD type, LPBYT
     return value != nullptr ? Deliver(*value, type, data, bytes) : ERROR_FILE_NOT_FOUND;
 }
 
-LSTATUS RegSetValueExW(HKEY handle, LPCWSTR name, DWORD, DWORD type, const BYTE* data, DWORD bytes) {
+LSTATUS RegSetValueExW(HKEY handle, LPCWSTR name, DWORD reserved, DWORD type, const BYTE* data, DWORD bytes) {
+    ExpectZero(reserved, __func__);
     const Key* key = keys.Find(handle, __func__);
     if (const LSTATUS status = Enter(sim::Reach::Write, __func__, key, right_to_set, [&] {
             return Place(key, name) + " = " + ValueInJournal(type, {data, bytes});
