@@ -14,6 +14,7 @@ namespace {
 using namespace machines;
 using namespace sheets;
 
+constexpr std::size_t foreign = 8;  // the device
 constexpr u32 foreign_number = 300; // beyond what the pages' lists offer
 
 void Require(bool holds, const std::string& what) {
@@ -61,9 +62,10 @@ struct Script {
     }
     // A word of the user's hand and its number, -1 to 254.
     void Say(std::string& said) {
-        constexpr const char* words[] = {"tx",  "rx",    "select",   "com",     "mode",     "fifo",
-                                         "all", "apply", "defaults", "restore", "advanced", "termination",
-                                         "acs", "sort",  "ok",       "cancel",  "sheet-apply"};
+        constexpr const char* words[] = {"tx",   "rx",     "select", "com",        "mode",    "baud",
+                                         "data", "parity", "stop",   "flow",       "fifo",    "termination",
+                                         "acs",  "all",    "apply",  "defaults",   "restore", "advanced",
+                                         "sort", "ok",     "cancel", "sheet-apply"};
         const std::string word = Of(words);
         said += word + std::to_string(static_cast<int>(Byte()) - 1) + ' ';
     }
@@ -102,28 +104,29 @@ Translation& TheTranslation() {
     return translation;
 }
 
-struct Session {
+// A board with a channel of each class, and behind it the foreign port.
+sim::Machine SoundMachine() {
     sim::Machine machine = BoardOn({3, 4, 200});
-    std::size_t foreign = 0, opened = 0;
-    User user = {};
-    std::string at_page = {}, at_dialog = {};
-};
-
-Session Begin() {
-    Session session;
     for (const u32 channel_class : {ClassDio, ClassMcp251x, ClassMcp251xFd, ClassCan}) {
-        AddChannel(session.machine, {}, channel_class, channel_class);
+        AddChannel(machine, {}, channel_class, channel_class);
     }
-    session.foreign = AddMainboardPort(session.machine, foreign_number);
-    session.machine.journal_reads = false;
-    TheTranslation().Begin();
-    return session;
+    Require(AddMainboardPort(machine, foreign_number) == foreign, "the foreign port has another place");
+    machine.journal_reads = false;
+    return machine;
 }
 
+struct Session {
+    sim::Machine machine;
+    User user = {};
+    Request request = {};
+    std::string at_page = {}, at_dialog = {};
+    u32 opened = 0;
+};
+
 // Whether a port of the board is told that its number is the foreign one, which it then takes along.
-bool IsClaimedByBoard(Session& session) {
-    for (std::size_t device = 0; device < session.foreign; ++device) {
-        const sim::Text name = PlacesOf(session.machine, device).port_name;
+bool IsClaimedByBoard(sim::Machine& machine) {
+    for (std::size_t device = 0; device < foreign; ++device) {
+        const sim::Text name = PlacesOf(machine, device).port_name;
         if (ComNumberFromName(name.c_str()) == foreign_number) {
             return true;
         }
@@ -136,10 +139,10 @@ void OpenPage(Session& session, std::size_t device) {
     sim::Machine& machine = session.machine;
     session.user.at_page = [&](HWND page) { Do(page, session.at_page); };
     session.user.at_dialog = [&](HWND dialog) { Do(dialog, session.at_dialog); };
-    const Places before = PlacesOf(machine, session.foreign);
-    const bool may_change = IsClaimedByBoard(session);
-    Open(device == 0 ? Page::Board : Page::Port, device, session.user);
-    Require(may_change || PlacesOf(machine, session.foreign) == before, "the foreign port has changed");
+    const Places before = PlacesOf(machine, foreign);
+    const bool may_change = IsClaimedByBoard(machine);
+    Open(device == 0 ? Page::Board : Page::Port, device, session.user, session.request);
+    Require(may_change || PlacesOf(machine, foreign) == before, "the foreign port has changed");
     for (const auto& [kind, count] : machine.open) {
         Require(false, std::to_string(count) + ' ' + kind + " not given back");
     }
@@ -154,7 +157,7 @@ void OpenPage(Session& session, std::size_t device) {
 // One step: of the machine's making, or of its user.
 void Take(Session& session, Script& script) {
     sim::Machine& machine = session.machine;
-    sim::Device& device = machine.devices[script.Below(static_cast<u32>(session.foreign))];
+    sim::Device& device = machine.devices[script.Below(u32{foreign})];
     const u32 step = script.Below(32);
     // clang-format off
     switch (step) {
@@ -177,9 +180,10 @@ void Take(Session& session, Script& script) {
     case 16: machine.trace = [](std::string_view) {}; break;
     case 17: session.user.answers = IDYES; break;
     case 18: session.user.leaves_by = ok; break;
-    case 19: OpenPage(session, &device - machine.devices.data()); break;
+    case 19: session.request.add_page = FALSE; break;
+    case 20: OpenPage(session, static_cast<std::size_t>(&device - machine.devices.data())); break;
     default:
-        if (step < 24) {
+        if (step < 25) {
             sim::Value& value = script.Of(device.key.list);
             value = script.Value(value.name);
         } else {
@@ -193,10 +197,12 @@ void Take(Session& session, Script& script) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const BYTE* data, SIZE_T size) {
-    Session session = Begin();
+    static const sim::Machine sound = SoundMachine();
+    Session session{sound};
     const sim::Scope scope(session.machine);
     Script script{data, data + size};
     const std::size_t device = script.Below(4);
+    TheTranslation().Begin();
     DllMain(sim::LibraryInstance(), DLL_PROCESS_ATTACH, nullptr);
     while (script.next != script.end && session.opened < 2) {
         Take(session, script);
