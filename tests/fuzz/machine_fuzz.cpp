@@ -50,7 +50,8 @@ struct Script {
         sim::Values one;
         const u32 form = Below(4);
         if (form < 2) {
-            one.SetDword(name, form == 0 ? Byte() : Wide() << 16);
+            const u32 low = form == 0 ? Byte() : Wide();
+            one.SetDword(name, form == 0 ? low : low | Wide() << 16);
         } else {
             one.SetText(name, Text());
         }
