@@ -74,19 +74,18 @@ struct Script {
 
 // A language whose texts are those of English until a script translates them.
 struct Translation {
-    sim::Catalogue catalogue{made_up_language, {}, {}};
     std::vector<sim::CatalogueString> strings;
     std::vector<sim::DialogTemplate> dialogs;
     std::vector<std::vector<sim::ControlTemplate>> controls;
     std::deque<sim::Text> texts; // each stays where it is
 
-    Translation() { Require(sim::EnterCatalogue(catalogue), "no language"); }
-    void Begin() {
+    Translation() {
+        static sim::Catalogue catalogue = {made_up_language, {}, {}};
+        static const bool entered = sim::EnterCatalogue(catalogue);
+        Require(entered, "no language");
         const sim::Catalogue& english = sim::CatalogueFor(1033);
         strings.assign(english.strings.begin(), english.strings.end());
         dialogs.assign(english.dialogs.begin(), english.dialogs.end());
-        controls.clear();
-        texts.clear();
         for (sim::DialogTemplate& dialog : dialogs) {
             controls.emplace_back(dialog.controls.begin(), dialog.controls.end());
             dialog.controls = controls.back();
@@ -99,11 +98,6 @@ struct Translation {
         text = texts.emplace_back(script.Text()).c_str();
     }
 };
-
-Translation& TheTranslation() {
-    static Translation translation;
-    return translation;
-}
 
 // A board with a channel of each class, and behind it the foreign port.
 sim::Machine SoundMachine() {
@@ -118,6 +112,7 @@ sim::Machine SoundMachine() {
 
 struct Session {
     sim::Machine machine;
+    Translation translation = {};
     User user = {};
     Request request = {};
     std::string at_page = {}, at_dialog = {};
@@ -144,12 +139,9 @@ void OpenPage(Session& session, std::size_t device) {
     const bool may_change = IsClaimedByBoard(machine);
     Open(device == 0 ? Page::Board : Page::Port, device, session.user, session.request);
     Require(may_change || PlacesOf(machine, foreign) == before, "the foreign port has changed");
-    for (const auto& [kind, count] : machine.open) {
-        Require(false, std::to_string(count) + ' ' + kind + " not given back");
-    }
-    for (const std::string& line : machine.misuse) {
-        Require(false, line);
-    }
+    Require(machine.open.empty(),
+            "not given back: " + (machine.open.empty() ? "" : machine.open.begin()->first));
+    Require(machine.misuse.empty(), machine.misuse.empty() ? "" : machine.misuse.front());
     session.at_page.clear();
     session.at_dialog.clear();
     ++session.opened;
@@ -159,6 +151,7 @@ void OpenPage(Session& session, std::size_t device) {
 void Take(Session& session, Script& script) {
     sim::Machine& machine = session.machine;
     sim::Device& device = machine.devices[script.Below(u32{foreign})];
+    std::vector<sim::Value>& map = machine.serial_map.list;
     const u32 step = script.Below(32);
     // clang-format off
     switch (step) {
@@ -168,15 +161,15 @@ void Take(Session& session, Script& script) {
     case 3: device.access_denied = true; break;
     case 4: device.remote = true; break;
     case 5: script.Of(machine.interfaces).linked = false; break;
-    case 6: machine.serial_map.list.insert(machine.serial_map.list.begin(), script.Value(u"?" + script.Text())); break;
+    case 6: map.insert(map.begin(), script.Value(u"?" + script.Text())); break;
     case 7: machine.dos_names.emplace_back(PortName(script.Byte()), u"?" + script.Text()); break;
     case 8: machine.port_usage[script.Byte()] = static_cast<BYTE>(script.Byte()); break;
     case 9: SetLine(machine, script.Byte(), script.Text()); break;
     case 10: machine.decimal_separator = script.Text(); break;
     case 11: machine.language = static_cast<LANGID>(script.Wide()); break;
-    case 12: TheTranslation().Translate(script); machine.language = made_up_language; break;
-    case 13: machine.missing_strings.push_back(script.Of(TheTranslation().strings).id); break;
-    case 14: machine.missing_controls.push_back(script.Of(script.Of(TheTranslation().controls)).id); break;
+    case 12: session.translation.Translate(script); machine.language = made_up_language; break;
+    case 13: machine.missing_strings.push_back(script.Of(session.translation.strings).id); break;
+    case 14: machine.missing_controls.push_back(script.Of(script.Of(session.translation.controls)).id); break;
     case 15: machine.faults.at.push_back(script.Wide()); break;
     case 16: machine.trace = [](std::string_view) {}; break;
     case 17: session.user.answers = IDYES; break;
@@ -203,7 +196,6 @@ extern "C" int LLVMFuzzerTestOneInput(const BYTE* data, SIZE_T size) {
     const sim::Scope scope(session.machine);
     Script script{data, data + size};
     const std::size_t device = script.Below(4);
-    TheTranslation().Begin();
     DllMain(sim::LibraryInstance(), DLL_PROCESS_ATTACH, nullptr);
     while (script.next != script.end && session.opened < 2) {
         Take(session, script);
