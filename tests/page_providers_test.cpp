@@ -32,6 +32,8 @@ const Case both[] = {
     {"no memory at all", Fail("LocalAlloc", 0), {}, refused, {no_memory}},
     {"no page", Fail("CreatePropertySheetPageW", 0), {}, refused, {"Create property page failure."}},
     {"not taken", no_fault, {sheet, 0}, not_taken, {"Add property page failure."}},
+    {"not taken, and ill destroyed", Fail("DestroyPropertySheetPage", 1), {sheet, 0}, not_taken,
+     {"Add property page failure."}},
     {"only 1 means taken", no_fault, {sheet, 2}, not_taken, {"Add property page failure."}},
 };
 const Case of_the_board[] = {

@@ -50,9 +50,10 @@ struct User {
 std::string Open(Page page, std::size_t device, const User& user, const Request& request = {});
 
 // The user's hand, in words: "tx9 rx2" moves the sliders, "select1" a list's selection (-1 for none), "com20"
-// and "mode2" choose in the combos of numbers and modes, "fifo", "termination" and "acs" click the boxes,
-// "all", "apply", "defaults", "restore", "advanced", "sort", "ok" and "cancel" the buttons, "sheet-apply"
-// that of the sheet. A control that is disabled or missing is not touched.
+// and "mode2" choose in the combos of numbers and modes, "baud0", "data0", "parity0", "stop0" and "flow0" in
+// those of the port's page, "fifo", "termination" and "acs" click the boxes, "all", "apply", "defaults",
+// "restore", "advanced", "sort", "ok" and "cancel" the buttons, "sheet-apply" that of the sheet. A control
+// that is disabled or missing is not touched.
 void Do(HWND dialog, std::string_view words);
 void Choose(HWND dialog, int id, int index);
 

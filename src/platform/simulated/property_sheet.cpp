@@ -212,13 +212,11 @@ HPROPSHEETPAGE CreatePropertySheetPageW(LPCPROPSHEETPAGEW description) {
 }
 
 BOOL DestroyPropertySheetPage(HPROPSHEETPAGE handle) {
-    if (sim::Operation(sim::Reach::Screen, __func__)) {
-        return FALSE;
-    }
+    const bool fails = sim::Operation(sim::Reach::Screen, __func__);
     const auto page = sim::TakePage(handle, __func__);
     if (page == nullptr) {
         return FALSE;
     }
     sim::Release(*page);
-    return TRUE;
+    return !fails;
 }
