@@ -256,9 +256,9 @@ void SurvivesOneOrTwoFailures() {
     SurvivesFailuresAt({one, one + below(below(2) == 0 ? 40 : last)}, std::move(made));
 }
 
-// All orders of six ports. In each order an operation fails, a different one for each order, and then that one
-// and one of the next hundred. In one order, and in a long run in each, every operation fails: half a million
-// sorts.
+// All orders of six ports. In each order an operation fails, a different one for each order, and then that
+// one and one of the next hundred. In one order, and in a long run in each, every operation fails: half a
+// million sorts.
 TEST(ComSort, SixPortsInEveryOrderOneOrTwoOperationsMayFail) {
     Numbers numbers = {3, 4, 5, 6, 7, 8};
     std::size_t orders = 0;

@@ -188,7 +188,7 @@ TEST(ComSort, TakesABoardAsItFindsIt) {
         Change change;
         const char* names;
     } cases[] = {
-        {"an open port behind one that stays", {1, 9, 5}, Opened(3), "COM1 COM9 COM5 "},
+        {"an open port after one that stays", {1, 9, 5}, Opened(3), "COM1 COM9 COM5 "},
         {"an open port that stays", {1, 9, 5}, Opened(1), "COM1 COM5 COM9 "},
         {"a channel in front that is no UART", {9, 5, 3}, no_uart_first, "COM9 COM3 COM5 "},
         {"two UARTs on one number", {9, 5, 5, 3}, [](auto&) {}, "COM3 COM5 COM5 COM9 "},

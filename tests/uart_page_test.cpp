@@ -95,7 +95,8 @@ TEST(UartPage, CombosHaveTheirItemsUnderAnySeparators) {
         for (sim::CatalogueString& string : made_up) {
             string.text = string.id == IDS_PARITY_LIST      ? u";a.,b;c;;d;e"
                           : string.id == IDS_STOP_BITS_LIST ? u"|1|1.5.0|2|"
-                          : string.id == IDS_FLOW_CONTROL_LIST ? u"xaxbxc"
+                          : string.id == IDS_FLOW_CONTROL_LIST ? long_text.c_str()
+                          : string.id == IDS_ADVANCED_SETTINGS_TITLE ? long_text.c_str()
                           : string.id == IDS_IN_USE_SUFFIX ? u"012345678901234567890123456789012345678"
                                                                : string.text;
         }
@@ -141,15 +142,15 @@ TEST(UartPage, CombosHaveTheirItemsUnderAnySeparators) {
             EXPECT_EQ(Line(), "9600,n,8,1.5");
             Choose(page, IDC_STOP_BITS, 1);
             Choose(page, IDC_FLOW_CONTROL, 0);
-            Do(page, "advanced");
         };
-        const auto at_dialog = [&](HWND dialog) { // a long suffix is cut
+        const auto at_dialog = [&](HWND dialog) { // a long title and a long suffix are cut
+            EXPECT_EQ(Shown(dialog).size(), one.language == 1033 ? 26u : 199u);
             EXPECT_EQ(Items(dialog, IDC_PORT_NUMBER)[3], one.language == 1033
                                                              ? "COM4 (in use)"
                                                              : "COM401234567890123456789012345678901234");
         };
         Open(Page::Port, port, {.at_page = at_page, .at_dialog = at_dialog, .leaves_by = ok});
-        EXPECT_EQ(Line(), "9600,n,8,1.5,x"); // whatever the display
+        EXPECT_EQ(Line(), "9600,n,8,1.5,x"); // whatever is displayed
     }
 }
 

@@ -13,7 +13,7 @@ constexpr u32 BoxCapacity = 512;
 
 enum class Box { OutOfMemory, Plain, Question, Notice };
 
-// The values that a text can print. Those behind the last that it prints are passed over.
+// The values that a text can print. Those after the last that it prints are ignored.
 enum Argument : u32 { Oerr, Serr, Channel, FirstNumber, SecondNumber, ArgumentKinds };
 
 struct Failure {

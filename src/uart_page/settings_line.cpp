@@ -16,7 +16,7 @@ constexpr const WCHAR* DataBitsSuffixes[] = {TEXT(",4"), TEXT(",5"), TEXT(",6"),
 constexpr const WCHAR* StopBitsSuffixes[] = {TEXT(",1"), TEXT(",1.5"), TEXT(",2 ")};
 constexpr const WCHAR* FlowControlSuffixes[] = {TEXT(",x"), TEXT(",p"), TEXT(" ")};
 
-// The fields behind the baud rate, in the order of the line.
+// The fields after the baud rate, in the order of the line.
 struct FieldSuffixes {
     u32 PortSettings::*index;
     const WCHAR* const* suffixes;
