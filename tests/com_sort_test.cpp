@@ -30,8 +30,8 @@ struct Dialog {
     HWND window, button;
 };
 
-// Opens the Advanced Port Control dialog for a channel, clicks Sort UART, which keeps the focus, and closes it
-// with Cancel, and any box with OK.
+// Opens the Advanced Port Control dialog for a channel, clicks Sort UART, which keeps the focus, and closes
+// it with Cancel, and any box with OK.
 Dialog SortInDialog(sim::Machine& machine, BPPCHL* channel) {
     Dialog dialog = {};
     machine.user = [&](HWND front) {
