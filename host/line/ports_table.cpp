@@ -16,7 +16,7 @@ constexpr std::array<const char*, 8> headings = {"device",   "channel",    "Port
                                                  "DOS name", "serial map", "database", "settings line"};
 constexpr std::size_t dos_names = 4; // the column that is left out if room is short
 using Row = std::array<std::string, headings.size()>;
-using Rows = std::vector<Row>;
+using PortRows = std::vector<Row>;
 
 constexpr const char* differs = " differs";
 constexpr const char* missing = "missing";
@@ -79,8 +79,8 @@ Row RowOf(const std::string& name, unsigned long number, const Device& device, c
 }
 
 // A row for each port, below the headings. `held` gets the numbers that the ports have.
-Rows RowsOf(World& world, const PortRecords& records, std::set<unsigned long>& held) {
-    Rows rows{{}};
+PortRows RowsOf(World& world, const PortRecords& records, std::set<unsigned long>& held) {
+    PortRows rows{{}};
     std::ranges::copy(headings, rows.front().begin());
     const std::vector<Device> devices = world.Devices();
     for (std::size_t index = 0; index < devices.size(); ++index) {
@@ -103,7 +103,7 @@ Rows RowsOf(World& world, const PortRecords& records, std::set<unsigned long>& h
 }
 
 // Marks the names that are not COM and a number, and those that several ports have.
-void MarkNames(Rows& rows) {
+void MarkNames(PortRows& rows) {
     std::multiset<std::string> names;
     for (const Row& row : rows) {
         names.insert(Folded(row[2]));
@@ -121,7 +121,7 @@ void MarkNames(Rows& rows) {
     }
 }
 
-Lines Written(const Rows& rows, const std::array<int, headings.size()>& widths) {
+Lines Written(const PortRows& rows, const std::array<int, headings.size()>& widths) {
     Lines lines;
     for (const Row& row : rows) {
         std::string line;
@@ -138,7 +138,7 @@ bool AreTooWide(const Lines& lines, int columns) {
            std::ranges::any_of(lines, [&](const std::string& line) { return Columns(line) > columns; });
 }
 
-Lines LinesOf(const Rows& rows, int columns) {
+Lines FittedLines(const PortRows& rows, int columns) {
     std::array<int, headings.size()> widths{};
     for (const Row& row : rows) {
         for (std::size_t column = 0; column < row.size(); ++column) {
@@ -171,9 +171,9 @@ std::string ClaimedWithoutDevice(const PortRecords& records, const std::set<unsi
 Lines PortsTable(World& world, int columns) {
     const PortRecords records = world.Ports();
     std::set<unsigned long> held;
-    Rows rows = RowsOf(world, records, held);
+    PortRows rows = RowsOf(world, records, held);
     MarkNames(rows);
-    Lines lines = LinesOf(rows, columns);
+    Lines lines = FittedLines(rows, columns);
     lines.push_back("  claimed without a device: " + ClaimedWithoutDevice(records, held));
     if (AreTooWide(lines, columns)) {
         std::ranges::transform(lines, lines.begin(), [&](const auto& line) { return CutTo(line, columns); });
