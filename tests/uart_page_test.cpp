@@ -102,8 +102,7 @@ TEST(UartPage, CombosHaveTheirItemsUnderAnySeparators) {
         }
         return made_up;
     }();
-    static const sim::Catalogue catalogue = {made_up_language, sim::CatalogueFor(1033).dialogs,
-                                           {strings.data(), strings.size()}};
+    static const sim::Catalogue catalogue = {made_up_language, sim::CatalogueFor(1033).dialogs, strings};
     static const bool entered = sim::EnterCatalogue(catalogue);
     ASSERT_TRUE(entered);
     const Lines parities = {"Even", "Odd", "None", "Mark", "Space"};

@@ -37,7 +37,7 @@ const WCHAR* FindString(HINSTANCE instance, UINT id) {
 } // namespace
 
 Table<const Catalogue*> Catalogues() {
-    return {Entered().data(), Entered().size()};
+    return Entered();
 }
 
 bool EnterCatalogue(const Catalogue& catalogue) {

@@ -8,12 +8,14 @@
 
 namespace sim {
 
-// A table of a catalogue, borrowed. <span> alone would take longer to compile than a language's texts.
+// A table of a catalogue, borrowed from an array or a list. <span> alone would take longer to compile than a
+// language's texts.
 template <typename Row> struct Table {
-    const Row* first;
-    std::size_t count;
-    constexpr Table(const Row* first, std::size_t count) : first(first), count(count) {}
-    template <std::size_t length> constexpr Table(const Row (&rows)[length]) : Table(rows, length) {}
+    const Row* first = nullptr;
+    std::size_t count = 0;
+    constexpr Table() = default;
+    template <std::size_t length> constexpr Table(const Row (&rows)[length]) : first(rows), count(length) {}
+    template <typename List> Table(const List& rows) : first(rows.data()), count(rows.size()) {}
     constexpr const Row* begin() const { return first; }
     constexpr const Row* end() const { return first + count; }
     constexpr std::size_t size() const { return count; }
