@@ -90,11 +90,15 @@ std::set<std::string> Sweep(Page page, std::size_t device, const User& user) {
 }
 
 // In how many places a port is not as on a number.
-int PlacesOff(sim::Machine& machine, std::size_t device, u32 number) {
+std::ptrdiff_t PlacesOff(sim::Machine& machine, std::size_t device, u32 number) {
     const Places are = PlacesOf(machine, device), wanted = PlacesAt(machine, device, number);
-    return (are.port_name != wanted.port_name) + (are.friendly_name != wanted.friendly_name) +
-           (are.dos_name != wanted.dos_name) + (are.serial_map != wanted.serial_map) +
-           !sim::IsClaimed(machine.port_usage, number) + Line(machine, number).empty();
+    const bool off[] = {are.port_name != wanted.port_name,
+                        are.friendly_name != wanted.friendly_name,
+                        are.dos_name != wanted.dos_name,
+                        are.serial_map != wanted.serial_map,
+                        !sim::IsClaimed(machine.port_usage, number),
+                        Line(machine, number).empty()};
+    return std::ranges::count(off, true);
 }
 
 // A failed write leaves those before it, and of a rename a failure its own place at most.
