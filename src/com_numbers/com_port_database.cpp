@@ -17,7 +17,7 @@ constexpr u32 EntryCapacity = 40;
 
 // Returns 0, StatusNoDatabase or StatusNoUsage. The handle goes to CloseDatabase in each case.
 u32 ReadPortUsage(HCOMDB* database, PortUsageBitmap& usage) {
-    DWORD portCount; // which the bits tell too
+    DWORD portCount = 0; // which the bits tell too
     if (ComDBOpen(database) != ERROR_SUCCESS) {
         TraceOut("%s - ComDBOpen fail, GetLastError():%d\n", TraceOperation(), GetLastError());
         return StatusNoDatabase;

@@ -216,7 +216,7 @@ void ExchangeAll(HWND dialog, BoardParams* board, u32 temporary) {
 // Moves the ports that need it. Nothing moves unless a temporary number is free and every port that moves is
 // closed. Returns true if the buttons have been disabled.
 bool MovePorts(HWND dialog, BoardParams* board) {
-    u32 avlMaxTempComNumber;
+    u32 avlMaxTempComNumber = 0;
     const u32 sStatus = Kavro_COMPortGetMaxNumberAvailable(&avlMaxTempComNumber);
     TraceOut("%s - avlMaxTempComNumber:%d\n", TraceOperation(), avlMaxTempComNumber);
     if (sStatus != 0) {
