@@ -1,5 +1,6 @@
 // Any bytes as a machine and the user in front of it: what stores, profile and translation hold, what fails,
-// and what is done on the pages. Nothing crashes, leaks or is misused, and a port of no board stays as it is.
+// and what is done on the pages. Nothing crashes, leaks or is misused, what the pages store is sound, and a
+// port of no board stays as it is.
 #include <cstdio>
 #include <cstdlib>
 #include <deque>
@@ -130,6 +131,17 @@ bool IsClaimedByBoard(sim::Machine& machine) {
     return false;
 }
 
+// Whether the page could have meant the value: of modes and switches there are few.
+bool IsSound(const std::string& change) {
+    const std::string value = change.substr(change.rfind('=') + 1);
+    const auto writes = [&](const char* name) { return change.find(name) != std::string::npos; };
+    if (writes(" UartMode = ")) {
+        return value == " 1" || value == " 2" || value == " 4" || value == " 6";
+    }
+    const bool is_switch = change.starts_with("RegSetValueExW") && writes(" Uart") && !writes("LowHigh");
+    return !is_switch || value == " 0" || value == " 1";
+}
+
 // Opens a page with what was said for its user.
 void OpenPage(Session& session, std::size_t device) {
     sim::Machine& machine = session.machine;
@@ -139,6 +151,9 @@ void OpenPage(Session& session, std::size_t device) {
     const bool may_change = IsClaimedByBoard(machine);
     Open(device == 0 ? Page::Board : Page::Port, device, session.user, session.request);
     Require(may_change || PlacesOf(machine, foreign) == before, "the foreign port has changed");
+    for (const std::string& change : Changes()) {
+        Require(IsSound(change), change);
+    }
     Require(machine.open.empty(),
             "not given back: " + (machine.open.empty() ? "" : machine.open.begin()->first));
     Require(machine.misuse.empty(), machine.misuse.empty() ? "" : machine.misuse.front());
