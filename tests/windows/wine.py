@@ -25,6 +25,8 @@ PORTS = "{4d36e978-e325-11ce-bfc1-08002be10318}"
 DEFAULT_FONT = "Liberation Sans"
 FONTS = {"DejaVu Sans": [1025, 1037], "Loma": [1054], "WenQuanYi Micro Hei": [1028, 1041, 1042, 2052]}
 
+NO_DESKTOP = 75 # what kvrhost_test.exe ends with where it should be started again
+
 SUBSTITUTES = r"HKLM\Software\Microsoft\Windows NT\CurrentVersion\FontSubstitutes"
 DESKTOP = r"HKCU\Control Panel\Desktop"
 SETTINGS = [
@@ -151,8 +153,11 @@ class Prefix:
         program = command[0]
         if (self.programs / program).exists():
             program = "C:\\kvr\\" + program
-        done = subprocess.run(self.processor.command("wine", program, *map(str, command[1:])), env=self.environment(),
-                              input=input, stdout=subprocess.PIPE, timeout=timeout)
+        for _ in range(3):
+            done = subprocess.run(self.processor.command("wine", program, *map(str, command[1:])), env=self.environment(),
+                                  input=input, stdout=subprocess.PIPE, timeout=timeout)
+            if done.returncode != NO_DESKTOP:
+                break
         return done.stdout, done.returncode
 
     def reg(self, *arguments):
