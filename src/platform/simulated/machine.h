@@ -8,7 +8,7 @@
 //
 // Keys, sets, databases, pages, top-level windows and allocations are counted. `Machine::open` is empty again
 // once the logic has given everything back. `Machine::misuse` has a line for every invalid handle (closed
-// twice, never opened, of another kind) and for memory freed twice.
+// twice, never opened, of another kind), for memory freed twice, and for a parameter that must be 0.
 #pragma once
 
 #include <array>
