@@ -301,7 +301,7 @@ std::string Content(const std::string& path) {
 
 // The file as a registry has it after a patch was imported.
 host::MachineFile Imported(const host::MachineFile& file, const std::string& patch) {
-    const std::string export_file = testing::TempDir() + "diagnosis_test.reg";
+    const std::string export_file = machine_files::OwnFile(".reg");
     std::string error;
     sim::Machine machine;
     host::GiveMachine(file, machine);
@@ -323,7 +323,7 @@ bool IsEqual(const host::TreeKey& left, const host::TreeKey& right) {
 
 TEST(DiagnosisLaws, APatchCanBeAppliedAndTakenBack) {
     Check(40, 100, [] {
-        const std::string patch = testing::TempDir() + "diagnosis_patch.reg";
+        const std::string patch = machine_files::OwnFile("_patch.reg");
         std::filesystem::remove(patch);
         const host::MachineFile file = FileOf(AnyMachine());
         const auto com = [] { return "COM" + std::to_string(AnyNumber()); };

@@ -13,7 +13,7 @@ using namespace machine_files;
 using sim::Text;
 
 std::string Saved(const host::MachineFile& file, const sim::Machine& machine) {
-    const std::string path = testing::TempDir() + "machine_file_test.reg";
+    const std::string path = OwnFile(".reg");
     std::string error;
     EXPECT_TRUE(host::SaveMachine(file, machine, path, error)) << error;
     std::ostringstream content;

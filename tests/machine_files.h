@@ -32,6 +32,11 @@ inline sim::Machine Loaded(const std::string& bytes) {
     return machine;
 }
 
+// A file that no other test writes, because tests run at the same time.
+inline std::string OwnFile(const std::string& suffix) {
+    return testing::TempDir() + testing::UnitTest::GetInstance()->current_test_info()->name() + suffix;
+}
+
 // A text with its terminator.
 inline Bytes BytesOf(const sim::Text& text) {
     Bytes bytes((text.size() + 1) * sizeof(WCHAR));
