@@ -336,6 +336,7 @@ TEST(PortSettingsMigration, MovesALineAsItIsWithBothKeysThereAtTheNotice) {
     } cases[] = {
         {u"115200,n,8,1", u"115200,n,8,1"},
         {u" ,,garbage,\x0665", u" ,,garbage,\x0665"},
+        {u"9", u"9"},
         {longest, longest},
         {longest + u"9", longest},
     };

@@ -131,6 +131,7 @@ TEST(ComSort, AFailureKeepsTheMovesBeforeIt) {
         {Opened(3), "COM8 has been opened by another application. Close and try again."},
         {Opened(2), "COM5 has been opened by another application. Close and try again."},
         {nth("RegQueryValueExW", 4), "COM6 check opened failure. [serr:101]"},
+        {nth("ComDBOpen", 2), "KVR channle(2), COM5 remap to temporary COM256 failure. [serr:200]"},
         {rename(1), "KVR channle(2), COM5 remap to temporary COM256 failure. [serr:300]"},
         {rename(2), "KVR channle(1), COM7 remap to COM5 failure. [serr:300]", {7, 256, 8, 6}},
         {rename(3), "KVR channle(2), temporary COM256 remap to COM7 failure. [serr:300]", {5, 256, 8, 6}},
