@@ -10,6 +10,7 @@ import signal
 import subprocess
 import sys
 import tempfile
+import time
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 BUILD = pathlib.Path(os.environ.get("KVR_WINDOWS_BUILD", ROOT / "build" / "windows"))
@@ -153,11 +154,12 @@ class Prefix:
         program = command[0]
         if (self.programs / program).exists():
             program = "C:\\kvr\\" + program
-        for _ in range(3):
+        for _ in range(10):
             done = subprocess.run(self.processor.command("wine", program, *map(str, command[1:])), env=self.environment(),
                                   input=input, stdout=subprocess.PIPE, timeout=timeout)
             if done.returncode != NO_DESKTOP:
                 break
+            time.sleep(1)
         return done.stdout, done.returncode
 
     def reg(self, *arguments):
