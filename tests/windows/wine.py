@@ -4,12 +4,14 @@ import atexit
 import fcntl
 import os
 import pathlib
+import random
 import re
 import shutil
 import signal
 import subprocess
 import sys
 import tempfile
+import threading
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
@@ -78,8 +80,9 @@ class Processor:
     server take turns thousands of times for a sheet: on one processor a sheet opens in half the time."""
 
     def __init__(self):
-        self.number = None
-        for number in os.sched_getaffinity(0):
+        numbers = list(os.sched_getaffinity(0))
+        self.number = random.choice(numbers)
+        for number in numbers:
             self.lock = open(pathlib.Path(tempfile.gettempdir()) / f"kvr-processor-{number}", "w")
             try:
                 fcntl.flock(self.lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
@@ -89,7 +92,7 @@ class Processor:
                 self.lock.close()
 
     def command(self, *words):
-        return [*words] if self.number is None else ["taskset", "-c", str(self.number), *words]
+        return ["taskset", "-c", str(self.number), *words]
 
     def close(self):
         self.lock.close()
@@ -121,9 +124,16 @@ class Prefix:
         return self
 
     def __exit__(self, *_):
+        self.processor.close()
+        # Windows takes most of a second to shut down, without work for a processor.
+        closing = threading.Thread(target=self._close)
+        closing.start()
+        if not self.own: # it is to be copied
+            closing.join()
+
+    def _close(self):
         subprocess.run(["wineserver", "-k"], env=self.environment(), stderr=subprocess.DEVNULL)
         subprocess.run(["wineserver", "-w"], env=self.environment(), stderr=subprocess.DEVNULL, timeout=30)
-        self.processor.close()
         if self.own:
             shutil.rmtree(self.place, ignore_errors=True)
 
