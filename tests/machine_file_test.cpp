@@ -6,6 +6,7 @@
 #include <rapidcheck.h>
 
 #include "tests/machine_files.h"
+#include "tests/random_check.h"
 
 namespace {
 
@@ -287,12 +288,12 @@ TEST(MachineFile, ReadsAnyMachineBackAsItWas) {
     const host::MachineFile with_database =
         Read(first_line + "[HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\COM Name Arbiter]\n"
                           "\"ComDB\"=hex:00\n");
-    EXPECT_TRUE(rc::check([&] {
+    Check(100, 100, [&] {
         const sim::Machine machine = AnyMachine();
         sim::Machine read = Loaded(Saved(with_database, machine));
         read.dos_names.clear(); // the file holds them only as the serial map
         RC_ASSERT(Contents(read) == Contents(machine));
-    }));
+    });
 }
 
 } // namespace
