@@ -131,14 +131,18 @@ bool IsClaimedByBoard(sim::Machine& machine) {
     return false;
 }
 
-// Whether the page could have meant the value: of modes and switches there are few.
+// Whether the page could have meant the value: of modes and switches there are few. Names in the profile and
+// in the serial map are anyone's.
 bool IsSound(const std::string& change) {
+    if (!change.starts_with("RegSetValueExW ") || change.starts_with("RegSetValueExW SERIALCOMM ")) {
+        return true;
+    }
     const std::string value = change.substr(change.rfind('=') + 1);
     const auto writes = [&](const char* name) { return change.find(name) != std::string::npos; };
     if (writes(" UartMode = ")) {
         return value == " 1" || value == " 2" || value == " 4" || value == " 6";
     }
-    const bool is_switch = change.starts_with("RegSetValueExW") && writes(" Uart") && !writes("LowHigh");
+    const bool is_switch = writes(" Uart") && !writes("LowHigh");
     return !is_switch || value == " 0" || value == " 1";
 }
 
