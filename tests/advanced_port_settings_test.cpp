@@ -2,7 +2,7 @@
 // gets back.
 #include <algorithm>
 
-#include "platform/simulated/stage.h"
+#include "simulated/stage.h"
 #include "tests/sheets.h"
 #include "uart_page/parent_title.h"
 

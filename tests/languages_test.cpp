@@ -4,7 +4,7 @@
 #include <set>
 
 #include "host/languages.h"
-#include "platform/simulated/catalogue.h"
+#include "simulated/catalogue.h"
 #include "tests/sheets.h"
 
 namespace {

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "device_model/channel_list.h"
-#include "platform/simulated/machine.h"
+#include "simulated/machine.h"
 
 namespace machines {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <span>
 
-#include "platform/simulated/stage.h"
+#include "simulated/stage.h"
 #include "tests/sheets.h"
 
 namespace {

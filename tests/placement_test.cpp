@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "host/full_screen/placement.h"
-#include "platform/simulated/catalogue.h"
+#include "simulated/catalogue.h"
 #include "tests/machines.h"
 #include "tests/sheets.h"
 

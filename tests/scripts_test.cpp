@@ -18,7 +18,7 @@
 #include "host/line/interpreter.h"
 #include "host/worlds/simulated/tour.h"
 #include "host/worlds/simulated/world.h"
-#include "platform/simulated/catalogue.h"
+#include "simulated/catalogue.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The settings line by itself: what each field reads as, and how the line is cut.
 #include <gtest/gtest.h>
 
-#include "platform/simulated/machine.h"
+#include "simulated/machine.h"
 #include "uart_page/settings_line.h"
 
 namespace {

@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/simulated/machine.h"
 #include "reporting/text_operations.h"
+#include "simulated/machine.h"
 
 namespace {
 

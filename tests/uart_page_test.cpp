@@ -1,5 +1,5 @@
 // The Port Settings page: its five combos, the settings line through them, and what OK writes.
-#include "platform/simulated/catalogue.h"
+#include "simulated/catalogue.h"
 #include "tests/sheets.h"
 #include "uart_page/settings_line.h"
 

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-#include "platform/simulated/machine.h"
+#include "simulated/machine.h"
 
 namespace host {
 

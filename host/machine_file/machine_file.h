@@ -28,7 +28,7 @@
 
 #include "host/machine_file/registry_export.h"
 #include "host/machine_file/registry_tree.h"
-#include "platform/simulated/machine.h"
+#include "simulated/machine.h"
 
 namespace host {
 

@@ -5,7 +5,7 @@
 #include <map>
 #include <string_view>
 
-#include "platform/simulated/machine.h"
+#include "simulated/machine.h"
 
 namespace host {
 

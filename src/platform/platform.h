@@ -12,7 +12,7 @@
 
 #include <ddk/msports.h>
 #else
-#include "platform/simulated/windows_api.h"
+#include "simulated/windows_api.h"
 #endif
 
 #include "platform/layouts.h"

@@ -5,9 +5,9 @@
 #include <cstdlib>
 #include <deque>
 
-#include "platform/simulated/catalogue.h"
 #include "reporting/module_entry.h"
 #include "reporting/text_operations.h"
+#include "simulated/catalogue.h"
 #include "tests/sheets.h"
 
 namespace {

@@ -3,7 +3,7 @@
 
 #include "host/machine_file/machine_file.h"
 #include "host/worlds/world.h"
-#include "platform/simulated/machine.h"
+#include "simulated/machine.h"
 
 namespace host {
 

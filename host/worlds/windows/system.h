@@ -1,5 +1,5 @@
-// The calls that differ under Wine: the host for Wine links `worlds/wine/system.cpp` instead of the file
-// here. That one answers where Wine has no answer, and fails calls on demand; the host that ships does
+// The calls that differ under Wine: the host for Wine links `tests/windows/wine/system.cpp` instead of the
+// file here. That one answers where Wine has no answer, and fails calls on demand; the host that ships does
 // neither.
 #pragma once
 

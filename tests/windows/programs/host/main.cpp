@@ -8,7 +8,7 @@
 
 #include "host/full_screen/start.h"
 #include "host/line/program.h"
-#include "host/worlds/wine/faults.h"
+#include "tests/windows/wine/faults.h"
 
 namespace {
 
