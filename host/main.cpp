@@ -1,7 +1,7 @@
 #include "host/full_screen/start.h"
-#include "host/line/program.h"
+#include "host/program.h"
 
 int main(int argc, char** argv) {
     host::OpenOutput();
-    return host::RunProgram(argc, argv, host::OpenConsole, host::RunFullScreen);
+    return host::RunProgram(argc, argv, host::OpenConsole, host::OpenFullScreen);
 }

@@ -302,6 +302,7 @@ BOOL SetupDiSetDeviceRegistryPropertyW(HDEVINFO set, SP_DEVINFO_DATA* device, DW
 #define DLGC_STATIC 0x0100
 #define DLGC_BUTTON 0x2000
 #define VK_BACK 0x08
+#define VK_DELETE 0x2E
 #define VK_TAB 0x09
 #define VK_RETURN 0x0D
 #define VK_SHIFT 0x10

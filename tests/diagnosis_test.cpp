@@ -15,8 +15,9 @@
 #include "host/diagnosis/number_ranges.h"
 #include "host/diagnosis/report.h"
 #include "host/diagnosis/settings_reading.h"
-#include "host/line/interpreter.h"
+#include "host/line/line_seat.h"
 #include "host/machine_file/patch.h"
+#include "host/session/session.h"
 #include "host/worlds/simulated/world.h"
 #include "tests/machine_files.h"
 #include "tests/machines.h"
@@ -192,7 +193,9 @@ std::string Do(const host::MachineFile& file, const Names& commands, host::Machi
     for (const std::string& command : commands) {
         lines << command << '\n';
     }
-    host::Interpreter(world, *host::LinesOf(lines), out).Run();
+    const std::unique_ptr<host::LineSource> script = host::LinesOf(lines);
+    host::LineSeat seat(*script, out);
+    host::Session(world, "the sample machine", seat).Run();
     if (after != nullptr) {
         *after = host::Changed(file, machine);
     }

@@ -15,7 +15,8 @@
 
 #include <gtest/gtest.h>
 
-#include "host/line/interpreter.h"
+#include "host/line/line_seat.h"
+#include "host/session/session.h"
 #include "host/worlds/simulated/tour.h"
 #include "host/worlds/simulated/world.h"
 #include "simulated/catalogue.h"
@@ -107,7 +108,8 @@ TEST_P(ScriptsTest, MatchesItsTranscript) {
             }
         }
         Script script(lines, world);
-        host::Interpreter(world, script, out).Run();
+        host::LineSeat seat(script, out);
+        host::Session(world, "the machine of the script", seat).Run();
     }
     EXPECT_TRUE(machine.open.empty());
     EXPECT_EQ(machine.misuse, std::vector<std::string>{});
@@ -140,7 +142,9 @@ TEST(Tour, SortsAndRenamesInEveryLanguage) {
         machine.language = catalogue->language;
         std::istringstream tour(lines);
         std::ostringstream out;
-        EXPECT_EQ(host::Interpreter(world, *host::LinesOf(tour), out).Run(), 0) << out.str();
+        const std::unique_ptr<host::LineSource> script = host::LinesOf(tour);
+        host::LineSeat seat(*script, out);
+        EXPECT_EQ(host::Session(world, "the sample machine", seat).Run(), 0) << out.str();
         const std::string last = out.str().substr(out.str().rfind("> ports"));
         EXPECT_NE(last.find("COM14"), std::string::npos);
         ports = ports.empty() ? last : ports;

@@ -1,12 +1,12 @@
 #include "host/full_screen/full_screen.h"
 
 #include <algorithm>
+#include <iterator>
 
-#include "host/diagnosis/published_values.h"
-#include "host/screen/hand.h"
-#include "host/screen/keyboard.h"
+#include "host/diagnosis/gathering.h"
+#include "host/diagnosis/report.h"
+#include "host/full_screen/text_view.h"
 #include "host/text.h"
-#include "host/worlds/store_values.h"
 
 namespace host {
 namespace {
@@ -14,294 +14,447 @@ namespace {
 constexpr int small_screen = 100; // columns
 constexpr int low_screen = 40;    // rows
 
-int PaneColumns(int columns) {
-    return columns < small_screen ? 26 : 34;
-}
-int PaneRows(int rows) {
-    return rows < low_screen ? 4 : 10;
+constexpr char leave = 'C', repaint = 'L', save = 'S'; // with Ctrl
+
+bool IsControl(const Event& event, char letter) {
+    return event.kind == Event::Kind::Control && event.key.letter == static_cast<WCHAR>(letter);
 }
 
-const Control* FocusedOf(const Window& window) {
-    const auto found = std::ranges::find_if(window.controls, &Control::focused);
-    return found == window.controls.end() ? nullptr : &*found;
-}
-
-// What the keys do to the control with the focus.
-std::string KeysOf(const Control* control) {
-    if (control == nullptr) {
-        return "";
-    }
-    switch (control->kind) {
-    case Kind::Button:
-        return "Enter press";
-    case Kind::Check:
-        return "Space check";
-    case Kind::Combo:
-        return control->dropped ? "Up/Down choose  Enter close" : "Up/Down choose  F4 list";
-    case Kind::List:
-        return "Up/Down choose";
-    case Kind::Slider:
-        return "Left/Right PgUp/PgDn move: " + std::to_string(control->position) + " of " +
-               std::to_string(control->minimum) + ".." + std::to_string(control->maximum);
-    default:
-        return "";
-    }
+// A word as the command line takes it.
+std::string AsWord(const std::string& text) {
+    return text.find(' ') == std::string::npos ? text : '"' + text + '"';
 }
 
 } // namespace
 
-FullScreen::FullScreen(World& world, Command command) : world_(world), command_(std::move(command)) {
-    ReadDevices();
-    world_.Journal(); // what happened before is not news
-    HearTrace();
+void FullScreen::SitBefore(Session& session) {
+    session_ = &session;
+    devices_.Read(session.world());
+    session.Trace();
 }
 
-FullScreen::~FullScreen() {
-    world_.HearTrace(nullptr);
-}
-
-void FullScreen::Run() {
-    while (!ending_) {
-        Draw();
-        const Event event = terminal_.Next();
-        if (!TakeCommon(event)) {
-            TakeDeviceEvent(event);
-        }
+std::optional<std::string> FullScreen::Next(const std::string&) {
+    if (shown_actions_ != session_->actions().size()) {
+        Refresh();
     }
+    Draw();
+    const Event event = NextEvent();
+    const bool leaves =
+        IsControl(event, leave) || (event.kind == Event::Kind::Function && event.function == 10);
+    if (leaves) {
+        return {};
+    }
+    if (event.kind == Event::Kind::End) {
+        session_->Abandon();
+        return std::string{};
+    }
+    if (event.kind == Event::Kind::Function || event.kind == Event::Kind::Control) {
+        return TakeCommon(event);
+    }
+    if (view_) {
+        return TakeView(event);
+    }
+    if (session_->windows().empty()) {
+        return TakeDeviceEvent(event);
+    }
+    if (event.kind != Event::Kind::Resize) {
+        front_.Take(*session_, event);
+    }
+    return std::string{};
 }
 
-// --- While a window waits ---
-
-void FullScreen::Attend(HWND front) {
-    std::erase_if(windows_, [](HWND window) { return !IsOpen(window); });
-    if (windows_.empty() || windows_.back() != front) {
-        windows_.push_back(front);
+// The next event; a click on a hint is the event of its key.
+Event FullScreen::NextEvent() {
+    const Event event = terminal_.Next();
+    if (event.kind == Event::Kind::Resize) {
+        return event;
     }
-    while (IsOpen(front)) {
-        if (ending_) {
-            Dismiss(ReadWindow(front, world_.BoxStyle(front) != 0));
-            continue;
-        }
-        Draw();
-        Event event = terminal_.Next();
-        if (TakeCommon(event)) {
-            continue;
-        }
-        if (event.kind == Event::Kind::Key) {
-            const Control* const focused = FocusedOf(front_.window);
-            const bool typed =
-                focused != nullptr && (focused->kind == Kind::Combo || focused->kind == Kind::List);
-            if (event.key.code == VK_SPACE && typed) {
-                event.key = {0, ' '};
+    message_.clear();
+    if (event.kind == Event::Kind::Press) {
+        for (const PlacedHint& placed : placed_hints_) {
+            if (placed.cells.Has(event.column, event.row - (terminal_.rows() - foot_))) {
+                return placed.hint->event;
             }
-            turned_.clear();
-            PressKey(front, event.key);
-        } else if (event.kind == Event::Kind::Press) {
-            TakeClick(event);
-        } else if (event.kind == Event::Kind::Drag) {
-            Drag(event.column);
-        } else if (event.kind == Event::Kind::Release) {
-            dragged_ = nullptr;
-        } else {
-            TakeWheel(event);
         }
-        NoteChanges();
     }
-    std::erase_if(windows_, [](HWND window) { return !IsOpen(window); });
+    return event;
 }
 
-void FullScreen::NoteChanges() {
-    const Lines news = world_.Journal();
-    if (!news.empty()) {
-        news_ = journal_.size();
-        journal_.insert(journal_.end(), news.begin(), news.end());
-        ReadDevices();
+void FullScreen::Done(const std::string& command) {
+    Lines told = std::exchange(told_, {});
+    if (told.size() == 1 && Columns(told.front()) < terminal_.columns() - 2) {
+        message_ = told.front();
+    } else if (!told.empty()) {
+        view_ = std::make_unique<TextView>(command, told);
+        view_command_.clear();
     }
-}
-
-void FullScreen::HearTrace() {
-    world_.HearTrace([this](const std::string& line, bool change) {
-        if (trace_is_old_) {
-            trace_.clear();
-            trace_is_old_ = false;
-        }
-        trace_.push_back((change ? "* " : "  ") + line);
-    });
-}
-
-void FullScreen::ReadDevices() {
-    devices_.clear();
-    for (Device& device : world_.Devices()) {
-        const std::vector<StoreValue> store = world_.Store(device.id);
-        ListedDevice listed;
-        if (const StoreValue* const name = FindValue(store, "PortName");
-            name != nullptr && device.kind == DeviceKind::Port) {
-            listed.port = TextOf(*name);
-        }
-        const StoreValue* const opened = FindValue(store, "ChlOpened");
-        unsigned long times = 0;
-        if (const std::string reason = WhyNoPage(device.kind, store); !reason.empty()) {
-            listed.state = "no page: " + reason;
-        } else if (!device.present.value_or(true)) {
-            listed.state = "absent";
-        } else if (opened != nullptr && NumberOf(*opened, times) && times != 0) {
-            listed.state = "open";
-        }
-        listed.device = std::move(device);
-        devices_.push_back(std::move(listed));
-    }
-}
-
-void FullScreen::Open() {
-    if (selected_ >= devices_.size()) {
-        return;
-    }
-    bool opened = false;
-    const std::string id = devices_[selected_].device.id;
-    world_.RunSheet(id, [&](HWND front) {
-        opened = true;
-        Attend(front);
-    });
-    windows_.clear();
-    NoteChanges();
-    if (!opened) {
-        message_ = "the device's provider gave no page";
-    }
+    Refresh();
 }
 
 // --- Events ---
 
-void FullScreen::TakeDeviceEvent(const Event& event) {
-    const int last = static_cast<int>(devices_.size()) - 1,
-              page = terminal_.rows() - 3 - PaneRows(terminal_.rows());
-    int wanted = static_cast<int>(selected_);
-    if (event.kind == Event::Kind::Press) {
-        const int row = event.row - 1 + first_device_;
-        if (event.row < 1 || event.row > page + 1 || row > last) {
-            return;
-        }
-        if (row == wanted) {
-            return Open();
-        }
-        wanted = row;
-    } else if (event.kind == Event::Kind::WheelUp || event.kind == Event::Kind::WheelDown) {
-        wanted += event.kind == Event::Kind::WheelUp ? -wheel_step : wheel_step;
-    } else if (event.kind == Event::Kind::Key) {
-        const Key& key = event.key;
-        if (key.code == VK_RETURN) {
-            return Open();
-        }
-        const std::pair<UINT, int> moves[] = {
-            {VK_UP, wanted - 1},      {VK_DOWN, wanted + 1}, {VK_PRIOR, wanted - page},
-            {VK_NEXT, wanted + page}, {VK_HOME, 0},          {VK_END, last}};
-        const auto move = std::ranges::find(moves, key.code, &std::pair<UINT, int>::first);
-        if (key.letter == 'q') {
-            ending_ = true;
-        }
-        if (move != std::end(moves)) {
-            wanted = move->second;
-        }
+std::string FullScreen::TakeCommon(const Event& event) {
+    if (IsControl(event, save)) {
+        Save();
+        return {};
     }
-    selected_ = static_cast<std::size_t>(std::clamp(wanted, 0, std::max(0, last)));
+    if (event.kind == Event::Kind::Control) {
+        return {};
+    }
+    const std::string device = std::to_string(devices_.Selected());
+    switch (event.function) {
+    case 1:
+        ShowOutput("Keys and commands", "help");
+        break;
+    case 2:
+        ShowOutput("Ports", "ports", 1);
+        break;
+    case 3:
+        ShowOutput("The store of device " + device, "store " + device);
+        break;
+    case 5:
+        ShowJournal();
+        break;
+    case 6:
+        return AskLine("command: ", {}, true).value_or("");
+    case 7:
+        ShowFindings();
+        break;
+    case 8:
+        ShowOutput("What differs from the machine as it was read", "changes");
+        break;
+    case 9:
+        tracing_ = !tracing_;
+        break;
+    default:
+        break;
+    }
+    return {};
 }
 
-// --- The screen ---
+std::string FullScreen::TakeView(const Event& event) {
+    const bool is_key = event.kind == Event::Kind::Key;
+    if (is_key && event.key.letter == '/') {
+        AskFind();
+        return {};
+    }
+    if (is_key && event.key.letter == 'n' && !searched_.empty()) {
+        message_ = view_->Find(searched_) ? "" : "not found: " + searched_;
+        return {};
+    }
+    View::Outcome outcome = view_->Take(event, Body());
+    if (outcome.closes || outcome.command.starts_with("open")) {
+        view_.reset();
+    }
+    return outcome.command;
+}
 
-void FullScreen::Draw() {
-    const int columns = terminal_.columns(), rows = terminal_.rows();
+std::string FullScreen::TakeDeviceEvent(const Event& event) {
+    if (event.kind == Event::Kind::Key && event.key.letter == '/') {
+        AskFind();
+        return {};
+    }
+    return devices_.Take(event, Body()) ? "open " + std::to_string(devices_.Selected()) : std::string{};
+}
+
+// --- Views ---
+
+Lines FullScreen::OutputOf(const std::string& command) {
+    Lines before = std::exchange(told_, {});
+    session_->Execute(command);
+    return std::exchange(told_, std::move(before));
+}
+
+void FullScreen::ShowOutput(const std::string& title, const std::string& command, std::size_t headings) {
+    view_ = std::make_unique<TextView>(title, OutputOf(command), headings);
+}
+
+void FullScreen::ShowFindings() {
+    view_ = std::make_unique<TextView>("What is wrong", OutputOf("diagnose"));
+}
+
+void FullScreen::ShowJournal() {
+    if (tracing_) {
+        view_ = std::make_unique<TextView>("The trace of the last action", session_->Trace());
+        return;
+    }
+    std::vector<Paragraph> actions;
+    for (const Action& action : session_->actions()) {
+        actions.push_back({{action.name + ':'}, {}});
+        for (const std::string& change : action.changes) {
+            actions.back().lines.push_back("  " + change);
+        }
+    }
+    view_ = std::make_unique<TextView>("Journal", std::move(actions));
+}
+
+// Shows what has changed since the devices and the view were made.
+void FullScreen::Refresh() {
+    shown_actions_ = session_->actions().size();
+    devices_.Read(session_->world());
+}
+
+// --- Questions ---
+
+std::optional<std::string> FullScreen::AskLine(const std::string& label, std::string text, bool is_command) {
+    Text line = FromUtf8(text);
+    std::size_t cursor = line.size(), recalled = commands_.size();
+    for (;;) {
+        const std::string before = ' ' + label + ToUtf8(line.substr(0, cursor));
+        hints_ = {{"Enter", "do it", OfCode(VK_RETURN)}, {"Esc", "leave", OfCode(VK_ESCAPE)}};
+        if (is_command) {
+            hints_.push_back({"Tab", "complete", OfCode(VK_TAB)});
+            hints_.push_back({"Up/Down", "earlier ones", OfCode(VK_UP)});
+        }
+        Draw(before + ToUtf8(line.substr(cursor)));
+        terminal_.PointAt(terminal_.rows() - foot_ - 1, std::min(Columns(before), terminal_.columns() - 1));
+        terminal_.Show();
+        const Event event = NextEvent();
+        if (event.kind == Event::Kind::End) {
+            session_->Abandon();
+            return {};
+        }
+        if (IsControl(event, leave)) {
+            return {};
+        }
+        if (event.kind != Event::Kind::Key) {
+            continue;
+        }
+        const Key& key = event.key;
+        if (key.code == VK_ESCAPE) {
+            return {};
+        }
+        if (key.code == VK_RETURN) {
+            text = ToUtf8(line);
+            if (is_command && !text.empty()) {
+                commands_.push_back(text);
+            }
+            return text;
+        }
+        if (is_command && (key.code == VK_UP || key.code == VK_DOWN)) {
+            recalled =
+                key.code == VK_UP ? recalled - (recalled != 0) : std::min(recalled + 1, commands_.size());
+            line = FromUtf8(recalled < commands_.size() ? commands_[recalled] : "");
+            cursor = line.size();
+        } else if (is_command && key.code == VK_TAB) {
+            const Completion completion = Completed(*session_, ToUtf8(line.substr(0, cursor)));
+            const Text completed = FromUtf8(completion.line);
+            line.replace(0, cursor, completed);
+            cursor = completed.size();
+            for (const std::string& candidate : completion.candidates) {
+                message_ += (message_.empty() ? "" : "  ") + Escaped(candidate);
+            }
+        } else if (key.code == VK_LEFT) {
+            cursor -= cursor != 0;
+        } else if (key.code == VK_RIGHT) {
+            cursor = std::min(cursor + 1, line.size());
+        } else if (key.code == VK_HOME) {
+            cursor = 0;
+        } else if (key.code == VK_END) {
+            cursor = line.size();
+        } else if (key.code == VK_BACK && cursor != 0) {
+            line.erase(--cursor, 1);
+        } else if (key.code == VK_DELETE) {
+            line.erase(cursor, 1);
+        } else if ((key.letter != 0 && !key.alt) || key.code == VK_SPACE) {
+            line.insert(cursor++, 1, key.letter != 0 ? key.letter : WCHAR{' '});
+        }
+    }
+}
+
+char FullScreen::AskLetter(const std::string& question, const std::vector<Hint>& answers) {
+    for (;;) {
+        hints_ = answers;
+        Draw(' ' + question);
+        terminal_.PointAt(terminal_.rows() - foot_ - 1,
+                          std::min(Columns(question) + 2, terminal_.columns() - 1));
+        terminal_.Show();
+        const Event event = NextEvent();
+        if (event.kind == Event::Kind::End) {
+            session_->Abandon();
+            return 0;
+        }
+        if (IsControl(event, leave) || (event.kind == Event::Kind::Key && event.key.code == VK_ESCAPE)) {
+            return 0;
+        }
+        for (const Hint& answer : answers) {
+            if (event.kind == Event::Kind::Key && event.key.letter != 0 &&
+                event.key.letter == answer.event.key.letter) {
+                return static_cast<char>(event.key.letter);
+            }
+        }
+    }
+}
+
+void FullScreen::AskFind() {
+    const std::optional<std::string> text = AskLine("find: ", {}, false);
+    searched_ = text && !text->empty() ? *text : searched_;
+    if (text && !searched_.empty()) {
+        const bool is_found = view_ ? view_->Find(searched_) : devices_.Find(searched_);
+        message_ = is_found ? "" : "not found: " + searched_;
+    }
+}
+
+void FullScreen::Save() {
+    const Hint esc{"Esc", "go on", OfCode(VK_ESCAPE)};
+    const char kind = AskLetter("Save:", {{"e", "export the whole machine", OfLetter('e')},
+                                          {"p", "patch with the changes, to import", OfLetter('p')},
+                                          esc});
+    if (kind == 0) {
+        return;
+    }
+    std::string stem = session_->name();
+    if (stem.ends_with(".reg")) {
+        stem.resize(stem.size() - 4);
+    } else {
+        stem = "sample";
+    }
+    const std::string word = kind == 'e' ? "export" : "patch";
+    const std::optional<std::string> file =
+        AskLine(word + " to: ", stem + (kind == 'e' ? "-changed.reg" : "-fix.reg"), false);
+    if (!file || file->empty()) {
+        return;
+    }
+    Lines told = OutputOf(word + ' ' + AsWord(*file));
+    if (!told.empty() && told.front().find(" exists; ") != std::string::npos) {
+        if (AskLetter(*file + " exists.", {{"r", "replace it", OfLetter('r')}, esc}) == 0) {
+            return;
+        }
+        told = OutputOf(word + " --over " + AsWord(*file));
+    }
+    message_ = told.empty() ? *file + " is written" : told.front();
+}
+
+bool FullScreen::MayDiscard() {
+    const char answer = AskLetter(session_->name() + " has changed, and the changes are not saved.",
+                                  {{"s", "save", OfLetter('s')},
+                                   {"d", "discard them and end", OfLetter('d')},
+                                   {"Esc", "go on", OfCode(VK_ESCAPE)}});
+    if (answer == 's') {
+        Save();
+    }
+    return answer == 'd' || (answer == 's' && !session_->IsUnsaved());
+}
+
+// --- The picture ---
+
+int FullScreen::PaneRows() const {
+    return view_ ? 0 : terminal_.rows() < low_screen ? 4 : 10;
+}
+
+// Between the title and the pane.
+Cells FullScreen::Body() const {
+    return {0, 1, terminal_.columns(), std::max(1, terminal_.rows() - 1 - PaneRows() - foot_)};
+}
+
+std::vector<Hint> FullScreen::HintsHere() const {
+    std::vector<Hint> hints;
+    if (view_) {
+        hints = view_->Hints();
+        hints.push_back({"/", "find", OfLetter('/')});
+        if (!searched_.empty()) {
+            hints.push_back({"n", "next", OfLetter('n')});
+        }
+    } else if (!session_->windows().empty()) {
+        hints = front_.Hints();
+    } else {
+        hints = {{"Enter", "open", OfCode(VK_RETURN)},
+                 {"Up/Down", "choose", OfCode(VK_DOWN)},
+                 {"/", "find", OfLetter('/')}};
+    }
+    const Hint everywhere[] = {
+        {"F1", "help", OfFunction(1)},    {"F7", "wrong", OfFunction(7)},
+        {"^S", "save", OfControl(save)},  {"F10", "end", OfFunction(10)},
+        {"F2", "ports", OfFunction(2)},   {"F3", "store", OfFunction(3)},
+        {"F5", "journal", OfFunction(5)}, {"F6", "command", OfFunction(6)},
+        {"F8", "changes", OfFunction(8)}, {"F9", tracing_ ? "journal" : "trace", OfFunction(9)}};
+    hints.insert(hints.end(), std::begin(everywhere), std::end(everywhere));
+    return hints;
+}
+
+void FullScreen::Draw(const std::string& question) {
+    if (question.empty()) {
+        hints_ = HintsHere();
+    }
+    const int columns = terminal_.columns();
+    placed_hints_ = PlaceHints(hints_, columns, std::max(1, terminal_.rows() / 8));
+    foot_ = placed_hints_.empty() ? 1 : placed_hints_.back().cells.top + 1;
     terminal_.Clear();
-    DrawDevices(windows_.empty() ? columns : PaneColumns(columns), rows - 1 - PaneRows(rows));
-    DrawPane(rows - 1 - PaneRows(rows), PaneRows(rows));
-    DrawWindows();
-    DrawKeys();
+    DrawTitle();
+    const Cells body = Body();
+    if (view_) {
+        view_->Draw(terminal_, body);
+    } else {
+        DrawPane({0, body.top + body.rows, columns, PaneRows()});
+        const bool has_window = !session_->windows().empty();
+        const int beside = columns < small_screen ? 26 : 34;
+        if (!has_window) {
+            devices_.Draw(terminal_, body, true);
+        } else {
+            devices_.Draw(terminal_, {0, body.top, beside, body.rows}, false);
+            if (!front_.Draw(terminal_, *session_, body, beside)) {
+                for (int row = 0; row < body.rows; ++row) {
+                    terminal_.Write(body.top + row, 0, "", columns);
+                }
+                front_.Draw(terminal_, *session_, body, beside);
+            }
+        }
+    }
+    DrawFoot(question);
     terminal_.Show();
 }
 
-void FullScreen::DrawDevices(int columns, int rows) {
-    const int in_sight = std::max(1, rows - 1), all = static_cast<int>(devices_.size());
-    first_device_ = std::clamp(first_device_, std::max(0, static_cast<int>(selected_) - in_sight + 1),
-                               static_cast<int>(selected_));
-    terminal_.Write(0, 0, " Devices", columns, {false, true, false, colour_title});
-    for (int row = 0; row < in_sight && first_device_ + row < all; ++row) {
-        const auto index = static_cast<std::size_t>(first_device_ + row);
-        const auto& [device, port, state] = devices_[index];
-        const bool selected = index == selected_;
-        const std::string number = std::to_string(index + 1);
-        const std::string line = (selected ? ">" : " ") +
-                                 std::string(number.size() < 3 ? 3 - number.size() : 0, ' ') + number + ' ' +
-                                 (port.empty() ? "" : PaddedTo(port, 7)) + NameOf(device) +
-                                 (state.empty() ? "" : "  (" + state + ')');
-        terminal_.Write(1 + row, 0, line, columns - 1,
-                        {selected && windows_.empty(), selected, !state.empty(), 0});
-        if (selected && windows_.empty()) {
-            terminal_.PointAt(1 + row, 0);
-        }
+void FullScreen::DrawTitle() {
+    const std::string state = session_->IsUnsaved() ? " * not saved" : "";
+    const std::string place = view_ ? view_->Title() : session_->windows().empty() ? "Devices" : "";
+    const int columns = terminal_.columns(), right = Columns(place) + 2;
+    terminal_.Write(0, 0, ' ' + session_->name() + state, columns, {false, true, false, colour_title});
+    if (right < columns) {
+        terminal_.Write(0, columns - right, place, right, {false, true, false, colour_title});
     }
 }
 
-void FullScreen::DrawPane(int top, int rows) {
-    // The journal from the start of the last action, or the end of the trace, where its results are.
-    const Lines& lines = tracing_ ? trace_ : journal_;
-    const std::size_t seen = static_cast<std::size_t>(std::max(0, rows - 1)),
-                      first = tracing_ ? trace_.size() - std::min(seen, trace_.size()) : news_,
-                      count = tracing_ ? trace_.size() : journal_.size() - news_;
-    std::string title = tracing_ ? " The trace of the last action: " : " The last change outside: ";
-    if (lines.empty()) {
-        title = tracing_ ? " Nothing has been traced" : " Nothing has been changed outside";
-    } else {
-        title += std::to_string(count) + (tracing_ ? " line" : " operation") + (count == 1 ? "" : "s") +
-                 ", F5 shows all";
+void FullScreen::DrawPane(const Cells& within) {
+    // The last action in the journal from its start, or the end of the trace, where its results are.
+    Lines lines;
+    std::string title = "Journal: nothing has been changed";
+    const std::size_t seen = static_cast<std::size_t>(std::max(0, within.rows - 1));
+    if (tracing_) {
+        const Lines& trace = session_->Trace();
+        title = trace.empty() ? "Trace: nothing yet" : "Trace of the last action";
+        lines.assign(trace.end() - static_cast<std::ptrdiff_t>(std::min(seen, trace.size())), trace.end());
+    } else if (!session_->actions().empty()) {
+        const Action& last = session_->actions().back();
+        title = "Journal, " + last.name + ": " + std::to_string(last.changes.size()) +
+                (last.changes.size() == 1 ? " change" : " changes");
+        lines = last.changes;
     }
-    terminal_.Write(top, 0, title + (tracing_ ? ", F9 the changes" : ", F9 the trace"), terminal_.columns(),
-                    {false, true, false, colour_title});
-    for (std::size_t row = 0; row < seen; ++row) {
-        terminal_.Write(top + 1 + static_cast<int>(row), 0,
-                        first + row < lines.size() ? ' ' + lines[first + row] : "", terminal_.columns());
+    terminal_.Write(within.top, 0, ' ' + title, within.columns, {false, true, false, colour_title});
+    for (std::size_t row = 0; row < seen && row < lines.size(); ++row) {
+        terminal_.Write(within.top + 1 + static_cast<int>(row), 0, ' ' + lines[row], within.columns);
     }
 }
 
-void FullScreen::DrawKeys() {
-    std::string keys = "Up/Down choose  Enter open  F1 help  F2 ports  F3 store  F5 journal  F10 end";
-    if (!windows_.empty()) {
-        keys = KeysOf(FocusedOf(front_.window));
-        // As many as fit, the most needed first.
-        for (const char* const key :
-             {"Tab next", "Esc cancel", "F1 help", "F10 end", "Alt+letter", "F2 ports"}) {
-            const std::string more = keys + (keys.empty() ? "" : "  ") + key;
-            keys = Columns(more) < terminal_.columns() ? more : keys;
-        }
+void FullScreen::DrawFoot(const std::string& question) {
+    const int columns = terminal_.columns(), first = terminal_.rows() - foot_;
+    for (int row = 0; row < foot_; ++row) {
+        terminal_.Write(first + row, 0, "", columns, {true, false, false, 0});
     }
-    terminal_.Write(terminal_.rows() - 1, 0, ' ' + (message_.empty() ? keys : message_), terminal_.columns(),
-                    {true, false, false, 0});
-}
-
-void FullScreen::DrawWindows() {
-    const int all_columns = terminal_.columns(), all_rows = terminal_.rows() - 1;
-    const int pane = PaneColumns(all_columns), rows = all_rows - PaneRows(terminal_.rows());
-    for (const HWND window : windows_) {
-        if (!IsOpen(window)) {
-            continue;
-        }
-        Painted painted;
-        painted.window = ReadWindow(window, world_.BoxStyle(window) != 0);
-        // Beside the devices and above the changes if there is room, otherwise over them.
-        for (const auto& [most_columns, most_rows] :
-             {std::pair{all_columns - pane, rows}, {all_columns, rows}, {all_columns, all_rows}}) {
-            painted.placement = Place(painted.window, most_columns, most_rows);
-            if (painted.placement.columns <= most_columns && painted.placement.rows <= most_rows) {
-                break;
-            }
-        }
-        const Placement& placement = painted.placement;
-        painted.left = placement.columns > all_columns - pane
-                           ? std::max(0, all_columns - placement.columns)
-                           : pane + (all_columns - pane - placement.columns) / 2;
-        painted.top = std::max(0, ((placement.rows > rows ? all_rows : rows) - placement.rows) / 2);
-        const bool front = window == windows_.back();
-        Paint(terminal_, painted, front, turned_);
-        if (front) {
-            front_ = std::move(painted);
-        }
+    for (const PlacedHint& placed : placed_hints_) {
+        const Cells& cells = placed.cells;
+        const int key = Columns(placed.hint->key);
+        terminal_.Write(first + cells.top, cells.left, placed.hint->key, key, {true, true, false, 0});
+        terminal_.Write(first + cells.top, cells.left + key + 1, placed.hint->does, cells.columns - key - 1,
+                        {true, false, false, 0});
+    }
+    // What is asked or has just been said stands above the hints.
+    const std::string said = !message_.empty() ? ' ' + message_ : question;
+    if (!message_.empty() && !question.empty()) {
+        terminal_.Write(first - 2, 0, ' ' + message_, columns, {false, true, false, colour_mark});
+    }
+    if (!said.empty()) {
+        terminal_.Write(first - 1, 0, question.empty() ? said : question, columns,
+                        {false, true, false, colour_mark});
     }
 }
 

@@ -1,83 +1,82 @@
-// The machine on the full screen of a terminal: its devices, the windows that are open over them, what the
-// last action changed outside, and a line that says what the keys do at the moment.
+// The seat before a terminal that is filled: the machine's devices, the windows that are open over them, what
+// the last action changed outside, a view for a while, and at the foot what the keys do at the moment.
 //
-// While a modal window waits, the world calls back and events go to that window until it has ended, however
-// deeply windows are nested. A key becomes the messages of that key, and a click does what a hand does.
-// Nothing is known here about a dialog except what is read from it.
+// A key becomes the messages of that key, and a click does what a hand does. Nothing is known here about a
+// dialog except what is read from it, and nothing of the machine except what the session says.
 #pragma once
 
-#include <functional>
+#include <memory>
+#include <optional>
 #include <string>
-#include <vector>
 
-#include "host/full_screen/painter.h"
-#include "host/screen/listing.h"
-#include "host/worlds/world.h"
+#include "host/full_screen/device_list.h"
+#include "host/full_screen/front_window.h"
+#include "host/full_screen/hints.h"
+#include "host/full_screen/view.h"
+#include "host/session/seat.h"
+#include "host/session/session.h"
 
 namespace host {
 
-constexpr int wheel_step = 3; // items or lines that the mouse's wheel moves by
-
-class FullScreen {
+class FullScreen : public Seat {
 public:
-    // Produces the output of a command of the line, for views to show.
-    using Command = std::function<Lines(const std::string& line)>;
+    // The terminal must be one that can be filled.
+    FullScreen() = default;
 
-    // Both must outlive this. The terminal must be one that can be filled.
-    FullScreen(World& world, Command command);
-    ~FullScreen();
-    FullScreen(const FullScreen&) = delete;
-    FullScreen& operator=(const FullScreen&) = delete;
-
-    // Runs until its user leaves or the terminal is gone. Windows that are still open then are cancelled, and
-    // questions are answered with No.
-    void Run();
+    void SitBefore(Session& session) override;
+    std::optional<std::string> Next(const std::string& prompt) override;
+    void Tell(std::string_view line) override { told_.emplace_back(line); }
+    void Done(const std::string& command) override;
+    bool IsPerson() const override { return true; }
+    bool SeesWindows() const override { return true; }
+    int Width() const override { return terminal_.columns(); }
+    bool MayDiscard() override;
 
 private:
-    void Attend(HWND front);
-    void Draw();
-    void DrawDevices(int columns, int rows);
-    void DrawPane(int top, int rows);
-    void DrawKeys();
-    void DrawWindows();
+    // --- The picture
+    void Draw(const std::string& question = {});
+    void DrawTitle();
+    void DrawPane(const Cells& within);
+    void DrawFoot(const std::string& question);
+    std::vector<Hint> HintsHere() const;
+    Cells Body() const;
+    int PaneRows() const;
 
-    // Null if the event has been dealt with and does not concern the window in front.
-    bool TakeCommon(const Event& event);
-    void TakeDeviceEvent(const Event& event);
-    void TakeClick(const Event& event);
-    void TakeListClick(const Control& list, int row, int rows);
-    void TakeWheel(const Event& event);
-    void Drag(int column);
-    void Open();
-    void View(const std::string& title, const Lines& lines);
-    Lines Do(const std::string& line);
-    void AskCommand();
-    void NoteChanges();
-    void HearTrace();
-    void ReadDevices();
+    // --- Events; the command that one leads to, or an empty text
+    Event NextEvent();
+    std::string TakeCommon(const Event& event);
+    std::string TakeView(const Event& event);
+    std::string TakeDeviceEvent(const Event& event);
 
-    World& world_;
-    Command command_;
+    // --- Views
+    Lines OutputOf(const std::string& command);
+    void ShowOutput(const std::string& title, const std::string& command, std::size_t headings = 0);
+    void ShowFindings();
+    void ShowJournal();
+    void Refresh();
+
+    // --- Questions: a line that is typed, or nothing if its user thought better of it; one of some letters,
+    // or 0
+    std::optional<std::string> AskLine(const std::string& label, std::string text, bool is_command);
+    char AskLetter(const std::string& question, const std::vector<Hint>& answers);
+    void AskFind();
+    void Save();
+
     Terminal terminal_;
-    struct ListedDevice {
-        Device device;
-        std::string port;  // COM5; empty if it is not a port
-        std::string state; // absent, no page and why, open; empty if none of these
-    };
-    std::vector<ListedDevice> devices_;
-    std::size_t selected_ = 0;
-    int first_device_ = 0;
-    std::vector<HWND> windows_; // from the backmost to the frontmost
-    Painted front_;
-    Turned turned_;
-    HWND dragged_ = nullptr; // the slider that the mouse holds
-    Lines journal_;          // all of it
-    std::size_t news_ = 0;   // where the last action begins in it
-    Lines trace_;            // of the last action that had one; changes are in it after a *
-    bool trace_is_old_ = true;
-    bool tracing_ = false; // the pane shows the trace, not the journal
-    std::string message_;  // shown once, in the line of the keys
-    bool ending_ = false;
+    Session* session_ = nullptr;
+    DeviceList devices_;
+    FrontWindow front_;
+    std::unique_ptr<View> view_;
+    std::string view_command_;             // that shows the same view anew
+    std::string searched_;                 // what was looked for last
+    std::size_t shown_actions_ = 0;        // the session's, when the devices were read
+    bool tracing_ = false;                 // the pane shows the trace, not the journal
+    Lines told_;                           // by the command in progress
+    std::string message_;                  // shown once
+    Lines commands_;                       // typed so far
+    std::vector<Hint> hints_;              // at the foot,
+    std::vector<PlacedHint> placed_hints_; // and where
+    int foot_ = 1;                         // rows of the hints
 };
 
 } // namespace host

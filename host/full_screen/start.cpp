@@ -6,17 +6,15 @@
 
 namespace host {
 
-bool RunFullScreen(World& world, const FullScreen::Command& command, std::string& reason) {
+std::unique_ptr<Seat> OpenFullScreen(std::string& reason) {
     if (isatty(STDIN_FILENO) == 0 || isatty(STDOUT_FILENO) == 0) {
-        reason.clear();
-        return false;
+        return nullptr;
     }
     if (const auto why = WhyNoFullScreen()) {
         reason = *why;
-        return false;
+        return nullptr;
     }
-    FullScreen(world, command).Run();
-    return true;
+    return std::make_unique<FullScreen>();
 }
 
 } // namespace host

@@ -3,9 +3,8 @@
 namespace host {
 
 // The real windows are on the screen already.
-bool RunFullScreen(World&, const std::function<Lines(const std::string& line)>&, std::string& reason) {
-    reason.clear();
-    return false;
+std::unique_ptr<Seat> OpenFullScreen(std::string&) {
+    return nullptr;
 }
 
 } // namespace host

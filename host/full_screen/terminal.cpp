@@ -73,6 +73,7 @@ constexpr std::pair<int, Key> keys[] = {
     {KEY_PPAGE, {VK_PRIOR}},  {KEY_NPAGE, {VK_NEXT}},
     {KEY_ENTER, {VK_RETURN}}, {KEY_BTAB, {VK_TAB, 0, true}},
     {KEY_F(4), {VK_F4}},      {KEY_BACKSPACE, {VK_BACK}},
+    {KEY_DC, {VK_DELETE}},
 };
 constexpr std::pair<wint_t, Key> controls[] = {
     {L'\t', {VK_TAB}}, {L'\r', {VK_RETURN}}, {L'\n', {VK_RETURN}}, {L' ', {VK_SPACE}}, {0x7F, {VK_BACK}}};
@@ -301,8 +302,6 @@ std::optional<Event> Terminal::OfCode(std::wint_t code) {
 // The event of a character; nothing if it has no meaning here.
 std::optional<Event> Terminal::OfCharacter(std::wint_t character) {
     switch (character) {
-    case 0x03:
-        return EndEvent();
     case 0x0C:
         clearok(curscr, TRUE);
         return Event{};
@@ -318,7 +317,13 @@ std::optional<Event> Terminal::OfCharacter(std::wint_t character) {
             return OfKey(meant);
         }
     }
-    if (character >= 0x20 && character <= 0xFFFF) {
+    if (character < 0x20) {
+        Event event;
+        event.kind = Event::Kind::Control;
+        event.key.letter = static_cast<WCHAR>(character + '@');
+        return event;
+    }
+    if (character <= 0xFFFF) {
         return OfKey({0, static_cast<WCHAR>(character)});
     }
     return {};

@@ -14,13 +14,14 @@ struct Event {
     enum class Kind {
         Key,      // for the window in front
         Function, // F1 to F12 except F4, which is a key of windows
+        Control,  // Ctrl and the key's letter, a capital
         Press,    // of the mouse, at `row` and `column`
         Drag,
         Release,
         WheelUp,
         WheelDown,
         Resize,
-        End, // Ctrl-C, a signal that ends the program, or the loss of the terminal
+        End, // a signal that ends the program, or the loss of the terminal
     };
     Kind kind = Kind::Resize;
     Key key{};
@@ -34,6 +35,8 @@ struct Look {
     int colour = 0; // one of the constants below, if there are colours
 };
 constexpr int colour_frame = 1, colour_title = 2, colour_mark = 3, colour_hot_key = 4;
+
+constexpr int wheel_step = 3; // items or lines that the mouse's wheel moves by
 
 // Why the terminal can't be filled; nothing if it can be.
 std::optional<std::string> WhyNoFullScreen();

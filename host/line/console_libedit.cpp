@@ -10,7 +10,7 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-#include "host/line/console.h"
+#include "host/line/line_source.h"
 #include "host/text.h"
 
 namespace host {
@@ -35,7 +35,7 @@ public:
         el_set(edit_, EL_PROMPT, &Terminal::PromptOf);
         el_set(edit_, EL_EDITOR, "emacs");
         el_set(edit_, EL_HIST, history, history_);
-        el_wset(edit_, EL_ADDFN, L"complete", L"Completes the word", &Terminal::Complete);
+        el_wset(edit_, EL_ADDFN, L"complete", L"Completes the word", &Terminal::CompleteLine);
         el_set(edit_, EL_BIND, "^I", "complete", nullptr);
         el_set(edit_, EL_SIGNAL, 1);
         // Ctrl-C discards what has been typed and does nothing else; the editor passes the signal on and
@@ -79,7 +79,7 @@ public:
         winsize size{};
         return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
     }
-    void CompleteBy(const Continuations& continuations) override { continuations_ = continuations; }
+    void CompleteBy(const Complete& complete) override { complete_ = complete; }
 
 private:
     static Terminal& Of(EditLine* edit) {
@@ -90,53 +90,32 @@ private:
 
     static char* PromptOf(EditLine* edit) { return Of(edit).prompt_.data(); }
 
-    // Extends the word at the end of the line as far as all possible continuations agree. If it can't be
-    // extended, lists the continuations.
-    static unsigned char Complete(EditLine* edit, int) {
+    // Extends the line before the cursor, or lists how it may go on.
+    static unsigned char CompleteLine(EditLine* edit, int) {
         const LineInfo* const info = el_line(edit);
-        std::vector<std::string> words;
         const std::string_view line(info->buffer, static_cast<std::size_t>(info->cursor - info->buffer));
-        const bool in_quotes = !SplitWords(line, words);
-        std::string begun;
-        if (!line.empty() && !words.empty() && (in_quotes || line.back() != ' ')) {
-            begun = words.back();
-            words.pop_back();
-        }
-        std::vector<std::string> matching;
-        for (std::string& word : Of(edit).continuations_(words)) {
-            if (Folded(word).starts_with(Folded(begun))) {
-                matching.push_back(std::move(word));
-            }
-        }
-        if (matching.empty()) {
-            return CC_REFRESH_BEEP;
-        }
-        std::string common = matching.front();
-        for (const std::string& word : matching) {
-            common.resize(static_cast<std::size_t>(
-                std::mismatch(common.begin(), common.end(), word.begin(), word.end()).first -
-                common.begin()));
-        }
-        if (common.size() <= begun.size() && matching.size() > 1) {
+        const Completion completion = Of(edit).complete_(line);
+        if (!completion.candidates.empty()) {
             std::cout << '\n';
-            for (const std::string& word : matching) {
-                std::cout << "  " << word << '\n';
+            for (const std::string& word : completion.candidates) {
+                std::cout << "  " << Escaped(word) << '\n';
             }
             std::cout.flush();
             return CC_REDISPLAY;
         }
-        const bool whole = matching.size() == 1;
-        const bool quotes = in_quotes || common.find(' ') != std::string::npos;
-        std::string typed = (quotes ? "\"" : "") + common + (whole ? quotes ? "\" " : " " : "");
-        el_deletestr(edit, static_cast<int>(Columns(begun)) + (in_quotes ? 1 : 0));
-        el_insertstr(edit, typed.c_str());
+        if (completion.line == line) {
+            return CC_REFRESH_BEEP;
+        }
+        el_deletestr(edit, static_cast<int>(
+                               std::ranges::count_if(line, [](char byte) { return (byte & 0xC0) != 0x80; })));
+        el_insertstr(edit, completion.line.c_str());
         return CC_REFRESH;
     }
 
     EditLine* edit_;
     History* history_;
     std::string prompt_;
-    Continuations continuations_ = [](const auto&) { return std::vector<std::string>{}; };
+    LineSource::Complete complete_ = [](std::string_view line) { return Completion{std::string(line), {}}; };
 };
 
 } // namespace

@@ -6,7 +6,7 @@
 
 #include <iostream>
 
-#include "host/line/console.h"
+#include "host/line/line_source.h"
 
 namespace host {
 namespace {

@@ -7,7 +7,7 @@
 #include <iostream>
 #include <thread>
 
-#include "host/line/console.h"
+#include "host/line/line_source.h"
 #include "host/worlds/windows/attendance.h"
 
 namespace host {

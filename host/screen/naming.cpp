@@ -95,10 +95,10 @@ int FindItem(const Control& list, std::string_view name) {
         Quoted(name) + " is not among the " + std::to_string(list.items.size()) + " items";
     long number = 0;
     if (name.starts_with('#') && ParseNumber(name.substr(1), number)) {
-        if (number < 0 || static_cast<unsigned long>(number) >= list.items.size()) {
+        if (number < 1 || static_cast<unsigned long>(number) > list.items.size()) {
             throw Refusal(in_list);
         }
-        return static_cast<int>(number);
+        return static_cast<int>(number - 1);
     }
     const std::string wanted = Folded(name);
     std::vector<int> whole, begun;
@@ -115,8 +115,8 @@ int FindItem(const Control& list, std::string_view name) {
         return found.front();
     }
     if (found.size() > 1) {
-        throw Refusal(Quoted(name) + " means items #" + std::to_string(found[0]) + " and #" +
-                      std::to_string(found[1]) + ": name one by its number");
+        throw Refusal(Quoted(name) + " means items #" + std::to_string(found[0] + 1) + " and #" +
+                      std::to_string(found[1] + 1) + ": name one by its number");
     }
     constexpr std::size_t few = 30;
     std::string items;

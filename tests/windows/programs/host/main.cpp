@@ -7,7 +7,7 @@
 #include <sstream>
 
 #include "host/full_screen/start.h"
-#include "host/line/program.h"
+#include "host/program.h"
 #include "tests/windows/wine/faults.h"
 
 namespace {
@@ -56,5 +56,5 @@ int main(int argc, char** argv) {
     host::OpenOutput();
     return host::RunProgram(
         argc, argv, [] { return std::unique_ptr<LineSource>(std::make_unique<Script>()); },
-        host::RunFullScreen);
+        host::OpenFullScreen);
 }

@@ -2,8 +2,8 @@
 #include <fstream>
 #include <memory>
 
-#include "host/line/command.h"
-#include "host/line/interpreter.h"
+#include "host/session/command.h"
+#include "host/session/session.h"
 #include "host/text.h"
 
 namespace host {
@@ -11,13 +11,15 @@ namespace {
 
 // A line of the trace is written as it is, one of the journal with a * before it. They are appended to what a
 // file already holds.
-World::TraceListener ListenerFor(Interpreter& host, const std::string& where) {
+World::TraceListener ListenerFor(Session& session, const std::string& where) {
     const std::string word = Folded(where);
     if (word == "off") {
         return nullptr;
     }
     if (word == "on") {
-        return [&host](const std::string& line, bool change) { host.Write({line}, change ? "  * " : "  "); };
+        return [&session](const std::string& line, bool change) {
+            session.Tell((change ? "  * " : "  ") + line);
+        };
     }
     const auto file = std::make_shared<std::ofstream>(std::filesystem::path(FromUtf8(where)), std::ios::app);
     if (!*file) {
@@ -28,10 +30,10 @@ World::TraceListener ListenerFor(Interpreter& host, const std::string& where) {
     };
 }
 
-void Trace(Interpreter& host, const Words& words) {
-    World::TraceListener hear = ListenerFor(host, words[1]);
+void Trace(Session& session, const Words& words) {
+    World::TraceListener hear = ListenerFor(session, words[1]);
     const bool wanted = hear != nullptr;
-    if (!host.world().HearTrace(std::move(hear)) && wanted) {
+    if (!session.HearTrace(std::move(hear)) && wanted) {
         throw Refusal("this library has no trace; the diagnostic one has");
     }
 }

@@ -1,4 +1,4 @@
-// Where the commands come from: a person at a terminal, or lines of text.
+// Where lines of text come from: a person at a terminal, or a stream.
 #pragma once
 
 #include <functional>
@@ -6,12 +6,10 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
+
+#include "host/session/completion.h"
 
 namespace host {
-
-// The words that may follow the given ones in an unfinished line.
-using Continuations = std::function<std::vector<std::string>(const std::vector<std::string>& words)>;
 
 class LineSource {
 public:
@@ -26,14 +24,12 @@ public:
     // How wide the person's screen is; 0 if there is none or its width is not known.
     virtual int Width() const { return 0; }
 
-    virtual void CompleteBy(const Continuations&) {}
+    using Complete = std::function<Completion(std::string_view line)>;
+    virtual void CompleteBy(const Complete&) {}
 };
 
 // The lines of a stream, which must outlive the source. The prompt is not shown.
 std::unique_ptr<LineSource> LinesOf(std::istream& stream);
-
-// The lines of a file; null if it can't be opened.
-std::unique_ptr<LineSource> LinesOfFile(const std::string& path);
 
 // Makes the standard output write UTF-8, with lines that end in LF alone. Called before anything is written.
 void OpenOutput();

@@ -1,34 +1,34 @@
-#include "host/line/command.h"
-#include "host/line/interpreter.h"
+#include "host/session/command.h"
+#include "host/session/session.h"
 #include "host/text.h"
 
 namespace host {
 namespace {
 
-void TellOf(Interpreter& host, const Command& command) {
-    host.Tell("  " + PaddedTo(std::string{command.name} + ' ' + command.arguments, 25) + command.help);
+void TellOf(Session& session, const Command& command) {
+    session.Tell("  " + PaddedTo(std::string{command.name} + ' ' + command.arguments, 25) + command.help);
 }
 
-void Help(Interpreter& host, const Words& words) {
+void Help(Session& session, const Words& words) {
     if (words.size() > 1) {
-        return TellOf(host, FindCommand(words[1]));
+        return TellOf(session, FindCommand(words[1]));
     }
     for (const Command& command : Commands()) {
-        TellOf(host, command);
+        TellOf(session, command);
     }
-    host.Tell(
+    session.Tell(
         "A command may be shortened as long as it stays unambiguous. A CONTROL is named by its caption, by");
-    host.Tell(
+    session.Tell(
         "the label before it, or by its number. A caption with blanks is put in \"...\". Lines that begin");
-    host.Tell("with # are comments.");
+    session.Tell("with # are comments.");
 }
 
-void Quit(Interpreter& host, const Words&) {
-    host.End();
+void Quit(Session& session, const Words&) {
+    session.End();
 }
 
-void Source(Interpreter& host, const Words& words) {
-    host.Source(words[1]);
+void Source(Session& session, const Words& words) {
+    session.Source(words[1]);
 }
 
 } // namespace

@@ -9,24 +9,24 @@
 
 namespace host {
 
-class Interpreter;
+class Session;
 
 using Words = std::vector<std::string>;
 
 struct Command {
     const char* name;
     // One word each, in [] if it may be left out. DEVICE, CONTROL, ITEM and words separated by | are
-    // completed at the terminal.
+    // completed.
     const char* arguments;
     const char* help;
     // `words` begins with the command's name; there are as many as the arguments allow. Throws Refusal if the
     // command can't be carried out; nothing has changed then.
-    void (*run)(Interpreter& host, const Words& words);
+    void (*run)(Session& session, const Words& words);
 };
 
 std::span<const Command> MachineCommands(); // what the machine holds
 std::span<const Command> TraceCommands();   // what the library traces
-std::span<const Command> BenchCommands();   // what is wrong with the machine, and what mends it
+std::span<const Command> MendingCommands(); // what is wrong with the machine, and what mends it
 std::span<const Command> WindowCommands();  // what a hand does to its windows
 std::span<const Command> SessionCommands(); // the session itself
 
@@ -37,10 +37,10 @@ const std::vector<Command>& Commands();
 // nearest names.
 const Command& FindCommand(std::string_view word);
 
+// Runs the command that the words give. Throws Refusal.
+void RunCommand(Session& session, const Words& words);
+
 // The file in words that end in "[--over] FILE". Throws Refusal if it exists and may not be replaced.
 std::string FileToWrite(const Words& words);
-
-// What may follow the words in an unfinished line.
-Words Completions(Interpreter& host, const Words& words);
 
 } // namespace host

@@ -1,6 +1,4 @@
-#include "host/line/console.h"
-
-#include <fstream>
+#include "host/line/line_source.h"
 
 namespace host {
 namespace {
@@ -21,23 +19,10 @@ private:
     std::istream& stream_;
 };
 
-struct OwnFile {
-    std::ifstream file;
-};
-class FileLines : private OwnFile, public StreamLines {
-public:
-    explicit FileLines(std::ifstream&& opened) : OwnFile{std::move(opened)}, StreamLines(file) {}
-};
-
 } // namespace
 
 std::unique_ptr<LineSource> LinesOf(std::istream& stream) {
     return std::make_unique<StreamLines>(stream);
-}
-
-std::unique_ptr<LineSource> LinesOfFile(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return file ? std::make_unique<FileLines>(std::move(file)) : nullptr;
 }
 
 } // namespace host

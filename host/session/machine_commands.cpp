@@ -1,58 +1,58 @@
 #include <filesystem>
 
 #include "host/diagnosis/published_values.h"
-#include "host/line/command.h"
-#include "host/line/interpreter.h"
 #include "host/line/ports_table.h"
 #include "host/screen/listing.h"
+#include "host/session/command.h"
+#include "host/session/session.h"
 #include "host/text.h"
 
 namespace host {
 namespace {
 
-void Devices(Interpreter& host, const Words&) {
-    const std::vector<Device> devices = host.world().Devices();
+void Devices(Session& session, const Words&) {
+    const std::vector<Device> devices = session.world().Devices();
     Lines lines = ListDevices(devices);
     for (std::size_t index = 0; index < devices.size(); ++index) {
         const Device& device = devices[index];
         const std::string reason = device.provider_fault.empty()
-                                       ? WhyNoPage(device.kind, host.world().Store(device.id))
+                                       ? WhyNoPage(device.kind, session.world().Store(device.id))
                                        : device.provider_fault;
         if (!reason.empty()) {
             lines[index] += "  (no page: " + reason + ')';
         }
     }
-    host.Write(lines);
+    session.Tell(lines);
 }
 
-void Store(Interpreter& host, const Words& words) {
-    const Device device = host.FindDevice(words[1]);
-    const std::vector<StoreValue> store = host.world().Store(device.id);
-    host.Write(ListStore(store));
+void Store(Session& session, const Words& words) {
+    const Device device = session.FindDevice(words[1]);
+    const std::vector<StoreValue> store = session.world().Store(device.id);
+    session.Tell(ListStore(store));
     for (const ValueFault& fault : StoreFaults(device.kind, store)) {
-        host.Tell("  " + std::string{fault.name} + ' ' + fault.what);
+        session.Tell("  " + std::string{fault.name} + ' ' + fault.what);
     }
 }
 
-void Ports(Interpreter& host, const Words&) {
-    host.Write(PortsTable(host.world(), host.Width()));
+void Ports(Session& session, const Words&) {
+    session.Tell(PortsTable(session.world(), session.Width()));
 }
 
-void Journal(Interpreter& host, const Words&) {
-    const std::vector<std::string> lines = host.world().Journal();
-    host.Write(lines, "  ");
+void Journal(Session& session, const Words&) {
+    const Lines lines = session.News();
+    session.Tell(lines, "  ");
     if (lines.empty()) {
-        host.Tell("  nothing");
+        session.Tell("  nothing");
     }
 }
 
-void Export(Interpreter& host, const Words& words) {
+void Export(Session& session, const Words& words) {
     std::string told;
-    if (!host.world().Export(FileToWrite(words), told)) {
+    if (!session.world().Export(FileToWrite(words), told)) {
         throw Refusal(told);
     }
     if (!told.empty()) {
-        host.Tell(told);
+        session.Tell(told);
     }
 }
 

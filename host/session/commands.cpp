@@ -1,7 +1,7 @@
 #include <algorithm>
 
-#include "host/line/command.h"
 #include "host/screen/naming.h"
+#include "host/session/command.h"
 #include "host/text.h"
 
 namespace host {
@@ -10,7 +10,7 @@ const std::vector<Command>& Commands() {
     static const std::vector<Command> all = [] {
         std::vector<Command> commands;
         for (const auto group :
-             {MachineCommands(), TraceCommands(), BenchCommands(), WindowCommands(), SessionCommands()}) {
+             {MachineCommands(), TraceCommands(), MendingCommands(), WindowCommands(), SessionCommands()}) {
             commands.insert(commands.end(), group.begin(), group.end());
         }
         return commands;
@@ -44,6 +44,18 @@ const Command& FindCommand(std::string_view word) {
         meant += (meant.empty() ? "" : ", ") + std::string{command->name};
     }
     throw Refusal(Quoted(word) + " could be " + meant);
+}
+
+void RunCommand(Session& session, const Words& words) {
+    const Command& command = FindCommand(words[0]);
+    Words arguments;
+    SplitWords(command.arguments, arguments);
+    const auto optional = static_cast<std::size_t>(
+        std::ranges::count_if(arguments, [](const std::string& each) { return each.starts_with('['); }));
+    if (words.size() > arguments.size() + 1 || words.size() + optional < arguments.size() + 1) {
+        throw Refusal(std::string{"usage: "} + command.name + ' ' + command.arguments);
+    }
+    command.run(session, words);
 }
 
 } // namespace host

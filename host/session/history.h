@@ -1,4 +1,4 @@
-// What the commands have made of a machine, kept step by step so that it can be undone.
+// What the actions have made of a machine, kept step by step so that it can be undone.
 #pragma once
 
 #include <memory>
@@ -14,19 +14,19 @@ public:
     // The world must outlive this.
     explicit History(World& world);
 
-    // Ends a step. If the machine has changed since the last one, the step can be undone from now on.
-    void Note(const std::string& command);
+    // Ends a step that has changed the machine: it can be undone from now on.
+    void Note(const std::string& action);
 
     // Whether this machine can be set back at all.
     bool IsKept() const { return first_ != nullptr; }
-    // Undoes the last step and returns its command; empty if there is none.
+    // Undoes the last step and returns its action; empty if there is none.
     std::string Undo();
-    // Sets the machine back to what was read. That can be undone too.
-    void Reload();
+    // Sets the machine back to what was read. That is a step too.
+    void Reload(const std::string& action);
 
 private:
     struct Step {
-        std::string command;
+        std::string action;
         std::shared_ptr<const Moment> before;
     };
 

@@ -1,8 +1,8 @@
-#include "host/line/command.h"
-#include "host/line/interpreter.h"
 #include "host/screen/drawing.h"
 #include "host/screen/hand.h"
 #include "host/screen/listing.h"
+#include "host/session/command.h"
+#include "host/session/session.h"
 #include "host/text.h"
 
 namespace host {
@@ -27,40 +27,39 @@ int IdOf(const auto& table, const std::string& word) {
     throw Refusal(Quoted(word) + " is not one of " + words);
 }
 
-void Open(Interpreter& host, const Words& words) {
-    host.Open(host.FindDevice(words[1]));
+void Open(Session& session, const Words& words) {
+    session.Open(session.FindDevice(words[1]));
 }
 
-void Show(Interpreter& host, const Words&) {
-    host.Show();
+void Show(Session& session, const Words&) {
+    session.Show();
 }
 
-void Controls(Interpreter& host, const Words&) {
-    host.Write(ListControls(host.Front()));
-    const std::vector<std::string> open = host.OpenWindows();
-    for (std::size_t below = open.size() - 1; below-- > 0;) {
-        host.Tell("  behind: " + open[below]);
+void Controls(Session& session, const Words&) {
+    session.Tell(ListControls(session.Front()));
+    for (std::size_t below = session.windows().size() - 1; below-- > 0;) {
+        session.Tell("  behind: " + session.windows()[below].told);
     }
 }
 
-void PickItem(Interpreter& host, const Words& words) {
-    const Window front = host.Front();
-    Pick(host.InFront(front, words[1]), words[2]);
+void PickItem(Session& session, const Words& words) {
+    const Window front = session.Front();
+    Pick(session.InFront(front, words[1]), words[2]);
 }
 
-void CheckOn(Interpreter& host, const Words& words) {
-    const Window front = host.Front();
-    SetCheck(host.InFront(front, words[1]), true);
+void CheckOn(Session& session, const Words& words) {
+    const Window front = session.Front();
+    SetCheck(session.InFront(front, words[1]), true);
 }
 
-void CheckOff(Interpreter& host, const Words& words) {
-    const Window front = host.Front();
-    SetCheck(host.InFront(front, words[1]), false);
+void CheckOff(Session& session, const Words& words) {
+    const Window front = session.Front();
+    SetCheck(session.InFront(front, words[1]), false);
 }
 
-void SlideTo(Interpreter& host, const Words& words) {
-    const Window front = host.Front();
-    const Control& slider = host.InFront(front, words[1]);
+void SlideTo(Session& session, const Words& words) {
+    const Window front = session.Front();
+    const Control& slider = session.InFront(front, words[1]);
     long position = 0;
     if (!ParseNumber(words[2], position)) {
         throw Refusal(Quoted(words[2]) + " is not a number");
@@ -68,32 +67,32 @@ void SlideTo(Interpreter& host, const Words& words) {
     Slide(slider, position);
 }
 
-void ClickOn(Interpreter& host, const Words& words) {
-    const Window front = host.Front();
-    host.Press(host.InFront(front, words[1]));
+void ClickOn(Session& session, const Words& words) {
+    const Window front = session.Front();
+    session.Press(session.InFront(front, words[1]));
 }
 
-void Answer(Interpreter& host, const Words& words) {
-    const Window front = host.Front();
+void Answer(Session& session, const Words& words) {
+    const Window front = session.Front();
     const int id = IdOf(answers, words[1]);
     if (front.kind != WindowKind::Box) {
         throw Refusal("no message box is in front");
     }
     for (const Control& control : front.controls) {
         if (control.kind == Kind::Button && control.id == id) {
-            return host.Press(control);
+            return session.Press(control);
         }
     }
     throw Refusal("the box has only: " + ButtonNames(front));
 }
 
-void Sheet(Interpreter& host, const Words& words) {
-    const Window front = host.Front();
+void Sheet(Session& session, const Words& words) {
+    const Window front = session.Front();
     const int id = IdOf(sheet_buttons, words[1]);
     if (front.kind != WindowKind::Sheet) {
-        throw Refusal(host.OpenWindows().back() + " is in front and blocks the sheet");
+        throw Refusal(session.windows().back().told + " is in front and blocks the sheet");
     }
-    host.Press(FindButton(front, id));
+    session.Press(FindButton(front, id));
 }
 
 } // namespace
@@ -105,7 +104,7 @@ std::span<const Command> WindowCommands() {
         {"show", "", "draws the screen", &Show},
         {"controls", "", "lists the controls of the window in front: number, kind, caption, state",
          &Controls},
-        {"pick", "CONTROL ITEM", "picks an item of a list: by its text, its first word, or #n counted from 0",
+        {"pick", "CONTROL ITEM", "picks an item of a list: by its text, its first word, or #n counted from 1",
          &PickItem},
         {"check", "CONTROL", "checks a box", &CheckOn},
         {"uncheck", "CONTROL", "unchecks a box", &CheckOff},

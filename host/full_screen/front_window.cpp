@@ -1,0 +1,238 @@
+#include "host/full_screen/front_window.h"
+
+#include <algorithm>
+
+#include "host/screen/hand.h"
+#include "host/screen/keyboard.h"
+#include "host/text.h"
+
+namespace host {
+namespace {
+
+const Control* FocusedOf(const Window& window) {
+    const auto found = std::ranges::find_if(window.controls, &Control::focused);
+    return found == window.controls.end() ? nullptr : &*found;
+}
+
+std::string NameIn(const Window& window, const Control& control) {
+    const std::string name = CallName(window, control);
+    return name.empty() ? std::string{"the "} + KindName(control.kind) : Quoted(name);
+}
+
+// The name of a key for the list of actions.
+std::string KeyName(const Key& key) {
+    static constexpr std::pair<UINT, const char*> names[] = {
+        {VK_RETURN, "Enter"}, {VK_SPACE, "Space"}, {VK_ESCAPE, "Esc"}, {VK_TAB, "Tab"},
+        {VK_UP, "Up"},        {VK_DOWN, "Down"},   {VK_LEFT, "Left"},  {VK_RIGHT, "Right"},
+        {VK_HOME, "Home"},    {VK_END, "End"},     {VK_PRIOR, "PgUp"}, {VK_NEXT, "PgDn"}};
+    if (key.letter != 0) {
+        return (key.alt ? "Alt+" : "") + ToUtf8(Text(1, key.letter));
+    }
+    const auto found = std::ranges::find(names, key.code, &std::pair<UINT, const char*>::first);
+    return found == std::end(names) ? "a key" : found->second;
+}
+
+} // namespace
+
+bool FrontWindow::Draw(Terminal& terminal, Session& session, const Cells& within, int beside) {
+    std::vector<Painted> windows;
+    bool is_free = true;
+    const int most_rows = terminal.rows() - within.top - 1;
+    for (const Session::OpenWindow& window : session.windows()) {
+        if (!IsOpen(window.handle)) {
+            continue;
+        }
+        Painted painted;
+        painted.window = session.Read(window.handle);
+        // Beside the devices and above the journal if there is room, otherwise over them.
+        for (const auto& [columns, rows] : {std::pair{within.columns - beside, within.rows},
+                                            {within.columns, within.rows},
+                                            {within.columns, most_rows}}) {
+            painted.placement = Place(painted.window, columns, rows);
+            if (painted.placement.columns <= columns && painted.placement.rows <= rows) {
+                break;
+            }
+        }
+        const Placement& placement = painted.placement;
+        const bool fits = placement.columns <= within.columns - beside;
+        is_free = is_free && fits;
+        painted.left = fits ? beside + (within.columns - beside - placement.columns) / 2
+                            : std::max(0, (within.columns - placement.columns) / 2);
+        const int room = placement.rows <= within.rows ? within.rows : most_rows;
+        painted.top = within.top + std::max(0, (room - placement.rows) / 2);
+        windows.push_back(std::move(painted));
+    }
+    for (Painted& painted : windows) {
+        const bool is_front = &painted == &windows.back();
+        Paint(terminal, painted, is_front, turned_);
+        if (is_front) {
+            front_ = std::move(painted);
+        }
+    }
+    return is_free;
+}
+
+std::vector<Hint> FrontWindow::Hints() const {
+    const Control* const focused = FocusedOf(front_.window);
+    if (front_.window.kind == WindowKind::Box) {
+        std::vector<Hint> hints = {{"Enter", "press", OfCode(VK_RETURN)}, {"Tab", "next", OfCode(VK_TAB)}};
+        bool has_cancel = false;
+        for (const Control& button : front_.window.controls) {
+            if (button.kind != Kind::Button) {
+                continue;
+            }
+            has_cancel = has_cancel || button.id == IDCANCEL || button.id == IDOK;
+            const std::size_t mark = button.text.find('&');
+            if (mark != std::string::npos && mark + 1 < button.text.size()) {
+                const Text letter = FromUtf8(Folded(button.text.substr(mark + 1)));
+                hints.push_back({ToUtf8(Text(1, letter[0])), Shown(button.text), OfLetter(letter[0])});
+            }
+        }
+        if (has_cancel) {
+            hints.push_back({"Esc", "close", OfCode(VK_ESCAPE)});
+        }
+        return hints;
+    }
+    std::vector<Hint> hints;
+    if (focused != nullptr) {
+        switch (focused->kind) {
+        case Kind::Button:
+            hints = {{"Enter", "press", OfCode(VK_RETURN)}};
+            break;
+        case Kind::Check:
+            hints = {{"Space", "check", OfCode(VK_SPACE)}};
+            break;
+        case Kind::Combo:
+            hints = {{"Up/Down", "choose", OfCode(VK_DOWN)},
+                     {"F4", focused->dropped ? "close" : "list", OfCode(VK_F4)}};
+            break;
+        case Kind::List:
+            hints = {{"Up/Down", "choose", OfCode(VK_DOWN)}};
+            break;
+        case Kind::Slider:
+            hints = {{"Left/Right",
+                      "move " + std::to_string(focused->position) + " of " +
+                          std::to_string(focused->minimum) + ".." + std::to_string(focused->maximum),
+                      OfCode(VK_RIGHT)}};
+            break;
+        default:
+            break;
+        }
+    }
+    if (focused != nullptr && focused->dropped) {
+        hints.push_back({"Enter", "take", OfCode(VK_RETURN)});
+        hints.push_back({"Esc", "close the list", OfCode(VK_ESCAPE)});
+        return hints;
+    }
+    hints.push_back({"Tab", "next", OfCode(VK_TAB)});
+    hints.push_back({"Esc", "cancel", OfCode(VK_ESCAPE)});
+    return hints;
+}
+
+void FrontWindow::Take(Session& session, Event event) {
+    const HWND front = session.windows().back().handle;
+    const Control* const focused = FocusedOf(front_.window);
+    if (event.kind == Event::Kind::Key) {
+        const bool takes_letters =
+            focused != nullptr && (focused->kind == Kind::Combo || focused->kind == Kind::List);
+        if (event.key.code == VK_SPACE && takes_letters) {
+            event.key = {0, ' '};
+        }
+        turned_.clear();
+        std::string name = KeyName(event.key);
+        if (focused != nullptr && !event.key.alt) {
+            name += " on " + NameIn(front_.window, *focused);
+        }
+        session.Act(name, [&] { PressKey(front, event.key); });
+    } else if (event.kind == Event::Kind::Press) {
+        if (const Placed* const pressed = At(event)) {
+            session.Act("click on " + NameIn(front_.window, *pressed->control),
+                        [&] { Click(*pressed, event); });
+        }
+    } else if (event.kind == Event::Kind::Drag) {
+        Drag(event.column);
+    } else if (event.kind == Event::Kind::Release) {
+        dragged_ = nullptr;
+    } else {
+        Turn(event);
+    }
+}
+
+// --- The mouse ---
+
+Cells FrontWindow::CellsOf(const Placed& placed) const {
+    return {placed.cells.left + front_.left, placed.cells.top + front_.top, placed.cells.columns,
+            placed.cells.rows};
+}
+
+const Placed* FrontWindow::At(const Event& event) const {
+    for (const bool is_list : {true, false}) { // an open list lies over the rest
+        for (const Placed& placed : front_.placement.controls) {
+            const Control& control = *placed.control;
+            if (is_list ? control.dropped && front_.open_list.Has(event.column, event.row)
+                        : control.enabled && control.kind != Kind::Label && control.kind != Kind::Group &&
+                              CellsOf(placed).Has(event.column, event.row)) {
+                return &placed;
+            }
+        }
+    }
+    return nullptr;
+}
+
+void FrontWindow::Click(const Placed& placed, const Event& event) {
+    const Control& control = *placed.control;
+    if (control.dropped && front_.open_list.Has(event.column, event.row)) {
+        return ClickList(control, event.row - front_.open_list.top - 1, front_.open_list.rows - 2);
+    }
+    if (control.kind == Kind::Button || control.kind == Kind::Check) {
+        return host::Click(control);
+    }
+    FocusOn(front_.window, control);
+    if (control.kind == Kind::Combo) {
+        SendMessageW(control.window, CB_SHOWDROPDOWN, control.dropped ? FALSE : TRUE, 0);
+    } else if (control.kind == Kind::List) {
+        const Cells cells = CellsOf(placed);
+        ClickList(control, event.row - cells.top - 1, cells.rows - 2);
+    } else if (control.kind == Kind::Slider) {
+        dragged_ = control.window;
+        Drag(event.column);
+    }
+}
+
+void FrontWindow::ClickList(const Control& list, int row, int rows) {
+    const int item = FirstInSight(list, rows, turned_) + row;
+    if (row >= 0 && row < rows && item < static_cast<int>(list.items.size())) {
+        turned_[list.window] = item - row; // the list stays where it was clicked
+        PickItem(list, item);
+        if (list.kind == Kind::Combo) {
+            SendMessageW(list.window, CB_SHOWDROPDOWN, FALSE, 0);
+        }
+    }
+}
+
+// Moves the slider in hand to where the mouse is.
+void FrontWindow::Drag(int column) {
+    for (const Placed& placed : front_.placement.controls) {
+        const Control& slider = *placed.control;
+        if (slider.window == dragged_ && slider.kind == Kind::Slider && slider.enabled) {
+            const int last = std::max(1, placed.cells.columns - 3), range = slider.maximum - slider.minimum;
+            const int at = std::clamp(column - CellsOf(placed).left - 1, 0, last);
+            Slide(slider, slider.minimum + (at * range + last / 2) / last);
+        }
+    }
+}
+
+void FrontWindow::Turn(const Event& event) {
+    for (const Placed& placed : front_.placement.controls) {
+        const Control& list = *placed.control;
+        const Cells cells = list.dropped ? front_.open_list : CellsOf(placed);
+        if ((list.kind == Kind::List || list.dropped) && cells.Has(event.column, event.row)) {
+            const int step = event.kind == Event::Kind::WheelUp ? -wheel_step : wheel_step;
+            turned_[list.window] = FirstInSight(list, cells.rows - 2, turned_) + step;
+            turned_[list.window] = FirstInSight(list, cells.rows - 2, turned_);
+            return;
+        }
+    }
+}
+
+} // namespace host

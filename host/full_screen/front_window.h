@@ -1,0 +1,39 @@
+// The open windows on the terminal, and what keys and the mouse do to the one in front.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/full_screen/hints.h"
+#include "host/full_screen/painter.h"
+#include "host/session/session.h"
+
+namespace host {
+
+class FrontWindow {
+public:
+    // Draws the session's windows into these cells, or over more of the terminal if they need it. Returns
+    // whether the first `beside` columns have stayed free.
+    bool Draw(Terminal& terminal, Session& session, const Cells& within, int beside);
+
+    // What the keys do to the control with the focus.
+    std::vector<Hint> Hints() const;
+
+    // Passes an event on to the window in front, as an action of the session.
+    void Take(Session& session, Event event);
+
+private:
+    // What a press of the mouse is for; null for nothing.
+    const Placed* At(const Event& event) const;
+    void Click(const Placed& placed, const Event& event);
+    void ClickList(const Control& list, int row, int rows);
+    void Turn(const Event& event);
+    void Drag(int column);
+    Cells CellsOf(const Placed& placed) const;
+
+    Painted front_;
+    Turned turned_;
+    HWND dragged_ = nullptr; // the slider that the mouse holds
+};
+
+} // namespace host

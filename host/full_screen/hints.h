@@ -1,0 +1,33 @@
+// What the keys do at the moment, told at the foot of the screen. A hint can be clicked: that does what its
+// key does.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/full_screen/terminal.h"
+#include "host/full_screen/placement.h"
+
+namespace host {
+
+struct Hint {
+    std::string key;  // "F2", "^S"
+    std::string does; // "ports"
+    Event event;      // of the key
+};
+
+// The events of keys, for hints.
+Event OfFunction(int number);
+Event OfControl(char letter);
+Event OfCode(UINT code);
+Event OfLetter(WCHAR letter);
+
+// The hints in rows of so many columns, in their order; those that no row holds are left out. Places are
+// within the rows.
+struct PlacedHint {
+    const Hint* hint;
+    Cells cells;
+};
+std::vector<PlacedHint> PlaceHints(const std::vector<Hint>& hints, int columns, int most_rows);
+
+} // namespace host

@@ -1,0 +1,45 @@
+// Lines of text, longer and wider than the screen. Some of them may stand for something that Enter does.
+#pragma once
+
+#include "host/full_screen/view.h"
+#include "host/session/session.h"
+
+namespace host {
+
+// Lines that belong together.
+struct Paragraph {
+    Lines lines;
+    std::string command; // that Enter gives; empty for none
+};
+
+class TextView : public View {
+public:
+    // The first `headings` lines stay in sight.
+    TextView(std::string title, std::vector<Paragraph> paragraphs, std::size_t headings = 0);
+    TextView(std::string title, const Lines& lines, std::size_t headings = 0);
+
+    std::string Title() const override;
+    void Draw(Terminal& terminal, const Cells& within) override;
+    Outcome Take(const Event& event, const Cells& within) override;
+    std::vector<Hint> Hints() const override;
+    bool Find(const std::string& text) override;
+
+private:
+    struct Line {
+        std::string text;
+        std::size_t paragraph;
+    };
+
+    bool HasCommands() const;
+    void Select(int step);
+
+    std::string title_;
+    Lines headings_;
+    std::vector<Line> lines_;
+    Lines commands_;                       // by paragraph
+    std::size_t selected_ = 0;             // a paragraph with a command, if there is one
+    int found_ = -1;                       // the line that was searched for
+    int first_ = 0, shift_ = 0, rows_ = 1; // what is in sight
+};
+
+} // namespace host

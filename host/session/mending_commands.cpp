@@ -1,0 +1,171 @@
+// The commands that find what is wrong with a machine, mend it, and make a patch of the changes.
+#include <algorithm>
+
+#include "host/diagnosis/changes.h"
+#include "host/diagnosis/gathering.h"
+#include "host/diagnosis/mending.h"
+#include "host/diagnosis/report.h"
+#include "host/session/command.h"
+#include "host/session/session.h"
+#include "host/text.h"
+#include "host/worlds/port_changes.h"
+
+namespace host {
+namespace {
+
+constexpr const char* even_so = "--even-so";
+
+// "COM13" or "13".
+unsigned long NumberIn(const std::string& word) {
+    long number = 0;
+    const unsigned long named = PortNumber(word);
+    if (named == 0 && (!ParseNumber(word, number) || number < 1)) {
+        throw Refusal(Quoted(word) + " is not a COM number");
+    }
+    return named != 0 ? named : static_cast<unsigned long>(number);
+}
+
+bool IsOverruled(const Words& words) {
+    if (words.size() < 3) {
+        return false;
+    }
+    if (Folded(words[2]) != even_so) {
+        throw Refusal(Quoted(words[2]) + " is not " + even_so);
+    }
+    return true;
+}
+
+void Heed(const std::string& what, const std::optional<Objection>& objection, bool overruled) {
+    if (objection && (objection->final || !overruled)) {
+        throw Refusal("not " + what + ": " + objection->reason +
+                      (objection->final ? "" : std::string{"; "} + even_so + " does it"));
+    }
+}
+
+void Must(bool done, const std::string& error) {
+    if (!done) {
+        throw Refusal(error);
+    }
+}
+
+void Diagnose(Session& session, const Words&) {
+    session.Tell(DiagnosisLines(RecordsOf(session.world())));
+}
+
+void Why(Session& session, const Words& words) {
+    session.Tell(NumberLines(RecordsOf(session.world()), NumberIn(words[1])));
+}
+
+void Free(Session& session, const Words& words) {
+    const unsigned long number = NumberIn(words[1]);
+    Heed("freed", AgainstFreeing(RecordsOf(session.world()), number), IsOverruled(words));
+    std::string error;
+    Must(ReleaseNumber(number, error), error);
+    session.Tell(ComName(number) + ": freed in the COM port database");
+}
+
+void Claim(Session& session, const Words& words) {
+    const unsigned long number = NumberIn(words[1]);
+    Heed("claimed", AgainstClaiming(RecordsOf(session.world()), number), IsOverruled(words));
+    std::string error;
+    Must(ClaimNumber(number, error), error);
+    session.Tell(ComName(number) + ": claimed in the COM port database");
+}
+
+void Forget(Session& session, const Words& words) {
+    const Records records = RecordsOf(session.world());
+    const std::string key = LineKey(records, words[1]);
+    if (key.empty()) {
+        throw Refusal("there is no settings line " + Quoted(words[1]));
+    }
+    Heed("forgotten", AgainstForgetting(records, key), IsOverruled(words));
+    std::string error;
+    Must(ForgetLine(key, error), error);
+    session.Tell(key + " forgotten");
+}
+
+void Mend(Session& session, const Words&) {
+    bool is_mended = false;
+    for (const Finding& finding : host::Diagnose(RecordsOf(session.world()))) {
+        if (finding.safe) {
+            Words words;
+            SplitWords(finding.command, words);
+            RunCommand(session, words);
+            is_mended = true;
+        }
+    }
+    if (!is_mended) {
+        session.Tell("there is nothing that is safe to mend");
+    }
+}
+
+void Changes(Session& session, const Words&) {
+    session.Tell(ChangeLines(session.original(), RecordsOf(session.world())));
+}
+
+// Setting the machine back would leave an open page with data that no longer exist.
+History& HistoryToGoBackIn(Session& session) {
+    session.MustHaveNoWindow();
+    if (!session.history().IsKept()) {
+        throw Refusal("this is the machine itself, and what was done to it can't be taken back from here");
+    }
+    return session.history();
+}
+
+void Undo(Session& session, const Words&) {
+    const std::string action = HistoryToGoBackIn(session).Undo();
+    if (action.empty()) {
+        throw Refusal("there is nothing to undo");
+    }
+    session.Tell("undone: " + action);
+}
+
+void Reload(Session& session, const Words& words) {
+    HistoryToGoBackIn(session).Reload(words[0]);
+    session.Tell("the machine is as it was read");
+}
+
+void Patch(Session& session, const Words& words) {
+    const std::string file = FileToWrite(words);
+    const std::string undo = UndoPath(file);
+    const std::vector<Change> changes = host::Changes(session.original(), RecordsOf(session.world()));
+    std::string error;
+    Must(session.world().Patch(file, PatchComments(changes, session.name()), undo,
+                               UndoComments(changes, file), error),
+         error);
+    session.Tell(file + " holds what has changed, " + undo + " takes it back");
+}
+
+void Fail(Session& session, const Words& words) {
+    const bool is_off = Folded(words[1]) == "off";
+    long call = 1;
+    if (words.size() > 2 && (is_off || !ParseNumber(words[2], call) || call < 1)) {
+        throw Refusal("use fail OPERATION N, with N from 1, or fail off");
+    }
+    Must(session.world().Fail(is_off ? std::string() : words[1], static_cast<std::size_t>(call)),
+         "the system itself can't be made to fail");
+}
+
+} // namespace
+
+std::span<const Command> MendingCommands() {
+    static constexpr Command commands[] = {
+        {"diagnose", "", "lists what is wrong with the ports and boards, worst first, and what mends it",
+         &Diagnose},
+        {"why", "NUMBER", "shows all that is known about one COM number", &Why},
+        {"free", "NUMBER [--even-so]", "takes a number from the COM port database", &Free},
+        {"claim", "NUMBER [--even-so]", "marks a number as in use there", &Claim},
+        {"forget", "LINE [--even-so]", "deletes a settings line, such as COM44:", &Forget},
+        {"mend", "", "mends all that diagnose calls safe to mend", &Mend},
+        {"changes", "", "lists what differs from the machine as it was read", &Changes},
+        {"undo", "", "undoes the last action that changed something", &Undo},
+        {"reload", "", "goes back to the machine as it was read", &Reload},
+        {"patch", "[--over] FILE",
+         "writes a file to import that makes the same changes, and one that takes it back", &Patch},
+        {"fail", "OPERATION [N]", "makes the n-th call of an operation from now on fail; fail off ends that",
+         &Fail},
+    };
+    return commands;
+}
+
+} // namespace host
