@@ -10,11 +10,10 @@
 
 #include <CLI/CLI.hpp>
 
-#include "host/diagnosis/changes.h"
-#include "host/diagnosis/gathering.h"
 #include "host/diagnosis/report.h"
 #include "host/languages.h"
 #include "host/line/line_seat.h"
+#include "host/machine_file/differences.h"
 #include "host/session/session.h"
 #include "host/text.h"
 #include "version.h"
@@ -31,10 +30,6 @@ void Write(const std::vector<std::string>& lines) {
     }
 }
 
-std::string NameOf(const std::string& file) {
-    return file.empty() ? "the sample machine" : file;
-}
-
 std::unique_ptr<World> Open(const std::string& file, LANGID language = 0) {
     std::string error;
     std::unique_ptr<World> world = OpenWorld(file, language, error);
@@ -49,13 +44,14 @@ int Diagnose(const std::string& file, bool json) {
     if (!world) {
         return unreadable;
     }
-    const Records records = RecordsOf(*world);
+    const Records records = world->Describe();
+    const std::vector<Finding> findings = Diagnose(records);
     if (json) {
-        std::cout << DiagnosisJson(records, file);
+        std::cout << DiagnosisJson(records, findings, file);
     } else {
-        Write(DiagnosisLines(records));
+        Write(DiagnosisLines(records, findings));
     }
-    return Diagnose(records).empty() ? sound : found;
+    return findings.empty() ? sound : found;
 }
 
 int Diff(const std::string& before, const std::string& after) {
@@ -65,10 +61,10 @@ int Diff(const std::string& before, const std::string& after) {
         if (!world) {
             return unreadable;
         }
-        *its_records = RecordsOf(*world);
+        *its_records = world->Describe();
     }
-    Write(ChangeLines(records[0], records[1]));
-    return Changes(records[0], records[1]).empty() ? sound : found;
+    Write(DifferenceLines(records[0], records[1]));
+    return Differences(records[0], records[1]).empty() ? sound : found;
 }
 
 // How the user wants to operate the pages.
@@ -82,7 +78,7 @@ struct Wish {
 
 int RunLines(World& world, const Wish& wish, LineSource& lines) {
     LineSeat seat(lines, std::cout);
-    Session session(world, NameOf(wish.file), seat, wish.stop);
+    Session session(world, seat, wish.stop);
     if (seat.IsPerson()) {
         session.Tell(
             world.Greeting() +
@@ -97,7 +93,7 @@ int RunLines(World& world, const Wish& wish, LineSource& lines) {
         std::istringstream tour(commands);
         const std::unique_ptr<LineSource> tour_lines = LinesOf(tour);
         LineSeat guide(*tour_lines, std::cout);
-        failed = Session(world, NameOf(wish.file), guide).Run();
+        failed = Session(world, guide).Run();
     } else if (!seat.IsPerson() && session.IsUnsaved()) {
         std::cerr << "kvrhost: the machine has changed and was not exported\n";
     }
@@ -124,7 +120,7 @@ int Run(const Wish& wish, OpenLines open_console, OpenScreen open_screen) {
     if (!wish.line) {
         std::string reason;
         if (const std::unique_ptr<Seat> screen = open_screen(reason)) {
-            Session(*world, NameOf(wish.file), *screen).Run();
+            Session(*world, *screen).Run();
             return sound;
         }
         if (!reason.empty()) {

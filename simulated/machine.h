@@ -17,6 +17,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -123,7 +124,8 @@ struct ShownBox {
     HWND owner = nullptr;
 };
 
-struct Machine {
+// What a machine keeps: all that an operation of the logic can change.
+struct MachineState {
     std::vector<Device> devices;
     std::vector<Interface> interfaces;
     std::vector<std::pair<Text, Text>> dos_names; // name and target
@@ -131,6 +133,10 @@ struct Machine {
     bool serial_map_exists = true;
     PortUsage port_usage{};
     std::vector<std::pair<Text, Values>> profile; // section and keys, all REG_SZ
+    friend bool operator==(const MachineState&, const MachineState&) = default;
+};
+
+struct Machine : MachineState {
     Text decimal_separator = u".";
     LANGID language = 1033; // a language without resources falls back as Windows does, finally to 1033
 
@@ -163,6 +169,9 @@ struct Scope {
 private:
     Machine* before_;
 };
+
+// The names of all operations, in the order of the alphabet.
+std::span<const std::string_view> Operations();
 
 // Journals an operation of the logic and asks the fault plan; true if the operation must fail. While an
 // operator is at work it journals nothing and returns false. The name is a literal (or __func__).

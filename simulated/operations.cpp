@@ -9,6 +9,58 @@
 namespace sim {
 namespace {
 
+constexpr std::string_view operations[] = {"CheckDlgButton",
+                                           "ComDBClaimPort",
+                                           "ComDBClose",
+                                           "ComDBGetCurrentPortUsage",
+                                           "ComDBOpen",
+                                           "ComDBReleasePort",
+                                           "CreatePropertySheetPageW",
+                                           "DefineDosDeviceW",
+                                           "DestroyPropertySheetPage",
+                                           "DialogBoxParamW",
+                                           "DisableThreadLibraryCalls",
+                                           "EnableWindow",
+                                           "EndDialog",
+                                           "GetDlgCtrlID",
+                                           "GetDlgItem",
+                                           "GetLocaleInfoW",
+                                           "GetParent",
+                                           "GetProfileStringW",
+                                           "GetWindowLongPtrW",
+                                           "GetWindowTextLengthW",
+                                           "GetWindowTextW",
+                                           "IsDlgButtonChecked",
+                                           "LoadStringW",
+                                           "LocalAlloc",
+                                           "LocalFree",
+                                           "MessageBoxW",
+                                           "QueryDosDeviceW",
+                                           "RegCloseKey",
+                                           "RegEnumValueW",
+                                           "RegOpenKeyExW",
+                                           "RegQueryValueExW",
+                                           "RegSetValueExW",
+                                           "SendDlgItemMessageW",
+                                           "SendMessageW",
+                                           "SendNotifyMessageW",
+                                           "SetFocus",
+                                           "SetWindowLongPtrW",
+                                           "SetWindowTextW",
+                                           "SetupDiCallClassInstaller",
+                                           "SetupDiDestroyDeviceInfoList",
+                                           "SetupDiEnumDeviceInterfaces",
+                                           "SetupDiGetClassDevsW",
+                                           "SetupDiGetDeviceInfoListDetailW",
+                                           "SetupDiGetDeviceInstallParamsW",
+                                           "SetupDiGetDeviceInterfaceDetailW",
+                                           "SetupDiGetDeviceRegistryPropertyW",
+                                           "SetupDiOpenDevRegKey",
+                                           "SetupDiSetClassInstallParamsW",
+                                           "SetupDiSetDeviceInstallParamsW",
+                                           "SetupDiSetDeviceRegistryPropertyW",
+                                           "WriteProfileStringW"};
+
 Machine* current = nullptr;
 bool operator_at_work = false;
 
@@ -19,6 +71,9 @@ bool IsJournaled(Reach reach) {
 // Counts the operation; true if its place among all, or among those of its name, makes it fail.
 bool FailsByCount(FaultPlan& faults, std::string_view name) {
     const std::size_t of_its_name = ++faults.count_by_name[name];
+    if (of_its_name == 1 && !std::ranges::binary_search(operations, name)) {
+        Misuse(std::string(name) + " is missing in the list of operations");
+    }
     ++faults.count;
     return std::ranges::find(faults.at, faults.count) != faults.at.end() ||
            std::ranges::any_of(faults.at_call, [&](const auto& rule) {
@@ -34,6 +89,10 @@ Machine& Current() {
         std::abort();
     }
     return *current;
+}
+
+std::span<const std::string_view> Operations() {
+    return operations;
 }
 
 Scope::Scope(Machine& machine) : before_(std::exchange(current, &machine)) {

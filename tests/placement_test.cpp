@@ -15,7 +15,7 @@ bool Meet(const host::Cells& one, const host::Cells& other) {
 }
 
 void ExpectToFit(const host::Window& window, int columns, int rows) {
-    const host::Placement placement = host::Place(window, columns, rows);
+    const host::Placement placement = host::PlaceWindow(window, columns, rows);
     SCOPED_TRACE(window.title + std::to_string(columns));
     EXPECT_LE(placement.columns, columns);
     EXPECT_LE(placement.rows, rows);

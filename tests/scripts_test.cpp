@@ -59,7 +59,7 @@ public:
         std::string operation;
         std::size_t call = 0;
         if (said >> operation >> call) {
-            world_.Fail(operation, call);
+            world_.File()->Fail(operation, call);
         }
         return line;
     }
@@ -109,7 +109,7 @@ TEST_P(ScriptsTest, MatchesItsTranscript) {
         }
         Script script(lines, world);
         host::LineSeat seat(script, out);
-        host::Session(world, "the machine of the script", seat).Run();
+        host::Session(world, seat).Run();
     }
     EXPECT_TRUE(machine.open.empty());
     EXPECT_EQ(machine.misuse, std::vector<std::string>{});
@@ -144,7 +144,7 @@ TEST(Tour, SortsAndRenamesInEveryLanguage) {
         std::ostringstream out;
         const std::unique_ptr<host::LineSource> script = host::LinesOf(tour);
         host::LineSeat seat(*script, out);
-        EXPECT_EQ(host::Session(world, "the sample machine", seat).Run(), 0) << out.str();
+        EXPECT_EQ(host::Session(world, seat).Run(), 0) << out.str();
         const std::string last = out.str().substr(out.str().rfind("> ports"));
         EXPECT_NE(last.find("COM14"), std::string::npos);
         ports = ports.empty() ? last : ports;

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <map>
 
 #include "host/diagnosis/model.h"
 #include "host/diagnosis/published_values.h"
@@ -123,14 +124,13 @@ void FindChannelsWithoutBoard(const Model& model, Found& found) {
 }
 
 void FindChannelsTwice(const Model& model, Found& found) {
+    std::map<std::pair<std::size_t, unsigned long>, std::size_t> first; // device by board and number
     ForEachOfBoards(model, [&](const ChannelRecord& channel) {
-        const auto first = std::ranges::find_if(model.channels, [&](const ChannelRecord& other) {
-            return other.readable && other.board == channel.board && other.number == channel.number;
-        });
-        if (&*first != &channel) {
+        const auto [there, is_new] = first.try_emplace({*channel.board, channel.number}, channel.device);
+        if (!is_new) {
             Add(model, found, channel.device,
                 ChannelName(channel) + " is also " +
-                    LabelOf(model.records, model.records.devices[first->device]));
+                    LabelOf(model.records, model.records.devices[there->second]));
         }
     });
 }
@@ -178,15 +178,16 @@ void FindImpossibleTriggers(const Model& model, Found& found) {
 }
 
 void FindUnorderedNumbers(const Model& model, Found& found) {
-    for (const std::size_t board : model.boards) {
-        std::vector<std::pair<unsigned long, unsigned long>> numbers; // by channel
-        ForEachOfBoards(model, [&](const ChannelRecord& channel) {
-            if (channel.board == board && channel.channel_class == uart_class && IsWalked(model, channel)) {
-                numbers.emplace_back(
-                    channel.number,
-                    PortNumber(StoredText(model.records.devices[channel.device].store, "PortName")));
-            }
-        });
+    std::map<std::size_t, std::vector<std::pair<unsigned long, unsigned long>>>
+        by_board; // numbers by channel
+    ForEachOfBoards(model, [&](const ChannelRecord& channel) {
+        if (channel.channel_class == uart_class && IsWalked(model, channel)) {
+            by_board[*channel.board].emplace_back(
+                channel.number,
+                PortNumber(StoredText(model.records.devices[channel.device].store, "PortName")));
+        }
+    });
+    for (auto& [board, numbers] : by_board) {
         std::ranges::stable_sort(numbers, {}, &std::pair<unsigned long, unsigned long>::first);
         if (!std::ranges::is_sorted(numbers, {}, &std::pair<unsigned long, unsigned long>::second)) {
             std::string in_order;

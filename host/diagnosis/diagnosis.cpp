@@ -81,30 +81,16 @@ std::string Filled(const char* text, const Subject& subject) {
         {"{what}", subject.what},
         {"{key}", subject.key}};
     std::string result;
-    for (std::string_view rest = text != nullptr ? text : ""; !rest.empty();) {
-        const auto blank =
+    std::string_view rest = text != nullptr ? text : "";
+    while (!rest.empty()) {
+        const auto* const blank =
             std::ranges::find_if(blanks, [&](const auto& each) { return rest.starts_with(each.first); });
-        if (blank != std::end(blanks)) {
-            result += blank->second;
-            rest.remove_prefix(blank->first.size());
-        } else {
-            result += rest.front();
-            rest.remove_prefix(1);
-        }
+        const std::size_t plain = blank != std::end(blanks) ? 0 : rest.find('{', 1);
+        result += blank != std::end(blanks) ? std::string_view(blank->second) : rest.substr(0, plain);
+        rest.remove_prefix(blank != std::end(blanks) ? blank->first.size() : std::min(plain, rest.size()));
     }
     return result;
 }
-
-constexpr MissingPlace places[] = {
-    {DevicesPlace, "the devices", "devices", "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Enum"},
-    {InterfacesPlace, "the interfaces", "interfaces",
-     "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\DeviceClasses"},
-    {DatabasePlace, "the COM port database", "database",
-     "HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\COM Name Arbiter"},
-    {SerialMapPlace, "the serial map", "serialMap", "HKEY_LOCAL_MACHINE\\HARDWARE\\DEVICEMAP\\SERIALCOMM"},
-    {SettingsPlace, "the settings lines", "settingsLines",
-     "HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Ports"},
-};
 
 } // namespace
 
@@ -129,23 +115,14 @@ std::vector<Finding> Diagnose(const Records& records) {
 
 std::vector<Finding> FindingsOf(const std::vector<Finding>& findings, unsigned long number,
                                 const Records& records) {
-    const NumberRecords numbers = NumbersOf(records);
-    const auto its = numbers.find(number);
+    const NumberRecord& its = NumberIn(records, number);
     std::vector<Finding> own;
     std::ranges::copy_if(findings, std::back_inserter(own), [&](const Finding& finding) {
-        return finding.subject.number == number ||
-               (its != numbers.end() && std::ranges::any_of(its->second.holders, [&](std::size_t holder) {
-                    return records.devices[holder].id == finding.subject.id;
-                }));
+        return finding.subject.number == number || std::ranges::any_of(its.holders, [&](std::size_t holder) {
+                   return records.devices[holder].id == finding.subject.id;
+               });
     });
     return own;
-}
-
-std::vector<MissingPlace> MissingPlaces(unsigned known) {
-    std::vector<MissingPlace> missing;
-    std::ranges::copy_if(places, std::back_inserter(missing),
-                         [&](const MissingPlace& each) { return (known & each.place) == 0; });
-    return missing;
 }
 
 } // namespace host

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "host/diagnosis/records.h"
+#include "host/worlds/records.h"
 
 namespace host {
 
@@ -34,15 +34,5 @@ std::vector<Finding> Diagnose(const Records& records);
 // The findings that involve a number or its holder.
 std::vector<Finding> FindingsOf(const std::vector<Finding>& findings, unsigned long number,
                                 const Records& records);
-
-// A place that is not known, and the registry key to export so that it is.
-struct MissingPlace {
-    Place place;
-    const char* name; // "the serial map"
-    const char* json; // "serialMap"
-    const char* key;
-};
-// The places that are not among the known ones.
-std::vector<MissingPlace> MissingPlaces(unsigned known);
 
 } // namespace host

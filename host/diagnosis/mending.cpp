@@ -9,12 +9,6 @@ namespace {
 
 constexpr unsigned long highest_number = 4096;
 
-NumberRecord RecordOf(const Records& records, unsigned long number) {
-    const NumberRecords numbers = NumbersOf(records);
-    const auto found = numbers.find(number);
-    return found == numbers.end() ? NumberRecord() : found->second;
-}
-
 // Who has the number, or might have it as far as is known.
 std::optional<Objection> Holder(const Records& records, const NumberRecord& record) {
     if (!record.holders.empty()) {
@@ -48,7 +42,7 @@ std::optional<Objection> AgainstFreeing(const Records& records, unsigned long nu
     if (auto objection = AgainstChanging(records, number)) {
         return objection;
     }
-    const NumberRecord record = RecordOf(records, number);
+    const NumberRecord& record = NumberIn(records, number);
     if (!record.claimed) {
         return Objection{"it is free already", true};
     }
@@ -59,7 +53,7 @@ std::optional<Objection> AgainstClaiming(const Records& records, unsigned long n
     if (auto objection = AgainstChanging(records, number)) {
         return objection;
     }
-    const NumberRecord record = RecordOf(records, number);
+    const NumberRecord& record = NumberIn(records, number);
     if (record.claimed) {
         return Objection{"it is claimed already", true};
     }
@@ -73,14 +67,14 @@ std::optional<Objection> AgainstClaiming(const Records& records, unsigned long n
 }
 
 std::optional<Objection> AgainstForgetting(const Records& records, const std::string& key) {
-    return Holder(records, RecordOf(records, LineNumber(key)));
+    return Holder(records, NumberIn(records, LineNumber(key)));
 }
 
 std::string LineKey(const Records& records, const std::string& asked) {
     const std::string wanted = Folded(asked.ends_with(':') ? asked : asked + ':');
-    const auto found = std::ranges::find_if(records.settings_lines,
-                                            [&](const auto& line) { return Folded(line.first) == wanted; });
-    return found == records.settings_lines.end() ? std::string() : found->first;
+    const auto found = std::ranges::find_if(
+        records.settings_lines, [&](const StoreValue& line) { return Folded(ToUtf8(line.name)) == wanted; });
+    return found == records.settings_lines.end() ? std::string() : ToUtf8(found->name);
 }
 
 } // namespace host

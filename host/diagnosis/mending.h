@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "host/diagnosis/records.h"
+#include "host/worlds/records.h"
 
 namespace host {
 

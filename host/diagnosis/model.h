@@ -21,7 +21,6 @@ struct Model {
     explicit Model(const Records& machine);
 
     const Records& records;
-    NumberRecords numbers;
     std::vector<std::size_t> boards; // indices of the present devices
     std::vector<ChannelRecord> channels;
 

@@ -24,7 +24,7 @@ std::string Joined(const std::vector<std::string>& texts) {
 
 // Calls `take` for each port whose name has a number.
 template <class Take> void ForEachPort(const Model& model, const Take& take) {
-    for (const auto& [number, record] : model.numbers) {
+    for (const auto& [number, record] : model.records.numbers) {
         for (const std::size_t holder : record.holders) {
             take(number, record, holder);
         }
@@ -34,7 +34,7 @@ template <class Take> void ForEachPort(const Model& model, const Take& take) {
 } // namespace
 
 void FindStaleClaims(const Model& model, Found& found) {
-    for (const auto& [number, record] : model.numbers) {
+    for (const auto& [number, record] : model.records.numbers) {
         if (record.claimed && record.holders.empty() && record.mapped.empty()) {
             found.push_back(AboutNumber(number));
         }
@@ -42,7 +42,7 @@ void FindStaleClaims(const Model& model, Found& found) {
 }
 
 void FindGhostClaims(const Model& model, Found& found) {
-    for (const auto& [number, record] : model.numbers) {
+    for (const auto& [number, record] : model.records.numbers) {
         if (record.claimed && !record.holders.empty() && record.mapped.empty() &&
             std::ranges::none_of(record.holders,
                                  [&](std::size_t holder) { return model.IsPresent(holder); })) {
@@ -52,7 +52,7 @@ void FindGhostClaims(const Model& model, Found& found) {
 }
 
 void FindSharedNames(const Model& model, Found& found) {
-    for (const auto& [number, record] : model.numbers) {
+    for (const auto& [number, record] : model.records.numbers) {
         if (record.holders.size() > 1) {
             found.push_back(model.About(record.holders.front()));
             std::vector<std::string> labels;
@@ -98,7 +98,7 @@ void FindUnmappedPorts(const Model& model, Found& found) {
 }
 
 void FindNumbersMappedTwice(const Model& model, Found& found) {
-    for (const auto& [number, record] : model.numbers) {
+    for (const auto& [number, record] : model.records.numbers) {
         if (record.mapped.size() > 1) {
             found.push_back(AboutNumber(number));
             std::vector<std::string> objects;
@@ -120,13 +120,14 @@ void FindOtherFriendlyNumbers(const Model& model, Found& found) {
 }
 
 void FindOrphanLines(const Model& model, Found& found) {
-    for (const auto& [key, line] : model.records.settings_lines) {
+    for (const StoreValue& line : model.records.settings_lines) {
+        const std::string key = ToUtf8(line.name);
         const unsigned long number = LineNumber(key);
-        const auto record = model.numbers.find(number);
-        if (number != 0 && record->second.holders.empty() && record->second.mapped.empty()) {
+        const NumberRecord& record = NumberIn(model.records, number);
+        if (number != 0 && record.holders.empty() && record.mapped.empty()) {
             found.push_back(AboutNumber(number));
             found.back().key = key;
-            found.back().what = "the line is " + Quoted(line);
+            found.back().what = "the line is " + Quoted(TextOf(line));
         }
     }
 }

@@ -59,7 +59,7 @@ constexpr PublishedValue own_name[] = {{"PortName", port_name}};
 // By channel class, from 1.
 constexpr Values of_class[] = {uart, dio, mcp251x, mcp251x_fd, can};
 
-std::vector<ValueFault> FaultsOf(const std::vector<StoreValue>& store, std::initializer_list<Values> lists) {
+std::vector<ValueFault> FaultsOf(const StoreValues& store, std::initializer_list<Values> lists) {
     std::vector<ValueFault> faults;
     for (const Values& list : lists) {
         for (const PublishedValue& wanted : list) {
@@ -79,19 +79,19 @@ std::vector<ValueFault> FaultsOf(const std::vector<StoreValue>& store, std::init
 
 } // namespace
 
-bool IsChannel(const std::vector<StoreValue>& store) {
+bool IsChannel(const StoreValues& store) {
     return FindValue(store, "BoardPciBusNumber") != nullptr || FindValue(store, "ChlNumber") != nullptr;
 }
 
-std::vector<ValueFault> BoardFaults(const std::vector<StoreValue>& store) {
+std::vector<ValueFault> BoardFaults(const StoreValues& store) {
     return FaultsOf(store, {board_identity, board_other, channel_basic, board_config});
 }
 
-std::vector<ValueFault> ChannelFaults(const std::vector<StoreValue>& store, unsigned channel_class) {
+std::vector<ValueFault> ChannelFaults(const StoreValues& store, unsigned channel_class) {
     return FaultsOf(store, {board_identity, channel_basic, of_class[channel_class - 1]});
 }
 
-std::vector<ValueFault> PortFaults(const std::vector<StoreValue>& store) {
+std::vector<ValueFault> PortFaults(const StoreValues& store) {
     return FaultsOf(store, {channel_basic, own_name});
 }
 
@@ -107,8 +107,8 @@ std::string ToldShortly(const std::vector<ValueFault>& faults) {
     return told;
 }
 
-std::string WhyNoPage(DeviceKind kind, const std::vector<StoreValue>& store) {
-    const bool is_board = kind == DeviceKind::Board;
+std::string WhyNoPage(Role role, const StoreValues& store) {
+    const bool is_board = role == Role::Board;
     if (!is_board && !IsChannel(store)) {
         return "it is not a channel of a board";
     }
@@ -120,8 +120,8 @@ std::string WhyNoPage(DeviceKind kind, const std::vector<StoreValue>& store) {
     return is_board || type == 1 ? std::string() : "its ChlType is " + std::to_string(type) + ", not 1";
 }
 
-std::vector<ValueFault> StoreFaults(DeviceKind kind, const std::vector<StoreValue>& store) {
-    if (kind == DeviceKind::Board) {
+std::vector<ValueFault> StoreFaults(Role role, const StoreValues& store) {
+    if (role == Role::Board) {
         return BoardFaults(store);
     }
     return IsChannel(store) ? ChannelFaults(store, uart_class) : std::vector<ValueFault>();

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "host/diagnosis/records.h"
+#include "host/worlds/records.h"
 
 namespace host {
 
@@ -25,23 +25,23 @@ struct ValueFault {
 inline constexpr unsigned uart_class = 1;
 
 // Whether a port belongs to a board at all. Other ports belong to other drivers.
-bool IsChannel(const std::vector<StoreValue>& store);
+bool IsChannel(const StoreValues& store);
 
 // The faults of a board's own device.
-std::vector<ValueFault> BoardFaults(const std::vector<StoreValue>& store);
+std::vector<ValueFault> BoardFaults(const StoreValues& store);
 // The faults of a channel of a class from 1 to 5, as its board's page reads it.
-std::vector<ValueFault> ChannelFaults(const std::vector<StoreValue>& store, unsigned channel_class);
+std::vector<ValueFault> ChannelFaults(const StoreValues& store, unsigned channel_class);
 // The faults of a port, as its own page reads it.
-std::vector<ValueFault> PortFaults(const std::vector<StoreValue>& store);
+std::vector<ValueFault> PortFaults(const StoreValues& store);
 
 // "UartMode is missing; ChlNumber is too long: ...". If there are many, the first ones and how many more
 // there are.
 std::string ToldShortly(const std::vector<ValueFault>& faults);
 
 // Why the library has no page for a device with a sheet; empty if it has one.
-std::string WhyNoPage(DeviceKind kind, const std::vector<StoreValue>& store);
+std::string WhyNoPage(Role role, const StoreValues& store);
 // The values of a board or a port that its driver must publish and that can't be read. None for a port that
 // is not a channel of a board.
-std::vector<ValueFault> StoreFaults(DeviceKind kind, const std::vector<StoreValue>& store);
+std::vector<ValueFault> StoreFaults(Role role, const StoreValues& store);
 
 } // namespace host

@@ -63,7 +63,7 @@ Sound SoundOf(const Records& records, const std::vector<Finding>& findings) {
         numbers.insert(finding.subject.number);
     }
     Sound sound;
-    for (const auto& [number, record] : NumbersOf(records)) {
+    for (const auto& [number, record] : records.numbers) {
         const bool has_finding =
             numbers.contains(number) || std::ranges::any_of(record.holders, [&](std::size_t holder) {
                 return ids.contains(records.devices[holder].id);
@@ -93,10 +93,9 @@ std::string SoundLine(const Sound& sound) {
 
 } // namespace
 
-Lines DiagnosisLines(const Records& records) {
+Lines DiagnosisLines(const Records& records, const std::vector<Finding>& findings) {
     Lines lines;
     AddMissing(lines, records);
-    const std::vector<Finding> findings = Diagnose(records);
     for (const Finding& finding : findings) {
         AddFinding(lines, finding);
     }
@@ -104,13 +103,13 @@ Lines DiagnosisLines(const Records& records) {
     return lines;
 }
 
-std::string DiagnosisJson(const Records& records, const std::string& machine) {
+std::string DiagnosisJson(const Records& records, const std::vector<Finding>& findings,
+                          const std::string& machine) {
     using Json = nlohmann::ordered_json;
     Json list = {{"machine", machine}, {"notKnown", Json::array()}, {"findings", Json::array()}};
     for (const MissingPlace& missing : MissingPlaces(records.known)) {
         list["notKnown"].push_back({{"place", missing.json}, {"export", missing.key}});
     }
-    const std::vector<Finding> findings = Diagnose(records);
     for (const Finding& finding : findings) {
         const auto text = [](const std::string& each) { return each.empty() ? Json() : Json(each); };
         const unsigned long number = finding.subject.number;
@@ -128,9 +127,7 @@ std::string DiagnosisJson(const Records& records, const std::string& machine) {
 }
 
 Lines NumberLines(const Records& records, unsigned long number) {
-    const NumberRecords numbers = NumbersOf(records);
-    const auto found = numbers.find(number);
-    const NumberRecord record = found == numbers.end() ? NumberRecord() : found->second;
+    const NumberRecord& record = NumberIn(records, number);
     Lines devices, objects, targets, settings;
     for (const std::size_t holder : record.holders) {
         const DeviceRecord& device = records.devices[holder];

@@ -4,7 +4,6 @@
 
 #include "host/diagnosis/published_values.h"
 #include "host/text.h"
-#include "host/worlds/store_values.h"
 
 namespace host {
 namespace {
@@ -19,24 +18,17 @@ bool Has(const std::string& text, const std::string& folded) {
 
 void DeviceList::Read(World& world) {
     devices_.clear();
-    for (const Device& device : world.Devices()) {
-        const std::vector<StoreValue> store = world.Store(device.id);
-        Listed listed;
-        listed.name = NameOf(device);
-        if (const StoreValue* const name = FindValue(store, "PortName");
-            name != nullptr && device.kind == DeviceKind::Port) {
-            listed.port = TextOf(*name);
+    for (const DeviceRecord& device : world.Describe().devices) {
+        if (device.listed == 0) {
+            break;
         }
-        const StoreValue* const opened = FindValue(store, "ChlOpened");
-        unsigned long times = 0;
-        if (const std::string reason = WhyNoPage(device.kind, store); !reason.empty()) {
-            listed.state = "no page: " + reason;
-        } else if (!device.present.value_or(true)) {
-            listed.state = "absent";
-        } else if (opened != nullptr && NumberOf(*opened, times) && times != 0) {
-            listed.state = "open";
-        }
-        devices_.push_back(std::move(listed));
+        const std::string reason = WhyNoPage(device.role, device.store);
+        devices_.push_back({device.role == Role::Port ? StoredText(device.store, "PortName") : std::string(),
+                            NameOf(device),
+                            !reason.empty()                                ? "no page: " + reason
+                            : !device.present                              ? "absent"
+                            : StoredNumber(device.store, "ChlOpened") != 0 ? "open"
+                                                                           : ""});
     }
     selected_ = std::min(selected_, devices_.empty() ? 0 : devices_.size() - 1);
 }

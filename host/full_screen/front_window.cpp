@@ -48,7 +48,7 @@ bool FrontWindow::Draw(Terminal& terminal, Session& session, const Cells& within
         for (const auto& [columns, rows] : {std::pair{within.columns - beside, within.rows},
                                             {within.columns, within.rows},
                                             {within.columns, most_rows}}) {
-            painted.placement = Place(painted.window, columns, rows);
+            painted.placement = PlaceWindow(painted.window, columns, rows);
             if (painted.placement.columns <= columns && painted.placement.rows <= rows) {
                 break;
             }

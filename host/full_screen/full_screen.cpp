@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
-#include "host/diagnosis/gathering.h"
 #include "host/diagnosis/report.h"
 #include "host/full_screen/text_view.h"
+#include "host/session/completion.h"
 #include "host/text.h"
 
 namespace host {
@@ -303,7 +303,7 @@ void FullScreen::Save() {
     if (kind == 0) {
         return;
     }
-    std::string stem = session_->name();
+    std::string stem = session_->world().Name();
     if (stem.ends_with(".reg")) {
         stem.resize(stem.size() - 4);
     } else {
@@ -326,7 +326,7 @@ void FullScreen::Save() {
 }
 
 bool FullScreen::MayDiscard() {
-    const char answer = AskLetter(session_->name() + " has changed, and the changes are not saved.",
+    const char answer = AskLetter(session_->world().Name() + " has changed, and the changes are not saved.",
                                   {{"s", "save", OfLetter('s')},
                                    {"d", "discard them and end", OfLetter('d')},
                                    {"Esc", "go on", OfCode(VK_ESCAPE)}});
@@ -408,7 +408,8 @@ void FullScreen::DrawTitle() {
     const std::string state = session_->IsUnsaved() ? " * not saved" : "";
     const std::string place = view_ ? view_->Title() : session_->windows().empty() ? "Devices" : "";
     const int columns = terminal_.columns(), right = Columns(place) + 2;
-    terminal_.Write(0, 0, ' ' + session_->name() + state, columns, {false, true, false, colour_title});
+    terminal_.Write(0, 0, ' ' + session_->world().Name() + state, columns,
+                    {false, true, false, colour_title});
     if (right < columns) {
         terminal_.Write(0, columns - right, place, right, {false, true, false, colour_title});
     }

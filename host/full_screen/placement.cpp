@@ -270,7 +270,7 @@ int ColumnsForTableColumn(const Control& table, std::size_t column) {
     return std::min(widest, most_columns_of_item);
 }
 
-Placement Place(const Window& window, int columns, int rows) {
+Placement PlaceWindow(const Window& window, int columns, int rows) {
     if (window.kind == WindowKind::Box) {
         return PlaceBox(window, columns);
     }

@@ -34,6 +34,6 @@ int ColumnsForTableColumn(const Control& table, std::size_t column);
 
 // Places a window within that many columns and rows. If even the closest placing needs more, that one is
 // returned. The window must outlive it.
-Placement Place(const Window& window, int columns, int rows);
+Placement PlaceWindow(const Window& window, int columns, int rows);
 
 } // namespace host

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "host/full_screen/hints.h"
-#include "host/full_screen/terminal.h"
 #include "host/full_screen/placement.h"
+#include "host/full_screen/terminal.h"
 
 namespace host {
 

@@ -2,6 +2,7 @@
 #include <cstdio>
 #include <cstring>
 #include <optional>
+#include <set>
 
 #include "host/machine_file/guid_text.h"
 #include "host/machine_file/machine_file.h"
@@ -146,11 +147,10 @@ sim::PortUsage PortUsageOf(const sim::Value* database) {
 // Each port in the serial map has a DOS name for its object.
 std::vector<std::pair<Text, Text>> DosNamesOf(const sim::Values& serial_map) {
     std::vector<std::pair<Text, Text>> names;
+    std::set<Text, NameOrder> seen;
     for (const sim::Value& value : serial_map.list) {
         const Text name = TextOf(&value).value_or(u"");
-        const bool is_new =
-            std::ranges::none_of(names, [&](const auto& each) { return sim::EqualNoCase(each.first, name); });
-        if (!name.empty() && is_new) {
+        if (!name.empty() && seen.insert(name).second) {
             names.emplace_back(name, value.name);
         }
     }

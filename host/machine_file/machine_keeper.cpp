@@ -77,6 +77,10 @@ KeyUse MachineKeeper::Key(TextView path) {
         if (fit == Fit::Whole) {
             values_ = kept.values;
             key_ = &root_.Make(path, count_);
+            names_.clear();
+            for (const sim::Value& value : key_->values.list) {
+                names_.insert(value.name);
+            }
             return KeyUse::Wanted;
         }
     }
@@ -92,12 +96,17 @@ void MachineKeeper::DeleteKey(TextView path) {
 void MachineKeeper::SetValue(TextView name, DWORD type, std::span<const BYTE> data) {
     if (values_[0].empty() ||
         std::ranges::any_of(values_, [name](TextView each) { return sim::EqualNoCase(each, name); })) {
-        key_->values.Set(name, type, {data.begin(), data.end()});
+        if (names_.emplace(name).second) {
+            key_->values.list.push_back({sim::Text(name), type, {data.begin(), data.end()}});
+        } else {
+            key_->values.Set(name, type, {data.begin(), data.end()});
+        }
     }
 }
 
 void MachineKeeper::DeleteValue(TextView name) {
     key_->values.Erase(name);
+    names_.erase(sim::Text(name));
 }
 
 } // namespace host

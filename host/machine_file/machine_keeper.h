@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <set>
 #include <span>
 
 #include "host/machine_file/registry_export.h"
@@ -24,6 +25,7 @@ private:
     std::size_t& count_;
     std::span<const std::u16string_view> values_; // kept of the current key; all if the first is empty
     TreeKey* key_ = nullptr;
+    std::set<sim::Text, NameOrder> names_; // of the key's values: a key may have thousands
 };
 
 } // namespace host

@@ -1,100 +1,155 @@
 #include "host/machine_file/patch.h"
 
 #include <algorithm>
-#include <set>
+#include <iterator>
 
 #include "host/machine_file/machine_places.h"
+#include "host/machine_file/registry_export.h"
 #include "host/machine_file/whole_file.h"
+#include "host/text.h"
 
 namespace host {
 namespace {
 
-using sim::Text;
+using Lines = std::vector<std::string>;
+using List = std::vector<Difference>;
 
-bool IsPatched(std::u16string_view path) {
-    for (const std::u16string_view place : {hardware_key, arbiter_key, ports_key}) {
-        if (path.size() > place.size() && path[path.size() - place.size() - 1] == u'\\' &&
-            sim::EqualNoCase(path.substr(path.size() - place.size()), place)) {
-            return true;
-        }
-    }
-    return false;
+// What only the system or a driver writes, and how it is put right.
+struct LeftOut {
+    ChangedPlace place;
+    const char* heading;
+    const char* put_right; // lines
+};
+constexpr LeftOut left_outs[] = {
+    {ChangedPlace::SerialMap, "Not in this file, because drivers make it anew whenever they start a port:",
+     "The restart puts it right: the driver enters the port under the number that PortName has then."},
+    {ChangedPlace::FriendlyName, "Not in this file, because only the system writes this key:",
+     "Device Manager shows the old number, which misleads and does no harm, until the port is given its\n"
+     "number on its page there (Advanced) or its driver is reinstalled."},
+    {ChangedPlace::Device, "Not in this file, because the system finds devices by itself:", nullptr},
+};
+
+bool IsInPatch(const Difference& difference) {
+    return std::ranges::find(left_outs, difference.place, &LeftOut::place) == std::end(left_outs);
 }
 
-// Null stands for a key that does not exist.
-const sim::Values& ValuesOf(const TreeKey* key) {
-    static const sim::Values none;
-    return key != nullptr ? key->values : none;
+void AddBroken(Lines& lines, const std::string& text) {
+    const Lines broken = BrokenAt(text, 96);
+    lines.insert(lines.end(), broken.begin(), broken.end());
 }
 
-KeyChange CompareValues(const Text& path, const sim::Values& before, const sim::Values& after) {
-    KeyChange change{path, {}, {}};
-    for (const sim::Value& value : after.list) {
-        const sim::Value* const was = before.Find(value.name);
-        if (was == nullptr || was->type != value.type || was->data != value.data) {
-            change.set.push_back(value);
+template <class Wanted> void AddTexts(Lines& lines, const List& list, const Wanted& wanted) {
+    for (const Difference& difference : list) {
+        if (wanted(difference)) {
+            lines.push_back("  " + difference.text);
         }
     }
-    for (const sim::Value& value : before.list) {
-        if (after.Find(value.name) == nullptr) {
-            change.erased.push_back(value.name);
-        }
-    }
-    return change;
 }
 
-const TreeKey* Subkey(const TreeKey* key, const Text& name) {
-    return key != nullptr ? key->Find(name) : nullptr;
-}
-
-void Compare(const Text& path, const TreeKey* before, const TreeKey* after, std::vector<KeyChange>& changes) {
-    if (IsPatched(path)) {
-        KeyChange change = CompareValues(path, ValuesOf(before), ValuesOf(after));
-        if (!change.set.empty() || !change.erased.empty()) {
-            changes.push_back(std::move(change));
-        }
+Lines PatchComments(const List& list, const std::string& made_from) {
+    Lines lines = {"What this file changes:"};
+    AddTexts(lines, list, &IsInPatch);
+    lines.insert(
+        lines.end(),
+        {"", "Made from " + Escaped(made_from) + ".",
+         "An administrator imports it on that machine (a double click, or regedit /s FILE) and restarts",
+         "the machine, or the ports that it names."});
+    if (std::ranges::find(list, ChangedPlace::Database, &Difference::place) != list.end()) {
+        AddBroken(
+            lines,
+            "The COM port database is one value: what was claimed since the export is lost by the import. So "
+            "import it soon, and make it from a fresh export.");
     }
-    std::set<Text, NameOrder> names;
-    for (const TreeKey* const key : {before, after}) {
-        if (key != nullptr) {
-            for (const auto& [name, subkey] : key->keys) {
-                names.insert(name);
+    for (const LeftOut& left_out : left_outs) {
+        const auto is_of = [&](const Difference& difference) { return difference.place == left_out.place; };
+        if (std::ranges::any_of(list, is_of)) {
+            lines.insert(lines.end(), {"", left_out.heading});
+            AddTexts(lines, list, is_of);
+            if (left_out.put_right != nullptr) {
+                AddBroken(lines, left_out.put_right);
             }
         }
     }
-    for (const Text& name : names) {
-        Compare(Below(path, name), Subkey(before, name), Subkey(after, name), changes);
+    return lines;
+}
+
+Lines UndoComments(const List& list, const std::string& patch) {
+    Lines lines = {"Takes back what " + Escaped(patch) + " changes:"};
+    AddTexts(lines, list, &IsInPatch);
+    lines.insert(lines.end(), {"", "An administrator imports it and restarts the machine, or the ports."});
+    return lines;
+}
+
+// The key that holds a difference.
+Text KeyOf(const Difference& difference, const Text& control_set) {
+    Text key;
+    switch (difference.place) {
+    case ChangedPlace::DeviceStore:
+        key = Below(Below(Below(control_set, devices_key), FromUtf8(difference.device)), hardware_key);
+        break;
+    case ChangedPlace::Database:
+        key = Below(control_set, arbiter_key);
+        break;
+    default:
+        key = ports_key;
+        break;
+    }
+    return Text(local_machine) + key;
+}
+
+// Writes the values of one state after the comments.
+void Write(std::ostream& out, const Lines& comments, const List& list, const Text& control_set,
+           const Records& state, std::optional<StoreValue> Difference::*value) {
+    ExportWriter writer(out);
+    for (const std::string& comment : comments) {
+        writer.Comment(FromUtf8(comment));
+    }
+    Text written; // the key of the last value
+    bool has_database = false;
+    for (const Difference& difference : list) {
+        const bool is_database = difference.place == ChangedPlace::Database;
+        if (!IsInPatch(difference) || (is_database && has_database)) {
+            continue;
+        }
+        has_database = has_database || is_database;
+        if (const Text key = KeyOf(difference, control_set); key != written) {
+            writer.Key(key);
+            written = key;
+        }
+        if (is_database) {
+            writer.SetValue(com_db_value, REG_BINARY, state.usage);
+        } else if (const std::optional<StoreValue>& wanted = difference.*value) {
+            writer.SetValue(wanted->name, wanted->type, wanted->data);
+        } else {
+            writer.DeleteValue(difference.name);
+        }
     }
 }
 
 } // namespace
 
-std::vector<KeyChange> KeyChanges(const MachineFile& before, const MachineFile& after) {
-    std::vector<KeyChange> changes;
-    Compare(Text(local_machine.substr(0, local_machine.size() - 1)), &before.root, &after.root, changes);
-    return changes;
+bool WritePatch(const PatchSource& source, const std::string& path, std::string& error) {
+    const List list = Differences(AsRead(source.before, source.after), source.after);
+    if (std::ranges::none_of(list, &IsInPatch)) {
+        error = "nothing has changed that a patch could hold";
+        return false;
+    }
+    const auto write = [&](const std::string& file, const Lines& comments, const Records& state, auto value) {
+        return WriteWhole(
+            file, [&](std::ostream& out) { Write(out, comments, list, source.control_set, state, value); },
+            error);
+    };
+    return write(path, PatchComments(list, source.name), source.after, &Difference::after) &&
+           write(UndoPath(path), UndoComments(list, path), source.before, &Difference::before);
 }
 
-bool WritePatch(const std::vector<KeyChange>& changes, const std::vector<std::string>& comments,
-                const std::string& path, std::string& error) {
-    return WriteWhole(
-        path,
-        [&](std::ostream& out) {
-            ExportWriter writer(out);
-            for (const std::string& comment : comments) {
-                writer.Comment(sim::FromUtf8(comment));
-            }
-            for (const KeyChange& change : changes) {
-                writer.Key(change.path);
-                for (const sim::Value& value : change.set) {
-                    writer.SetValue(value.name, value.type, value.data);
-                }
-                for (const Text& name : change.erased) {
-                    writer.DeleteValue(name);
-                }
-            }
-        },
-        error);
+std::string UndoPath(const std::string& path) {
+    constexpr std::string_view ending = ".reg";
+    const std::size_t length =
+        path.size() >= ending.size() && Folded(path.substr(path.size() - ending.size())) == ending
+            ? path.size() - ending.size()
+            : path.size();
+    return path.substr(0, length) + "-undo" + std::string{ending};
 }
 
 } // namespace host

@@ -5,7 +5,13 @@
 namespace host {
 
 bool NameOrder::operator()(std::u16string_view left, std::u16string_view right) const {
-    return std::ranges::lexicographical_compare(left, right, {}, sim::Upper, sim::Upper);
+    // Names that are compared mostly begin alike, unit by unit.
+    for (std::size_t at = 0; at < std::min(left.size(), right.size()); ++at) {
+        if (left[at] != right[at] && sim::Upper(left[at]) != sim::Upper(right[at])) {
+            return sim::Upper(left[at]) < sim::Upper(right[at]);
+        }
+    }
+    return left.size() < right.size();
 }
 
 std::u16string_view TakeComponent(std::u16string_view& path) {

@@ -4,7 +4,6 @@
 
 #include "host/screen/naming.h"
 #include "host/text.h"
-#include "host/worlds/store_values.h"
 
 namespace host {
 namespace {
@@ -35,24 +34,25 @@ std::string StateOf(const Control& control) {
 
 } // namespace
 
-Lines ListDevices(const std::vector<Device>& devices) {
+Lines ListDevices(const Records& records) {
     int widest = 0;
-    for (const Device& device : devices) {
-        widest = std::max(widest, Columns(NameOf(device)));
+    for (const DeviceRecord& device : records.devices) {
+        widest = std::max(widest, device.listed != 0 ? Columns(NameOf(device)) : 0);
     }
     Lines lines;
-    for (std::size_t index = 0; index < devices.size(); ++index) {
-        const Device& device = devices[index];
-        const std::string number = std::to_string(index + 1);
-        lines.push_back(std::string(number.size() < 3 ? 3 - number.size() : 0, ' ') + number + "  " +
-                        (device.kind == DeviceKind::Board ? "board  " : "port   ") +
-                        PaddedTo(NameOf(device), widest) + "  " + device.id +
-                        (device.present.value_or(true) ? "" : "  (absent)"));
+    for (const DeviceRecord& device : records.devices) {
+        if (device.listed != 0) {
+            const std::string number = std::to_string(device.listed);
+            lines.push_back(std::string(number.size() < 3 ? 3 - number.size() : 0, ' ') + number + "  " +
+                            (device.role == Role::Board ? "board  " : "port   ") +
+                            PaddedTo(NameOf(device), widest) + "  " + device.id +
+                            (device.present ? "" : "  (absent)"));
+        }
     }
     return lines;
 }
 
-Lines ListStore(const std::vector<StoreValue>& store) {
+Lines ListStore(const StoreValues& store) {
     int widest = 0;
     for (const StoreValue& value : store) {
         widest = std::max(widest, Columns(ToUtf8(value.name)));

@@ -5,15 +5,16 @@
 #include <vector>
 
 #include "host/screen/screen.h"
-#include "host/worlds/world.h"
+#include "host/worlds/records.h"
 
 namespace host {
 
 using Lines = std::vector<std::string>;
 
-Lines ListDevices(const std::vector<Device>& devices);
+// Those with a sheet.
+Lines ListDevices(const Records& records);
 // Numbers in decimal and hexadecimal, texts in quotes, anything else as bytes.
-Lines ListStore(const std::vector<StoreValue>& store);
+Lines ListStore(const StoreValues& store);
 Lines ListControls(const Window& window);
 
 } // namespace host

@@ -5,7 +5,6 @@
 #include "host/session/command.h"
 #include "host/session/session.h"
 #include "host/text.h"
-#include "host/worlds/store_values.h"
 
 namespace host {
 namespace {
@@ -29,11 +28,12 @@ bool IsFor(std::string_view command, Kind kind) {
 
 Words DeviceNames(Session& session) {
     Words names;
-    for (const Device& device : session.world().Devices()) {
-        names.push_back(std::to_string(names.size() + 1));
-        const std::vector<StoreValue> store = session.world().Store(device.id);
-        if (const StoreValue* name = FindValue(store, "PortName")) {
-            names.push_back(TextOf(*name));
+    for (const DeviceRecord& device : session.world().Describe().devices) {
+        if (device.listed != 0) {
+            names.push_back(std::to_string(device.listed));
+            if (std::string port = StoredText(device.store, "PortName"); !port.empty()) {
+                names.push_back(std::move(port));
+            }
         }
     }
     return names;
@@ -84,6 +84,10 @@ Words Continuations(Session& session, const Words& words) {
         if (argument == "ITEM") {
             const Window front = session.Front();
             return FindControl(front, words[1]).items;
+        }
+        if (argument == "OPERATION") {
+            FileMachine* const machine = session.world().File();
+            return machine != nullptr ? machine->Operations() : Words();
         }
         return argument.find('|') != std::string::npos ? Alternatives(argument) : Words();
     } catch (const Refusal&) {

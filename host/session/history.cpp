@@ -2,12 +2,13 @@
 
 namespace host {
 
-History::History(World& world) : world_(world), first_(world.Now()), last_(first_) {}
+History::History(FileMachine* machine)
+    : machine_(machine), first_(machine != nullptr ? machine->Now() : nullptr), last_(first_) {}
 
 void History::Note(const std::string& action) {
-    if (last_ && !world_.IsStill(*last_)) {
+    if (last_ && !machine_->IsStill(*last_)) {
         steps_.push_back({action, last_});
-        last_ = world_.Now();
+        last_ = machine_->Now();
     }
 }
 
@@ -17,13 +18,13 @@ std::string History::Undo() {
     }
     const Step step = steps_.back();
     steps_.pop_back();
-    world_.ComeBackTo(*step.before);
+    machine_->ComeBackTo(*step.before);
     last_ = step.before;
     return step.action;
 }
 
 void History::Reload(const std::string& action) {
-    world_.ComeBackTo(*first_);
+    machine_->ComeBackTo(*first_);
     Note(action);
 }
 

@@ -5,14 +5,14 @@
 #include <string>
 #include <vector>
 
-#include "host/worlds/world.h"
+#include "host/worlds/file_machine.h"
 
 namespace host {
 
 class History {
 public:
-    // The world must outlive this.
-    explicit History(World& world);
+    // The machine must outlive this; null if this one can't be set back.
+    explicit History(FileMachine* machine);
 
     // Ends a step that has changed the machine: it can be undone from now on.
     void Note(const std::string& action);
@@ -30,7 +30,7 @@ private:
         std::shared_ptr<const Moment> before;
     };
 
-    World& world_;
+    FileMachine* machine_;
     std::shared_ptr<const Moment> first_, last_;
     std::vector<Step> steps_;
 };

@@ -1,9 +1,9 @@
 #include <filesystem>
 
 #include "host/diagnosis/published_values.h"
-#include "host/line/ports_table.h"
 #include "host/screen/listing.h"
 #include "host/session/command.h"
+#include "host/session/ports_table.h"
 #include "host/session/session.h"
 #include "host/text.h"
 
@@ -11,13 +11,12 @@ namespace host {
 namespace {
 
 void Devices(Session& session, const Words&) {
-    const std::vector<Device> devices = session.world().Devices();
-    Lines lines = ListDevices(devices);
-    for (std::size_t index = 0; index < devices.size(); ++index) {
-        const Device& device = devices[index];
-        const std::string reason = device.provider_fault.empty()
-                                       ? WhyNoPage(device.kind, session.world().Store(device.id))
-                                       : device.provider_fault;
+    const Records records = session.world().Describe();
+    Lines lines = ListDevices(records);
+    for (std::size_t index = 0; index < lines.size(); ++index) {
+        const DeviceRecord& device = records.devices[index];
+        const std::string reason =
+            device.provider_fault.empty() ? WhyNoPage(device.role, device.store) : device.provider_fault;
         if (!reason.empty()) {
             lines[index] += "  (no page: " + reason + ')';
         }
@@ -26,16 +25,15 @@ void Devices(Session& session, const Words&) {
 }
 
 void Store(Session& session, const Words& words) {
-    const Device device = session.FindDevice(words[1]);
-    const std::vector<StoreValue> store = session.world().Store(device.id);
-    session.Tell(ListStore(store));
-    for (const ValueFault& fault : StoreFaults(device.kind, store)) {
+    const DeviceRecord device = session.FindDevice(words[1]);
+    session.Tell(ListStore(device.store));
+    for (const ValueFault& fault : StoreFaults(device.role, device.store)) {
         session.Tell("  " + std::string{fault.name} + ' ' + fault.what);
     }
 }
 
 void Ports(Session& session, const Words&) {
-    session.Tell(PortsTable(session.world(), session.Width()));
+    session.Tell(PortsTable(session.world().Describe(), session.Width()));
 }
 
 void Journal(Session& session, const Words&) {
@@ -47,8 +45,12 @@ void Journal(Session& session, const Words&) {
 }
 
 void Export(Session& session, const Words& words) {
+    FileMachine* const machine = session.world().File();
+    if (machine == nullptr) {
+        throw Refusal("a real machine is exported by its own registry editor");
+    }
     std::string told;
-    if (!session.world().Export(FileToWrite(words), told)) {
+    if (!machine->Export(FileToWrite(words), told)) {
         throw Refusal(told);
     }
     if (!told.empty()) {

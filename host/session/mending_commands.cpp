@@ -1,10 +1,9 @@
 // The commands that find what is wrong with a machine, mend it, and make a patch of the changes.
 #include <algorithm>
 
-#include "host/diagnosis/changes.h"
-#include "host/diagnosis/gathering.h"
 #include "host/diagnosis/mending.h"
 #include "host/diagnosis/report.h"
+#include "host/machine_file/differences.h"
 #include "host/session/command.h"
 #include "host/session/session.h"
 #include "host/text.h"
@@ -16,7 +15,7 @@ namespace {
 constexpr const char* even_so = "--even-so";
 
 // "COM13" or "13".
-unsigned long NumberIn(const std::string& word) {
+unsigned long NumberOf(const std::string& word) {
     long number = 0;
     const unsigned long named = PortNumber(word);
     if (named == 0 && (!ParseNumber(word, number) || number < 1)) {
@@ -49,31 +48,32 @@ void Must(bool done, const std::string& error) {
 }
 
 void Diagnose(Session& session, const Words&) {
-    session.Tell(DiagnosisLines(RecordsOf(session.world())));
+    const Records records = session.world().Describe();
+    session.Tell(DiagnosisLines(records, host::Diagnose(records)));
 }
 
 void Why(Session& session, const Words& words) {
-    session.Tell(NumberLines(RecordsOf(session.world()), NumberIn(words[1])));
+    session.Tell(NumberLines(session.world().Describe(), NumberOf(words[1])));
 }
 
 void Free(Session& session, const Words& words) {
-    const unsigned long number = NumberIn(words[1]);
-    Heed("freed", AgainstFreeing(RecordsOf(session.world()), number), IsOverruled(words));
+    const unsigned long number = NumberOf(words[1]);
+    Heed("freed", AgainstFreeing(session.world().Describe(), number), IsOverruled(words));
     std::string error;
     Must(ReleaseNumber(number, error), error);
     session.Tell(ComName(number) + ": freed in the COM port database");
 }
 
 void Claim(Session& session, const Words& words) {
-    const unsigned long number = NumberIn(words[1]);
-    Heed("claimed", AgainstClaiming(RecordsOf(session.world()), number), IsOverruled(words));
+    const unsigned long number = NumberOf(words[1]);
+    Heed("claimed", AgainstClaiming(session.world().Describe(), number), IsOverruled(words));
     std::string error;
     Must(ClaimNumber(number, error), error);
     session.Tell(ComName(number) + ": claimed in the COM port database");
 }
 
 void Forget(Session& session, const Words& words) {
-    const Records records = RecordsOf(session.world());
+    const Records records = session.world().Describe();
     const std::string key = LineKey(records, words[1]);
     if (key.empty()) {
         throw Refusal("there is no settings line " + Quoted(words[1]));
@@ -86,7 +86,7 @@ void Forget(Session& session, const Words& words) {
 
 void Mend(Session& session, const Words&) {
     bool is_mended = false;
-    for (const Finding& finding : host::Diagnose(RecordsOf(session.world()))) {
+    for (const Finding& finding : host::Diagnose(session.world().Describe())) {
         if (finding.safe) {
             Words words;
             SplitWords(finding.command, words);
@@ -100,7 +100,8 @@ void Mend(Session& session, const Words&) {
 }
 
 void Changes(Session& session, const Words&) {
-    session.Tell(ChangeLines(session.original(), RecordsOf(session.world())));
+    const Records now = session.world().Describe();
+    session.Tell(DifferenceLines(AsRead(session.original(), now), now));
 }
 
 // Setting the machine back would leave an open page with data that no longer exist.
@@ -126,24 +127,30 @@ void Reload(Session& session, const Words& words) {
 }
 
 void Patch(Session& session, const Words& words) {
-    const std::string file = FileToWrite(words);
-    const std::string undo = UndoPath(file);
-    const std::vector<Change> changes = host::Changes(session.original(), RecordsOf(session.world()));
-    std::string error;
-    Must(session.world().Patch(file, PatchComments(changes, session.name()), undo,
-                               UndoComments(changes, file), error),
-         error);
-    session.Tell(file + " holds what has changed, " + undo + " takes it back");
+    FileMachine* const machine = session.world().File();
+    if (machine == nullptr) {
+        throw Refusal("what is changed here is changed already: a patch is made from an export");
+    }
+    std::string told;
+    Must(machine->Patch(session.original(), FileToWrite(words), told), told);
+    session.Tell(told);
 }
 
 void Fail(Session& session, const Words& words) {
+    FileMachine* const machine = session.world().File();
+    if (machine == nullptr) {
+        throw Refusal("the system itself can't be made to fail");
+    }
     const bool is_off = Folded(words[1]) == "off";
     long call = 1;
     if (words.size() > 2 && (is_off || !ParseNumber(words[2], call) || call < 1)) {
         throw Refusal("use fail OPERATION N, with N from 1, or fail off");
     }
-    Must(session.world().Fail(is_off ? std::string() : words[1], static_cast<std::size_t>(call)),
-         "the system itself can't be made to fail");
+    if (!machine->Fail(is_off ? std::string() : words[1], static_cast<std::size_t>(call))) {
+        const std::string nearest = Nearest(words[1], machine->Operations());
+        throw Refusal("no operation " + Quoted(words[1]) +
+                      (nearest.empty() ? "" : ": did you mean " + nearest + '?'));
+    }
 }
 
 } // namespace

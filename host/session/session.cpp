@@ -5,12 +5,10 @@
 #include <filesystem>
 #include <iterator>
 
-#include "host/diagnosis/gathering.h"
 #include "host/screen/drawing.h"
 #include "host/screen/hand.h"
 #include "host/session/command.h"
 #include "host/text.h"
-#include "host/worlds/store_values.h"
 
 namespace host {
 namespace {
@@ -21,9 +19,8 @@ const char* KindOf(const Window& window) {
 
 } // namespace
 
-Session::Session(World& world, std::string name, Seat& seat, bool stop)
-    : world_(world), name_(std::move(name)), seat_(seat), stop_(stop), original_(RecordsOf(world)),
-      history_(world) {
+Session::Session(World& world, Seat& seat, bool stop)
+    : world_(world), seat_(seat), stop_(stop), original_(world.Describe()), history_(world.File()) {
     world_.Journal(); // what happened before is not news
     seat_.SitBefore(*this);
 }
@@ -117,7 +114,11 @@ void Session::Execute(const std::string& line) {
             Fail(refusal.what());
         }
     });
-    unsaved_ = world_.HasUnsavedChanges();
+    NoteState();
+}
+
+void Session::NoteState() {
+    unsaved_ = world_.File() != nullptr && world_.File()->IsUnsaved();
 }
 
 void Session::Fail(const std::string& reason) {
@@ -132,7 +133,7 @@ void Session::Collect(const std::string& name) {
     if (!changes.empty()) {
         actions_.push_back({name, std::move(changes)});
         history_.Note(name);
-        unsaved_ = world_.HasUnsavedChanges();
+        NoteState();
     }
 }
 
@@ -264,7 +265,7 @@ void Session::Press(const Control& button) {
     pressed_ = true;
 }
 
-void Session::Open(const Device& device) {
+void Session::Open(const DeviceRecord& device) {
     MustHaveNoWindow();
     sheet_opened_ = false;
     if (!world_.RunSheet(device.id, [this](HWND front) { Attend(front); })) {
@@ -300,33 +301,32 @@ void Session::Tell(const Lines& lines, const char* before) {
 
 // --- What a command works on ---
 
-Device Session::FindDevice(const std::string& name) {
-    const std::vector<Device> devices = world_.Devices();
+DeviceRecord Session::FindDevice(const std::string& name) {
+    const Records records = world_.Describe();
+    const std::size_t count = CountListed(records);
     long number = 0;
-    if (ParseNumber(name, number) && number >= 1 && static_cast<unsigned long>(number) <= devices.size()) {
-        return devices[static_cast<std::size_t>(number) - 1];
+    if (ParseNumber(name, number) && number >= 1 && static_cast<unsigned long>(number) <= count) {
+        return records.devices[static_cast<std::size_t>(number) - 1];
     }
     const std::string wanted = Folded(name);
-    const Device* found = nullptr;
-    for (const Device& device : devices) {
+    const DeviceRecord* found = nullptr;
+    for (const DeviceRecord& device : records.devices) {
+        if (device.listed == 0) {
+            continue;
+        }
         if (Folded(device.id) == wanted) {
             return device;
         }
-        if (device.kind != DeviceKind::Port) {
-            continue;
+        if (device.role == Role::Port && !wanted.empty() &&
+            Folded(StoredText(device.store, "PortName")) == wanted) {
+            if (found != nullptr) {
+                throw Refusal("more than one device is called " + Quoted(name) + ": name it by its number");
+            }
+            found = &device;
         }
-        const std::vector<StoreValue> store = world_.Store(device.id);
-        const StoreValue* const stored = FindValue(store, "PortName");
-        if (stored == nullptr || Folded(TextOf(*stored)) != wanted) {
-            continue;
-        }
-        if (found != nullptr) {
-            throw Refusal("more than one device is called " + Quoted(name) + ": name it by its number");
-        }
-        found = &device;
     }
     if (found == nullptr) {
-        throw Refusal("no device " + Quoted(name) + "; devices lists the " + std::to_string(devices.size()) +
+        throw Refusal("no device " + Quoted(name) + "; devices lists the " + std::to_string(count) +
                       " there are");
     }
     return *found;

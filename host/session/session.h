@@ -14,7 +14,6 @@
 #include <string_view>
 #include <vector>
 
-#include "host/diagnosis/records.h"
 #include "host/screen/naming.h"
 #include "host/session/history.h"
 #include "host/session/seat.h"
@@ -32,9 +31,8 @@ struct Action {
 
 class Session {
 public:
-    // The world and the seat must outlive this. `name` is the machine's: its file, or "the sample machine".
-    // With `stop`, the first command that fails ends the session.
-    Session(World& world, std::string name, Seat& seat, bool stop = false);
+    // The world and the seat must outlive this. With `stop`, the first command that fails ends the session.
+    Session(World& world, Seat& seat, bool stop = false);
     ~Session();
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
@@ -52,7 +50,6 @@ public:
     // --- The machine
 
     World& world() { return world_; }
-    const std::string& name() const { return name_; }
     // As it was read.
     const Records& original() const { return original_; }
     History& history() { return history_; }
@@ -61,7 +58,7 @@ public:
 
     // Finds a device by its number in the list, COM5, or its instance id; throws Refusal if there is none or
     // more than one.
-    Device FindDevice(const std::string& name);
+    DeviceRecord FindDevice(const std::string& name);
 
     // --- Actions
 
@@ -102,7 +99,7 @@ public:
 
     // Runs the sheet of a device until it has closed. Throws Refusal if a window is open or there is no
     // sheet.
-    void Open(const Device& device);
+    void Open(const DeviceRecord& device);
 
     // --- Output
 
@@ -125,10 +122,10 @@ private:
     void Fail(const std::string& reason);
     bool IsBoxInFront();
     void Collect(const std::string& name);
+    void NoteState();
     bool ListenToTrace();
 
     World& world_;
-    std::string name_;
     Seat& seat_;
     bool stop_;
     Records original_;

@@ -1,35 +1,38 @@
 #include "host/worlds/store_values.h"
 
+#include <algorithm>
 #include <cinttypes>
 #include <cstdio>
 #include <cstring>
 
-#include "host/text.h"
-
 namespace host {
 
-const StoreValue* FindValue(const std::vector<StoreValue>& store, std::string_view name) {
-    const std::string wanted = Folded(name);
-    for (const StoreValue& value : store) {
-        if (Folded(ToUtf8(value.name)) == wanted) {
-            return &value;
-        }
-    }
-    return nullptr;
+const StoreValue* FindValue(const StoreValues& store, std::string_view name) {
+    const auto lower = [](auto unit) {
+        return unit >= 'A' && unit <= 'Z' ? static_cast<WCHAR>(unit + 0x20) : static_cast<WCHAR>(unit);
+    };
+    const auto found = std::ranges::find_if(store, [&](const StoreValue& value) {
+        return std::ranges::equal(value.name, name, {}, lower, lower);
+    });
+    return found == store.end() ? nullptr : &*found;
 }
 
 std::string TextOf(const StoreValue& value) {
     return ToUtf8(TextIn(value.data));
 }
 
-bool NumberOf(const StoreValue& value, unsigned long& number) {
-    std::uint32_t bytes = 0;
-    if (value.data.size() != sizeof bytes) {
-        return false;
+std::string StoredText(const StoreValues& store, std::string_view name) {
+    const StoreValue* const value = FindValue(store, name);
+    return value != nullptr ? TextOf(*value) : std::string();
+}
+
+unsigned long StoredNumber(const StoreValues& store, std::string_view name) {
+    const StoreValue* const value = FindValue(store, name);
+    std::uint32_t number = 0;
+    if (value != nullptr && value->data.size() <= sizeof number) {
+        std::ranges::copy(value->data, reinterpret_cast<BYTE*>(&number));
     }
-    std::memcpy(&bytes, value.data.data(), sizeof bytes);
-    number = bytes;
-    return true;
+    return number;
 }
 
 std::string TypeName(DWORD type) {

@@ -5,18 +5,29 @@
 #include <string_view>
 #include <vector>
 
-#include "host/worlds/world.h"
+#include "host/text.h"
+#include "platform/platform.h"
 
 namespace host {
 
-// A value of a device's store by its name, ignoring case; null if there is none.
-const StoreValue* FindValue(const std::vector<StoreValue>& store, std::string_view name);
+struct StoreValue {
+    Text name;
+    DWORD type = 0;
+    std::vector<BYTE> data;
+    friend bool operator==(const StoreValue&, const StoreValue&) = default;
+};
+using StoreValues = std::vector<StoreValue>;
+
+// A value by its name, ignoring the case of letters without accents; null if there is none.
+const StoreValue* FindValue(const StoreValues& store, std::string_view name);
 
 // The text up to its terminator or the end of its bytes.
 std::string TextOf(const StoreValue& value);
+// The text of a value; empty if it is missing.
+std::string StoredText(const StoreValues& store, std::string_view name);
 
-// False unless the value has exactly four bytes.
-bool NumberOf(const StoreValue& value, unsigned long& number);
+// A number as the pages read it: a shorter value fills only its own bytes. 0 if it is missing or longer.
+unsigned long StoredNumber(const StoreValues& store, std::string_view name);
 
 // On one line: numbers in decimal and hexadecimal, texts in quotes, anything else as bytes.
 std::string Told(const StoreValue& value);

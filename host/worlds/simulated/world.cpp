@@ -4,7 +4,7 @@
 #include <fstream>
 #include <iterator>
 #include <sstream>
-#include <tuple>
+#include <utility>
 
 #include "board_page/board_page_provider.h"
 #include "host/languages.h"
@@ -23,35 +23,29 @@ namespace {
 // Only a board's own device has this value.
 constexpr std::u16string_view board_value = u"BoardNrController";
 
-std::optional<DeviceKind> KindOf(const sim::Device& device) {
+// Nothing for a device without a sheet.
+std::optional<Role> RoleOf(const sim::Device& device) {
     if (sim::EqualNoCase(device.class_name, u"Ports") || device.key.Find(u"PortName") != nullptr) {
-        return DeviceKind::Port;
+        return Role::Port;
     }
     if (device.key.Find(board_value) != nullptr) {
-        return DeviceKind::Board;
+        return Role::Board;
     }
     return {};
 }
 
-bool Holds(const MachineFile& file, std::u16string_view key) {
-    return file.root.Find(Below(file.control_set, key)) != nullptr;
-}
-
-// What a file holds of the machine, and what follows from it.
 struct MachineMoment : Moment {
-    explicit MachineMoment(const sim::Machine& machine)
-        : devices(machine.devices), interfaces(machine.interfaces), dos_names(machine.dos_names),
-          serial_map(machine.serial_map), serial_map_exists(machine.serial_map_exists),
-          port_usage(machine.port_usage), profile(machine.profile) {}
-
-    std::vector<sim::Device> devices;
-    std::vector<sim::Interface> interfaces;
-    std::vector<std::pair<sim::Text, sim::Text>> dos_names;
-    sim::Values serial_map;
-    bool serial_map_exists;
-    sim::PortUsage port_usage;
-    std::vector<std::pair<sim::Text, sim::Values>> profile;
+    explicit MachineMoment(const sim::MachineState& now) : state(now) {}
+    sim::MachineState state;
 };
+
+StoreValues ValuesOf(const sim::Values& values) {
+    StoreValues result;
+    for (const sim::Value& value : values.list) {
+        result.push_back({value.name, value.type, value.data});
+    }
+    return result;
+}
 
 // The library's provider calls this: the page is added to the sheet's list.
 BOOL CALLBACK AddPage(HPROPSHEETPAGE page, LPARAM pages) {
@@ -68,7 +62,6 @@ std::string JournalLine(const sim::JournalEntry& entry) {
 SimulatedWorld::SimulatedWorld(MachineFile file, sim::Machine& machine)
     : file_(std::move(file)), machine_(machine), scope_(machine) {
     GiveMachine(file_, machine_);
-    KeepAsSaved();
     machine_.journal_reads = false;
     DllMain(sim::LibraryInstance(), DLL_PROCESS_ATTACH, nullptr);
 }
@@ -77,84 +70,60 @@ SimulatedWorld::~SimulatedWorld() {
     DllMain(sim::LibraryInstance(), DLL_PROCESS_DETACH, nullptr);
 }
 
-bool SimulatedWorld::KnowsDevices() {
-    return Holds(file_, devices_key);
-}
-
-std::vector<Device> SimulatedWorld::Devices() {
-    std::vector<Device> devices;
+// An interface may belong to a device without a sheet: a channel that is not a port.
+void SimulatedWorld::DescribeDevices(Records& records) {
+    std::vector<std::vector<ChannelInterface>> channels(machine_.devices.size());
+    std::vector<bool> has_interface(machine_.devices.size()), is_present(machine_.devices.size());
+    for (const sim::Interface& one : machine_.interfaces) {
+        has_interface[one.device] = true;
+        is_present[one.device] = is_present[one.device] || one.linked;
+        if (const unsigned channel_class = ChannelClassOf(one.class_guid)) {
+            channels[one.device].push_back({channel_class, one.linked});
+        }
+    }
     for (std::size_t index = 0; index < machine_.devices.size(); ++index) {
         const sim::Device& device = machine_.devices[index];
-        const std::optional<DeviceKind> kind = KindOf(device);
-        if (!kind) {
+        const std::optional<Role> role = RoleOf(device);
+        if (!role && channels[index].empty()) {
             continue;
         }
-        const auto is_of_device = [index](const sim::Interface& entry) { return entry.device == index; };
-        const auto& interfaces = machine_.interfaces;
-        std::optional<bool> present;
-        if (std::ranges::any_of(interfaces, is_of_device)) {
-            present = std::ranges::any_of(
-                interfaces, [&](const sim::Interface& entry) { return is_of_device(entry) && entry.linked; });
-        }
-        devices.push_back({ToUtf8(device.instance_id),
-                           *kind,
-                           device.description.value_or(u""),
-                           device.friendly_name.value_or(u""),
-                           present,
-                           {}});
+        DeviceRecord& record = records.devices.emplace_back();
+        record.id = ToUtf8(device.instance_id);
+        record.role = role.value_or(Role::Channel);
+        record.description = ToUtf8(device.description.value_or(u""));
+        record.friendly_name = ToUtf8(device.friendly_name.value_or(u""));
+        record.present = !has_interface[index] || is_present[index];
+        record.store = ValuesOf(device.key);
+        std::ranges::sort(record.store, NameOrder(), &StoreValue::name);
+        record.interfaces = std::move(channels[index]);
     }
-    std::ranges::sort(devices, [](const Device& left, const Device& right) {
-        return left.kind != right.kind ? left.kind == DeviceKind::Board : Folded(left.id) < Folded(right.id);
-    });
-    return devices;
+    ListDevices(records);
 }
 
-std::vector<StoreValue> SimulatedWorld::Store(const std::string& id) {
-    std::vector<StoreValue> values;
-    for (const sim::Device& device : machine_.devices) {
-        if (ToUtf8(device.instance_id) == id) {
-            for (const sim::Value& value : device.key.list) {
-                values.push_back({value.name, value.type, value.data});
-            }
-        }
-    }
-    std::ranges::sort(values, {}, [](const StoreValue& value) { return Folded(ToUtf8(value.name)); });
-    return values;
-}
-
-std::optional<std::vector<Interface>> SimulatedWorld::Interfaces() {
-    if (!Holds(file_, interfaces_key)) {
-        return std::nullopt;
-    }
-    std::vector<Interface> interfaces;
-    for (const sim::Interface& one : machine_.interfaces) {
-        const sim::Device& device = machine_.devices[one.device];
-        if (const unsigned channel_class = ChannelClassOf(one.class_guid)) {
-            interfaces.push_back(
-                {ToUtf8(device.instance_id), device.description.value_or(u""), channel_class, one.linked});
-        }
-    }
-    return interfaces;
-}
-
-PortRecords SimulatedWorld::Ports() {
-    const auto texts_of = [](const sim::Values& values) {
-        NamedTexts texts;
-        for (const sim::Value& value : values.list) {
-            texts.emplace_back(value.name, TextIn(value.data));
-        }
-        return texts;
+Records SimulatedWorld::Describe() {
+    Records records;
+    const auto knows = [&](Place place, bool is_known) { records.known |= is_known ? unsigned{place} : 0u; };
+    const auto holds = [&](std::u16string_view key) {
+        return file_.root.Find(Below(file_.control_set, key)) != nullptr;
     };
-    PortRecords records;
-    records.dos_names = machine_.dos_names;
-    records.dos_names_are_derived = true;
-    if (machine_.serial_map_exists) {
-        records.serial_map = texts_of(machine_.serial_map);
+    knows(DevicesPlace, holds(devices_key));
+    knows(InterfacesPlace, holds(interfaces_key));
+    DescribeDevices(records);
+    if (const auto usage = CurrentPortUsage(file_, machine_)) {
+        knows(DatabasePlace, true);
+        records.usage = *usage;
     }
-    if (const sim::Values* lines = machine_.ProfileSection(u"Ports", false)) {
-        records.settings_lines = texts_of(*lines);
+    knows(SerialMapPlace, machine_.serial_map_exists);
+    records.serial_map = ValuesOf(machine_.serial_map);
+    if (const sim::Values* const lines = machine_.ProfileSection(u"Ports", false)) {
+        knows(SettingsPlace, true);
+        records.settings_lines = ValuesOf(*lines);
     }
-    records.usage = CurrentPortUsage(file_, machine_);
+    for (const auto& [name, target] : machine_.dos_names) {
+        records.dos_names.emplace_back(ToUtf8(name), ToUtf8(target));
+    }
+    records.dos_names_derived = true;
+    JoinNumbers(records);
     return records;
 }
 
@@ -164,17 +133,17 @@ bool SimulatedWorld::RunSheet(const std::string& id, const std::function<void(HW
     if (device == machine_.devices.end()) {
         return false;
     }
-    const std::optional<DeviceKind> kind = KindOf(*device);
-    if (!kind) {
+    const std::optional<Role> role = RoleOf(*device);
+    if (!role) {
         return false;
     }
-    machine_.user = attend;
+    const sim::Operator before = std::exchange(machine_.user, attend);
     SP_DEVINFO_DATA data{};
     const HDEVINFO set =
         sim::OpenDeviceSet(static_cast<std::size_t>(device - machine_.devices.begin()), data);
     SP_PROPSHEETPAGE_REQUEST request{sizeof request, SPPSR_ENUM_ADV_DEVICE_PROPERTIES, set, &data};
     std::vector<HPROPSHEETPAGE> pages;
-    const auto provider = *kind == DeviceKind::Board ? KvrBoardPropPageProvider : KvrUartPropPageProvider;
+    const auto provider = *role == Role::Board ? KvrBoardPropPageProvider : KvrUartPropPageProvider;
     provider(&request, AddPage, reinterpret_cast<LPARAM>(&pages));
     if (!pages.empty()) {
         const sim::Text name =
@@ -182,7 +151,7 @@ bool SimulatedWorld::RunSheet(const std::string& id, const std::function<void(HW
         sim::RunSheet(name + u" Properties", pages);
     }
     SetupDiDestroyDeviceInfoList(set);
-    machine_.user = nullptr;
+    machine_.user = before;
     return true;
 }
 
@@ -212,18 +181,8 @@ UINT SimulatedWorld::BoxStyle(HWND box) {
     return sim::BoxStyle(box);
 }
 
-void SimulatedWorld::KeepAsSaved() {
-    saved_.devices = machine_.devices;
-    saved_.serial_map = machine_.serial_map;
-    saved_.port_usage = machine_.port_usage;
-    saved_.profile = machine_.profile;
-}
-
-bool SimulatedWorld::HasUnsavedChanges() {
-    const auto contents = [](const sim::Machine& machine) {
-        return std::tie(machine.devices, machine.serial_map, machine.port_usage, machine.profile);
-    };
-    return contents(machine_) != contents(saved_);
+bool SimulatedWorld::IsUnsaved() {
+    return saved_ && !IsStill(*saved_);
 }
 
 bool SimulatedWorld::Export(const std::string& file, std::string& told) {
@@ -233,60 +192,49 @@ bool SimulatedWorld::Export(const std::string& file, std::string& told) {
     if (PortDatabase(file_) == nullptr && machine_.port_usage != sim::PortUsage{}) {
         told = "the COM port database was not in the file that was read, and is left out";
     }
-    KeepAsSaved();
+    saved_ = Now();
     return true;
 }
 
-bool SimulatedWorld::Patch(const std::string& file, const std::vector<std::string>& comments,
-                           const std::string& undo_file, const std::vector<std::string>& undo_comments,
-                           std::string& error) {
-    const MachineFile now = Changed(file_, machine_);
-    const std::vector<KeyChange> changes = KeyChanges(file_, now);
-    if (changes.empty()) {
-        error = "nothing has changed that a patch could hold";
+bool SimulatedWorld::Patch(const Records& original, const std::string& file, std::string& told) {
+    if (!WritePatch({original, Describe(), file_.control_set, Name()}, file, told)) {
         return false;
     }
-    if (!WritePatch(changes, comments, file, error) ||
-        !WritePatch(KeyChanges(now, file_), undo_comments, undo_file, error)) {
-        return false;
-    }
-    saved_ = machine_;
+    told = file + " holds what has changed, " + UndoPath(file) + " takes it back";
+    saved_ = Now();
     return true;
 }
 
-std::unique_ptr<Moment> SimulatedWorld::Now() {
-    return std::make_unique<MachineMoment>(machine_);
+std::shared_ptr<const Moment> SimulatedWorld::Now() {
+    const auto now = std::make_shared<const MachineMoment>(machine_);
+    saved_ = saved_ ? saved_ : now;
+    return now;
 }
 
 bool SimulatedWorld::IsStill(const Moment& moment) {
-    const auto& was = static_cast<const MachineMoment&>(moment);
-    return std::tie(was.devices, was.interfaces, was.dos_names, was.serial_map, was.serial_map_exists,
-                    was.port_usage, was.profile) ==
-           std::tie(machine_.devices, machine_.interfaces, machine_.dos_names, machine_.serial_map,
-                    machine_.serial_map_exists, machine_.port_usage, machine_.profile);
+    return static_cast<const MachineMoment&>(moment).state == machine_;
 }
 
 void SimulatedWorld::ComeBackTo(const Moment& moment) {
-    const auto& was = static_cast<const MachineMoment&>(moment);
-    machine_.devices = was.devices;
-    machine_.interfaces = was.interfaces;
-    machine_.dos_names = was.dos_names;
-    machine_.serial_map = was.serial_map;
-    machine_.serial_map_exists = was.serial_map_exists;
-    machine_.port_usage = was.port_usage;
-    machine_.profile = was.profile;
+    static_cast<sim::MachineState&>(machine_) = static_cast<const MachineMoment&>(moment).state;
 }
 
 bool SimulatedWorld::Fail(const std::string& operation, std::size_t call) {
     sim::FaultPlan& plan = machine_.faults;
     if (operation.empty()) {
         plan.at_call.clear();
+    } else if (!std::ranges::binary_search(sim::Operations(), operation)) {
+        return false;
     } else {
         // The keys of the counts must outlive the plan, which this string need not.
         const auto seen = plan.count_by_name.find(operation);
         plan.at_call.emplace_back(operation, call + (seen != plan.count_by_name.end() ? seen->second : 0));
     }
     return true;
+}
+
+std::vector<std::string> SimulatedWorld::Operations() {
+    return {sim::Operations().begin(), sim::Operations().end()};
 }
 
 bool OpenMachineFile(const std::string& path, MachineFile& file, std::string& error) {
@@ -317,6 +265,7 @@ public:
     OwnWorld(MachineFile file, std::string path)
         : SimulatedWorld(std::move(file), machine), path_(std::move(path)) {}
 
+    std::string Name() override { return path_.empty() ? "the sample machine" : path_; }
     std::string Greeting() override { return path_.empty() ? "The sample machine" : path_; }
     std::vector<std::string> Tour() override {
         return path_.empty() ? TourOfSample() : std::vector<std::string>{};

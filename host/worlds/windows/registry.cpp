@@ -18,8 +18,8 @@ RegistryKey::~RegistryKey() {
     }
 }
 
-std::vector<StoreValue> RegistryKey::Values() const {
-    std::vector<StoreValue> values;
+StoreValues RegistryKey::Values() const {
+    StoreValues values;
     DWORD longest_name = 0, longest_data = 0;
     if (key_ == nullptr ||
         RegQueryInfoKeyW(key_, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &longest_name,
@@ -39,19 +39,10 @@ std::vector<StoreValue> RegistryKey::Values() const {
     }
 }
 
-std::vector<std::pair<Text, Text>> RegistryKey::Texts() const {
-    std::vector<std::pair<Text, Text>> texts;
-    for (const StoreValue& value : Values()) {
-        if (value.type == REG_SZ) {
-            texts.emplace_back(value.name, TextIn(value.data));
-        }
-    }
+StoreValues RegistryKey::Texts() const {
+    StoreValues texts = Values();
+    std::erase_if(texts, [](const StoreValue& value) { return value.type != REG_SZ; });
     return texts;
-}
-
-bool RegistryKey::Has(const WCHAR* name) const {
-    return key_ != nullptr &&
-           RegQueryValueExW(key_, name, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
 }
 
 } // namespace host

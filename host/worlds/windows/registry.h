@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/worlds/world.h"
+#include "host/worlds/store_values.h"
 
 namespace host {
 
@@ -26,10 +26,9 @@ public:
     HKEY Handle() const { return key_; }
 
     // In the order in which the system enumerates them.
-    std::vector<StoreValue> Values() const;
-    // The REG_SZ values, name and text.
-    std::vector<std::pair<Text, Text>> Texts() const;
-    bool Has(const WCHAR* name) const;
+    StoreValues Values() const;
+    // The REG_SZ values.
+    StoreValues Texts() const;
 
 private:
     HKEY key_ = nullptr;

@@ -8,13 +8,13 @@ void AttachTo(HMODULE library) {
     Observe(library);
 }
 
-std::vector<std::pair<std::wstring, std::wstring>> SerialDosNames() {
-    std::vector<std::pair<std::wstring, std::wstring>> names;
+TextPairs SerialDosNames() {
+    TextPairs names;
     for (int number = 1; number <= COMDB_MAX_PORTS_ARBITRATED; ++number) {
-        const std::wstring name = TEXT("COM") + std::to_wstring(number);
+        const std::string name = ComName(static_cast<unsigned long>(number));
         WCHAR target[MAX_PATH];
-        if (QueryDosDeviceW(name.c_str(), target, ARRAYSIZE(target))) {
-            names.emplace_back(name, target);
+        if (QueryDosDeviceW(FromUtf8(name).c_str(), target, ARRAYSIZE(target))) {
+            names.emplace_back(name, ToUtf8(target));
         }
     }
     return names;

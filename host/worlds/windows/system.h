@@ -3,10 +3,7 @@
 // neither.
 #pragma once
 
-#include <string>
-#include <utility>
-#include <vector>
-
+#include "host/worlds/records.h"
 #include "platform/platform.h"
 
 namespace host {
@@ -15,7 +12,7 @@ namespace host {
 void AttachTo(HMODULE library);
 
 // The DOS names of the serial ports and their targets.
-std::vector<std::pair<std::wstring, std::wstring>> SerialDosNames();
+TextPairs SerialDosNames();
 
 // Makes a language the one whose resources are found if none is named. False if the system does not know it.
 bool UseLanguage(LANGID language);

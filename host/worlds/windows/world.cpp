@@ -2,10 +2,11 @@
 #include "host/worlds/world.h"
 
 #include <algorithm>
+#include <map>
 #include <optional>
+#include <set>
 
 #include "host/worlds/channel_classes.h"
-#include "host/worlds/store_values.h"
 #include "host/worlds/windows/attendance.h"
 #include "host/worlds/windows/observers.h"
 #include "host/worlds/windows/providers.h"
@@ -47,40 +48,57 @@ HKEY HardwareKey(HDEVINFO set, SP_DEVINFO_DATA& data) {
     return SetupDiOpenDevRegKey(set, &data, DICS_FLAG_GLOBAL, 0, DIREG_DEV, KEY_READ);
 }
 
-// The device as the host lists it, without its presence and its provider; nothing if it is neither a board
-// nor a port.
-std::optional<Device> Describe(HDEVINFO set, SP_DEVINFO_DATA& data) {
-    Device device;
-    device.id = InstanceId(set, &data);
-    const RegistryKey key(HardwareKey(set, data));
-    if (Property(set, data, SPDRP_CLASS) == TEXT("Ports") || key.Has(TEXT("PortName"))) {
-        device.kind = DeviceKind::Port;
-    } else if (!key.Has(TEXT("BoardNrController"))) { // only a board's own device has it
-        return {};
-    }
-    device.description = Property(set, data, SPDRP_DEVICEDESC);
-    device.friendly_name = Property(set, data, SPDRP_FRIENDLYNAME);
-    return device;
-}
-
-bool SameText(const std::string& left, const std::string& right) {
-    return CompareStringOrdinal(FromUtf8(left).c_str(), -1, FromUtf8(right).c_str(), -1, TRUE) == CSTR_EQUAL;
-}
-
 bool Before(const Text& left, const Text& right) {
     return CompareStringOrdinal(left.c_str(), -1, right.c_str(), -1, TRUE) == CSTR_LESS_THAN;
 }
 
-// The devices that have an interface of any class, or a present one with DIGCF_PRESENT.
-std::vector<std::string> InterfaceOwners(DWORD flags) {
-    std::vector<std::string> ids;
+// The device without its presence, its provider and its interfaces; nothing if it is neither a board nor a
+// port.
+std::optional<DeviceRecord> DescribeDevice(HDEVINFO set, SP_DEVINFO_DATA& data) {
+    DeviceRecord device;
+    device.id = InstanceId(set, &data);
+    device.store = RegistryKey(HardwareKey(set, data)).Values();
+    if (Property(set, data, SPDRP_CLASS) != TEXT("Ports") && FindValue(device.store, "PortName") == nullptr) {
+        if (FindValue(device.store, "BoardNrController") == nullptr) { // only a board's own device has it
+            return {};
+        }
+        device.role = Role::Board;
+    }
+    device.description = ToUtf8(Property(set, data, SPDRP_DEVICEDESC));
+    device.friendly_name = ToUtf8(Property(set, data, SPDRP_FRIENDLYNAME));
+    std::ranges::sort(device.store, &Before, &StoreValue::name);
+    return device;
+}
+
+// The devices that have an interface of any class, or a present one with DIGCF_PRESENT, by folded instance
+// id.
+std::set<std::string> InterfaceOwners(DWORD flags) {
+    std::set<std::string> ids;
     const DeviceSet set(
         SetupDiGetClassDevsW(nullptr, nullptr, nullptr, DIGCF_ALLCLASSES | DIGCF_DEVICEINTERFACE | flags));
     SP_DEVINFO_DATA data = EmptyDevice();
     for (DWORD index = 0; SetupDiEnumDeviceInfo(set.Handle(), index, &data); ++index) {
-        ids.push_back(InstanceId(set.Handle(), &data));
+        ids.insert(Folded(InstanceId(set.Handle(), &data)));
     }
     return ids;
+}
+
+// Calls `take` with each interface through which a board finds its channels, and with the set and the device
+// it is in.
+template <class Take> void ForEachChannel(const Take& take) {
+    for (const GUID& interface_class : channel_interface_classes) {
+        const DeviceSet set(SetupDiGetClassDevsW(&interface_class, nullptr, nullptr, DIGCF_DEVICEINTERFACE));
+        SP_DEVICE_INTERFACE_DATA one{};
+        one.cbSize = sizeof one;
+        for (DWORD index = 0;
+             SetupDiEnumDeviceInterfaces(set.Handle(), nullptr, &interface_class, index, &one); ++index) {
+            // Asks for the device alone, because the path does not fit.
+            SP_DEVINFO_DATA data = EmptyDevice();
+            SetupDiGetDeviceInterfaceDetailW(set.Handle(), &one, nullptr, 0, nullptr, &data);
+            take(ChannelInterface{ChannelClassOf(interface_class), (one.Flags & SPINT_ACTIVE) != 0},
+                 set.Handle(), data);
+        }
+    }
 }
 
 BOOL CALLBACK TakePage(HPROPSHEETPAGE page, LPARAM pages) {
@@ -139,8 +157,10 @@ bool IsElevated() {
 class System : public World {
 public:
     System() {
-        Devices(); // from now on what their libraries do and trace is observed
+        Describe(); // from now on what the devices' libraries do and trace is observed
     }
+
+    std::string Name() override { return "this machine"; }
 
     std::string Greeting() override {
         return IsElevated()
@@ -149,84 +169,26 @@ public:
                      "device keys, so no sheet has a page and nothing can be changed";
     }
 
-    bool KnowsDevices() override { return true; }
-
-    std::vector<Device> Devices() override {
-        std::vector<Device> devices;
-        const std::vector<std::string> with_interface = InterfaceOwners(0),
-                                       present = InterfaceOwners(DIGCF_PRESENT);
-        const auto among = [](const std::vector<std::string>& ids, const std::string& id) {
-            return std::any_of(ids.begin(), ids.end(),
-                               [&](const std::string& each) { return SameText(each, id); });
-        };
-        const DeviceSet set(SetupDiGetClassDevsW(nullptr, nullptr, nullptr, DIGCF_ALLCLASSES));
-        SP_DEVINFO_DATA data = EmptyDevice();
-        for (DWORD index = 0; SetupDiEnumDeviceInfo(set.Handle(), index, &data); ++index) {
-            if (std::optional<Device> device = Describe(set.Handle(), data)) {
-                if (among(with_interface, device->id)) {
-                    device->present = among(present, device->id);
-                }
-                device->provider_fault = providers_.Of(set.Handle(), data).fault;
-                devices.push_back(std::move(*device));
-            }
-        }
-        std::sort(devices.begin(), devices.end(), [](const Device& left, const Device& right) {
-            return left.kind != right.kind ? left.kind == DeviceKind::Board
-                                           : Before(FromUtf8(left.id), FromUtf8(right.id));
-        });
-        return devices;
-    }
-
-    std::vector<StoreValue> Store(const std::string& id) override {
-        const DeviceSet set(SetupDiCreateDeviceInfoList(nullptr, nullptr));
-        SP_DEVINFO_DATA data = EmptyDevice();
-        if (!SetupDiOpenDeviceInfoW(set.Handle(), FromUtf8(id).c_str(), nullptr, 0, &data)) {
-            return {};
-        }
-        std::vector<StoreValue> values = RegistryKey(HardwareKey(set.Handle(), data)).Values();
-        std::sort(values.begin(), values.end(), [](const StoreValue& left, const StoreValue& right) {
-            return Before(left.name, right.name);
-        });
-        return values;
-    }
-
-    std::optional<std::vector<Interface>> Interfaces() override {
-        std::vector<Interface> interfaces;
-        for (const GUID& interface_class : channel_interface_classes) {
-            const DeviceSet set(
-                SetupDiGetClassDevsW(&interface_class, nullptr, nullptr, DIGCF_DEVICEINTERFACE));
-            SP_DEVICE_INTERFACE_DATA one{};
-            one.cbSize = sizeof one;
-            for (DWORD index = 0;
-                 SetupDiEnumDeviceInterfaces(set.Handle(), nullptr, &interface_class, index, &one); ++index) {
-                // Asks for the device alone, because the path does not fit.
-                SP_DEVINFO_DATA data = EmptyDevice();
-                SetupDiGetDeviceInterfaceDetailW(set.Handle(), &one, nullptr, 0, nullptr, &data);
-                interfaces.push_back({InstanceId(set.Handle(), &data),
-                                      Property(set.Handle(), data, SPDRP_DEVICEDESC),
-                                      ChannelClassOf(interface_class), (one.Flags & SPINT_ACTIVE) != 0});
-            }
-        }
-        return interfaces;
-    }
-
-    PortRecords Ports() override {
-        PortRecords records;
+    Records Describe() override {
+        Records records;
+        records.known = DevicesPlace | InterfacesPlace;
+        DescribeDevices(records);
         records.dos_names = SerialDosNames();
-        if (const RegistryKey map(HKEY_LOCAL_MACHINE, serial_map_key, KEY_READ); map.Handle()) {
-            records.serial_map = map.Texts();
-        }
+        const RegistryKey map(HKEY_LOCAL_MACHINE, serial_map_key, KEY_READ);
+        records.known |= map.Handle() != nullptr ? SerialMapPlace : 0u;
+        records.serial_map = map.Texts();
         // The [Ports] section of the profile is kept there.
-        if (const RegistryKey ports(HKEY_LOCAL_MACHINE, ports_key, KEY_READ); ports.Handle() != nullptr) {
-            records.settings_lines = ports.Texts();
-        }
+        const RegistryKey ports(HKEY_LOCAL_MACHINE, ports_key, KEY_READ);
+        records.known |= ports.Handle() != nullptr ? SettingsPlace : 0u;
+        records.settings_lines = ports.Texts();
         // Read directly, because opening the database through its own operations would create a missing one.
-        const std::vector<StoreValue> arbiter =
-            RegistryKey(HKEY_LOCAL_MACHINE, arbiter_key, KEY_READ).Values();
+        const StoreValues arbiter = RegistryKey(HKEY_LOCAL_MACHINE, arbiter_key, KEY_READ).Values();
         const StoreValue* const usage = FindValue(arbiter, "ComDB");
         if (usage != nullptr && usage->type == REG_BINARY && !usage->data.empty()) {
+            records.known |= DatabasePlace;
             records.usage = usage->data;
         }
+        JoinNumbers(records);
         return records;
     }
 
@@ -236,7 +198,7 @@ public:
         if (!SetupDiOpenDeviceInfoW(set.Handle(), FromUtf8(id).c_str(), nullptr, 0, &data)) {
             return false;
         }
-        const std::optional<Device> device = Describe(set.Handle(), data);
+        const std::optional<DeviceRecord> device = DescribeDevice(set.Handle(), data);
         if (!device) {
             return false;
         }
@@ -260,25 +222,40 @@ public:
 
     UINT BoxStyle(HWND box) override { return OpenBoxStyle(box); }
 
-    bool HasUnsavedChanges() override { return false; }
-
-    bool Export(const std::string&, std::string& told) override {
-        told = "a real machine is exported by its own registry editor";
-        return false;
-    }
-
-    bool Patch(const std::string&, const std::vector<std::string>&, const std::string&,
-               const std::vector<std::string>&, std::string& error) override {
-        error = "what is changed here is changed already: a patch is made from an export";
-        return false;
-    }
-
-    std::unique_ptr<Moment> Now() override { return nullptr; }
-    bool IsStill(const Moment&) override { return true; }
-    void ComeBackTo(const Moment&) override {}
-    bool Fail(const std::string&, std::size_t) override { return false; }
-
 private:
+    // An interface may belong to a device without a sheet: a channel that is not a port.
+    void DescribeDevices(Records& records) {
+        std::map<std::string, std::size_t> places; // in the records, by folded instance id
+        const std::set<std::string> owners = InterfaceOwners(0), present = InterfaceOwners(DIGCF_PRESENT);
+        const DeviceSet set(SetupDiGetClassDevsW(nullptr, nullptr, nullptr, DIGCF_ALLCLASSES));
+        SP_DEVINFO_DATA data = EmptyDevice();
+        for (DWORD index = 0; SetupDiEnumDeviceInfo(set.Handle(), index, &data); ++index) {
+            if (std::optional<DeviceRecord> device = DescribeDevice(set.Handle(), data)) {
+                const std::string id = Folded(device->id);
+                device->present = !owners.contains(id) || present.contains(id);
+                device->provider_fault = providers_.Of(set.Handle(), data).fault;
+                places.emplace(id, records.devices.size());
+                records.devices.push_back(std::move(*device));
+            }
+        }
+        ForEachChannel([&](const ChannelInterface& one, HDEVINFO its_set, SP_DEVINFO_DATA& its_data) {
+            const std::string id = InstanceId(its_set, &its_data);
+            const auto [place, is_new] = places.try_emplace(Folded(id), records.devices.size());
+            if (is_new) {
+                DeviceRecord& channel = records.devices.emplace_back();
+                channel.id = id;
+                channel.role = Role::Channel;
+                channel.description = ToUtf8(Property(its_set, its_data, SPDRP_DEVICEDESC));
+                channel.store = RegistryKey(HardwareKey(its_set, its_data)).Values();
+                channel.present = false;
+            }
+            DeviceRecord& owner = records.devices[place->second];
+            owner.interfaces.push_back(one);
+            owner.present = owner.present || (owner.role == Role::Channel && one.present);
+        });
+        ListDevices(records);
+    }
+
     Providers providers_;
 };
 

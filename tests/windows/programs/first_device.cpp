@@ -1,16 +1,15 @@
 #include "tests/windows/programs/first_device.h"
 
-#include "host/worlds/store_values.h"
+#include <algorithm>
 
 namespace host {
 
-std::optional<Device> FirstDevice(World& world, DeviceKind kind) {
-    for (const Device& device : world.Devices()) {
-        if (device.kind == kind && FindValue(world.Store(device.id), "BoardPciBusNumber") != nullptr) {
-            return device;
-        }
-    }
-    return {};
+std::optional<DeviceRecord> FirstDevice(World& world, Role role) {
+    const Records records = world.Describe();
+    const auto found = std::ranges::find_if(records.devices, [&](const DeviceRecord& device) {
+        return device.role == role && FindValue(device.store, "BoardPciBusNumber") != nullptr;
+    });
+    return found == records.devices.end() ? std::nullopt : std::optional(*found);
 }
 
 } // namespace host

@@ -7,7 +7,7 @@
 
 namespace host {
 
-// The first device of the kind with values from the board's driver, so that its provider has a page for it.
-std::optional<Device> FirstDevice(World& world, DeviceKind kind);
+// The first device of the role with values from the board's driver, so that its provider has a page for it.
+std::optional<DeviceRecord> FirstDevice(World& world, Role role);
 
 } // namespace host

@@ -74,8 +74,9 @@ DWORD WINAPI StandInGetProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR fall
         return GetProfileStringW(section, key, fallback, buffer, capacity);
     }
     std::wstring line = fallback != nullptr ? fallback : TEXT("");
-    for (const auto& [name, text] : RegistryKey(HKEY_LOCAL_MACHINE, ports_key, KEY_READ).Texts()) {
-        if (_wcsicmp(name.c_str(), key) == 0) {
+    for (const StoreValue& value : RegistryKey(HKEY_LOCAL_MACHINE, ports_key, KEY_READ).Texts()) {
+        if (_wcsicmp(value.name.c_str(), key) == 0) {
+            const Text text = TextIn(value.data);
             // One pair of quotation marks around a value does not belong to it.
             const bool quoted = text.size() >= 2 &&
                                 (text.front() == TEXT('"') || text.front() == TEXT('\'')) &&
@@ -110,9 +111,10 @@ BOOL WINAPI StandInWriteProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR val
 
 void AttachTo(HMODULE library) {
     dos_names.clear();
-    for (const auto& [device, port] : RegistryKey(HKEY_LOCAL_MACHINE, serial_map_key, KEY_READ).Texts()) {
+    for (const StoreValue& value : RegistryKey(HKEY_LOCAL_MACHINE, serial_map_key, KEY_READ).Texts()) {
+        const Text port = TextIn(value.data);
         if (!port.empty() && FindDosName(port.c_str()) == dos_names.end()) {
-            dos_names.emplace_back(port, device);
+            dos_names.emplace_back(port, value.name);
         }
     }
     const std::pair<const char*, void*> replacements[] = {
@@ -130,8 +132,12 @@ void AttachTo(HMODULE library) {
     Observe(library);
 }
 
-std::vector<std::pair<std::wstring, std::wstring>> SerialDosNames() {
-    return dos_names;
+TextPairs SerialDosNames() {
+    TextPairs names;
+    for (const auto& [name, target] : dos_names) {
+        names.emplace_back(ToUtf8(name), ToUtf8(target));
+    }
+    return names;
 }
 
 // Wine looks resources up by the thread's locale, and SetThreadLocale replaces a language without a country

@@ -178,9 +178,9 @@ int main(int argc, char** argv) {
             return 2;
         }
         for (const auto& [kind, page, advanced] :
-             {std::tuple{host::DeviceKind::Board, IDD_PORT_CONTROL, IDD_ADVANCED_PORT_CONTROL},
-              {host::DeviceKind::Port, IDD_PORT_SETTINGS, IDD_ADVANCED_PORT_SETTINGS}}) {
-            const std::optional<host::Device> device = host::FirstDevice(*world, kind);
+             {std::tuple{host::Role::Board, IDD_PORT_CONTROL, IDD_ADVANCED_PORT_CONTROL},
+              {host::Role::Port, IDD_PORT_SETTINGS, IDD_ADVANCED_PORT_SETTINGS}}) {
+            const std::optional<host::DeviceRecord> device = host::FirstDevice(*world, kind);
             std::set<HWND> seen;
             const auto attend = [&, page = page, advanced = advanced](HWND front) {
                 if (!seen.insert(front).second) {

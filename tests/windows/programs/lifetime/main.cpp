@@ -100,9 +100,9 @@ int main(int argc, char** argv) {
     bool steady =
         Repeat("loaded and unloaded", times, [] { FreeLibrary(LoadLibraryW(TEXT("kvrpagex64.dll"))); });
     const std::unique_ptr<host::World> world = host::OpenWorld({}, 0, error);
-    for (const auto& [kind, what] : {std::pair{host::DeviceKind::Board, "the board's page opened and closed"},
-                                     std::pair{host::DeviceKind::Port, "a port's page opened and closed"}}) {
-        const std::optional<host::Device> device = host::FirstDevice(*world, kind);
+    for (const auto& [kind, what] : {std::pair{host::Role::Board, "the board's page opened and closed"},
+                                     std::pair{host::Role::Port, "a port's page opened and closed"}}) {
+        const std::optional<host::DeviceRecord> device = host::FirstDevice(*world, kind);
         if (!device) {
             std::printf("no device for: %s\n", what);
             return 2;

@@ -80,7 +80,7 @@ void Press(HWND window, int button) {
     SendMessageW(GetDlgItem(window, button), BM_CLICK, 0, 0);
 }
 
-void TakePictures(host::World& world, const host::Device& device, int page_dialog, int advanced_dialog) {
+void TakePictures(host::World& world, const host::DeviceRecord& device, int page_dialog, int advanced_dialog) {
     std::set<HWND> seen;
     world.RunSheet(device.id, [&](HWND front) {
         const HWND page = PageOf(front);
@@ -96,10 +96,10 @@ void TakePictures(host::World& world, const host::Device& device, int page_dialo
 }
 
 constexpr struct {
-    host::DeviceKind kind;
+    host::Role kind;
     int page, advanced;
-} sheets[] = {{host::DeviceKind::Board, IDD_PORT_CONTROL, IDD_ADVANCED_PORT_CONTROL},
-              {host::DeviceKind::Port, IDD_PORT_SETTINGS, IDD_ADVANCED_PORT_SETTINGS}};
+} sheets[] = {{host::Role::Board, IDD_PORT_CONTROL, IDD_ADVANCED_PORT_CONTROL},
+              {host::Role::Port, IDD_PORT_SETTINGS, IDD_ADVANCED_PORT_SETTINGS}};
 
 } // namespace
 
@@ -114,7 +114,7 @@ int main(int argc, char** argv) {
             return 2;
         }
         for (const auto& [kind, page, advanced] : sheets) {
-            if (const std::optional<host::Device> device = host::FirstDevice(*world, kind)) {
+            if (const std::optional<host::DeviceRecord> device = host::FirstDevice(*world, kind)) {
                 TakePictures(*world, *device, page, advanced);
             }
         }

@@ -1,0 +1,143 @@
+#include "host/session/ports_table.h"
+
+#include <algorithm>
+#include <array>
+#include <set>
+
+#include "host/diagnosis/number_ranges.h"
+#include "host/text.h"
+
+namespace host {
+namespace {
+
+constexpr std::array<const char*, 8> headings = {"device",   "channel",    "PortName", "friendly",
+                                                 "DOS name", "serial map", "database", "settings line"};
+constexpr std::size_t dos_names = 4; // the column that is left out if room is short
+using Row = std::array<std::string, headings.size()>;
+using PortRows = std::vector<Row>;
+
+constexpr const char* differs = " differs";
+constexpr const char* missing = "missing";
+constexpr const char* unknown = "not known";
+
+// The texts, each with a word if it is not the wanted one; `none` if there are none.
+std::string Joined(const Lines& texts, const std::string* wanted, const char* none) {
+    std::string joined;
+    for (const std::string& text : texts) {
+        joined += (joined.empty() ? "" : ", ") + Escaped(text) +
+                  (wanted != nullptr && Folded(text) == Folded(*wanted) ? "" : differs);
+    }
+    return joined.empty() ? none : joined;
+}
+
+Row RowOf(const Records& records, const DeviceRecord& device) {
+    const std::string name = StoredText(device.store, "PortName");
+    const unsigned long number = PortNumber(name), friendly = FriendlyNumber(device.friendly_name);
+    const NumberRecord& record = NumberIn(records, number);
+    const auto known = [&](Place place, const std::string& text) {
+        return (records.known & place) != 0 ? text : unknown;
+    };
+    const std::string* const target = record.targets.empty() ? nullptr : &record.targets.front();
+    return {std::to_string(device.listed),
+            FindValue(device.store, "ChlNumber") != nullptr
+                ? std::to_string(StoredNumber(device.store, "ChlNumber"))
+                : "-",
+            name.empty() ? "none" : Escaped(name),
+            (friendly != 0 ? std::to_string(friendly) : "none") +
+                (friendly != 0 && friendly != number ? differs : ""),
+            target != nullptr ? "-> " + Escaped(*target) : missing,
+            known(SerialMapPlace, Joined(record.mapped, target, missing)),
+            known(DatabasePlace, record.claimed ? "claimed" : "not claimed"),
+            known(SettingsPlace, record.lines.empty() ? "none" : Quoted(record.lines.front()))};
+}
+
+// A row for each port, below the headings.
+PortRows RowsOf(const Records& records) {
+    PortRows rows{{}};
+    std::ranges::copy(headings, rows.front().begin());
+    for (const DeviceRecord& device : records.devices) {
+        if (device.role == Role::Port) {
+            rows.push_back(RowOf(records, device));
+        }
+    }
+    return rows;
+}
+
+// Marks the names that are not COM and a number, and those that several ports have.
+void MarkNames(PortRows& rows) {
+    std::multiset<std::string> names;
+    for (const Row& row : rows) {
+        names.insert(Folded(row[2]));
+    }
+    for (auto row = rows.begin() + 1; row != rows.end(); ++row) {
+        std::string& name = (*row)[2];
+        if (name == "none") {
+            continue;
+        }
+        if (PortNumber(name) == 0) {
+            name += " is not COM";
+        } else if (names.count(Folded(name)) > 1) {
+            name += " twice";
+        }
+    }
+}
+
+Lines Written(const PortRows& rows, const std::array<int, headings.size()>& widths) {
+    Lines lines;
+    for (const Row& row : rows) {
+        std::string line;
+        for (std::size_t column = 0; column < row.size(); ++column) {
+            line += widths[column] != 0 ? "  " + PaddedTo(row[column], widths[column]) : "";
+        }
+        lines.push_back(line.substr(0, line.find_last_not_of(' ') + 1));
+    }
+    return lines;
+}
+
+bool AreTooWide(const Lines& lines, int columns) {
+    return columns != 0 &&
+           std::ranges::any_of(lines, [&](const std::string& line) { return Columns(line) > columns; });
+}
+
+Lines FittedLines(const PortRows& rows, int columns) {
+    std::array<int, headings.size()> widths{};
+    for (const Row& row : rows) {
+        for (std::size_t column = 0; column < row.size(); ++column) {
+            widths[column] = std::max(widths[column], Columns(row[column]));
+        }
+    }
+    Lines lines = Written(rows, widths);
+    if (!AreTooWide(lines, columns)) {
+        return lines;
+    }
+    widths[dos_names] = 0;
+    return Written(rows, widths);
+}
+
+std::string ClaimedWithoutDevice(const Records& records) {
+    if ((records.known & DatabasePlace) == 0) {
+        return unknown;
+    }
+    std::vector<unsigned long> unheld;
+    for (const auto& [number, record] : records.numbers) {
+        if (record.claimed && record.holders.empty()) {
+            unheld.push_back(number);
+        }
+    }
+    return RangesOf(unheld);
+}
+
+} // namespace
+
+Lines PortsTable(const Records& records, int columns) {
+    PortRows rows = RowsOf(records);
+    MarkNames(rows);
+    Lines lines = FittedLines(rows, columns);
+    lines.push_back("  claimed without a device: " + ClaimedWithoutDevice(records));
+    if (AreTooWide(lines, columns)) {
+        std::ranges::transform(lines, lines.begin(), [&](const auto& line) { return CutTo(line, columns); });
+    }
+    return lines;
+}
+
+} // namespace host
