@@ -2,7 +2,7 @@
 // everything is inside.
 #include <gtest/gtest.h>
 
-#include "host/full_screen/placement.h"
+#include "host/screen/placement.h"
 #include "simulated/catalogue.h"
 #include "tests/machines.h"
 #include "tests/sheets.h"

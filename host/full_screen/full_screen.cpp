@@ -209,19 +209,19 @@ void FullScreen::TakeDeviceEvent(const Event& event) {
 
 void FullScreen::Draw() {
     const int columns = terminal_.columns(), rows = terminal_.rows();
-    terminal_.Clear();
+    canvas_ = Canvas(terminal_.columns(), terminal_.rows());
     DrawDevices(windows_.empty() ? columns : PaneColumns(columns), rows - 1 - PaneRows(rows));
     DrawPane(rows - 1 - PaneRows(rows), PaneRows(rows));
     DrawWindows();
     DrawKeys();
-    terminal_.Show();
+    terminal_.Show(canvas_);
 }
 
 void FullScreen::DrawDevices(int columns, int rows) {
     const int in_sight = std::max(1, rows - 1), all = static_cast<int>(devices_.size());
     first_device_ = std::clamp(first_device_, std::max(0, static_cast<int>(selected_) - in_sight + 1),
                                static_cast<int>(selected_));
-    terminal_.Write(0, 0, " Devices", columns, {false, true, false, colour_title});
+    canvas_.Write(0, 0, " Devices", columns, {false, true, false, colour_title});
     for (int row = 0; row < in_sight && first_device_ + row < all; ++row) {
         const auto index = static_cast<std::size_t>(first_device_ + row);
         const auto& [device, port, state] = devices_[index];
@@ -231,10 +231,10 @@ void FullScreen::DrawDevices(int columns, int rows) {
                                  std::string(number.size() < 3 ? 3 - number.size() : 0, ' ') + number + ' ' +
                                  (port.empty() ? "" : PaddedTo(port, 7)) + NameOf(device) +
                                  (state.empty() ? "" : "  (" + state + ')');
-        terminal_.Write(1 + row, 0, line, columns - 1,
-                        {selected && windows_.empty(), selected, !state.empty(), 0});
+        canvas_.Write(1 + row, 0, line, columns - 1,
+                      {selected && windows_.empty(), selected, !state.empty(), 0});
         if (selected && windows_.empty()) {
-            terminal_.PointAt(1 + row, 0);
+            canvas_.PointAt(1 + row, 0);
         }
     }
 }
@@ -252,11 +252,11 @@ void FullScreen::DrawPane(int top, int rows) {
         title += std::to_string(count) + (tracing_ ? " line" : " operation") + (count == 1 ? "" : "s") +
                  ", F5 shows all";
     }
-    terminal_.Write(top, 0, title + (tracing_ ? ", F9 the changes" : ", F9 the trace"), terminal_.columns(),
-                    {false, true, false, colour_title});
+    canvas_.Write(top, 0, title + (tracing_ ? ", F9 the changes" : ", F9 the trace"), terminal_.columns(),
+                  {false, true, false, colour_title});
     for (std::size_t row = 0; row < seen; ++row) {
-        terminal_.Write(top + 1 + static_cast<int>(row), 0,
-                        first + row < lines.size() ? ' ' + lines[first + row] : "", terminal_.columns());
+        canvas_.Write(top + 1 + static_cast<int>(row), 0,
+                      first + row < lines.size() ? ' ' + lines[first + row] : "", terminal_.columns());
     }
 }
 
@@ -271,8 +271,8 @@ void FullScreen::DrawKeys() {
             keys = Columns(more) < terminal_.columns() ? more : keys;
         }
     }
-    terminal_.Write(terminal_.rows() - 1, 0, ' ' + (message_.empty() ? keys : message_), terminal_.columns(),
-                    {true, false, false, 0});
+    canvas_.Write(terminal_.rows() - 1, 0, ' ' + (message_.empty() ? keys : message_), terminal_.columns(),
+                  {true, false, false, 0});
 }
 
 void FullScreen::DrawWindows() {
@@ -293,12 +293,14 @@ void FullScreen::DrawWindows() {
             }
         }
         const Placement& placement = painted.placement;
-        painted.left = placement.columns > all_columns - pane
-                           ? std::max(0, all_columns - placement.columns)
-                           : pane + (all_columns - pane - placement.columns) / 2;
-        painted.top = std::max(0, ((placement.rows > rows ? all_rows : rows) - placement.rows) / 2);
+        Cells& place = painted.place;
+        place.columns = std::min(placement.columns, all_columns);
+        place.rows = std::min(placement.rows, all_rows);
+        place.left = place.columns > all_columns - pane ? all_columns - place.columns
+                                                        : pane + (all_columns - pane - place.columns) / 2;
+        place.top = ((place.rows > rows ? all_rows : rows) - place.rows) / 2;
         const bool front = window == windows_.back();
-        Paint(terminal_, painted, front, turned_);
+        Paint(canvas_, painted, front, turned_);
         if (front) {
             front_ = std::move(painted);
         }

@@ -10,8 +10,9 @@
 #include <string>
 #include <vector>
 
-#include "host/full_screen/painter.h"
+#include "host/full_screen/terminal.h"
 #include "host/screen/listing.h"
+#include "host/screen/painter.h"
 #include "host/worlds/world.h"
 
 namespace host {
@@ -59,6 +60,7 @@ private:
     World& world_;
     Command command_;
     Terminal terminal_;
+    Canvas canvas_{0, 0}; // what it shows
     struct ListedDevice {
         Device device;
         std::string port;  // COM5; empty if it is not a port

@@ -7,9 +7,6 @@
 namespace host {
 
 void FullScreen::TakeClick(const Event& event) {
-    const auto of_front = [&](const Cells& cells) {
-        return Cells{cells.left + front_.left, cells.top + front_.top, cells.columns, cells.rows};
-    };
     for (const Placed& placed : front_.placement.controls) {
         if (placed.control->dropped && front_.open_list.Has(event.column, event.row)) {
             return TakeListClick(*placed.control, event.row - front_.open_list.top - 1,
@@ -18,9 +15,9 @@ void FullScreen::TakeClick(const Event& event) {
     }
     for (const Placed& placed : front_.placement.controls) {
         const Control& control = *placed.control;
-        const Cells cells = of_front(placed.cells);
-        if (!control.enabled || !cells.Has(event.column, event.row) || control.kind == Kind::Label ||
-            control.kind == Kind::Group) {
+        const Cells cells = front_.On(placed);
+        if (!control.enabled || !front_.Shows(placed, event.column, event.row) ||
+            control.kind == Kind::Label || control.kind == Kind::Group) {
             continue;
         }
         if (control.kind == Kind::Button || control.kind == Kind::Check) {
@@ -55,9 +52,7 @@ void FullScreen::Drag(int column) {
     for (const Placed& placed : front_.placement.controls) {
         const Control& slider = *placed.control;
         if (slider.window == dragged_ && slider.kind == Kind::Slider && slider.enabled) {
-            const int last = std::max(1, placed.cells.columns - 3), range = slider.maximum - slider.minimum;
-            const int at = std::clamp(column - front_.left - placed.cells.left - 1, 0, last);
-            Slide(slider, slider.minimum + (at * range + last / 2) / last);
+            Slide(slider, PositionAt(slider, front_.On(placed), column));
         }
     }
 }
@@ -65,12 +60,10 @@ void FullScreen::Drag(int column) {
 void FullScreen::TakeWheel(const Event& event) {
     for (const Placed& placed : front_.placement.controls) {
         const Control& list = *placed.control;
-        Cells cells{placed.cells.left + front_.left, placed.cells.top + front_.top, placed.cells.columns,
-                    placed.cells.rows};
-        if (list.dropped) {
-            cells = front_.open_list;
-        }
-        if ((list.kind == Kind::List || list.dropped) && cells.Has(event.column, event.row)) {
+        const Cells cells = list.dropped ? front_.open_list : front_.On(placed);
+        const bool at_it =
+            list.dropped ? cells.Has(event.column, event.row) : front_.Shows(placed, event.column, event.row);
+        if ((list.kind == Kind::List || list.dropped) && at_it) {
             const int step = event.kind == Event::Kind::WheelUp ? -wheel_step : wheel_step;
             const int first = FirstInSight(list, cells.rows - 2, turned_);
             turned_[list.window] = first + step;

@@ -11,8 +11,7 @@ namespace {
 // It fits on the smallest terminal.
 constexpr const char* help[] = {
     "Tab, Shift-Tab     the next or the previous control",
-    "Alt and a letter   the control whose letter is underlined; if the terminal",
-    "                   keeps Alt: Esc, then the letter",
+    "Alt and a letter   the control whose letter is underlined",
     "Space              checks a box, presses a button",
     "Enter              presses the button <in these>",
     "Esc                cancels",
@@ -29,7 +28,7 @@ constexpr const char* help[] = {
     "F10, Ctrl-C  ends and cancels all open windows",
     "Ctrl-L       repaints the screen",
     "",
-    "~ marks a disabled control.",
+    "> stands before the focus, ~ before what is disabled, * after what is not stored.",
 };
 
 } // namespace
@@ -86,20 +85,20 @@ void FullScreen::View(const std::string& title, const Lines& lines) {
     for (;;) {
         const int columns = terminal_.columns(), rows = terminal_.rows() - 3;
         first = std::clamp(first, 0, std::max(0, static_cast<int>(lines.size()) - rows));
-        terminal_.Clear();
-        terminal_.Write(0, 0, ' ' + title, columns, {false, true, false, colour_title});
+        canvas_ = Canvas(terminal_.columns(), terminal_.rows());
+        canvas_.Write(0, 0, ' ' + title, columns, {false, true, false, colour_title});
         for (int row = 0; row < rows && first + row < static_cast<int>(lines.size()); ++row) {
             std::string_view line = lines[static_cast<std::size_t>(first + row)];
             for (int cut = 0; cut < shift && !line.empty(); ++cut) {
                 TakeUtf8(line);
             }
-            terminal_.Write(1 + row, 0, line, columns);
+            canvas_.Write(1 + row, 0, line, columns);
         }
-        terminal_.Write(terminal_.rows() - 1, 0,
-                        " arrows, PgUp, PgDn move  Esc back   " + std::to_string(first + 1) + " of " +
-                            std::to_string(lines.size()),
-                        columns, {true, false, false, 0});
-        terminal_.Show();
+        canvas_.Write(terminal_.rows() - 1, 0,
+                      " arrows, PgUp, PgDn move  Esc back   " + std::to_string(first + 1) + " of " +
+                          std::to_string(lines.size()),
+                      columns, {true, false, false, 0});
+        terminal_.Show(canvas_);
         const Event event = terminal_.Next();
         if (event.kind == Event::Kind::End) {
             ending_ = true;
@@ -138,9 +137,9 @@ void FullScreen::AskCommand() {
     for (;;) {
         Draw();
         const std::string shown = " command: " + ToUtf8(line);
-        terminal_.Write(terminal_.rows() - 1, 0, shown, terminal_.columns(), {true, false, false, 0});
-        terminal_.PointAt(terminal_.rows() - 1, Columns(shown));
-        terminal_.Show();
+        canvas_.Write(terminal_.rows() - 1, 0, shown, terminal_.columns(), {true, false, false, 0});
+        canvas_.PointAt(terminal_.rows() - 1, Columns(shown));
+        terminal_.Show(canvas_);
         const Event event = terminal_.Next();
         if (event.kind == Event::Kind::End) {
             ending_ = true;

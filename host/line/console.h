@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "host/screen/canvas.h"
+
 namespace host {
 
 // The words that may follow the given ones in an unfinished line.
@@ -25,6 +27,9 @@ public:
 
     // How wide the person's screen is; 0 if there is none or its width is not known.
     virtual int Width() const { return 0; }
+
+    // What the person's screen can show of frames.
+    virtual Charset Letters() const { return Charset::Utf8; }
 
     virtual void CompleteBy(const Continuations&) {}
 };

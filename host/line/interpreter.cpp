@@ -4,9 +4,9 @@
 #include <cstdio>
 #include <iterator>
 
-#include "host/screen/drawing.h"
 #include "host/screen/hand.h"
 #include "host/screen/listing.h"
+#include "host/screen/painter.h"
 #include "host/text.h"
 #include "host/worlds/store_values.h"
 
@@ -219,11 +219,16 @@ void Interpreter::Show() {
     if (windows_.empty()) {
         throw Refusal("no window is open; open DEVICE opens one");
     }
-    std::vector<Window> windows;
-    for (const OpenWindow& window : windows_) {
-        windows.push_back(Read(window.handle));
+    constexpr std::string_view before = "  |";
+    const int width = Width() != 0 ? Width() : 80;
+    Write(Picture(Front(), width - static_cast<int>(before.size()), lines_.Letters()), before.data());
+    TellBehind();
+}
+
+void Interpreter::TellBehind() {
+    for (std::size_t below = windows_.size() - 1; below-- > 0;) {
+        Tell("  behind: " + windows_[below].told);
     }
-    Write(Draw(windows), "  |");
 }
 
 void Interpreter::Press(const Control& button) {

@@ -66,6 +66,7 @@ public:
     const Control& InFront(const Window& front, const std::string& name);
     void Press(const Control& button);
     void Show();
+    void TellBehind(); // the windows behind it, one per line
 
     // Goes on with the lines of a file, and returns at its end. Throws Refusal.
     void Source(const std::string& file);

@@ -1,6 +1,5 @@
 #include "host/line/command.h"
 #include "host/line/interpreter.h"
-#include "host/screen/drawing.h"
 #include "host/screen/hand.h"
 #include "host/screen/listing.h"
 #include "host/text.h"
@@ -37,10 +36,7 @@ void Show(Interpreter& host, const Words&) {
 
 void Controls(Interpreter& host, const Words&) {
     host.Write(ListControls(host.Front()));
-    const std::vector<std::string> open = host.OpenWindows();
-    for (std::size_t below = open.size() - 1; below-- > 0;) {
-        host.Tell("  behind: " + open[below]);
-    }
+    host.TellBehind();
 }
 
 void PickItem(Interpreter& host, const Words& words) {

@@ -38,6 +38,7 @@ struct Control {
     bool focused = false;
     bool is_default = false; // a button that Enter presses
     bool dropped = false;    // a combo whose list is open
+    bool changed = false;    // holds something else than what is stored
     bool of_frame = false;   // a button of the sheet itself, not of its page
     bool right_aligned = false;
     bool checked = false;
