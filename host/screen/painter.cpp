@@ -337,7 +337,7 @@ void Paint(Canvas& canvas, Painted& painted, bool front, const Turned& turned) {
 }
 
 std::vector<std::string> Picture(Window window, int columns, Charset charset) {
-    constexpr int rows = 30; // at most, if the window can be placed so
+    constexpr int rows = 24; // at most, if the window can be placed so
     window.page_focused = false;
     bool disabled = false, changed = false;
     for (Control& control : window.controls) {

@@ -27,12 +27,6 @@ bool ShareRows(const Control& left, const Control& right) {
     return top(left) <= bottom(right) + same_row && top(right) <= bottom(left) + same_row;
 }
 
-bool IsInside(const Control& control, const Control& group) {
-    return group.kind == Kind::Group && &control != &group && control.area.x >= group.area.x &&
-           control.area.x < group.area.x + group.area.cx && control.area.Middle() > group.area.y &&
-           control.area.Middle() < group.area.y + group.area.cy;
-}
-
 // A label that is tall enough for a second line gets two rows, and so needs fewer columns.
 bool IsTall(const Control& control) {
     constexpr int two_lines = 16; // dialog units
@@ -275,7 +269,7 @@ int ColumnsFor(const Control& control, bool close) {
         return std::max(columns, 12);
     }
     case Kind::Slider:
-        return close ? 10 : 15; // with the mark of a changed one
+        return close ? 8 : 15; // with the mark of a changed one
     }
     return text;
 }

@@ -66,6 +66,14 @@ struct Window {
 // `box` says that the window is a message box. A sheet is recognised by its page.
 Window ReadWindow(HWND window, bool box);
 
+// Marks the controls that differ from what the window showed when it last showed what is stored: when it was
+// opened, and since another entry was chosen in a list of it. `stored` is that window and is taken anew if it
+// is empty; its owner empties it when something has been stored.
+void MarkChanged(Window& window, std::optional<Window>& stored);
+
+// Whether the control is in that group.
+bool IsInside(const Control& control, const Control& group);
+
 // The captions of its buttons, as shown, separated by commas.
 std::string ButtonNames(const Window& window);
 
