@@ -39,8 +39,9 @@ struct Brush {
     const Turned& turned;
 
     // Writes a caption at the column, as far as there is room.
-    void Caption(int column, int columns, const Look& look) const {
-        canvas.Write(cells.top, column, Marked(control, Shown(control.text)), columns, look);
+    void Caption(int column, int columns, const std::string& text) const {
+        columns = std::min(columns, Columns(text));
+        canvas.Write(cells.top, column, text, columns, LookOf(control));
         const auto [before, wide] = HotKeyIn(control.text);
         if (before >= 0 && control.enabled && before + wide <= columns) {
             canvas.Underline(cells.top, column + before, wide);
@@ -72,21 +73,20 @@ struct Brush {
     }
 
     void Button() const {
-        const int wide = Columns(Marked(control, Shown(control.text)));
-        const int inside = cells.columns - 2, before = std::max(0, (inside - wide) / 2);
+        const std::string text = Marked(control, Shown(control.text));
+        const int inside = cells.columns - 2, before = std::max(0, (inside - Columns(text)) / 2);
         const Look look = LookOf(control);
         canvas.Write(cells.top, cells.left, control.is_default ? "<" : "[", cells.columns, look);
         canvas.Write(cells.top, cells.left + cells.columns - 1, control.is_default ? ">" : "]", 1, look);
-        Caption(cells.left + 1 + before, std::min(wide, inside - before), look);
+        Caption(cells.left + 1 + before, inside - before, text);
         Point(cells.left + 1 + before);
     }
 
     void Check() const {
-        const int wide = Columns(Marked(control, Shown(control.text)));
-        canvas.Write(cells.top, cells.left,
-                     std::string(control.checked ? "[x]" : "[ ]") + (control.changed ? "*" : " "), 4,
+        const char* const mark = !control.enabled ? "~" : control.changed ? "*" : " ";
+        canvas.Write(cells.top, cells.left, std::string(control.checked ? "[x]" : "[ ]") + mark, 4,
                      LookOf(control));
-        Caption(cells.left + 4, std::min(wide, cells.columns - 4), LookOf(control));
+        Caption(cells.left + 4, cells.columns - 4, Shown(control.text));
         Point(cells.left + 1);
     }
 
@@ -181,10 +181,7 @@ struct Brush {
 
     void Group() const {
         canvas.Frame(cells, false, {false, false, !control.enabled, colour_frame});
-        const int wide = Columns(Marked(control, Shown(control.text)));
-        if (wide > 0) {
-            Caption(cells.left + 2, std::min(wide, cells.columns - 4), LookOf(control));
-        }
+        Caption(cells.left + 2, cells.columns - 4, Marked(control, Shown(control.text)));
         Point(cells.left + 2);
     }
 

@@ -253,6 +253,7 @@ int ColumnsFor(const Control& control, bool close) {
     case Kind::Button:
         return text + (close ? 2 : 4);
     case Kind::Check:
+        return text + 3; // its mark stands before the caption
     case Kind::Group:
         return text + 4;
     case Kind::Label:
