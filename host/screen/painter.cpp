@@ -296,7 +296,10 @@ void Paint(Canvas& canvas, Painted& painted, bool front, const Turned& turned) {
     }
     const int first = placement.head, end = placement.rows - placement.foot;
     const int columns = all.columns - 2, rows = all.rows - placement.head - placement.foot;
-    painted.right = painted.down = 0;
+    const auto turned_to = turned.find(painted.window.handle);
+    painted.right = 0;
+    painted.down =
+        turned_to == turned.end() ? 0 : std::clamp(turned_to->second, 0, std::max(0, end - first - rows));
     if (focus != nullptr && focus->cells.top < end && whole.cursor()) {
         const Cells& cells = focus->cells;
         painted.right = ScrollTo(cells.left - 1, cells.columns, whole.cursor()->column - 1, columns,

@@ -26,7 +26,7 @@ struct Painted {
     bool Shows(const Placed& placed, int column, int row) const;
 };
 
-// The first visible item of each list that was scrolled by hand.
+// The first visible item of each list, and the first line of a message box, that was scrolled by hand.
 using Turned = std::map<HWND, int>;
 
 // The first visible item: the one that the list was scrolled to, or one that keeps the selection in sight.

@@ -223,18 +223,20 @@ int ColumnsForTitle(const Window& window, int most) {
     return std::min(Columns(Escaped(window.title)) + 6, most);
 }
 
-Placement PlaceBox(const Window& box, int columns) {
+Placement PlaceBox(const Window& box, int columns, int rows) {
     constexpr int edge = wide_edge;
     Placement placement;
-    placement.head = 2;
-    placement.foot = 3;
     placement.text = BrokenAt(BoxText(box), std::min(64, columns - 2 * edge));
     placement.columns = ColumnsForTitle(box, columns);
     for (std::string& line : placement.text) {
         line = Escaped(line);
         placement.columns = std::max(placement.columns, Columns(line) + 2 * edge);
     }
-    placement.rows = static_cast<int>(placement.text.size()) + placement.head + placement.foot;
+    const int lines = static_cast<int>(placement.text.size());
+    const int blank = lines + 5 <= rows ? 1 : 0; // before and after the text
+    placement.head = 1 + blank;
+    placement.foot = 2 + blank;
+    placement.rows = lines + placement.head + placement.foot;
     std::vector<const Control*> buttons;
     for (const Control& control : box.controls) {
         if (control.kind == Kind::Button) {
@@ -285,7 +287,7 @@ int ColumnsForTableColumn(const Control& table, std::size_t column) {
 
 Placement Place(const Window& window, int columns, int rows) {
     if (window.kind == WindowKind::Box) {
-        return PlaceBox(window, columns);
+        return PlaceBox(window, columns, rows);
     }
     constexpr double natural_columns = 0.39, natural_rows = 1.0 / 8; // per dialog unit, if there is room
     std::vector<const Control*> inside, of_frame;
