@@ -51,10 +51,20 @@ constexpr struct Language {
     {4105, "english canada", "en_CA"},
 };
 
-bool HasCode(const Language& language, std::string_view code) {
-    std::vector<std::string> codes;
-    SplitWords(language.codes, codes);
-    return std::ranges::any_of(codes, [&](const std::string& each) { return Folded(each) == Folded(code); });
+// The language of a code such as "de", "de_DE" or "de-DE"; null if there is none.
+const Language* WithCode(std::string_view code) {
+    std::string name = Folded(code);
+    std::ranges::replace(name, '-', '_');
+    for (const std::string& wanted : {name, name.substr(0, name.find('_'))}) {
+        for (const Language& language : languages) {
+            std::vector<std::string> codes;
+            SplitWords(language.codes, codes);
+            if (std::ranges::any_of(codes, [&](const std::string& each) { return Folded(each) == wanted; })) {
+                return &language;
+            }
+        }
+    }
+    return nullptr;
 }
 
 std::string CodeOf(const Language& language) {
@@ -63,14 +73,27 @@ std::string CodeOf(const Language& language) {
     return codes.front();
 }
 
+// What the environment says about a category of the locale; empty if it says nothing.
+std::string_view Setting(const char* category) {
+    for (const char* variable : {"LC_ALL", category, "LANG"}) {
+        if (const char* locale = std::getenv(variable); locale != nullptr && *locale) {
+            return locale;
+        }
+    }
+    return {};
+}
+
 } // namespace
 
 LANGID FindLanguage(std::string_view called) {
-    std::string wanted = Folded(called);
+    if (const Language* const language = WithCode(called)) {
+        return language->id;
+    }
+    const std::string wanted = Folded(called);
     LANGID begun = 0;
     int count = 0;
     for (const Language& language : languages) {
-        if (wanted == std::to_string(language.id) || wanted == language.name || HasCode(language, wanted)) {
+        if (wanted == std::to_string(language.id) || wanted == language.name) {
             return language.id;
         }
         if (!wanted.empty() && std::string_view{language.name}.starts_with(wanted)) {
@@ -91,24 +114,17 @@ std::string AllLanguages() {
 }
 
 LANGID LanguageOfLocale(std::string_view locale) {
-    const std::string_view name = locale.substr(0, locale.find_first_of(".@"));
-    for (const std::string_view code : {name, name.substr(0, name.find('_'))}) {
-        const auto found = std::ranges::find_if(
-            languages, [code](const Language& language) { return HasCode(language, code); });
-        if (found != std::end(languages)) {
-            return found->id;
-        }
-    }
-    return english_united_states;
+    const Language* const language = WithCode(locale.substr(0, locale.find_first_of(".@")));
+    return language != nullptr ? language->id : english_united_states;
 }
 
 LANGID UserLanguage() {
-    for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        if (const char* locale = std::getenv(variable); locale != nullptr && *locale) {
-            return LanguageOfLocale(locale);
-        }
-    }
-    return english_united_states;
+    return LanguageOfLocale(Setting("LC_MESSAGES"));
+}
+
+bool HasUnicode() {
+    const std::string locale = Folded(Setting("LC_CTYPE"));
+    return locale.find("utf-8") != std::string::npos || locale.find("utf8") != std::string::npos;
 }
 
 } // namespace host

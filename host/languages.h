@@ -8,7 +8,7 @@
 
 namespace host {
 
-// The id of a language by its number ("1031"), its code ("de", "pt_PT"), its name, or an unambiguous
+// The id of a language by its number ("1031"), its code ("de", "de_DE", "pt-PT"), its name, or an unambiguous
 // beginning of its name ("german"), in either case; 0 if there is none.
 LANGID FindLanguage(std::string_view called);
 
@@ -21,5 +21,8 @@ LANGID LanguageOfLocale(std::string_view locale);
 
 // The language of the environment: of the first of LC_ALL, LC_MESSAGES and LANG that is set.
 LANGID UserLanguage();
+
+// Whether the environment's character set is UTF-8.
+bool HasUnicode();
 
 } // namespace host

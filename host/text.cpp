@@ -5,45 +5,39 @@
 #include <cstdio>
 #include <iterator>
 #include <numeric>
+#include <span>
 
 namespace host {
 namespace {
 
+// The characters from `first` to `last`, each `step` after the one before, and what they have in common.
 struct Range {
     char32_t first, last;
+    int value;
+    unsigned step;
 };
 
-constexpr Range zero_width[] = {{0x300, 0x36F},   {0x591, 0x5BD},  {0x64B, 0x65F},   {0xE31, 0xE31},
-                                {0xE34, 0xE3A},   {0xE47, 0xE4E},  {0x200B, 0x200F}, {0x202A, 0x202E},
-                                {0xFE00, 0xFE0F}, {0xFEFF, 0xFEFF}};
-constexpr Range two_wide[] = {{0x1100, 0x115F}, {0x2E80, 0xA4CF},   {0xAC00, 0xD7A3},
-                              {0xF900, 0xFAFF}, {0xFE30, 0xFE6F},   {0xFF00, 0xFF60},
-                              {0xFFE0, 0xFFE6}, {0x1F300, 0x1FAFF}, {0x20000, 0x3FFFD}};
+#include "unicode_table.inc"
 
-bool IsIn(char32_t character, const auto& ranges) {
-    return std::any_of(std::begin(ranges), std::end(ranges), [character](const Range& range) {
-        return range.first <= character && character <= range.last;
-    });
+int ValueIn(std::span<const Range> ranges, char32_t character, int otherwise) {
+    const auto range = std::ranges::lower_bound(ranges, character, {}, &Range::last);
+    const bool is_in =
+        range != ranges.end() && range->first <= character && (character - range->first) % range->step == 0;
+    return is_in ? range->value : otherwise;
 }
 
-// Blocks whose capitals come before their small letters by `distance`. 1 and -1 mean that each capital comes
-// right before its small letter, with the capital at an even or an odd number.
-constexpr struct {
-    Range capitals;
-    int distance;
-} alphabets[] = {{{'A', 'Z'}, 32},       {{0xC0, 0xD6}, 32},   {{0xD8, 0xDE}, 32},
-                 {{0x100, 0x137}, 1},    {{0x14A, 0x177}, 1},  {{0x391, 0x3A9}, 32},
-                 {{0x400, 0x40F}, 0x50}, {{0x410, 0x42F}, 32}, {{0xFF21, 0xFF3A}, 32}};
+bool IsControl(char32_t character) {
+    return character < ' ' || (character >= 0x7F && character < 0xA0);
+}
 
-char32_t FoldedCharacter(char32_t character) {
-    for (const auto& [capitals, distance] : alphabets) {
-        if (capitals.first <= character && character <= capitals.last) {
-            return distance == 1    ? character | 1
-                   : distance == -1 ? (character + 1) & ~char32_t{1}
-                                    : character + static_cast<char32_t>(distance);
+constexpr std::string_view direction_marks[] = {"\u200E", "\u200F", "\u202A", "\u202B", "\u202C"};
+
+void Remove(std::string& text, std::span<const std::string_view> marks) {
+    for (const std::string_view mark : marks) {
+        for (std::size_t at; (at = text.find(mark)) != std::string::npos;) {
+            text.erase(at, mark.size());
         }
     }
-    return character;
 }
 
 char32_t Next(std::string_view::const_iterator& at, std::string_view::const_iterator end) {
@@ -56,7 +50,7 @@ char32_t Next(std::string_view::const_iterator& at, std::string_view::const_iter
 } // namespace
 
 int ColumnsOf(char32_t character) {
-    return IsIn(character, zero_width) ? 0 : IsIn(character, two_wide) ? 2 : 1;
+    return character < 0x80 ? 1 : ValueIn(widths, character, 1);
 }
 
 int Columns(std::string_view text) {
@@ -132,13 +126,15 @@ std::string Shown(std::string_view caption) {
         }
         result += caption[at];
     }
+    Remove(result, direction_marks);
     return result;
 }
 
 std::string Folded(std::string_view text) {
     std::string result;
     for (auto at = text.begin(); at < text.end();) {
-        AppendUtf8(result, FoldedCharacter(Next(at, text.end())));
+        const char32_t character = Next(at, text.end());
+        AppendUtf8(result, character + static_cast<char32_t>(ValueIn(small_letters, character, 0)));
     }
     return result;
 }
@@ -149,11 +145,6 @@ std::string NameOf(std::string_view caption) {
     std::string name = key != std::string_view::npos && caption.substr(key).find(')') == 3
                            ? Folded(Shown(caption.substr(0, key))) + Folded(Shown(caption.substr(key + 4)))
                            : Folded(Shown(caption));
-    for (const std::string_view mark : {"\u200E", "\u200F", "\u202A", "\u202B", "\u202C"}) {
-        for (std::size_t at; (at = name.find(mark)) != std::string::npos;) {
-            name.erase(at, mark.size());
-        }
-    }
     for (bool cut = true; cut;) {
         cut = false;
         for (std::string_view end : {" ", ":", ".", "…", "：", "\u00A0"}) {
@@ -166,10 +157,6 @@ std::string NameOf(std::string_view caption) {
     return name.substr(std::min(name.size(), name.find_first_not_of(' ')));
 }
 
-bool IsControl(char32_t character) {
-    return character < ' ' || (character >= 0x7F && character < 0xA0);
-}
-
 std::string Escaped(std::string_view text) {
     std::string result;
     for (auto at = text.begin(); at < text.end();) {
@@ -179,6 +166,10 @@ std::string Escaped(std::string_view text) {
         } else if (IsControl(character)) {
             char code[8];
             std::snprintf(code, sizeof code, "\\x%02X", static_cast<unsigned>(character));
+            result += code;
+        } else if (ValueIn(invisible, character, 0) != 0) {
+            char code[16];
+            std::snprintf(code, sizeof code, "\\u{%X}", static_cast<unsigned>(character));
             result += code;
         } else {
             AppendUtf8(result, character);

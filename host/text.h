@@ -29,7 +29,8 @@ std::string PaddedTo(std::string_view text, int columns);
 // ends.
 std::vector<std::string> BrokenAt(std::string_view text, int columns);
 
-// A caption as it is shown: without the & that marks the letter after it.
+// A caption as it is shown: without the & that marks the letter after it, and without the marks of writing
+// direction, which a terminal finds out by itself.
 std::string Shown(std::string_view caption);
 // In lower case, for the alphabets that have it.
 std::string Folded(std::string_view text);
@@ -37,11 +38,9 @@ std::string Folded(std::string_view text);
 // dots or blanks at its end.
 std::string NameOf(std::string_view caption);
 
-// Whether a character commands a terminal instead of being shown.
-bool IsControl(char32_t character);
-
-// The text on one line, with line ends and other control characters written as \r, \n, \x1B, because a text
-// from a device or a file may hold characters that command the terminal.
+// The text on one line, with line ends and other control characters written as \r, \n, \x1B, and invisible
+// ones as \u{202E}, because a text from a device or a file may hold characters that command the terminal or
+// turn what is read.
 std::string Escaped(std::string_view text);
 // The same in quotes.
 std::string Quoted(std::string_view text);

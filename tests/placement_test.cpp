@@ -1,8 +1,12 @@
-// Each of the four dialogs in each language on a terminal of 80 by 24: nothing is cut, nothing overlaps,
-// everything is inside.
+// Each of the four dialogs in each language: nothing is cut, nothing overlaps and everything is inside on a
+// terminal of 80 by 24; on a smaller one what has the focus is in sight.
+#include <algorithm>
+#include <array>
+
 #include <gtest/gtest.h>
 
-#include "host/full_screen/placement.h"
+#include "host/screen/painter.h"
+#include "host/text.h"
 #include "simulated/catalogue.h"
 #include "tests/machines.h"
 #include "tests/sheets.h"
@@ -38,6 +42,49 @@ void ExpectToFit(const host::Window& window, int columns, int rows) {
     }
 }
 
+// The window as a terminal of that size shows it, with the focus on a control.
+std::vector<std::string> PaintedOn(int columns, int rows, host::Window& window, host::Painted& painted) {
+    painted.window = window;
+    painted.placement = host::PlaceWindow(painted.window, columns, rows);
+    painted.place = {0, 0, std::min(columns, painted.placement.columns),
+                     std::min(rows, painted.placement.rows)};
+    host::Canvas canvas(columns, rows);
+    host::Paint(canvas, painted, true, {});
+    EXPECT_TRUE(canvas.cursor());
+    if (canvas.cursor()) {
+        const auto [row, column] = *canvas.cursor();
+        const auto focus = std::ranges::find_if(painted.placement.controls,
+                                                [](const auto& placed) { return placed.control->focused; });
+        EXPECT_TRUE(painted.Shows(*focus, column, row));
+        EXPECT_TRUE(canvas.At(row, std::max(0, painted.On(*focus).left - 1)).glyph == ">");
+    }
+    return canvas.Lines(host::Charset::Utf8);
+}
+
+void ExpectFocusInSight(host::Window window) {
+    for (host::Control& control : window.controls) {
+        const bool can_have_it = control.kind != host::Kind::Label && control.kind != host::Kind::Group;
+        for (const auto& [columns, rows] : {std::pair{40, 9}, {60, 19}}) {
+            SCOPED_TRACE(std::to_string(columns) + ": " + std::to_string(control.id) + ' ' + control.text);
+            control.focused = can_have_it;
+            if (can_have_it) {
+                host::Painted painted;
+                for (const std::string& line : PaintedOn(columns, rows, window, painted)) {
+                    EXPECT_EQ(host::Columns(line), painted.place.columns * (line.empty() ? 0 : 1)) << line;
+                }
+                for (const host::Placed& placed : painted.placement.controls) {
+                    const auto [left, top, wide, high] = painted.On(placed);
+                    EXPECT_TRUE(
+                        !placed.control->of_frame ||
+                        (left > 0 && left + wide < painted.place.columns && top + 1 < painted.place.rows))
+                        << placed.control->text;
+                }
+            }
+            control.focused = false;
+        }
+    }
+}
+
 TEST(Placement, EveryDialogOfEveryLanguageFitsASmallTerminal) {
     std::size_t dialogs = 0;
     for (const sim::Catalogue* catalogue : sim::Catalogues()) {
@@ -51,6 +98,11 @@ TEST(Placement, EveryDialogOfEveryLanguageFitsASmallTerminal) {
                 for (const auto& [columns, rows] : {std::pair{80, 23}, {120, 40}, {200, 59}}) {
                     ExpectToFit(host::ReadWindow(front, false), columns, rows);
                 }
+                if (std::ranges::count(std::array{1025, 1031, 1041, 1054}, catalogue->language)) {
+                    ExpectFocusInSight(host::ReadWindow(front, false));
+                }
+                constexpr int prompt = 80 - 3; // with what stands before a picture
+                ExpectToFit(host::ReadWindow(front, false), prompt, 24);
             };
             sheets::Open(page, static_cast<std::size_t>(device),
                          {.at_page =

@@ -33,12 +33,12 @@ void DeviceList::Read(World& world) {
     selected_ = std::min(selected_, devices_.empty() ? 0 : devices_.size() - 1);
 }
 
-void DeviceList::Draw(Terminal& terminal, const Cells& within, bool is_active) {
+void DeviceList::Draw(Canvas& canvas, const Cells& within, bool is_active) {
     if (devices_.empty()) {
         constexpr const char* reason = "This file has no boards and no ports. F7 says what it does not hold.";
         int row = within.top;
         for (const std::string& line : BrokenAt(reason, within.columns - 2)) {
-            terminal.Write(row++, within.left + 1, line, within.columns - 2);
+            canvas.Write(row++, within.left + 1, line, within.columns - 2);
         }
         return;
     }
@@ -53,18 +53,18 @@ void DeviceList::Draw(Terminal& terminal, const Cells& within, bool is_active) {
         const std::string line =
             (is_selected ? ">" : " ") + std::string(number.size() < 3 ? 3 - number.size() : 0, ' ') + number +
             ' ' + (port.empty() ? "" : PaddedTo(port, 7)) + name + (state.empty() ? "" : "  (" + state + ')');
-        terminal.Write(within.top + row, within.left, line, within.columns - 2,
-                       {is_selected && is_active, is_selected, !state.empty(), 0});
+        canvas.Write(within.top + row, within.left, line, within.columns - 2,
+                     {is_selected && is_active, is_selected, !state.empty(), 0});
         if (is_selected && is_active) {
-            terminal.PointAt(within.top + row, within.left);
+            canvas.PointAt(within.top + row, within.left);
         }
     }
     const int right = within.left + within.columns - 1;
     if (first_ > 0) {
-        terminal.Write(within.top, right, "^", 1);
+        canvas.Write(within.top, right, "^", 1);
     }
     if (first_ + within.rows < all) {
-        terminal.Write(within.top + within.rows - 1, right, "v", 1);
+        canvas.Write(within.top + within.rows - 1, right, "v", 1);
     }
 }
 

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "host/full_screen/placement.h"
 #include "host/full_screen/terminal.h"
+#include "host/screen/placement.h"
 #include "host/worlds/world.h"
 
 namespace host {
@@ -21,7 +21,7 @@ public:
     std::size_t Selected() const { return selected_ + 1; }
 
     // `is_active`: it has the keys.
-    void Draw(Terminal& terminal, const Cells& within, bool is_active);
+    void Draw(Canvas& canvas, const Cells& within, bool is_active);
     // Whether the selected device is to be opened.
     bool Take(const Event& event, const Cells& within);
     // Selects the next device with such a text in its port or name. False if there is none.

@@ -34,10 +34,10 @@ std::string KeyName(const Key& key) {
 
 } // namespace
 
-bool FrontWindow::Draw(Terminal& terminal, Session& session, const Cells& within, int beside) {
+bool FrontWindow::Draw(Canvas& canvas, Session& session, const Cells& within, int beside) {
     std::vector<Painted> windows;
     bool is_free = true;
-    const int most_rows = terminal.rows() - within.top - 1;
+    const int most_rows = canvas.rows() - within.top - 1;
     for (const Session::OpenWindow& window : session.windows()) {
         if (!IsOpen(window.handle)) {
             continue;
@@ -56,15 +56,18 @@ bool FrontWindow::Draw(Terminal& terminal, Session& session, const Cells& within
         const Placement& placement = painted.placement;
         const bool fits = placement.columns <= within.columns - beside;
         is_free = is_free && fits;
-        painted.left = fits ? beside + (within.columns - beside - placement.columns) / 2
-                            : std::max(0, (within.columns - placement.columns) / 2);
         const int room = placement.rows <= within.rows ? within.rows : most_rows;
-        painted.top = within.top + std::max(0, (room - placement.rows) / 2);
+        Cells& place = painted.place;
+        place.columns = std::min(placement.columns, within.columns);
+        place.rows = std::min(placement.rows, most_rows);
+        place.left = fits ? beside + (within.columns - beside - place.columns) / 2
+                          : (within.columns - place.columns) / 2;
+        place.top = within.top + (room - place.rows) / 2;
         windows.push_back(std::move(painted));
     }
     for (Painted& painted : windows) {
         const bool is_front = &painted == &windows.back();
-        Paint(terminal, painted, is_front, turned_);
+        Paint(canvas, painted, is_front, turned_);
         if (is_front) {
             front_ = std::move(painted);
         }
@@ -160,18 +163,13 @@ void FrontWindow::Take(Session& session, Event event) {
 
 // --- The mouse ---
 
-Cells FrontWindow::CellsOf(const Placed& placed) const {
-    return {placed.cells.left + front_.left, placed.cells.top + front_.top, placed.cells.columns,
-            placed.cells.rows};
-}
-
 const Placed* FrontWindow::At(const Event& event) const {
     for (const bool is_list : {true, false}) { // an open list lies over the rest
         for (const Placed& placed : front_.placement.controls) {
             const Control& control = *placed.control;
             if (is_list ? control.dropped && front_.open_list.Has(event.column, event.row)
                         : control.enabled && control.kind != Kind::Label && control.kind != Kind::Group &&
-                              CellsOf(placed).Has(event.column, event.row)) {
+                              front_.Shows(placed, event.column, event.row)) {
                 return &placed;
             }
         }
@@ -191,7 +189,7 @@ void FrontWindow::Click(const Placed& placed, const Event& event) {
     if (control.kind == Kind::Combo) {
         SendMessageW(control.window, CB_SHOWDROPDOWN, control.dropped ? FALSE : TRUE, 0);
     } else if (control.kind == Kind::List) {
-        const Cells cells = CellsOf(placed);
+        const Cells cells = front_.On(placed);
         ClickList(control, event.row - cells.top - 1, cells.rows - 2);
     } else if (control.kind == Kind::Slider) {
         dragged_ = control.window;
@@ -215,9 +213,7 @@ void FrontWindow::Drag(int column) {
     for (const Placed& placed : front_.placement.controls) {
         const Control& slider = *placed.control;
         if (slider.window == dragged_ && slider.kind == Kind::Slider && slider.enabled) {
-            const int last = std::max(1, placed.cells.columns - 3), range = slider.maximum - slider.minimum;
-            const int at = std::clamp(column - CellsOf(placed).left - 1, 0, last);
-            Slide(slider, slider.minimum + (at * range + last / 2) / last);
+            Slide(slider, PositionAt(slider, front_.On(placed), column));
         }
     }
 }
@@ -225,8 +221,10 @@ void FrontWindow::Drag(int column) {
 void FrontWindow::Turn(const Event& event) {
     for (const Placed& placed : front_.placement.controls) {
         const Control& list = *placed.control;
-        const Cells cells = list.dropped ? front_.open_list : CellsOf(placed);
-        if ((list.kind == Kind::List || list.dropped) && cells.Has(event.column, event.row)) {
+        const Cells cells = list.dropped ? front_.open_list : front_.On(placed);
+        const bool is_at_it =
+            list.dropped ? cells.Has(event.column, event.row) : front_.Shows(placed, event.column, event.row);
+        if ((list.kind == Kind::List || list.dropped) && is_at_it) {
             const int step = event.kind == Event::Kind::WheelUp ? -wheel_step : wheel_step;
             turned_[list.window] = FirstInSight(list, cells.rows - 2, turned_) + step;
             turned_[list.window] = FirstInSight(list, cells.rows - 2, turned_);

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "host/full_screen/hints.h"
-#include "host/full_screen/painter.h"
+#include "host/screen/painter.h"
 #include "host/session/session.h"
 
 namespace host {
@@ -14,7 +14,7 @@ class FrontWindow {
 public:
     // Draws the session's windows into these cells, or over more of the terminal if they need it. Returns
     // whether the first `beside` columns have stayed free.
-    bool Draw(Terminal& terminal, Session& session, const Cells& within, int beside);
+    bool Draw(Canvas& canvas, Session& session, const Cells& within, int beside);
 
     // What the keys do to the control with the focus.
     std::vector<Hint> Hints() const;
@@ -29,7 +29,6 @@ private:
     void ClickList(const Control& list, int row, int rows);
     void Turn(const Event& event);
     void Drag(int column);
-    Cells CellsOf(const Placed& placed) const;
 
     Painted front_;
     Turned turned_;

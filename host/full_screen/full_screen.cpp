@@ -207,8 +207,8 @@ std::optional<std::string> FullScreen::AskLine(const std::string& label, std::st
             hints_.push_back({"Up/Down", "earlier ones", OfCode(VK_UP)});
         }
         Draw(before + ToUtf8(line.substr(cursor)));
-        terminal_.PointAt(terminal_.rows() - foot_ - 1, std::min(Columns(before), terminal_.columns() - 1));
-        terminal_.Show();
+        canvas_.PointAt(terminal_.rows() - foot_ - 1, std::min(Columns(before), terminal_.columns() - 1));
+        terminal_.Show(canvas_);
         const Event event = NextEvent();
         if (event.kind == Event::Kind::End) {
             session_->Abandon();
@@ -266,9 +266,9 @@ char FullScreen::AskLetter(const std::string& question, const std::vector<Hint>&
     for (;;) {
         hints_ = answers;
         Draw(' ' + question);
-        terminal_.PointAt(terminal_.rows() - foot_ - 1,
-                          std::min(Columns(question) + 2, terminal_.columns() - 1));
-        terminal_.Show();
+        canvas_.PointAt(terminal_.rows() - foot_ - 1,
+                        std::min(Columns(question) + 2, terminal_.columns() - 1));
+        terminal_.Show(canvas_);
         const Event event = NextEvent();
         if (event.kind == Event::Kind::End) {
             session_->Abandon();
@@ -379,39 +379,38 @@ void FullScreen::Draw(const std::string& question) {
     const int columns = terminal_.columns();
     placed_hints_ = PlaceHints(hints_, columns, std::max(1, terminal_.rows() / 8));
     foot_ = placed_hints_.empty() ? 1 : placed_hints_.back().cells.top + 1;
-    terminal_.Clear();
+    canvas_ = Canvas(columns, terminal_.rows());
     DrawTitle();
     const Cells body = Body();
     if (view_) {
-        view_->Draw(terminal_, body);
+        view_->Draw(canvas_, body);
     } else {
         DrawPane({0, body.top + body.rows, columns, PaneRows()});
         const bool has_window = !session_->windows().empty();
         const int beside = columns < small_screen ? 26 : 34;
         if (!has_window) {
-            devices_.Draw(terminal_, body, true);
+            devices_.Draw(canvas_, body, true);
         } else {
-            devices_.Draw(terminal_, {0, body.top, beside, body.rows}, false);
-            if (!front_.Draw(terminal_, *session_, body, beside)) {
+            devices_.Draw(canvas_, {0, body.top, beside, body.rows}, false);
+            if (!front_.Draw(canvas_, *session_, body, beside)) {
                 for (int row = 0; row < body.rows; ++row) {
-                    terminal_.Write(body.top + row, 0, "", columns);
+                    canvas_.Write(body.top + row, 0, "", columns);
                 }
-                front_.Draw(terminal_, *session_, body, beside);
+                front_.Draw(canvas_, *session_, body, beside);
             }
         }
     }
     DrawFoot(question);
-    terminal_.Show();
+    terminal_.Show(canvas_);
 }
 
 void FullScreen::DrawTitle() {
     const std::string state = session_->IsUnsaved() ? " * not saved" : "";
     const std::string place = view_ ? view_->Title() : session_->windows().empty() ? "Devices" : "";
     const int columns = terminal_.columns(), right = Columns(place) + 2;
-    terminal_.Write(0, 0, ' ' + session_->world().Name() + state, columns,
-                    {false, true, false, colour_title});
+    canvas_.Write(0, 0, ' ' + session_->world().Name() + state, columns, {false, true, false, colour_title});
     if (right < columns) {
-        terminal_.Write(0, columns - right, place, right, {false, true, false, colour_title});
+        canvas_.Write(0, columns - right, place, right, {false, true, false, colour_title});
     }
 }
 
@@ -430,32 +429,32 @@ void FullScreen::DrawPane(const Cells& within) {
                 (last.changes.size() == 1 ? " change" : " changes");
         lines = last.changes;
     }
-    terminal_.Write(within.top, 0, ' ' + title, within.columns, {false, true, false, colour_title});
+    canvas_.Write(within.top, 0, ' ' + title, within.columns, {false, true, false, colour_title});
     for (std::size_t row = 0; row < seen && row < lines.size(); ++row) {
-        terminal_.Write(within.top + 1 + static_cast<int>(row), 0, ' ' + lines[row], within.columns);
+        canvas_.Write(within.top + 1 + static_cast<int>(row), 0, ' ' + lines[row], within.columns);
     }
 }
 
 void FullScreen::DrawFoot(const std::string& question) {
     const int columns = terminal_.columns(), first = terminal_.rows() - foot_;
     for (int row = 0; row < foot_; ++row) {
-        terminal_.Write(first + row, 0, "", columns, {true, false, false, 0});
+        canvas_.Write(first + row, 0, "", columns, {true, false, false, 0});
     }
     for (const PlacedHint& placed : placed_hints_) {
         const Cells& cells = placed.cells;
         const int key = Columns(placed.hint->key);
-        terminal_.Write(first + cells.top, cells.left, placed.hint->key, key, {true, true, false, 0});
-        terminal_.Write(first + cells.top, cells.left + key + 1, placed.hint->does, cells.columns - key - 1,
-                        {true, false, false, 0});
+        canvas_.Write(first + cells.top, cells.left, placed.hint->key, key, {true, true, false, 0});
+        canvas_.Write(first + cells.top, cells.left + key + 1, placed.hint->does, cells.columns - key - 1,
+                      {true, false, false, 0});
     }
     // What is asked or has just been said stands above the hints.
     const std::string said = !message_.empty() ? ' ' + message_ : question;
     if (!message_.empty() && !question.empty()) {
-        terminal_.Write(first - 2, 0, ' ' + message_, columns, {false, true, false, colour_mark});
+        canvas_.Write(first - 2, 0, ' ' + message_, columns, {false, true, false, colour_mark});
     }
     if (!said.empty()) {
-        terminal_.Write(first - 1, 0, question.empty() ? said : question, columns,
-                        {false, true, false, colour_mark});
+        canvas_.Write(first - 1, 0, question.empty() ? said : question, columns,
+                      {false, true, false, colour_mark});
     }
 }
 

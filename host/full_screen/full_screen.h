@@ -30,6 +30,7 @@ public:
     bool IsPerson() const override { return true; }
     bool SeesWindows() const override { return true; }
     int Width() const override { return terminal_.columns(); }
+    Charset Letters() const override { return Charset::Utf8; }
     bool MayDiscard() override;
 
 private:
@@ -63,6 +64,7 @@ private:
     void Save();
 
     Terminal terminal_;
+    Canvas canvas_{0, 0}; // what it shows
     Session* session_ = nullptr;
     DeviceList devices_;
     FrontWindow front_;

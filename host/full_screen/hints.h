@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "host/full_screen/placement.h"
 #include "host/full_screen/terminal.h"
+#include "host/screen/placement.h"
 
 namespace host {
 

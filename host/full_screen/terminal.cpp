@@ -19,29 +19,30 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include "host/languages.h"
 #include "host/text.h"
 
 namespace host {
 namespace {
 
-constexpr int escape_wait = 400; // milliseconds in which a letter after Esc counts as a hot key
+constexpr int escape_wait = 25; // milliseconds within which what follows an Esc belongs to it
 constexpr const char* follow_the_mouse = "\033[?1002h";
 constexpr const char* leave_the_mouse = "\033[?1006l\033[?1002l\033[?1000l";
 
 termios before;
-sigset_t signals_before; // the mask, which also applies during the wait for input
-std::array<char, 256> restoring{};
-volatile std::sig_atomic_t ending = 0;
+sigset_t signals_before;           // the mask, which also applies during the wait for input
+std::array<char, 256> restoring{}; // what the terminal is told at the end
+std::size_t restoring_length = 0;
+volatile std::sig_atomic_t ending = 0; // the signal
 
 // Everything that it calls may be called from a signal handler.
 void Restore() {
-    [[maybe_unused]] const auto written =
-        write(STDOUT_FILENO, restoring.data(), std::strlen(restoring.data()));
+    [[maybe_unused]] const auto written = write(STDOUT_FILENO, restoring.data(), restoring_length);
     tcsetattr(STDIN_FILENO, TCSANOW, &before);
 }
 
-void OnEnd(int) {
-    ending = 1;
+void OnEnd(int signal) {
+    ending = signal;
 }
 
 void OnCrash(int signal) {
@@ -64,6 +65,26 @@ void Say(const char* sequence) {
 std::string Capability(const char* name) {
     const char* const text = tigetstr(name);
     return text == nullptr || text == reinterpret_cast<const char*>(-1) ? "" : text;
+}
+
+int Remember(int character) {
+    if (restoring_length < restoring.size()) {
+        restoring[restoring_length++] = static_cast<char>(character);
+    }
+    return character;
+}
+
+// Prepares what restores a terminal of this size.
+void PrepareRestoring() {
+    restoring_length = 0;
+    const std::string last_line =
+        Capability("rmcup").empty() ? tiparm(Capability("cup").c_str(), LINES - 1, 0) : "";
+    const std::string mouse = Capability("kmous").empty() ? "" : leave_the_mouse;
+    for (const std::string& sequence :
+         {mouse, Capability("sgr0"), Capability("cnorm"), Capability("rmkx"), last_line,
+          last_line.empty() ? "" : Capability("el"), Capability("rmcup")}) {
+        tputs(sequence.c_str(), 1, Remember); // which takes out the time that a terminal needs for it
+    }
 }
 
 constexpr std::pair<int, Key> keys[] = {
@@ -111,13 +132,13 @@ std::optional<std::string> WhyNoFullScreen() {
     return {};
 }
 
-Terminal::Terminal() {
+Terminal::Terminal() : charset_(HasUnicode() ? Charset::Utf8 : Charset::Ascii) {
     tcgetattr(STDIN_FILENO, &before);
     std::setlocale(LC_CTYPE, "");
     if (MB_CUR_MAX == 1) {
         std::setlocale(LC_CTYPE, "C.UTF-8");
     }
-    set_escdelay(25);
+    set_escdelay(escape_wait);
     initscr();
     raw(); // Ctrl-C and Ctrl-Z come as keys, so that no window is torn away in the middle of a step
     noecho();
@@ -132,17 +153,14 @@ Terminal::Terminal() {
         init_pair(colour_mark, COLOR_BLACK, COLOR_CYAN);
         init_pair(colour_hot_key, COLOR_YELLOW, -1);
     }
-    std::string sequences;
     if (!Capability("kmous").empty()) {
         mouseinterval(0);
         mousemask(BUTTON1_PRESSED | BUTTON1_RELEASED | BUTTON4_PRESSED | BUTTON5_PRESSED |
                       REPORT_MOUSE_POSITION,
                   nullptr);
         Say(follow_the_mouse);
-        sequences = leave_the_mouse;
     }
-    sequences += Capability("sgr0") + Capability("cnorm") + Capability("rmkx") + Capability("rmcup");
-    sequences.copy(restoring.data(), restoring.size() - 1);
+    PrepareRestoring();
     // These signals come only while input is awaited, so none is lost between the last check and the wait.
     sigset_t awaited;
     sigemptyset(&awaited);
@@ -160,9 +178,12 @@ Terminal::Terminal() {
 Terminal::~Terminal() {
     endwin();
     Restore();
-    sigprocmask(SIG_SETMASK, &signals_before, nullptr); // signals that waited now only set `ending`
+    sigprocmask(SIG_SETMASK, &signals_before, nullptr); // a signal that waited now only sets `ending`
     for (const int signal : {SIGHUP, SIGINT, SIGTERM, SIGQUIT, SIGSEGV, SIGABRT, SIGBUS, SIGFPE, SIGILL}) {
         Handle(signal, SIG_DFL, 0);
+    }
+    if (ending != 0) {
+        raise(ending);
     }
 }
 
@@ -173,55 +194,34 @@ int Terminal::rows() const {
     return LINES;
 }
 
-void Terminal::Clear() {
+void Terminal::Show(const Canvas& canvas) {
     erase();
-    cursor_ = false;
-}
-
-void Terminal::Write(int row, int column, std::string_view text, int columns, const Look& look) {
-    columns = std::min(columns, COLS - column);
-    if (row < 0 || row >= LINES || column < 0 || columns <= 0) {
-        return;
-    }
-    const attr_t attributes = (look.reversed ? A_REVERSE : A_NORMAL) | (look.bold ? A_BOLD : A_NORMAL) |
-                              (look.dim ? A_DIM : A_NORMAL);
-    attr_set(attributes, has_colors() ? static_cast<short>(look.colour) : 0, nullptr);
-    mvaddstr(row, column, PaddedTo(CutTo(Escaped(text), columns), columns).c_str());
-    attr_set(A_NORMAL, 0, nullptr);
-}
-
-void Terminal::Underline(int row, int column, int columns) {
-    for (int cell = column; cell < column + columns && row >= 0 && row < LINES && cell >= 0 && cell < COLS;
-         ++cell) {
-        cchar_t there;
-        wchar_t letters[CCHARW_MAX + 1];
-        attr_t attributes;
-        short colour;
-        mvin_wch(row, cell, &there);
-        if (getcchar(&there, letters, &attributes, &colour, nullptr) == OK) {
-            mvchgat(row, cell, 1, attributes | A_UNDERLINE,
-                    colour != 0    ? colour
-                    : has_colors() ? colour_hot_key
-                                   : 0,
-                    nullptr);
+    for (int row = 0; row < std::min(LINES, canvas.rows()); ++row) {
+        for (int column = 0; column < std::min(COLS, canvas.columns()); ++column) {
+            const auto& [glyph, look] = canvas.At(row, column);
+            if (glyph.empty() || (glyph == " " && look == Look{})) {
+                continue;
+            }
+            attr_set((look.reversed ? A_REVERSE : A_NORMAL) | (look.bold ? A_BOLD : A_NORMAL) |
+                         (look.dim ? A_DIM : A_NORMAL) | (look.underlined ? A_UNDERLINE : A_NORMAL),
+                     has_colors() ? static_cast<short>(look.colour) : 0, nullptr);
+            const std::string_view shown = GlyphIn(charset_, glyph);
+            mvaddnstr(row, column, shown.data(), static_cast<int>(shown.size()));
         }
     }
-}
-
-void Terminal::PointAt(int row, int column) {
-    cursor_ = true;
-    move(std::clamp(row, 0, LINES - 1), std::clamp(column, 0, COLS - 1));
-}
-
-void Terminal::Show() {
-    curs_set(cursor_ ? 1 : 0);
+    attr_set(A_NORMAL, 0, nullptr);
+    curs_set(canvas.cursor() ? 1 : 0);
+    if (canvas.cursor()) {
+        move(std::clamp(canvas.cursor()->row, 0, LINES - 1),
+             std::clamp(canvas.cursor()->column, 0, COLS - 1));
+    }
     refresh();
 }
 
 // What Ctrl-Z asks for. Returns when the shell brings the program to the foreground again.
 Event Terminal::Suspend() {
     endwin();
-    if (restoring[0] != 0) {
+    if (!Capability("kmous").empty()) {
         Say(leave_the_mouse);
     }
     raise(SIGTSTP);
@@ -232,10 +232,10 @@ Event Terminal::Suspend() {
     return {};
 }
 
-// Esc alone is a key. A letter after it makes a hot key, whether the terminal sends the two for Alt or a
-// person types them.
+// Esc alone is a key. A letter that is there already makes a hot key: a terminal sends the two for Alt, but
+// nobody types them so fast.
 Event Terminal::OfEscape() {
-    pending_ = Read(escape_wait);
+    pending_ = Read(0);
     const bool is_key = pending_ && pending_->kind == Event::Kind::Key;
     if (is_key &&
         (pending_->key.letter != 0 || pending_->key.code == VK_DOWN || pending_->key.code == VK_UP)) {
@@ -275,6 +275,7 @@ std::optional<Event> Terminal::OfMouse() {
 // The event of a key with a code of its own; nothing if it has no meaning here.
 std::optional<Event> Terminal::OfCode(std::wint_t code) {
     if (code == KEY_RESIZE) {
+        PrepareRestoring();
         clearok(curscr, TRUE); // the contents are gone even if the size is the same as before
         return Event{};
     }

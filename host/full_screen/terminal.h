@@ -1,11 +1,12 @@
-// The terminal: what a person does at it. It is left as it was found, however the program ends.
+// The terminal: it shows a canvas and tells what a person does. It is left as it was found, however the
+// program ends.
 #pragma once
 
 #include <cwchar>
 #include <optional>
 #include <string>
-#include <string_view>
 
+#include "host/screen/canvas.h"
 #include "host/screen/keyboard.h"
 
 namespace host {
@@ -29,19 +30,13 @@ struct Event {
     int column = 0, row = 0;
 };
 
-// How a text stands out. All looks differ even without colours.
-struct Look {
-    bool reversed = false, bold = false, dim = false;
-    int colour = 0; // one of the constants below, if there are colours
-};
-constexpr int colour_frame = 1, colour_title = 2, colour_mark = 3, colour_hot_key = 4;
-
 constexpr int wheel_step = 3; // items or lines that the mouse's wheel moves by
 
 // Why the terminal can't be filled; nothing if it can be.
 std::optional<std::string> WhyNoFullScreen();
 
-// Owns the screen while it lives. Only one may exist at a time.
+// Owns the screen while it lives. Only one may exist at a time. If a signal has ended its use, the program
+// ends by that signal with it.
 class Terminal {
 public:
     Terminal();
@@ -52,14 +47,7 @@ public:
     int columns() const;
     int rows() const;
 
-    void Clear();
-    // Writes at most `columns` of the text and fills up with blanks. Characters that command the terminal are
-    // written out.
-    void Write(int row, int column, std::string_view text, int columns, const Look& look = {});
-    // Marks one letter of the text there as the hot key.
-    void Underline(int row, int column, int columns);
-    void PointAt(int row, int column); // puts the cursor there; hidden until the first call after a Clear
-    void Show();
+    void Show(const Canvas& canvas); // the cursor is hidden if the canvas has none
 
     Event Next();
 
@@ -72,7 +60,7 @@ private:
     std::optional<Event> OfMouse();
 
     std::optional<Event> pending_; // what came after an Esc that did not belong to it
-    bool cursor_ = false;
+    Charset charset_;
     bool pressed_ = false; // the mouse's button is down
 };
 

@@ -37,7 +37,7 @@ std::string TextView::Title() const {
                               std::to_string(std::min(first_ + rows_, all)) + " of " + std::to_string(all);
 }
 
-void TextView::Draw(Terminal& terminal, const Cells& within) {
+void TextView::Draw(Canvas& canvas, const Cells& within) {
     const int headings = static_cast<int>(headings_.size()), all = static_cast<int>(lines_.size());
     rows_ = std::max(1, within.rows - headings);
     first_ = std::clamp(first_, 0, std::max(0, all - rows_));
@@ -45,7 +45,7 @@ void TextView::Draw(Terminal& terminal, const Cells& within) {
         for (int cut = 0; cut < shift_ && !line.empty(); ++cut) {
             TakeUtf8(line);
         }
-        terminal.Write(within.top + row, within.left, line, within.columns, look);
+        canvas.Write(within.top + row, within.left, line, within.columns, look);
     };
     for (int row = 0; row < headings; ++row) {
         write(row, headings_[static_cast<std::size_t>(row)], {false, true, false, 0});
@@ -59,7 +59,7 @@ void TextView::Draw(Terminal& terminal, const Cells& within) {
         write(headings + row, HasCommands() ? (is_selected && begins ? "> " : "  ") + line.text : line.text,
               {index == found_, is_selected, false, 0});
         if (index == found_ || (found_ < 0 && is_selected && begins)) {
-            terminal.PointAt(within.top + headings + row, within.left);
+            canvas.PointAt(within.top + headings + row, within.left);
         }
     }
 }

@@ -19,7 +19,7 @@ public:
     TextView(std::string title, const Lines& lines, std::size_t headings = 0);
 
     std::string Title() const override;
-    void Draw(Terminal& terminal, const Cells& within) override;
+    void Draw(Canvas& canvas, const Cells& within) override;
     Outcome Take(const Event& event, const Cells& within) override;
     std::vector<Hint> Hints() const override;
     bool Find(const std::string& text) override;

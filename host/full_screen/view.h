@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "host/full_screen/hints.h"
-#include "host/full_screen/placement.h"
 #include "host/full_screen/terminal.h"
+#include "host/screen/placement.h"
 
 namespace host {
 
@@ -17,7 +17,7 @@ public:
     virtual ~View() = default;
 
     virtual std::string Title() const = 0;
-    virtual void Draw(Terminal& terminal, const Cells& within) = 0;
+    virtual void Draw(Canvas& canvas, const Cells& within) = 0;
 
     // What an event led to: a command to be carried out, if any.
     struct Outcome {

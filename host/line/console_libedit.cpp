@@ -10,6 +10,7 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include "host/languages.h"
 #include "host/line/line_source.h"
 #include "host/text.h"
 
@@ -79,6 +80,7 @@ public:
         winsize size{};
         return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
     }
+    Charset Letters() const override { return HasUnicode() ? Charset::Utf8 : Charset::Ascii; }
     void CompleteBy(const Complete& complete) override { complete_ = complete; }
 
 private:

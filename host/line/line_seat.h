@@ -23,6 +23,7 @@ public:
     bool IsPerson() const override { return lines_.IsPerson(); }
     bool SeesWindows() const override { return false; }
     int Width() const override { return lines_.Width(); }
+    Charset Letters() const override { return lines_.Letters(); }
     // A person is told what he would lose, and agrees with the next line if that ends the session too.
     bool MayDiscard() override;
 

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "host/screen/canvas.h"
 #include "host/session/completion.h"
 
 namespace host {
@@ -23,6 +24,9 @@ public:
 
     // How wide the person's screen is; 0 if there is none or its width is not known.
     virtual int Width() const { return 0; }
+
+    // What the person's screen can show of frames.
+    virtual Charset Letters() const { return Charset::Utf8; }
 
     using Complete = std::function<Completion(std::string_view line)>;
     virtual void CompleteBy(const Complete&) {}

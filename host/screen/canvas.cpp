@@ -5,92 +5,134 @@
 #include "host/text.h"
 
 namespace host {
+namespace {
+
+constexpr std::pair<std::string_view, std::string_view> in_ascii[] = {
+    {"─", "-"}, {"│", "|"}, {"┌", "+"}, {"┐", "+"}, {"└", "+"}, {"┘", "+"},
+    {"├", "|"}, {"┤", "|"}, {"┴", "+"}, {"═", "="}, {"║", "#"}, {"╔", "#"},
+    {"╗", "#"}, {"╚", "#"}, {"╝", "#"}, {"█", "o"}, {"▾", "v"}, {"…", "."}};
+
+constexpr const char* single_line[] = {"┌", "┐", "└", "┘", "─", "│"};
+constexpr const char* double_line[] = {"╔", "╗", "╚", "╝", "═", "║"};
+
+} // namespace
+
+std::string_view GlyphIn(Charset charset, std::string_view glyph) {
+    const auto known =
+        std::ranges::find(in_ascii, glyph, &std::pair<std::string_view, std::string_view>::first);
+    return charset == Charset::Ascii && glyph.size() > 1 && known != std::end(in_ascii) ? known->second
+                                                                                        : glyph;
+}
 
 Canvas::Canvas(int columns, int rows)
-    : columns_(std::max(0, columns)),
-      cells_(static_cast<std::size_t>(std::max(0, rows)), Row(static_cast<std::size_t>(columns_), " ")) {}
+    : columns_(std::max(0, columns)), cells_(static_cast<std::size_t>(std::max(0, rows)),
+                                             std::vector<Cell>(static_cast<std::size_t>(columns_))) {}
 
-void Canvas::Put(int column, int row, std::string glyph, int columns) {
+void Canvas::Put(int row, int column, std::string_view glyph, int columns, const Look& look) {
     if (row < 0 || row >= rows() || column < 0 || column + columns > columns_) {
         return;
     }
-    Row& cells = cells_[static_cast<std::size_t>(row)];
+    auto& cells = cells_[static_cast<std::size_t>(row)];
     const auto first = static_cast<std::size_t>(column), end = first + static_cast<std::size_t>(columns);
-    if (cells[first].empty()) {
-        cells[first - 1] = " ";
+    if (cells[first].glyph.empty() && first > 0) {
+        cells[first - 1].glyph = " ";
     }
-    if (end < cells.size() && cells[end].empty()) {
-        cells[end] = " ";
+    if (end < cells.size() && cells[end].glyph.empty()) {
+        cells[end].glyph = " ";
     }
-    cells[first] = std::move(glyph);
-    for (std::size_t half = first + 1; half < end; ++half) {
-        cells[half].clear();
+    for (std::size_t at = first; at < end; ++at) {
+        cells[at] = {at == first ? std::string(glyph) : std::string(), look};
     }
 }
 
-void Canvas::Write(int column, int row, std::string_view text) {
-    while (!text.empty()) {
-        const std::string_view from_here = text;
-        const char32_t character = TakeUtf8(text);
-        const int columns = ColumnsOf(character);
-        const std::string glyph = IsControl(character) ? " " : std::string(from_here.begin(), text.begin());
-        if (columns > 0) {
-            Put(column, row, glyph, columns);
-        } else if (row >= 0 && row < rows() && column > 0 && column <= columns_) {
-            Row& cells = cells_[static_cast<std::size_t>(row)];
-            auto before = static_cast<std::size_t>(column - 1);
-            if (cells[before].empty() && before > 0) {
-                --before;
-            }
-            cells[before] += glyph;
+// A mark belongs to the character before it, of which a terminal shows only so many.
+void Canvas::Combine(int row, int column, std::string_view mark) {
+    constexpr std::size_t most = 16; // bytes
+    if (row < 0 || row >= rows() || column < 1 || column > columns_) {
+        return;
+    }
+    auto cell = cells_[static_cast<std::size_t>(row)].begin() + (column - 1);
+    if (cell->glyph.empty() && column > 1) {
+        --cell;
+    }
+    if (cell->glyph.size() + mark.size() <= most) {
+        cell->glyph += mark;
+    }
+}
+
+void Canvas::Write(int row, int column, std::string_view text, int columns, const Look& look) {
+    const std::string written = PaddedTo(CutTo(Escaped(text), columns), columns);
+    for (std::string_view rest = written; !rest.empty();) {
+        const std::string_view from_here = rest;
+        const int wide = ColumnsOf(TakeUtf8(rest));
+        const std::string_view glyph = from_here.substr(0, from_here.size() - rest.size());
+        if (wide == 0) {
+            Combine(row, column, glyph);
+        } else if (column < 0 && column + wide > 0) {
+            Put(row, 0, " ", column + wide, look);
+        } else if (column + wide > columns_) {
+            Put(row, column, " ", 1, look);
+        } else {
+            Put(row, column, glyph, wide, look);
         }
-        column += columns;
+        column += wide;
     }
 }
 
-void Canvas::Frame(int left, int top, int right, int bottom, std::string_view title, bool doubled) {
-    const char* const across = doubled ? "═" : "─";
-    const char* const down = doubled ? "║" : "│";
-    for (int column = left + 1; column < right; ++column) {
-        Put(column, top, across, 1);
-        Put(column, bottom, across, 1);
-    }
-    for (int row = top + 1; row < bottom; ++row) {
-        Put(left, row, down, 1);
-        Put(right, row, down, 1);
-    }
-    Put(left, top, doubled ? "╔" : "┌", 1);
-    Put(right, top, doubled ? "╗" : "┐", 1);
-    Put(left, bottom, doubled ? "╚" : "└", 1);
-    Put(right, bottom, doubled ? "╝" : "┘", 1);
-    if (!title.empty() && right - left > 6) {
-        Write(left + 2, top, ' ' + CutTo(title, right - left - 5) + ' ');
+void Canvas::Underline(int row, int column, int columns) {
+    for (int at = std::max(0, column); row >= 0 && row < rows() && at < std::min(column + columns, columns_);
+         ++at) {
+        Look& look = cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(at)].look;
+        look.underlined = true;
+        look.colour = look.colour != 0 ? look.colour : colour_hot_key;
     }
 }
 
-void Canvas::Lay(int column, int row, const Canvas& other) {
-    columns_ = std::max(columns_, column + other.columns_);
-    cells_.resize(static_cast<std::size_t>(std::max(rows(), row + other.rows())));
-    for (Row& cells : cells_) {
-        cells.resize(static_cast<std::size_t>(columns_), " ");
+void Canvas::Frame(const Cells& cells, bool doubled, const Look& look) {
+    const auto& [left_top, right_top, left_bottom, right_bottom, across, down] =
+        doubled ? double_line : single_line;
+    const int bottom = cells.top + cells.rows - 1, right = cells.left + cells.columns - 1;
+    for (int column = cells.left + 1; column < right; ++column) {
+        Put(cells.top, column, across, 1, look);
+        Put(bottom, column, across, 1, look);
     }
-    for (int line = 0; line < other.rows(); ++line) {
-        const Row& cells = other.cells_[static_cast<std::size_t>(line)];
-        for (std::size_t at = 0; at < cells.size(); ++at) {
-            if (!cells[at].empty()) {
-                Put(column + static_cast<int>(at), row + line, cells[at],
-                    at + 1 < cells.size() && cells[at + 1].empty() ? 2 : 1);
-            }
+    for (int row = cells.top + 1; row < bottom; ++row) {
+        Put(row, cells.left, down, 1, look);
+        Put(row, right, down, 1, look);
+    }
+    Put(cells.top, cells.left, left_top, 1, look);
+    Put(cells.top, right, right_top, 1, look);
+    Put(bottom, cells.left, left_bottom, 1, look);
+    Put(bottom, right, right_bottom, 1, look);
+}
+
+void Canvas::PointAt(int row, int column) {
+    cursor_ = {row, column};
+}
+
+void Canvas::Lay(int row, int column, const Canvas& from, const Cells& part) {
+    for (int line = part.top; line < std::min(part.top + part.rows, from.rows()); ++line) {
+        const int end = std::min(part.left + part.columns, from.columns());
+        for (int at = part.left; at < end; ++at) {
+            const Cell& cell = from.At(line, at);
+            const bool wide = at + 1 < from.columns() && from.At(line, at + 1).glyph.empty();
+            const bool whole = !cell.glyph.empty() && (!wide || at + 1 < end);
+            Put(row + line - part.top, column + at - part.left, whole ? std::string_view(cell.glyph) : " ",
+                whole && wide ? 2 : 1, cell.look);
+            at += whole && wide ? 1 : 0;
         }
     }
+    if (from.cursor_ && part.Has(from.cursor_->column, from.cursor_->row)) {
+        PointAt(row + from.cursor_->row - part.top, column + from.cursor_->column - part.left);
+    }
 }
 
-std::vector<std::string> Canvas::Lines() const {
+std::vector<std::string> Canvas::Lines(Charset charset) const {
     std::vector<std::string> lines;
-    for (const Row& cells : cells_) {
+    for (const auto& cells : cells_) {
         std::string& line = lines.emplace_back();
-        for (const std::string& cell : cells) {
-            line += cell;
+        for (const Cell& cell : cells) {
+            line += GlyphIn(charset, cell.glyph);
         }
         line.resize(line.find_last_not_of(' ') + 1);
     }

@@ -8,8 +8,9 @@
 namespace host {
 namespace {
 
-std::string StateOf(const Control& control) {
-    std::string state = control.enabled ? "enabled" : "disabled";
+// What it holds, after a comma; empty if it holds nothing.
+std::string ContentOf(const Control& control) {
+    std::string state;
     if (control.kind == Kind::Check) {
         state += control.checked ? ", checked" : ", not checked";
     }
@@ -30,6 +31,21 @@ std::string StateOf(const Control& control) {
         state += ", " + std::to_string(control.rows.size()) + (control.rows.size() == 1 ? " row" : " rows");
     }
     return state;
+}
+
+// The lines below a control's own.
+Lines RowsOf(const Control& control) {
+    Lines lines;
+    if (control.kind == Kind::List) {
+        lines = control.items;
+    }
+    for (const auto& cells : control.rows) {
+        std::string& row = lines.emplace_back();
+        for (std::size_t cell = 0; cell < cells.size(); ++cell) {
+            row += (cell ? " | " : "") + cells[cell];
+        }
+    }
+    return lines;
 }
 
 } // namespace
@@ -72,21 +88,39 @@ Lines ListControls(const Window& window) {
         const std::string name = CallName(window, control);
         lines.push_back(std::string(id.size() < 6 ? 6 - id.size() : 0, ' ') + id + "  " +
                         PaddedTo(KindName(control.kind), 6) + "  " + PaddedTo(Quoted(name), 30) + "  " +
-                        StateOf(control));
-        const auto row_of = [&](const std::vector<std::string>& cells) {
-            std::string row = std::string(16, ' ');
-            for (std::size_t cell = 0; cell < cells.size(); ++cell) {
-                row += (cell ? " | " : "") + cells[cell];
-            }
-            lines.push_back(row);
-        };
-        if (control.kind == Kind::List) {
-            for (const std::string& item : control.items) {
-                row_of({item});
-            }
+                        (control.enabled ? "enabled" : "disabled") + ContentOf(control));
+        for (const std::string& row : RowsOf(control)) {
+            lines.push_back(std::string(16, ' ') + row);
         }
-        for (const auto& row : control.rows) {
-            row_of(row);
+    }
+    return lines;
+}
+
+Lines ListWindow(const Window& window) {
+    Lines lines = {window.title + (window.page.empty() ? "" : ", page " + window.page)};
+    if (window.kind == WindowKind::Box) {
+        lines.push_back(BoxText(window));
+    }
+    const Control* group = nullptr;
+    for (const Control& control : window.controls) {
+        const auto around = std::ranges::find_if(
+            window.controls, [&](const Control& other) { return IsInside(control, other); });
+        const Control* const own = around != window.controls.end() ? &*around : nullptr;
+        const bool told = control.kind == Kind::Label &&
+                          (window.kind == WindowKind::Box || LabelledBy(window, control) != nullptr);
+        if (control.kind == Kind::Group || told) {
+            continue;
+        }
+        if (own != group && own != nullptr) {
+            lines.push_back("group " + Shown(own->text));
+        }
+        group = own;
+        const std::string indent(group != nullptr ? 2 : 0, ' '), name = CallName(window, control);
+        lines.push_back(indent + KindName(control.kind) + (name.empty() ? "" : ' ' + name) +
+                        ContentOf(control) + (control.enabled ? "" : ", disabled") +
+                        (control.changed ? ", not stored" : ""));
+        for (const std::string& row : RowsOf(control)) {
+            lines.push_back(indent + "  " + row);
         }
     }
     return lines;

@@ -16,20 +16,6 @@ bool IsCalledByLabel(const Control& control) {
            control.kind == Kind::Table;
 }
 
-// The control that a label belongs to: the next one to the right of it on its line.
-const Control* LabelledBy(const Window& window, const Control& label) {
-    constexpr int line = 6; // dialog units between the middles of controls on one line
-    const Control* nearest = nullptr;
-    for (const Control& control : window.controls) {
-        if (!control.of_frame && IsCalledByLabel(control) && control.area.x > label.area.x &&
-            std::abs(control.area.Middle() - label.area.Middle()) <= line &&
-            (nearest == nullptr || control.area.x < nearest->area.x)) {
-            nearest = &control;
-        }
-    }
-    return nearest;
-}
-
 std::string Numbered(const Window& window, const std::vector<const Control*>& controls) {
     std::string list;
     for (const Control* control : controls) {
@@ -42,6 +28,19 @@ std::string Numbered(const Window& window, const std::vector<const Control*>& co
 }
 
 } // namespace
+
+const Control* LabelledBy(const Window& window, const Control& label) {
+    constexpr int line = 6; // dialog units between the middles of controls on one line
+    const Control* nearest = nullptr;
+    for (const Control& control : window.controls) {
+        if (!control.of_frame && IsCalledByLabel(control) && control.area.x > label.area.x &&
+            std::abs(control.area.Middle() - label.area.Middle()) <= line &&
+            (nearest == nullptr || control.area.x < nearest->area.x)) {
+            nearest = &control;
+        }
+    }
+    return nearest;
+}
 
 std::string CallName(const Window& window, const Control& control) {
     if (!IsCalledByLabel(control)) {

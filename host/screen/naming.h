@@ -19,6 +19,9 @@ struct Refusal : std::runtime_error {
 // Empty for a list without a label.
 std::string CallName(const Window& window, const Control& control);
 
+// The control that a label belongs to: the next one to the right of it on its line; null if there is none.
+const Control* LabelledBy(const Window& window, const Control& label);
+
 // The control that `name` means; throws Refusal if there is none, or more than one. A page's control takes
 // precedence over a button of the sheet with the same caption.
 const Control& FindControl(const Window& window, std::string_view name);

@@ -221,6 +221,37 @@ Window ReadWindow(HWND handle, bool box) {
     return window;
 }
 
+void MarkChanged(Window& window, std::optional<Window>& stored) {
+    const auto same = [](const Control& one, const Control& other) {
+        const auto item = [](const Control& control) {
+            const auto selected = static_cast<std::size_t>(control.selection);
+            return control.selection >= 0 && selected < control.items.size() ? control.items[selected] : "";
+        };
+        return one.checked == other.checked && one.position == other.position && item(one) == item(other);
+    };
+    if (stored) {
+        for (Control& control : window.controls) {
+            const auto before = std::ranges::find(stored->controls, control.window, &Control::window);
+            const bool changed = before != stored->controls.end() && !same(*before, control);
+            if (changed && control.kind == Kind::List) {
+                stored.reset();
+                break;
+            }
+            control.changed = changed;
+        }
+    }
+    if (!stored) {
+        std::ranges::for_each(window.controls, [](Control& control) { control.changed = false; });
+        stored = window;
+    }
+}
+
+bool IsInside(const Control& control, const Control& group) {
+    return group.kind == Kind::Group && &control != &group && control.area.x >= group.area.x &&
+           control.area.x < group.area.x + group.area.cx && control.area.Middle() > group.area.y &&
+           control.area.Middle() < group.area.y + group.area.cy;
+}
+
 std::string BoxText(const Window& box) {
     std::string text;
     for (const Control& control : box.controls) {

@@ -38,6 +38,7 @@ struct Control {
     bool focused = false;
     bool is_default = false; // a button that Enter presses
     bool dropped = false;    // a combo whose list is open
+    bool changed = false;    // holds something else than what is stored
     bool of_frame = false;   // a button of the sheet itself, not of its page
     bool right_aligned = false;
     bool checked = false;
@@ -64,6 +65,14 @@ struct Window {
 
 // `box` says that the window is a message box. A sheet is recognised by its page.
 Window ReadWindow(HWND window, bool box);
+
+// Marks the controls that differ from what the window showed when it last showed what is stored: when it was
+// opened, and since another entry was chosen in a list of it. `stored` is that window and is taken anew if it
+// is empty; its owner empties it when something has been stored.
+void MarkChanged(Window& window, std::optional<Window>& stored);
+
+// Whether the control is in that group.
+bool IsInside(const Control& control, const Control& group);
 
 // The captions of its buttons, as shown, separated by commas.
 std::string ButtonNames(const Window& window);

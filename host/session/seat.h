@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "host/screen/canvas.h"
+
 namespace host {
 
 class Session;
@@ -33,6 +35,8 @@ public:
 
     // The columns of a line; 0 for any number.
     virtual int Width() const = 0;
+    // What it can show of frames.
+    virtual Charset Letters() const = 0;
 
     // Whether the session may end although its changes are not saved. A person is asked.
     virtual bool MayDiscard() = 0;

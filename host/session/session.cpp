@@ -5,8 +5,8 @@
 #include <filesystem>
 #include <iterator>
 
-#include "host/screen/drawing.h"
 #include "host/screen/hand.h"
+#include "host/screen/painter.h"
 #include "host/session/command.h"
 #include "host/text.h"
 
@@ -279,12 +279,16 @@ void Session::Open(const DeviceRecord& device) {
 }
 
 void Session::Show() {
-    Front(); // throws if there is none
-    std::vector<Window> windows;
-    for (const OpenWindow& window : windows_) {
-        windows.push_back(Read(window.handle));
+    constexpr std::string_view before = "  |";
+    const int width = Width() != 0 ? Width() : 80;
+    Tell(Picture(Front(), width - static_cast<int>(before.size()), seat_.Letters()), before.data());
+    TellBehind();
+}
+
+void Session::TellBehind() {
+    for (std::size_t below = windows_.size() - 1; below-- > 0;) {
+        Tell("  behind: " + windows_[below].told);
     }
-    Tell(Draw(windows), "  |");
 }
 
 // --- Output ---

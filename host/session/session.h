@@ -106,7 +106,9 @@ public:
     // No control character gets through, whatever a machine contains.
     void Tell(std::string_view line);
     void Tell(const Lines& lines, const char* before = "");
+    // The window in front as a picture, and those behind it by their names.
     void Show();
+    void TellBehind();
     int Width() const { return seat_.Width(); }
 
     // Goes on with the lines of a file, and returns at its end. Throws Refusal.

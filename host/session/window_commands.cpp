@@ -1,4 +1,3 @@
-#include "host/screen/drawing.h"
 #include "host/screen/hand.h"
 #include "host/screen/listing.h"
 #include "host/session/command.h"
@@ -37,9 +36,7 @@ void Show(Session& session, const Words&) {
 
 void Controls(Session& session, const Words&) {
     session.Tell(ListControls(session.Front()));
-    for (std::size_t below = session.windows().size() - 1; below-- > 0;) {
-        session.Tell("  behind: " + session.windows()[below].told);
-    }
+    session.TellBehind();
 }
 
 void PickItem(Session& session, const Words& words) {

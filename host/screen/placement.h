@@ -5,17 +5,13 @@
 #include <string>
 #include <vector>
 
+#include "host/screen/canvas.h"
 #include "host/screen/screen.h"
 
 namespace host {
 
-// A rectangle of character cells.
-struct Cells {
-    int left = 0, top = 0, columns = 0, rows = 0;
-    bool Has(int column, int row) const {
-        return column >= left && column < left + columns && row >= top && row < top + rows;
-    }
-};
+// On a smaller terminal nothing can be operated.
+constexpr int fewest_columns = 40, fewest_rows = 10;
 
 struct Placed {
     const Control* control = nullptr;
@@ -24,8 +20,9 @@ struct Placed {
 
 struct Placement {
     int columns = 0, rows = 0;     // with the window's frame, which is one cell wide
+    int head = 1, foot = 1;        // the rows at the top and the bottom that do not scroll
     std::vector<Placed> controls;  // groups before the controls in them
-    std::vector<std::string> text; // of a message box, from the second row on
+    std::vector<std::string> text; // of a message box, below its head
 };
 
 // The fewest columns that show all of a control; `close` if there is no room for spacing.
@@ -33,7 +30,7 @@ int ColumnsFor(const Control& control, bool close = false);
 int ColumnsForTableColumn(const Control& table, std::size_t column);
 
 // Places a window within that many columns and rows. If even the closest placing needs more, that one is
-// returned. The window must outlive it.
+// returned, with the controls of its head and foot within these columns. The window must outlive it.
 Placement PlaceWindow(const Window& window, int columns, int rows);
 
 } // namespace host

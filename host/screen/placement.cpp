@@ -1,9 +1,8 @@
-#include "host/full_screen/placement.h"
+#include "host/screen/placement.h"
 
 #include <algorithm>
 #include <cmath>
 #include <map>
-#include <set>
 
 #include "host/text.h"
 
@@ -26,12 +25,6 @@ bool ShareRows(const Control& left, const Control& right) {
         return HasFrame(one) ? one.area.y + one.area.cy : one.area.Middle();
     };
     return top(left) <= bottom(right) + same_row && top(right) <= bottom(left) + same_row;
-}
-
-bool IsInside(const Control& control, const Control& group) {
-    return group.kind == Kind::Group && &control != &group && control.area.x >= group.area.x &&
-           control.area.x < group.area.x + group.area.cx && control.area.Middle() > group.area.y &&
-           control.area.Middle() < group.area.y + group.area.cy;
 }
 
 // A label that is tall enough for a second line gets two rows, and so needs fewer columns.
@@ -149,8 +142,6 @@ class Down {
 public:
     Down(const std::vector<const Control*>& controls, double scale) {
         std::map<int, const Control*> lists; // by their lower edges
-        std::set<int> tall;                  // heights of the labels with two rows
-        int free = 0;                        // the row after the last one taken
         for (const Control* control : controls) {
             const Area& area = control->area;
             if (HasFrame(*control)) {
@@ -166,15 +157,14 @@ public:
         for (auto& [height, row] : rows_) {
             if (last_ < 0 || height - first > same_row) {
                 first = height;
-                last_ =
-                    std::max(free, static_cast<int>(std::lround((height - rows_.begin()->first) * scale)));
+                last_ = std::max(last_ + 1,
+                                 static_cast<int>(std::lround((height - rows_.begin()->first) * scale)));
             }
             if (const auto list = lists.find(height); list != lists.end()) {
                 const int heading = list->second->kind == Kind::Table ? 1 : 0;
                 last_ = std::max(last_, rows_.at(list->second->area.y) + fewest_items + heading + 1);
             }
             row = last_;
-            free = std::max(free, last_ + 1 + static_cast<int>(tall.count(height)));
         }
     }
     int rows() const { return last_ + 1; }
@@ -198,38 +188,62 @@ Along Fit(const std::vector<const Control*>& controls, double widest, int (Along
     return Along(controls, 0);
 }
 
-// Places buttons in a row, at the right or in the middle.
+// Places buttons in the row, at the right or in the middle, within that many columns.
 void PlaceButtons(Placement& placement, const std::vector<const Control*>& buttons, int row, int edge,
-                  bool in_the_middle) {
-    int columns = -2;
-    for (const Control* button : buttons) {
-        columns += std::max(12, ColumnsFor(*button)) + 2;
+                  bool in_the_middle, int most) {
+    struct Spacing {
+        int fewest, between;
+        bool close;
+    };
+    int columns = 0, between = 0;
+    std::vector<int> wide;
+    for (const Spacing& spacing : {Spacing{12, 2, false}, {0, 1, false}, {0, 1, true}}) {
+        wide.clear();
+        columns = -spacing.between;
+        between = spacing.between;
+        for (const Control* button : buttons) {
+            wide.push_back(std::max(spacing.fewest, ColumnsFor(*button, spacing.close)));
+            columns += wide.back() + between;
+        }
+        if (columns + 2 * edge <= most) {
+            break;
+        }
     }
     placement.columns = std::max(placement.columns, columns + 2 * edge);
-    int left = in_the_middle ? (placement.columns - columns) / 2 : placement.columns - edge - columns;
-    for (const Control* button : buttons) {
-        const int width = std::max(12, ColumnsFor(*button));
-        placement.controls.push_back({button, {left, row, width, 1}});
-        left += width + 2;
+    const int all = std::min(placement.columns, most);
+    int left = std::max(1, in_the_middle ? (all - columns) / 2 : all - edge - columns);
+    for (std::size_t index = 0; index < buttons.size(); ++index) {
+        placement.controls.push_back({buttons[index], {left, row, wide[index], 1}});
+        left += wide[index] + between;
     }
 }
 
-Placement PlaceBox(const Window& box, int columns) {
+// Room for a title in its frame, as far as there is any.
+int ColumnsForTitle(const Window& window, int most) {
+    return std::min(Columns(Escaped(window.title)) + 6, most);
+}
+
+Placement PlaceBox(const Window& box, int columns, int rows) {
     constexpr int edge = wide_edge;
     Placement placement;
     placement.text = BrokenAt(BoxText(box), std::min(64, columns - 2 * edge));
-    placement.columns = Columns(box.title) + 2 + 2 * edge;
-    for (const std::string& line : placement.text) {
+    placement.columns = ColumnsForTitle(box, columns);
+    for (std::string& line : placement.text) {
+        line = Escaped(line);
         placement.columns = std::max(placement.columns, Columns(line) + 2 * edge);
     }
-    placement.rows = static_cast<int>(placement.text.size()) + 6;
+    const int lines = static_cast<int>(placement.text.size());
+    const int blank = lines + 5 <= rows ? 1 : 0; // before and after the text
+    placement.head = 1 + blank;
+    placement.foot = 2 + blank;
+    placement.rows = lines + placement.head + placement.foot;
     std::vector<const Control*> buttons;
     for (const Control& control : box.controls) {
         if (control.kind == Kind::Button) {
             buttons.push_back(&control);
         }
     }
-    PlaceButtons(placement, buttons, placement.rows - 3, edge, true);
+    PlaceButtons(placement, buttons, placement.rows - 2, edge, true, columns);
     return placement;
 }
 
@@ -241,6 +255,7 @@ int ColumnsFor(const Control& control, bool close) {
     case Kind::Button:
         return text + (close ? 2 : 4);
     case Kind::Check:
+        return text + 3; // its mark stands before the caption
     case Kind::Group:
         return text + 4;
     case Kind::Label:
@@ -257,7 +272,7 @@ int ColumnsFor(const Control& control, bool close) {
         return std::max(columns, 12);
     }
     case Kind::Slider:
-        return close ? 9 : 14;
+        return close ? 8 : 15; // with the mark of a changed one
     }
     return text;
 }
@@ -272,20 +287,20 @@ int ColumnsForTableColumn(const Control& table, std::size_t column) {
 
 Placement PlaceWindow(const Window& window, int columns, int rows) {
     if (window.kind == WindowKind::Box) {
-        return PlaceBox(window, columns);
+        return PlaceBox(window, columns, rows);
     }
     constexpr double natural_columns = 0.39, natural_rows = 1.0 / 8; // per dialog unit, if there is room
     std::vector<const Control*> inside, of_frame;
     for (const Control& control : window.controls) {
         (control.of_frame ? of_frame : inside).push_back(&control);
     }
-    const int heading = of_frame.empty() ? 1 : 2, footing = of_frame.empty() ? 1 : 2;
+    Placement placement;
+    placement.head = placement.foot = of_frame.empty() ? 1 : 2;
     const auto across = Fit<Across>(inside, natural_columns, &Across::columns, columns - 2 * wide_edge);
     const int edge = across.columns() <= columns - 2 * wide_edge ? wide_edge : 1;
-    const auto down = Fit<Down>(inside, natural_rows, &Down::rows, rows - heading - footing);
-    Placement placement;
-    placement.columns = std::max(across.columns() + 2 * edge, Columns(window.title) + 6);
-    placement.rows = down.rows() + heading + footing;
+    const auto down = Fit<Down>(inside, natural_rows, &Down::rows, rows - placement.head - placement.foot);
+    placement.columns = std::max(across.columns() + 2 * edge, ColumnsForTitle(window, columns));
+    placement.rows = down.rows() + placement.head + placement.foot;
     for (const bool groups : {true, false}) {
         for (const Control* control : inside) {
             if ((control->kind == Kind::Group) != groups) {
@@ -297,11 +312,11 @@ Placement PlaceWindow(const Window& window, int columns, int rows) {
             const int bottom =
                 HasFrame(*control) ? down.At(area.y + area.cy) : top + (IsTall(*control) ? 1 : 0);
             placement.controls.push_back(
-                {control, {left + edge, top + heading, end - left + 1, bottom - top + 1}});
+                {control, {left + edge, top + placement.head, end - left + 1, bottom - top + 1}});
             placement.columns = std::max(placement.columns, end + 1 + 2 * edge);
         }
     }
-    PlaceButtons(placement, of_frame, placement.rows - 2, edge, false);
+    PlaceButtons(placement, of_frame, placement.rows - 2, edge, false, columns);
     return placement;
 }
 
