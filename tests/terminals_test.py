@@ -90,7 +90,7 @@ class Terminals(unittest.TestCase):
                 terminal.wait("UART Feature")
                 terminal.settle()
                 begun, seen = time.monotonic(), len(terminal.raw)
-                os.write(terminal.child.fd, b"\x1b")  # at once, other than press()
+                os.write(terminal.child.child_fd, b"\x1b")  # at once, other than press()
                 while len(terminal.raw) == seen:
                     terminal.read(0.001)
                 times.append((time.monotonic() - begun) * 1000)
