@@ -25,7 +25,7 @@
 namespace host {
 namespace {
 
-constexpr int escape_wait = 25; // milliseconds within which what follows an Esc belongs to it
+constexpr int escape_wait = 20; // milliseconds within which what follows an Esc belongs to it
 constexpr const char* follow_the_mouse = "\033[?1002h";
 constexpr const char* leave_the_mouse = "\033[?1006l\033[?1002l\033[?1000l";
 
@@ -150,7 +150,6 @@ Terminal::Terminal() : charset_(HasUnicode() ? Charset::Utf8 : Charset::Ascii) {
         use_default_colors();
         init_pair(colour_frame, COLOR_CYAN, -1);
         init_pair(colour_title, COLOR_WHITE, COLOR_BLUE);
-        init_pair(colour_mark, COLOR_BLACK, COLOR_CYAN);
         init_pair(colour_hot_key, COLOR_YELLOW, -1);
     }
     if (!Capability("kmous").empty()) {

@@ -24,7 +24,7 @@ struct Look {
     bool underlined = false;
     bool operator==(const Look&) const = default;
 };
-constexpr int colour_frame = 1, colour_title = 2, colour_mark = 3, colour_hot_key = 4;
+constexpr int colour_frame = 1, colour_title = 2, colour_hot_key = 3;
 
 struct Cell {
     std::string glyph = " "; // a character with its combining marks; empty for the right half of a wide one

@@ -112,10 +112,12 @@ Lines ListWindow(const Window& window) {
             continue;
         }
         if (own != group && own != nullptr) {
-            lines.push_back("group " + Shown(own->text));
+            lines.push_back("group" + (own->text.empty() ? "" : ' ' + Shown(own->text)));
         }
         group = own;
-        const std::string indent(group != nullptr ? 2 : 0, ' '), name = CallName(window, control);
+        const std::string indent(group != nullptr ? 2 : 0, ' ');
+        std::string name = CallName(window, control);
+        name.resize(name.size() - (name.ends_with(':') ? 1 : 0));
         lines.push_back(indent + KindName(control.kind) + (name.empty() ? "" : ' ' + name) +
                         ContentOf(control) + (control.enabled ? "" : ", disabled") +
                         (control.changed ? ", not stored" : ""));

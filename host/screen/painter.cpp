@@ -218,6 +218,7 @@ Cells ListOf(const Canvas& canvas, const Control& combo, const Cells& cells) {
 
 // How far to scroll until a stretch of cells is in sight, or if it is too long, one cell of it.
 int ScrollTo(int from, int length, int point, int view, int all) {
+    view = std::max(1, view);
     int scrolled = std::min(std::max(0, from + length - view), from);
     scrolled = std::clamp(scrolled, point - view + 1, point);
     return std::clamp(scrolled, 0, std::max(0, all - view));
@@ -273,10 +274,10 @@ int PositionAt(const Control& slider, const Cells& cells, int column) {
 }
 
 void MarkMore(Canvas& canvas, int row, int column, int rows, bool before, bool after) {
-    if (before) {
+    if (before && rows > 0) {
         canvas.Write(row, column, "^", 1, {false, true});
     }
-    if (after) {
+    if (after && rows > 0) {
         canvas.Write(row + rows - 1, column, "v", 1, {false, true});
     }
 }
