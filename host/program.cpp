@@ -73,16 +73,18 @@ struct Wish {
     std::string language; // as the user named it; empty for the language of the locale
     std::vector<std::string> commands;
     bool stop = false;
-    bool line = false; // at a prompt, even if the terminal could be filled
+    bool line = false;  // at a prompt, even if the terminal could be filled
+    bool plain = false; // windows are told as lists
 };
 
 int RunLines(World& world, const Wish& wish, LineSource& lines) {
-    LineSeat seat(lines, std::cout);
+    LineSeat seat(lines, std::cout, wish.plain);
     Session session(world, seat, wish.stop);
     if (seat.IsPerson()) {
-        session.Tell(
+        session.Tell(BrokenAt(
             world.Greeting() +
-            ": devices lists what can be opened, diagnose finds what is wrong, help lists the commands.");
+                ": devices lists what can be opened, diagnose finds what is wrong, help lists the commands.",
+            session.Columns()));
     }
     int failed = session.Run();
     if (!seat.IsPerson() && !seat.had_input()) {
@@ -117,14 +119,14 @@ int Run(const Wish& wish, OpenLines open_console, OpenScreen open_screen) {
         }
         return RunLines(*world, wish, *LinesOf(commands));
     }
-    if (!wish.line) {
+    if (!wish.line && !wish.plain) {
         std::string reason;
         if (const std::unique_ptr<Seat> screen = open_screen(reason)) {
             Session(*world, *screen).Run();
             return sound;
         }
         if (!reason.empty()) {
-            std::cout << reason << '\n';
+            std::cout << Escaped(reason) << '\n';
         }
     }
     return RunLines(*world, wish, *open_console());
@@ -167,6 +169,8 @@ int RunProgram(int argc, char** argv, OpenLines open_console, OpenScreen open_sc
         ->expected(1)
         ->take_all();
     app.add_flag("--line", wish.line, "commands at a prompt instead of the full screen");
+    app.add_flag("--plain", wish.plain,
+                 "the same, and windows are told as lists, for those who hear the screen");
     app.add_flag("--stop", wish.stop, "end at the first command that fails");
 
     std::string other;

@@ -52,24 +52,17 @@ bool IsWalked(const Model& model, const ChannelRecord& channel) {
 
 // --- What a UART can do ---
 
-struct Mode {
-    unsigned long mode, needed; // of UartCapability
-    const char* name;
-};
-constexpr Mode modes[] = {
-    {1, 0x01, "RS-232"}, {2, 0x02, "RS-422"}, {4, 0x0C, "RS-485"}, {6, 0x2E, "Auto RS-422/485"}};
-
 std::string WrongMode(unsigned long mode, unsigned long capability) {
-    const auto* const known = std::ranges::find(modes, mode, &Mode::mode);
-    if (known == std::end(modes)) {
+    const std::optional<unsigned long> needed = NeededBy(mode);
+    if (!needed) {
         return "UartMode is " + std::to_string(mode) + ", which is no mode";
     }
-    if ((capability & known->needed) == known->needed) {
+    if ((capability & *needed) == *needed) {
         return {};
     }
     char digits[24];
     std::snprintf(digits, sizeof digits, "0x%02lX", capability);
-    return std::string{"UartMode is "} + known->name + ", which UartCapability " + digits + " does not allow";
+    return "UartMode is " + ModeName(mode) + ", which UartCapability " + digits + " does not allow";
 }
 
 // The levels of the receive FIFO: 1, and 4, 8 and 14 sixteenths of its size.

@@ -1,6 +1,8 @@
 #include "host/diagnosis/published_values.h"
 
+#include <algorithm>
 #include <initializer_list>
+#include <iterator>
 
 namespace host {
 namespace {
@@ -59,6 +61,13 @@ constexpr PublishedValue own_name[] = {{"PortName", port_name}};
 // By channel class, from 1.
 constexpr Values of_class[] = {uart, dio, mcp251x, mcp251x_fd, can};
 
+struct Mode {
+    unsigned long mode, needed; // of UartCapability
+    const char* name;
+};
+constexpr Mode modes[] = {
+    {1, 0x01, "RS-232"}, {2, 0x02, "RS-422"}, {4, 0x0C, "RS-485"}, {6, 0x2E, "Auto RS-422/485"}};
+
 std::vector<ValueFault> FaultsOf(const StoreValues& store, std::initializer_list<Values> lists) {
     std::vector<ValueFault> faults;
     for (const Values& list : lists) {
@@ -105,6 +114,16 @@ std::string ToldShortly(const std::vector<ValueFault>& faults) {
         told += "; and " + std::to_string(faults.size() - most) + " more";
     }
     return told;
+}
+
+std::string ModeName(unsigned long mode) {
+    const auto* const known = std::ranges::find(modes, mode, &Mode::mode);
+    return known == std::end(modes) ? std::to_string(mode) : known->name;
+}
+
+std::optional<unsigned long> NeededBy(unsigned long mode) {
+    const auto* const known = std::ranges::find(modes, mode, &Mode::mode);
+    return known == std::end(modes) ? std::nullopt : std::optional(known->needed);
 }
 
 std::string WhyNoPage(Role role, const StoreValues& store) {

@@ -2,6 +2,7 @@
 // too long makes its whole device unreadable for the pages.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -37,6 +38,11 @@ std::vector<ValueFault> PortFaults(const StoreValues& store);
 // "UartMode is missing; ChlNumber is too long: ...". If there are many, the first ones and how many more
 // there are.
 std::string ToldShortly(const std::vector<ValueFault>& faults);
+
+// The name of an electrical interface, a UartMode; its number if it is none.
+std::string ModeName(unsigned long mode);
+// The bits of UartCapability that a mode needs; nothing if it is no mode.
+std::optional<unsigned long> NeededBy(unsigned long mode);
 
 // Why the library has no page for a device with a sheet; empty if it has one.
 std::string WhyNoPage(Role role, const StoreValues& store);

@@ -34,13 +34,6 @@ std::string MendingOf(const Finding& finding) {
     return "not safe without a look, by hand: " + finding.remedy + "; or: " + finding.command;
 }
 
-void AddFinding(Lines& lines, const Finding& finding) {
-    Add(lines, Escaped(finding.sentence));
-    for (const std::string& line : BrokenAt(Escaped(MendingOf(finding)), columns - 4)) {
-        lines.push_back(indent + line);
-    }
-}
-
 void AddMissing(Lines& lines, const Records& records) {
     for (const MissingPlace& missing : MissingPlaces(records.known)) {
         Add(lines, std::string{"not known: "} + missing.name +
@@ -93,11 +86,20 @@ std::string SoundLine(const Sound& sound) {
 
 } // namespace
 
+Lines FindingLines(const Finding& finding) {
+    Lines lines;
+    Add(lines, Escaped(finding.sentence));
+    for (const std::string& line : BrokenAt(Escaped(MendingOf(finding)), columns - 4)) {
+        lines.push_back(indent + line);
+    }
+    return lines;
+}
+
 Lines DiagnosisLines(const Records& records, const std::vector<Finding>& findings) {
     Lines lines;
     AddMissing(lines, records);
     for (const Finding& finding : findings) {
-        AddFinding(lines, finding);
+        std::ranges::copy(FindingLines(finding), std::back_inserter(lines));
     }
     Add(lines, SoundLine(SoundOf(records, findings)));
     return lines;
@@ -163,7 +165,7 @@ Lines NumberLines(const Records& records, unsigned long number) {
     place("settings line", SettingsPlace, settings);
     const std::vector<Finding> own = FindingsOf(Diagnose(records), number, records);
     for (const Finding& finding : own) {
-        AddFinding(lines, finding);
+        std::ranges::copy(FindingLines(finding), std::back_inserter(lines));
     }
     if (own.empty()) {
         lines.push_back(ComName(number) + ": nothing is wrong with what is known of it.");

@@ -16,6 +16,9 @@ std::vector<std::string> DiagnosisLines(const Records& records, const std::vecto
 std::string DiagnosisJson(const Records& records, const std::vector<Finding>& findings,
                           const std::string& machine);
 
+// One finding with what mends it.
+std::vector<std::string> FindingLines(const Finding& finding);
+
 // All that is known about one number, place by place.
 std::vector<std::string> NumberLines(const Records& records, unsigned long number);
 

@@ -35,6 +35,11 @@ std::string KeyName(const Key& key) {
 } // namespace
 
 bool FrontWindow::Draw(Canvas& canvas, Session& session, const Cells& within, int beside) {
+    // What has been stored is no longer a change.
+    if (std::exchange(actions_, session.actions().size()) != session.actions().size()) {
+        stored_.clear();
+    }
+    std::erase_if(stored_, [](const auto& window) { return !IsOpen(window.first); });
     std::vector<Painted> windows;
     bool is_free = true;
     const int most_rows = canvas.rows() - within.top - 1;
@@ -44,6 +49,7 @@ bool FrontWindow::Draw(Canvas& canvas, Session& session, const Cells& within, in
         }
         Painted painted;
         painted.window = session.Read(window.handle);
+        MarkChanged(painted.window, stored_[window.handle]);
         // Beside the devices and above the journal if there is room, otherwise over them.
         for (const auto& [columns, rows] : {std::pair{within.columns - beside, within.rows},
                                             {within.columns, within.rows},

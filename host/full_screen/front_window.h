@@ -1,6 +1,8 @@
 // The open windows on the terminal, and what keys and the mouse do to the one in front.
 #pragma once
 
+#include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,7 +34,9 @@ private:
 
     Painted front_;
     Turned turned_;
-    HWND dragged_ = nullptr; // the slider that the mouse holds
+    std::map<HWND, std::optional<Window>> stored_; // each window as it showed what is stored
+    std::size_t actions_ = 0;                      // the session's then
+    HWND dragged_ = nullptr;                       // the slider that the mouse holds
 };
 
 } // namespace host

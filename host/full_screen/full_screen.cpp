@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
+#include "host/diagnosis/board_table.h"
 #include "host/diagnosis/report.h"
-#include "host/full_screen/text_view.h"
+#include "host/full_screen/numbers_view.h"
 #include "host/session/completion.h"
 #include "host/text.h"
 
@@ -14,7 +15,7 @@ namespace {
 constexpr int small_screen = 100; // columns
 constexpr int low_screen = 40;    // rows
 
-constexpr char leave = 'C', repaint = 'L', save = 'S'; // with Ctrl
+constexpr char leave = 'C', save = 'S', numbers = 'N', board = 'B'; // with Ctrl
 
 bool IsControl(const Event& event, char letter) {
     return event.kind == Event::Kind::Control && event.key.letter == static_cast<WCHAR>(letter);
@@ -24,6 +25,24 @@ bool IsControl(const Event& event, char letter) {
 std::string AsWord(const std::string& text) {
     return text.find(' ') == std::string::npos ? text : '"' + text + '"';
 }
+
+constexpr const char* help[] = {
+    "At the foot of the screen stands what the keys do at the moment; a click there does the same.",
+    "In a window they are Windows' own:",
+    "  Tab, Shift-Tab     the next or the previous control",
+    "  Alt and a letter   the control whose letter is underlined",
+    "  Space              checks a box, presses a button",
+    "  Enter              presses the button <in these>",
+    "  Esc                cancels",
+    "  arrows             move within a list, a slider, a group",
+    "  F4, Alt-Down       opens and closes a combo's list",
+    "  letters            find the item that begins with them; in the list of devices too",
+    "The mouse clicks, drags a slider, and turns its wheel over a list.",
+    "~ marks what is disabled, * what differs from what is stored, > the focus.",
+    "Ctrl-L repaints the screen, Ctrl-Z stops the program.",
+    "",
+    "Commands, typed after F6 or at the prompt of --line:",
+};
 
 } // namespace
 
@@ -81,12 +100,11 @@ Event FullScreen::NextEvent() {
 }
 
 void FullScreen::Done(const std::string& command) {
-    Lines told = std::exchange(told_, {});
+    const Lines told = std::exchange(told_, {});
     if (told.size() == 1 && Columns(told.front()) < terminal_.columns() - 2) {
         message_ = told.front();
     } else if (!told.empty()) {
-        view_ = std::make_unique<TextView>(command, told);
-        view_command_.clear();
+        ShowText(command, [told] { return std::vector<Paragraph>{{told, {}}}; });
     }
     Refresh();
 }
@@ -94,17 +112,21 @@ void FullScreen::Done(const std::string& command) {
 // --- Events ---
 
 std::string FullScreen::TakeCommon(const Event& event) {
+    const std::string device = std::to_string(devices_.Selected());
     if (IsControl(event, save)) {
         Save();
-        return {};
+    } else if (IsControl(event, numbers)) {
+        view_ = std::make_unique<NumbersView>(session_->world());
+    } else if (IsControl(event, board)) {
+        ShowText(
+            "The board of device " + device, [this, device] { return Board(device); }, 1);
     }
     if (event.kind == Event::Kind::Control) {
         return {};
     }
-    const std::string device = std::to_string(devices_.Selected());
     switch (event.function) {
     case 1:
-        ShowOutput("Keys and commands", "help");
+        ShowText("Help", [this] { return Help(); });
         break;
     case 2:
         ShowOutput("Ports", "ports", 1);
@@ -113,12 +135,12 @@ std::string FullScreen::TakeCommon(const Event& event) {
         ShowOutput("The store of device " + device, "store " + device);
         break;
     case 5:
-        ShowJournal();
+        ShowText(tracing_ ? "The trace of the last action" : "Journal", [this] { return Journal(); });
         break;
     case 6:
         return AskLine("command: ", {}, true).value_or("");
     case 7:
-        ShowFindings();
+        ShowText("What is wrong", [this] { return Findings(); });
         break;
     case 8:
         ShowOutput("What differs from the machine as it was read", "changes");
@@ -165,18 +187,39 @@ Lines FullScreen::OutputOf(const std::string& command) {
     return std::exchange(told_, std::move(before));
 }
 
+void FullScreen::ShowText(const std::string& title, TextView::Source source, std::size_t headings) {
+    view_ = std::make_unique<TextView>(title, std::move(source), headings);
+}
+
 void FullScreen::ShowOutput(const std::string& title, const std::string& command, std::size_t headings) {
-    view_ = std::make_unique<TextView>(title, OutputOf(command), headings);
+    ShowText(
+        title,
+        [this, command] {
+            return std::vector<Paragraph>{{OutputOf(command), {}}};
+        },
+        headings);
 }
 
-void FullScreen::ShowFindings() {
-    view_ = std::make_unique<TextView>("What is wrong", OutputOf("diagnose"));
+// Enter mends what is safe to mend, or else goes to the device.
+std::vector<Paragraph> FullScreen::Findings() {
+    const Records records = session_->world().Describe();
+    const std::vector<Finding> findings = Diagnose(records);
+    if (findings.empty()) {
+        return {{DiagnosisLines(records, findings), {}}};
+    }
+    std::vector<Paragraph> paragraphs;
+    for (const Finding& finding : findings) {
+        const bool opens = !finding.subject.open.empty() && !finding.safe;
+        paragraphs.push_back({FindingLines(finding), opens          ? "open " + AsWord(finding.subject.open)
+                                                     : finding.safe ? finding.command
+                                                                    : ""});
+    }
+    return paragraphs;
 }
 
-void FullScreen::ShowJournal() {
+std::vector<Paragraph> FullScreen::Journal() {
     if (tracing_) {
-        view_ = std::make_unique<TextView>("The trace of the last action", session_->Trace());
-        return;
+        return {{session_->Trace(), {}}};
     }
     std::vector<Paragraph> actions;
     for (const Action& action : session_->actions()) {
@@ -185,13 +228,38 @@ void FullScreen::ShowJournal() {
             actions.back().lines.push_back("  " + change);
         }
     }
-    view_ = std::make_unique<TextView>("Journal", std::move(actions));
+    return actions;
 }
 
-// Shows what has changed since the devices and the view were made.
+std::vector<Paragraph> FullScreen::Board(const std::string& device) {
+    const Records records = session_->world().Describe();
+    const BoardTable table = TableOfBoard(records, session_->FindDevice(device));
+    if (table.heading.empty()) {
+        return {{{"This device belongs to no board that has a page."}, {}}};
+    }
+    std::vector<Paragraph> paragraphs = {{{table.heading}, {}}};
+    for (const BoardTable::Row& row : table.rows) {
+        paragraphs.push_back({{row.line}, row.listed != 0 ? "open " + std::to_string(row.listed) : ""});
+    }
+    return paragraphs;
+}
+
+std::vector<Paragraph> FullScreen::Help() {
+    std::vector<Paragraph> paragraphs;
+    for (const char* const line : help) {
+        paragraphs.push_back({{line}, {}});
+    }
+    paragraphs.push_back({OutputOf("help"), {}});
+    return paragraphs;
+}
+
+// Shows what has changed since the devices and the view were read.
 void FullScreen::Refresh() {
     shown_actions_ = session_->actions().size();
     devices_.Read(session_->world());
+    if (view_) {
+        view_->Renew();
+    }
 }
 
 // --- Questions ---
@@ -363,24 +431,31 @@ std::vector<Hint> FullScreen::HintsHere() const {
                  {"/", "find", OfLetter('/')}};
     }
     const Hint everywhere[] = {
-        {"F1", "help", OfFunction(1)},    {"F7", "wrong", OfFunction(7)},
-        {"^S", "save", OfControl(save)},  {"F10", "end", OfFunction(10)},
-        {"F2", "ports", OfFunction(2)},   {"F3", "store", OfFunction(3)},
-        {"F5", "journal", OfFunction(5)}, {"F6", "command", OfFunction(6)},
-        {"F8", "changes", OfFunction(8)}, {"F9", tracing_ ? "journal" : "trace", OfFunction(9)}};
+        {"^N", "numbers", OfControl(numbers)}, {"^B", "board", OfControl(board)},
+
+        {"F1", "help", OfFunction(1)},         {"F7", "wrong", OfFunction(7)},
+        {"^S", "save", OfControl(save)},       {"F10", "end", OfFunction(10)},
+        {"F2", "ports", OfFunction(2)},        {"F3", "store", OfFunction(3)},
+        {"F5", "journal", OfFunction(5)},      {"F6", "command", OfFunction(6)},
+        {"F8", "changes", OfFunction(8)},      {"F9", tracing_ ? "journal" : "trace", OfFunction(9)}};
     hints.insert(hints.end(), std::begin(everywhere), std::end(everywhere));
     return hints;
 }
 
 void FullScreen::Draw(const std::string& question) {
+    const int columns = terminal_.columns();
+    if (columns < fewest_columns || terminal_.rows() < fewest_rows) {
+        canvas_ = Canvas(columns, terminal_.rows());
+        canvas_.Write(0, 0, "needs " + std::to_string(fewest_columns) + 'x' + std::to_string(fewest_rows),
+                      columns);
+        return terminal_.Show(canvas_);
+    }
     if (question.empty()) {
         hints_ = HintsHere();
     }
-    const int columns = terminal_.columns();
     placed_hints_ = PlaceHints(hints_, columns, std::max(1, terminal_.rows() / 8));
     foot_ = placed_hints_.empty() ? 1 : placed_hints_.back().cells.top + 1;
     canvas_ = Canvas(columns, terminal_.rows());
-    DrawTitle();
     const Cells body = Body();
     if (view_) {
         view_->Draw(canvas_, body);
@@ -400,6 +475,7 @@ void FullScreen::Draw(const std::string& question) {
             }
         }
     }
+    DrawTitle();
     DrawFoot(question);
     terminal_.Show(canvas_);
 }
@@ -450,11 +526,11 @@ void FullScreen::DrawFoot(const std::string& question) {
     // What is asked or has just been said stands above the hints.
     const std::string said = !message_.empty() ? ' ' + message_ : question;
     if (!message_.empty() && !question.empty()) {
-        canvas_.Write(first - 2, 0, ' ' + message_, columns, {false, true, false, colour_mark});
+        canvas_.Write(first - 2, 0, ' ' + message_, columns, {false, true, false, colour_title});
     }
     if (!said.empty()) {
         canvas_.Write(first - 1, 0, question.empty() ? said : question, columns,
-                      {false, true, false, colour_mark});
+                      {false, true, false, colour_title});
     }
 }
 

@@ -12,7 +12,7 @@
 #include "host/full_screen/device_list.h"
 #include "host/full_screen/front_window.h"
 #include "host/full_screen/hints.h"
-#include "host/full_screen/view.h"
+#include "host/full_screen/text_view.h"
 #include "host/session/seat.h"
 #include "host/session/session.h"
 
@@ -51,9 +51,12 @@ private:
 
     // --- Views
     Lines OutputOf(const std::string& command);
+    void ShowText(const std::string& title, TextView::Source source, std::size_t headings = 0);
     void ShowOutput(const std::string& title, const std::string& command, std::size_t headings = 0);
-    void ShowFindings();
-    void ShowJournal();
+    std::vector<Paragraph> Findings();
+    std::vector<Paragraph> Journal();
+    std::vector<Paragraph> Board(const std::string& device);
+    std::vector<Paragraph> Help();
     void Refresh();
 
     // --- Questions: a line that is typed, or nothing if its user thought better of it; one of some letters,
@@ -69,7 +72,6 @@ private:
     DeviceList devices_;
     FrontWindow front_;
     std::unique_ptr<View> view_;
-    std::string view_command_;             // that shows the same view anew
     std::string searched_;                 // what was looked for last
     std::size_t shown_actions_ = 0;        // the session's, when the devices were read
     bool tracing_ = false;                 // the pane shows the trace, not the journal

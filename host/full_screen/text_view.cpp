@@ -6,11 +6,18 @@
 
 namespace host {
 
-TextView::TextView(std::string title, std::vector<Paragraph> paragraphs, std::size_t headings)
-    : title_(std::move(title)) {
-    for (Paragraph& paragraph : paragraphs) {
+TextView::TextView(std::string title, Source source, std::size_t headings)
+    : title_(std::move(title)), source_(std::move(source)), heading_count_(headings) {
+    Renew();
+}
+
+void TextView::Renew() {
+    headings_.clear();
+    lines_.clear();
+    commands_.clear();
+    for (Paragraph& paragraph : source_()) {
         for (std::string& line : paragraph.lines) {
-            if (headings_.size() < headings) {
+            if (headings_.size() < heading_count_) {
                 headings_.push_back(std::move(line));
             } else {
                 lines_.push_back({std::move(line), commands_.size()});
@@ -18,13 +25,13 @@ TextView::TextView(std::string title, std::vector<Paragraph> paragraphs, std::si
         }
         commands_.push_back(std::move(paragraph.command));
     }
-    const auto first =
-        std::ranges::find_if(commands_, [](const std::string& command) { return !command.empty(); });
-    selected_ = static_cast<std::size_t>(first - commands_.begin());
+    const auto has_command = [](const std::string& command) { return !command.empty(); };
+    if (selected_ >= commands_.size() || commands_[selected_].empty()) {
+        selected_ =
+            static_cast<std::size_t>(std::ranges::find_if(commands_, has_command) - commands_.begin());
+    }
+    found_ = -1;
 }
-
-TextView::TextView(std::string title, const Lines& lines, std::size_t headings)
-    : TextView(std::move(title), {{lines, {}}}, headings) {}
 
 bool TextView::HasCommands() const {
     return selected_ < commands_.size();
@@ -139,8 +146,7 @@ View::Outcome TextView::Take(const Event& event, const Cells& within) {
 std::vector<Hint> TextView::Hints() const {
     std::vector<Hint> hints;
     if (HasCommands()) {
-        const bool opens = commands_[selected_].starts_with("open");
-        hints.push_back({"Enter", opens ? "open" : commands_[selected_], OfCode(VK_RETURN)});
+        hints.push_back({"Enter", commands_[selected_], OfCode(VK_RETURN)});
     }
     hints.push_back({"Esc", "back", OfCode(VK_ESCAPE)});
     hints.push_back({"Up/Down", HasCommands() ? "choose" : "move", OfCode(VK_DOWN)});

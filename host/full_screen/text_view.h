@@ -1,6 +1,8 @@
 // Lines of text, longer and wider than the screen. Some of them may stand for something that Enter does.
 #pragma once
 
+#include <functional>
+
 #include "host/full_screen/view.h"
 #include "host/session/session.h"
 
@@ -14,11 +16,12 @@ struct Paragraph {
 
 class TextView : public View {
 public:
-    // The first `headings` lines stay in sight.
-    TextView(std::string title, std::vector<Paragraph> paragraphs, std::size_t headings = 0);
-    TextView(std::string title, const Lines& lines, std::size_t headings = 0);
+    using Source = std::function<std::vector<Paragraph>()>;
+    // The source gives the text as it is now. Its first `headings` lines stay in sight.
+    TextView(std::string title, Source source, std::size_t headings = 0);
 
     std::string Title() const override;
+    void Renew() override;
     void Draw(Canvas& canvas, const Cells& within) override;
     Outcome Take(const Event& event, const Cells& within) override;
     std::vector<Hint> Hints() const override;
@@ -34,6 +37,8 @@ private:
     void Select(int step);
 
     std::string title_;
+    Source source_;
+    std::size_t heading_count_;
     Lines headings_;
     std::vector<Line> lines_;
     Lines commands_;                       // by paragraph

@@ -17,6 +17,8 @@ public:
     virtual ~View() = default;
 
     virtual std::string Title() const = 0;
+    // Shows the machine as it is now.
+    virtual void Renew() = 0;
     virtual void Draw(Canvas& canvas, const Cells& within) = 0;
 
     // What an event led to: a command to be carried out, if any.

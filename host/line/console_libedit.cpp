@@ -3,6 +3,8 @@
 #include <clocale>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
+#include <cstring>
 #include <iostream>
 
 #include <histedit.h>
@@ -80,6 +82,10 @@ public:
         winsize size{};
         return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
     }
+    bool IsPlain() const override {
+        const char* const terminal = std::getenv("TERM");
+        return terminal != nullptr && std::strcmp(terminal, "dumb") == 0;
+    }
     Charset Letters() const override { return HasUnicode() ? Charset::Utf8 : Charset::Ascii; }
     void CompleteBy(const Complete& complete) override { complete_ = complete; }
 
@@ -125,6 +131,11 @@ private:
 std::unique_ptr<LineSource> OpenConsole() {
     if (isatty(STDIN_FILENO) && isatty(STDOUT_FILENO)) {
         return std::make_unique<Terminal>();
+    }
+    if (isatty(STDIN_FILENO)) {
+        std::cerr
+            << "kvrhost: the output goes elsewhere; commands are read from here, one per line: help lists "
+               "them, Ctrl-D ends\n";
     }
     return LinesOf(std::cin);
 }

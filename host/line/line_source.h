@@ -25,6 +25,8 @@ public:
     // How wide the person's screen is; 0 if there is none or its width is not known.
     virtual int Width() const { return 0; }
 
+    // Whether that screen is known to place nothing.
+    virtual bool IsPlain() const { return false; }
     // What the person's screen can show of frames.
     virtual Charset Letters() const { return Charset::Utf8; }
 

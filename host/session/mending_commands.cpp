@@ -1,7 +1,9 @@
 // The commands that find what is wrong with a machine, mend it, and make a patch of the changes.
 #include <algorithm>
 
+#include "host/diagnosis/board_table.h"
 #include "host/diagnosis/mending.h"
+#include "host/diagnosis/number_map.h"
 #include "host/diagnosis/report.h"
 #include "host/machine_file/differences.h"
 #include "host/session/command.h"
@@ -54,6 +56,22 @@ void Diagnose(Session& session, const Words&) {
 
 void Why(Session& session, const Words& words) {
     session.Tell(NumberLines(session.world().Describe(), NumberOf(words[1])));
+}
+
+void Numbers(Session& session, const Words&) {
+    session.Tell(NumberMapLines(session.world().Describe(), session.Columns()));
+}
+
+void Board(Session& session, const Words& words) {
+    const DeviceRecord device = session.FindDevice(words[1]);
+    const BoardTable table = TableOfBoard(session.world().Describe(), device);
+    if (table.heading.empty()) {
+        throw Refusal(NameOf(device) + " belongs to no board that has a page");
+    }
+    session.Tell(table.heading);
+    for (const BoardTable::Row& row : table.rows) {
+        session.Tell(row.line);
+    }
 }
 
 void Free(Session& session, const Words& words) {
@@ -160,6 +178,8 @@ std::span<const Command> MendingCommands() {
         {"diagnose", "", "lists what is wrong with the ports and boards, worst first, and what mends it",
          &Diagnose},
         {"why", "NUMBER", "shows all that is known about one COM number", &Why},
+        {"numbers", "", "shows the 256 COM numbers as a map", &Numbers},
+        {"board", "DEVICE", "shows a board's channels with number, interface and FIFO levels", &Board},
         {"free", "NUMBER [--even-so]", "takes a number from the COM port database", &Free},
         {"claim", "NUMBER [--even-so]", "marks a number as in use there", &Claim},
         {"forget", "LINE [--even-so]", "deletes a settings line, such as COM44:", &Forget},

@@ -35,6 +35,8 @@ public:
 
     // The columns of a line; 0 for any number.
     virtual int Width() const = 0;
+    // Whether windows are told as lists and not drawn.
+    virtual bool IsPlain() const { return false; }
     // What it can show of frames.
     virtual Charset Letters() const = 0;
 

@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "host/screen/hand.h"
+#include "host/screen/listing.h"
 #include "host/screen/painter.h"
 #include "host/session/command.h"
 #include "host/text.h"
@@ -280,8 +281,11 @@ void Session::Open(const DeviceRecord& device) {
 
 void Session::Show() {
     constexpr std::string_view before = "  |";
-    const int width = Width() != 0 ? Width() : 80;
-    Tell(Picture(Front(), width - static_cast<int>(before.size()), seat_.Letters()), before.data());
+    if (seat_.IsPlain()) {
+        Tell(ListWindow(Front()));
+    } else {
+        Tell(Picture(Front(), Columns() - static_cast<int>(before.size()), seat_.Letters()), before.data());
+    }
     TellBehind();
 }
 

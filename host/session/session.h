@@ -110,6 +110,8 @@ public:
     void Show();
     void TellBehind();
     int Width() const { return seat_.Width(); }
+    // The same, and those of a usual screen where there are any number.
+    int Columns() const { return Width() != 0 ? Width() : 80; }
 
     // Goes on with the lines of a file, and returns at its end. Throws Refusal.
     void Source(const std::string& file);

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "host/session/command.h"
 #include "host/session/session.h"
 #include "host/text.h"
@@ -6,7 +8,16 @@ namespace host {
 namespace {
 
 void TellOf(Session& session, const Command& command) {
-    session.Tell("  " + PaddedTo(std::string{command.name} + ' ' + command.arguments, 25) + command.help);
+    constexpr int names = 27;
+    std::string before = PaddedTo("  " + std::string{command.name} + ' ' + command.arguments, names);
+    if (Columns(before) > names) {
+        session.Tell(before);
+        before.clear();
+    }
+    for (const std::string& line : BrokenAt(command.help, std::max(20, session.Columns() - names))) {
+        session.Tell(PaddedTo(before, names) + line);
+        before.clear();
+    }
 }
 
 void Help(Session& session, const Words& words) {
@@ -16,11 +27,11 @@ void Help(Session& session, const Words& words) {
     for (const Command& command : Commands()) {
         TellOf(session, command);
     }
-    session.Tell(
-        "A command may be shortened as long as it stays unambiguous. A CONTROL is named by its caption, by");
-    session.Tell(
-        "the label before it, or by its number. A caption with blanks is put in \"...\". Lines that begin");
-    session.Tell("with # are comments.");
+    session.Tell(BrokenAt(
+        "A command may be shortened as long as it stays unambiguous. A CONTROL is named by its caption, "
+        "by the label before it, or by its number. A caption with blanks is put in \"...\". Lines that "
+        "begin with # are comments.",
+        session.Columns()));
 }
 
 void Quit(Session& session, const Words&) {

@@ -1,0 +1,86 @@
+#include "host/diagnosis/board_table.h"
+
+#include <algorithm>
+#include <array>
+
+#include "host/diagnosis/model.h"
+#include "host/diagnosis/published_values.h"
+#include "host/text.h"
+
+namespace host {
+namespace {
+
+constexpr std::array<const char*, 8> headings = {"channel", "class",   "number",   "interface",
+                                                 "FIFO",    "receive", "transmit", "device"};
+using Cells = std::array<std::string, headings.size()>;
+
+// By channel class, from 1.
+constexpr const char* class_names[] = {"UART", "digital I/O", "Mcp251x", "Mcp251xFd", "CAN"};
+
+Cells CellsOf(const DeviceRecord& device, const ChannelRecord& channel) {
+    const bool is_uart = channel.channel_class == uart_class;
+    const auto number = [&](const char* name) {
+        return is_uart && FindValue(device.store, name) != nullptr
+                   ? std::to_string(StoredNumber(device.store, name))
+                   : "-";
+    };
+    const std::string port = Escaped(StoredText(device.store, "PortName"));
+    return {std::to_string(channel.number),
+            class_names[channel.channel_class - 1],
+            port.empty() ? "-" : port,
+            is_uart ? ModeName(StoredNumber(device.store, "UartMode")) : "-",
+            !is_uart                                            ? "-"
+            : StoredNumber(device.store, "UartFifoEnable") != 0 ? "large"
+                                                                : "off",
+            number("UartRxFifoLowHigh"),
+            number("UartTxFifoLowHigh"),
+            device.listed != 0 ? std::to_string(device.listed) : "-"};
+}
+
+} // namespace
+
+BoardTable TableOfBoard(const Records& records, const DeviceRecord& device) {
+    const Model model(records);
+    const auto is_board_of = [&](std::size_t board) {
+        return records.devices[board].id == device.id ||
+               std::ranges::any_of(model.channels, [&](const ChannelRecord& channel) {
+                   return channel.board == board && records.devices[channel.device].id == device.id;
+               });
+    };
+    const auto board = std::ranges::find_if(model.boards, is_board_of);
+    BoardTable table;
+    if (board == model.boards.end()) {
+        return table;
+    }
+    std::vector<ChannelRecord> channels;
+    std::ranges::copy_if(model.channels, std::back_inserter(channels),
+                         [&](const ChannelRecord& channel) { return channel.board == *board; });
+    std::ranges::stable_sort(channels, {}, &ChannelRecord::number);
+    std::vector<Cells> rows{{}};
+    std::ranges::copy(headings, rows.front().begin());
+    for (const ChannelRecord& channel : channels) {
+        rows.push_back(CellsOf(records.devices[channel.device], channel));
+    }
+    std::array<int, headings.size()> widths{};
+    for (const Cells& cells : rows) {
+        std::ranges::transform(widths, cells, widths.begin(), [](int width, const std::string& cell) {
+            return std::max(width, Columns(cell));
+        });
+    }
+    for (const Cells& cells : rows) {
+        std::string line;
+        for (std::size_t column = 0; column < cells.size(); ++column) {
+            line += "  " + PaddedTo(cells[column], widths[column]);
+        }
+        line.resize(line.find_last_not_of(' ') + 1);
+        if (&cells == &rows.front()) {
+            table.heading = line;
+        } else {
+            const ChannelRecord& channel = channels[table.rows.size()];
+            table.rows.push_back({line, records.devices[channel.device].listed});
+        }
+    }
+    return table;
+}
+
+} // namespace host
