@@ -10,63 +10,17 @@
 
 #include <CLI/CLI.hpp>
 
-#include "host/diagnosis/report.h"
 #include "host/languages.h"
 #include "host/line/line_seat.h"
-#include "host/machine_file/differences.h"
 #include "host/session/session.h"
+#include "host/subcommands.h"
 #include "host/text.h"
 #include "version.h"
 
 namespace host {
 namespace {
 
-constexpr std::string_view subcommands[] = {"diagnose", "diff"};
-constexpr int sound = 0, found = 1, unreadable = 2; // exit statuses of the program
-
-void Write(const std::vector<std::string>& lines) {
-    for (const std::string& line : lines) {
-        std::cout << Escaped(line) << '\n';
-    }
-}
-
-std::unique_ptr<World> Open(const std::string& file, LANGID language = 0) {
-    std::string error;
-    std::unique_ptr<World> world = OpenWorld(file, language, error);
-    if (!world) {
-        std::cerr << "kvrhost: " << Escaped(error) << '\n';
-    }
-    return world;
-}
-
-int Diagnose(const std::string& file, bool json) {
-    const std::unique_ptr<World> world = Open(file);
-    if (!world) {
-        return unreadable;
-    }
-    const Records records = world->Describe();
-    const std::vector<Finding> findings = Diagnose(records);
-    if (json) {
-        std::cout << DiagnosisJson(records, findings, file);
-    } else {
-        Write(DiagnosisLines(records, findings));
-    }
-    return findings.empty() ? sound : found;
-}
-
-int Diff(const std::string& before, const std::string& after) {
-    Records records[2];
-    for (const auto& [file, its_records] : {std::pair{&before, &records[0]}, {&after, &records[1]}}) {
-        const std::unique_ptr<World> world = Open(*file);
-        if (!world) {
-            return unreadable;
-        }
-        *its_records = world->Describe();
-    }
-    Write(DifferenceLines(records[0], records[1]));
-    return Differences(records[0], records[1]).empty() ? sound : found;
-}
-
+constexpr std::string_view subcommands[] = {"diagnose", "diff", "report"};
 // How the user wants to operate the pages.
 struct Wish {
     std::string file;
@@ -99,18 +53,18 @@ int RunLines(World& world, const Wish& wish, LineSource& lines) {
     } else if (!seat.IsPerson() && session.IsUnsaved()) {
         std::cerr << "kvrhost: the machine has changed and was not exported\n";
     }
-    return failed != 0 ? found : sound;
+    return failed != 0 ? status_found : status_sound;
 }
 
 int Run(const Wish& wish, OpenLines open_console, OpenScreen open_screen) {
     const LANGID language = wish.language.empty() ? LANGID{0} : FindLanguage(wish.language);
     if (!wish.language.empty() && language == 0) {
         std::cerr << "kvrhost: no language " << Quoted(wish.language) << "; there are:\n" << AllLanguages();
-        return unreadable;
+        return status_unreadable;
     }
-    const std::unique_ptr<World> world = Open(wish.file, language);
+    const std::unique_ptr<World> world = OpenToldWorld(wish.file, language);
     if (!world) {
-        return unreadable;
+        return status_unreadable;
     }
     if (!wish.commands.empty()) {
         std::stringstream commands;
@@ -123,7 +77,7 @@ int Run(const Wish& wish, OpenLines open_console, OpenScreen open_screen) {
         std::string reason;
         if (const std::unique_ptr<Seat> screen = open_screen(reason)) {
             Session(*world, *screen).Run();
-            return sound;
+            return status_sound;
         }
         if (!reason.empty()) {
             std::cout << Escaped(reason) << '\n';
@@ -178,25 +132,41 @@ int RunProgram(int argc, char** argv, OpenLines open_console, OpenScreen open_sc
     CLI::App* const diagnose = app.add_subcommand(
         "diagnose", "Shows what is wrong and what mends it. The exit status is 0 if nothing is wrong, 1 if\n"
                     "something is, and 2 if the machine can't be read.");
-    diagnose->add_option("machine", wish.file, "registry export of the machine");
+    std::vector<std::string> files;
+    diagnose->add_option("machines", files,
+                         "registry exports, or folders of them: several are told in a line each");
     diagnose->add_flag("--json", json, "prints a list for programs");
     CLI::App* const diff = app.add_subcommand(
         "diff", "Shows what differs between two exports of a machine. The exit status is 0 if nothing does,\n"
                 "1 if something does, and 2 if one can't be read.");
     diff->add_option("old", wish.file, "the older one")->required();
     diff->add_option("new", other, "the newer one")->required();
+    diff->add_flag("--json", json, "prints a list for programs");
+    std::string report_file;
+    bool over = false;
+    CLI::App* const report = app.add_subcommand(
+        "report", "Writes all that is known of a machine and wrong with it as one HTML file for a ticket.");
+    report->add_option("machine", wish.file, "registry export of the machine")->required();
+    report->add_option("file", report_file, "the report")->required();
+    report->add_flag("--over", over, "replaces a file that exists");
     try {
         std::vector<std::string> arguments = Arguments(argc, argv);
         std::ranges::reverse(arguments); // as the parser takes them
         app.parse(std::move(arguments));
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? sound : unreadable;
+        return app.exit(error) == 0 ? status_sound : status_unreadable;
     }
     if (*diagnose) {
-        return Diagnose(wish.file, json);
+        if (!wish.file.empty()) {
+            files.insert(files.begin(), wish.file);
+        }
+        return Diagnose(files, json);
     }
     if (*diff) {
-        return Diff(wish.file, other);
+        return Diff(wish.file, other, json);
+    }
+    if (*report) {
+        return Report(wish.file, report_file, over);
     }
     return Run(wish, open_console, open_screen);
 }

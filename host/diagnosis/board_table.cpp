@@ -10,14 +10,14 @@
 namespace host {
 namespace {
 
-constexpr std::array<const char*, 8> headings = {"channel", "class",   "number",   "interface",
-                                                 "FIFO",    "receive", "transmit", "device"};
-using Cells = std::array<std::string, headings.size()>;
+constexpr std::array<const char*, 8> board_headings = {"channel", "class",   "number",   "interface",
+                                                       "FIFO",    "receive", "transmit", "device"};
+using BoardCells = std::array<std::string, board_headings.size()>;
 
 // By channel class, from 1.
 constexpr const char* class_names[] = {"UART", "digital I/O", "Mcp251x", "Mcp251xFd", "CAN"};
 
-Cells CellsOf(const DeviceRecord& device, const ChannelRecord& channel) {
+BoardCells CellsOf(const DeviceRecord& device, const ChannelRecord& channel) {
     const bool is_uart = channel.channel_class == uart_class;
     const auto number = [&](const char* name) {
         return is_uart && FindValue(device.store, name) != nullptr
@@ -56,29 +56,26 @@ BoardTable TableOfBoard(const Records& records, const DeviceRecord& device) {
     std::ranges::copy_if(model.channels, std::back_inserter(channels),
                          [&](const ChannelRecord& channel) { return channel.board == *board; });
     std::ranges::stable_sort(channels, {}, &ChannelRecord::number);
-    std::vector<Cells> rows{{}};
-    std::ranges::copy(headings, rows.front().begin());
+    table.cells.emplace_back();
+    std::ranges::copy(board_headings, table.cells.front().begin());
+    table.listed.push_back(0);
     for (const ChannelRecord& channel : channels) {
-        rows.push_back(CellsOf(records.devices[channel.device], channel));
+        table.cells.push_back(CellsOf(records.devices[channel.device], channel));
+        table.listed.push_back(records.devices[channel.device].listed);
     }
-    std::array<int, headings.size()> widths{};
-    for (const Cells& cells : rows) {
+    std::array<int, board_headings.size()> widths{};
+    for (const BoardCells& cells : table.cells) {
         std::ranges::transform(widths, cells, widths.begin(), [](int width, const std::string& cell) {
             return std::max(width, Columns(cell));
         });
     }
-    for (const Cells& cells : rows) {
+    for (const BoardCells& cells : table.cells) {
         std::string line;
         for (std::size_t column = 0; column < cells.size(); ++column) {
             line += "  " + PaddedTo(cells[column], widths[column]);
         }
         line.resize(line.find_last_not_of(' ') + 1);
-        if (&cells == &rows.front()) {
-            table.heading = line;
-        } else {
-            const ChannelRecord& channel = channels[table.rows.size()];
-            table.rows.push_back({line, records.devices[channel.device].listed});
-        }
+        table.lines.push_back(std::move(line));
     }
     return table;
 }

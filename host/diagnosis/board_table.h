@@ -1,6 +1,7 @@
 // A board as a table: its channels in their order, as its page would find them.
 #pragma once
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -8,16 +9,15 @@
 
 namespace host {
 
+// A row for each channel below the headings, as cells and as lines. Nothing if there is no such board.
 struct BoardTable {
-    std::string heading;
-    struct Row {
-        std::string line;
-        std::size_t listed = 0; // the channel's number in the list of devices; 0 if it has no sheet
-    };
-    std::vector<Row> rows;
+    std::vector<std::array<std::string, 8>> cells;
+    std::vector<std::string> lines;
+    std::vector<std::size_t>
+        listed; // each channel's number in the list of devices; 0 if it has no sheet, as in the first row
 };
 
-// The table of the board that a device is or belongs to. No heading if it belongs to none.
+// The table of the board that a device is or belongs to.
 BoardTable TableOfBoard(const Records& records, const DeviceRecord& device);
 
 } // namespace host

@@ -8,67 +8,83 @@
 namespace host {
 namespace {
 
-constexpr const char* restart = "restart the port or the machine";
-constexpr const char* number_anew = "open {open}, Advanced, and give it a number that is free";
+constexpr const char* restart = "Restart the port, or the machine.";
+constexpr const char* number_anew = "Give it a free number: open {open}, Advanced.";
 constexpr const char* driver =
-    "the board's driver publishes these values: restart the board, or reinstall its "
-    "driver";
+    "Restart the board; if that does not help, reinstall its driver, which publishes these values.";
+constexpr const char* not_on_board = "Its board can't set it up, and a sort leaves it out.";
 
 // Worst first.
 constexpr Rule rules[] = {
-    {"same-name", DevicesPlace, false,
-     "{com} is the name of more than one device, and only one of them can be reached by it: {what}.", nullptr,
-     "open {open}, Advanced, and give one of them a number that is free", FindSharedNames},
-    {"stale-claim", DevicesPlace | DatabasePlace | SerialMapPlace, true,
-     "{com} is in use and nothing is there: the database has it claimed, but no device has it, present or "
-     "absent, and no port is live on it.",
-     "free {com}", nullptr, FindStaleClaims},
-    {"unclaimed-port", DevicesPlace | InterfacesPlace | DatabasePlace, true,
-     "{com} is not claimed although {device} has it: the next new port may be given the same number.",
-     "claim {com}", nullptr, FindUnclaimedPorts},
-    {"no-com-name", DevicesPlace, false, "{device} has a name that is not COM and a number: {what}.", nullptr,
-     number_anew, FindOddNames},
-    {"not-in-serial-map", DevicesPlace | InterfacesPlace | SerialMapPlace, false,
-     "{com} is not live: {device} has it, but the serial map does not, so its driver has not started or has "
-     "started under another number.",
-     nullptr, restart, FindUnmappedPorts},
-    {"twice-in-serial-map", SerialMapPlace, false, "{com} is live more than once: {what} in the serial map.",
-     nullptr, restart, FindNumbersMappedTwice},
-    {"board-unreadable", DevicesPlace, false, "{device} gets no page: {what}.", nullptr, driver,
-     FindUnreadableBoards},
-    {"channel-unreadable", DevicesPlace | InterfacesPlace, false,
-     "{port} is not on the page of its board: {what}.", nullptr, driver, FindUnreadableChannels},
-    {"channel-without-board", DevicesPlace | InterfacesPlace, false,
-     "{port} is on the page of no board: {what}.", nullptr, driver, FindChannelsWithoutBoard},
-    {"channel-twice", DevicesPlace | InterfacesPlace, false,
-     "{port} has a number that another channel of its board has too: {what}.", nullptr, driver,
-     FindChannelsTwice},
-    {"channel-beyond-board", DevicesPlace | InterfacesPlace, false,
-     "{port} is not on the page of its board: {what}.", nullptr, driver, FindChannelsBeyondBoard},
-    {"type-no-uart", DevicesPlace | InterfacesPlace, false, "{port} gets no page of its own: {what}.",
+    {"same-name", DevicesPlace, Severity::Serious, false,
+     "{com} is the name of more than one device: {what}.",
+     "Windows opens only one of them by that name; the others can't be reached.", nullptr,
+     "Give one of them a free number: open {open}, Advanced.", FindSharedNames},
+    {"twice-in-serial-map", SerialMapPlace, Severity::Serious, false,
+     "{com} is live twice: {what} in the serial map.", "It is chance which of them a program opens.", nullptr,
+     restart, FindNumbersMappedTwice},
+    {"not-in-serial-map", DevicesPlace | InterfacesPlace | SerialMapPlace, Severity::Serious, false,
+     "{com} should be live and is not: {device} has it, but the serial map does not.",
+     "Programs can't open it. Its driver has not started, or has started under another number.", nullptr,
+     restart, FindUnmappedPorts},
+    {"no-com-name", DevicesPlace, Severity::Serious, false,
+     "{device} has a name that is not COM and a number: {what}.",
+     "Programs that look for COM ports don't find it.", nullptr, number_anew, FindOddNames},
+    {"board-unreadable", DevicesPlace, Severity::Serious, false, "{device} gets no page: {what}.",
+     "Neither its ports' buffers nor their numbers can be set there.", nullptr, driver, FindUnreadableBoards},
+    {"channel-unreadable", DevicesPlace | InterfacesPlace, Severity::Serious, false,
+     "{port} is missing on its board's page: {what}.", not_on_board, nullptr, driver, FindUnreadableChannels},
+    {"channel-without-board", DevicesPlace | InterfacesPlace, Severity::Serious, false,
+     "{port} is on no board's page: {what}.", not_on_board, nullptr, driver, FindChannelsWithoutBoard},
+    {"channel-twice", DevicesPlace | InterfacesPlace, Severity::Serious, false,
+     "{port} has the channel number of another one: {what}.", "The board's page can't tell the two apart.",
+     nullptr, driver, FindChannelsTwice},
+    {"channel-beyond-board", DevicesPlace | InterfacesPlace, Severity::Serious, false,
+     "{port} is missing on its board's page: {what}.", not_on_board, nullptr, driver,
+     FindChannelsBeyondBoard},
+    {"type-no-uart", DevicesPlace | InterfacesPlace, Severity::Serious, false,
+     "{port} gets no page of its own: {what}.", "Its number and its line settings can't be changed there.",
      nullptr, driver, FindOtherTypes},
-    {"mode-impossible", DevicesPlace | InterfacesPlace, false,
-     "{port} is set to a mode that it does not support: {what}.", nullptr,
-     "open the board, select the port, Advanced, and choose its type", FindImpossibleModes},
-    {"trigger-impossible", DevicesPlace | InterfacesPlace, false,
-     "{port} has a trigger level that its page cannot show: {what}.", nullptr,
-     "open the board, select the port, move the slider and press Apply", FindImpossibleTriggers},
-    {"friendly-number", DevicesPlace, false, "{port} is shown with another number than it has: {what}.",
-     nullptr, number_anew, FindOtherFriendlyNumbers},
-    {"ghost-claim", DevicesPlace | InterfacesPlace | DatabasePlace | SerialMapPlace, false,
-     "{com} is kept for {device}, and for nothing else.", "free {com} --even-so",
-     "uninstall that device if it will not come back", FindGhostClaims},
-    {"misread-line", DevicesPlace | SettingsPlace, false,
-     "{com} has settings that its page cannot show as they are written: {what}.", nullptr,
-     "open {open} and choose them again", FindMisreadLines},
-    {"orphan-line", DevicesPlace | SerialMapPlace | SettingsPlace, true,
-     "{com} has settings and nothing is there: {what}.", "forget {key}", nullptr, FindOrphanLines},
-    {"held-open", DevicesPlace | InterfacesPlace, false,
-     "{com} is held open by a program, so its number cannot be changed: ChlOpened of {device} says so.",
-     nullptr, "close that program", FindOpenPorts},
-    {"numbers-unordered", DevicesPlace | InterfacesPlace, false,
-     "{device} has COM numbers that do not ascend with its channels: {what}.", nullptr,
-     "open {open}, Advanced, Sort UART", FindUnorderedNumbers},
+    {"mode-impossible", DevicesPlace | InterfacesPlace, Severity::Serious, false,
+     "{port} has an electrical interface that can't be: {what}.",
+     "Nobody can say what it does on the cable until one is chosen.", nullptr,
+     "Choose the one that the cable needs: open the board, select the port, Advanced.", FindImpossibleModes},
+    {"unclaimed-port", DevicesPlace | InterfacesPlace | DatabasePlace, Severity::Minor, true,
+     "{device} uses {com}, but the number is not marked as in use.",
+     "The next port that Windows installs may get the same number.", "claim {com}", nullptr,
+     FindUnclaimedPorts},
+    {"stale-claim", DevicesPlace | DatabasePlace | SerialMapPlace, Severity::Minor, true,
+     "{com} is marked as in use, but nothing uses it: no device has it, present or absent, and no port is "
+     "live on "
+     "it.",
+     "A number that is marked so is given to no port until it is freed.", "free {com}", nullptr,
+     FindStaleClaims},
+    {"trigger-impossible", DevicesPlace | InterfacesPlace, Severity::Minor, false,
+     "{port} has a FIFO level that its page can't show: {what}.",
+     "The slider there stands elsewhere than the level that is set.", nullptr,
+     "Move the slider and press Apply: open the board, select the port.", FindImpossibleTriggers},
+    {"friendly-number", DevicesPlace, Severity::Minor, false,
+     "{port} has another number in Device Manager's list than it really has: {what}.",
+     "Whoever goes by that list opens the wrong port.", nullptr,
+     "Give it its number once more: open {open}, Advanced.", FindOtherFriendlyNumbers},
+    {"misread-line", DevicesPlace | SettingsPlace, Severity::Minor, false,
+     "{com}'s stored settings are not what its page shows: {what}.",
+     "The next OK on that page stores what it shows.", nullptr,
+     "Look at them and choose them again: open {open}.", FindMisreadLines},
+    {"ghost-claim", DevicesPlace | InterfacesPlace | DatabasePlace | SerialMapPlace, Severity::Harmless,
+     false, "{com} is kept for {device}.", "No other port can be given that number meanwhile.",
+     "free {com} --even-so", "If that device will not come back, uninstall it, or free its number.",
+     FindGhostClaims},
+    {"orphan-line", DevicesPlace | SerialMapPlace | SettingsPlace, Severity::Harmless, true,
+     "{com} has stored settings, but there is no such port: {what}.",
+     "A new port with that number would begin with them.", "forget {key}", nullptr, FindOrphanLines},
+    {"held-open", DevicesPlace | InterfacesPlace, Severity::Harmless, false,
+     "A program has {com} open: ChlOpened of {device} says so.", "Its number can't be changed meanwhile.",
+     nullptr, "Close that program first.", FindOpenPorts},
+    {"numbers-unordered", DevicesPlace | InterfacesPlace, Severity::Harmless, false,
+     "{device} has COM numbers that do not ascend with its channels: {what}.",
+     "Whoever counts connectors plugs the cable in wrongly.", nullptr,
+     "Sort them: open {open}, Advanced, Sort UART.", FindUnorderedNumbers},
 };
 
 std::string Filled(const char* text, const Subject& subject) {
@@ -106,8 +122,9 @@ std::vector<Finding> Diagnose(const Records& records) {
         for (Subject& subject : found) {
             std::string sentence = Filled(rule.sentence, subject), command = Filled(rule.command, subject),
                         remedy = Filled(rule.remedy, subject);
-            findings.push_back({rule.name, std::move(subject), std::move(sentence), rule.safe,
-                                std::move(command), std::move(remedy)});
+            sentence.front() = sentence.starts_with("device ") ? 'D' : sentence.front();
+            findings.push_back({rule.name, rule.severity, std::move(subject), std::move(sentence),
+                                rule.effect, rule.safe, std::move(command), std::move(remedy)});
         }
     }
     return findings;

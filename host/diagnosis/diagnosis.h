@@ -19,10 +19,18 @@ struct Subject {
     std::string key;          // {key}: of a settings line, "COM44:"
 };
 
+enum class Severity {
+    Serious,  // a port or a board can't be used, or is taken for another one
+    Minor,    // all work, and sooner or later something will not
+    Harmless, // good to know
+};
+
 struct Finding {
     const char* rule = nullptr; // its name, which never changes
+    Severity severity = Severity::Harmless;
     Subject subject;
-    std::string sentence; // with the evidence, on one line
+    std::string sentence; // what is wrong, with the evidence, on one line
+    std::string effect;   // what follows from it for the user
     bool safe = false;    // the command can be run without looking at the machine
     std::string command;  // the command that mends it; empty if there is none
     std::string remedy;   // what a person does if no command is safe; may be empty

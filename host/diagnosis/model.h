@@ -36,9 +36,11 @@ using Found = std::vector<Subject>;
 struct Rule {
     const char* name;
     unsigned needs; // places
+    Severity severity;
     bool safe;
-    const char* sentence; // {com}, {device} and so on are replaced by the finding's values
-    const char* command;  // the same; null if there is none
+    const char* sentence; // what is wrong; {com}, {device} and so on are replaced by the finding's values
+    const char* effect;   // what follows from it
+    const char* command;  // what mends it, with the same values; null if there is none
     const char* remedy;
     void (*find)(const Model& model, Found& found);
 };

@@ -137,7 +137,7 @@ void FindMisreadLines(const Model& model, Found& found) {
         for (const std::string& line : record.lines) {
             if (const std::string misread = Misread(line); !misread.empty()) {
                 found.push_back(model.About(holder));
-                found.back().what = Quoted(line) + " has " + misread;
+                found.back().what = "in " + Quoted(line) + ", " + misread;
             }
         }
     });

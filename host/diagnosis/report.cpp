@@ -24,23 +24,72 @@ void Add(Lines& lines, const std::string& text) {
     }
 }
 
-std::string MendingOf(const Finding& finding) {
-    if (finding.safe) {
-        return "safe to mend: " + finding.command;
+// Findings that differ only in their numbers are told as one.
+struct Group {
+    const Finding* first = nullptr;
+    std::vector<unsigned long> numbers;
+    Lines commands;
+};
+
+std::vector<Group> GroupsOf(const std::vector<Finding>& findings) {
+    std::vector<Group> groups;
+    for (const Finding& finding : findings) {
+        const bool is_alone = !finding.subject.device.empty() || !finding.subject.what.empty();
+        if (groups.empty() || is_alone || groups.back().first->rule != finding.rule) {
+            groups.push_back({&finding, {}, {}});
+        }
+        groups.back().numbers.push_back(finding.subject.number);
+        if (!finding.command.empty()) {
+            groups.back().commands.push_back(finding.command);
+        }
     }
-    if (finding.command.empty()) {
-        return "not safe without a look, by hand: " + finding.remedy;
-    }
-    return "not safe without a look, by hand: " + finding.remedy + "; or: " + finding.command;
+    return groups;
 }
 
-void AddMissing(Lines& lines, const Records& records) {
-    for (const MissingPlace& missing : MissingPlaces(records.known)) {
-        Add(lines, std::string{"not known: "} + missing.name +
-                       "; nothing is concluded from that. To know it, export");
+// "COM9, COM10 and COM33 are": the sentence of a group, made from that of its first finding.
+std::string SentenceOf(const Group& group) {
+    const std::string sentence = Escaped(group.first->sentence), first = ComName(group.numbers.front());
+    if (group.numbers.size() == 1 || !sentence.starts_with(first + " is ")) {
+        return sentence;
+    }
+    std::string all;
+    for (std::size_t index = 0; index < group.numbers.size(); ++index) {
+        all += (index == 0                          ? ""
+                : index + 1 == group.numbers.size() ? " and "
+                                                    : ", ") +
+               ComName(group.numbers[index]);
+    }
+    std::string plural = all + " are " + sentence.substr(first.size() + 4);
+    for (const auto& [one, several] :
+         {std::pair{" uses it:", " uses them:"}, {" has it,", " has them,"}, {" on it.", " on them."}}) {
+        if (const std::size_t at = plural.find(one); at != std::string::npos) {
+            plural.replace(at, std::string_view(one).size(), several);
+        }
+    }
+    return plural;
+}
+
+void AddGroup(Lines& lines, const Group& group) {
+    const Finding& finding = *group.first;
+    Add(lines, SentenceOf(group));
+    const std::string remedy = finding.remedy.empty() ? "" : ' ' + Escaped(finding.remedy);
+    for (const std::string& line : BrokenAt(finding.effect + remedy, columns - 4)) {
+        lines.push_back(indent + line);
+    }
+    for (const std::string& command : group.commands) {
+        lines.push_back(indent + std::string{"> "} + Escaped(command));
+    }
+}
+
+void AddMissing(Lines& lines, unsigned known) {
+    for (const MissingPlace& missing : MissingPlaces(known)) {
+        Add(lines, std::string{"Not checked, because nothing is known of it: "} + missing.name +
+                       ". To know it, export");
         lines.push_back(indent + std::string{missing.key});
     }
 }
+
+constexpr const char* severity_names[] = {"serious", "minor", "harmless"};
 
 // The numbers of the ports that nothing was found about, and the boards.
 struct Sound {
@@ -73,42 +122,76 @@ Sound SoundOf(const Records& records, const std::vector<Finding>& findings) {
     return sound;
 }
 
-std::string SoundLine(const Sound& sound) {
-    std::string line = "sound: ";
-    if (!sound.numbers.empty()) {
-        line += "COM " + RangesOf(sound.numbers);
-    }
+std::string SoundLine(const Records& records, const Sound& sound) {
+    std::string line = sound.numbers.empty() ? "" : "COM " + RangesOf(sound.numbers);
     for (const std::string& board : sound.boards) {
-        line += (line.ends_with(' ') ? "" : "; ") + board;
+        line += (line.empty() ? "" : "; ") + board;
     }
-    return line.ends_with(' ') ? line + "no port and no board" : line;
+    const char* const how =
+        (records.known & AllPlaces) == AllPlaces ? "In order: " : "In order as far as was checked: ";
+    return line.empty() ? line : how + line + '.';
 }
 
 } // namespace
 
+bool CanBeJudged(const Records& records) {
+    return records.known != 0;
+}
+
+std::string Summary(const Records& records, const std::vector<Finding>& findings) {
+    if (!CanBeJudged(records)) {
+        return "This can't be judged: it holds none of the five places that keep a port's number.";
+    }
+    if (findings.empty()) {
+        return (records.known & AllPlaces) == AllPlaces ? "Nothing is wrong."
+                                                        : "Nothing is wrong with what could be checked.";
+    }
+    std::string counts;
+    for (std::size_t severity = 0; severity < std::size(severity_names); ++severity) {
+        const auto count = std::ranges::count(findings, static_cast<Severity>(severity), &Finding::severity);
+        if (count != 0) {
+            counts += (counts.empty() ? "" : ", ") + std::to_string(count) + ' ' + severity_names[severity];
+        }
+    }
+    return (findings.size() == 1 ? "One thing is wrong: "
+                                 : std::to_string(findings.size()) + " things are wrong: ") +
+           counts + '.';
+}
+
+const char* NameOf(Severity severity) {
+    return severity_names[static_cast<std::size_t>(severity)];
+}
+
 Lines FindingLines(const Finding& finding) {
     Lines lines;
-    Add(lines, Escaped(finding.sentence));
-    for (const std::string& line : BrokenAt(Escaped(MendingOf(finding)), columns - 4)) {
-        lines.push_back(indent + line);
-    }
+    AddGroup(lines, GroupsOf({finding}).front());
     return lines;
 }
 
 Lines DiagnosisLines(const Records& records, const std::vector<Finding>& findings) {
-    Lines lines;
-    AddMissing(lines, records);
-    for (const Finding& finding : findings) {
-        std::ranges::copy(FindingLines(finding), std::back_inserter(lines));
+    Lines lines = {Summary(records, findings)};
+    for (const Group& group : GroupsOf(findings)) {
+        AddGroup(lines, group);
     }
-    Add(lines, SoundLine(SoundOf(records, findings)));
+    if (std::ranges::any_of(findings, &Finding::safe)) {
+        Add(lines, "The command mend does all of these that need no look at the machine, and patch FILE "
+                   "makes a file "
+                   "of them to import.");
+    }
+    AddMissing(lines, records.known);
+    if (const std::string sound = SoundLine(records, SoundOf(records, findings)); !sound.empty()) {
+        Add(lines, sound);
+    }
     return lines;
 }
 
-std::string DiagnosisJson(const Records& records, const std::vector<Finding>& findings,
-                          const std::string& machine) {
+nlohmann::ordered_json DiagnosisJson(const Records& records, const std::vector<Finding>& findings,
+                                     const std::string& machine) {
     using Json = nlohmann::ordered_json;
-    Json list = {{"machine", machine}, {"notKnown", Json::array()}, {"findings", Json::array()}};
+    Json list = {{"machine", machine},
+                 {"judged", CanBeJudged(records)},
+                 {"notKnown", Json::array()},
+                 {"findings", Json::array()}};
     for (const MissingPlace& missing : MissingPlaces(records.known)) {
         list["notKnown"].push_back({{"place", missing.json}, {"export", missing.key}});
     }
@@ -116,16 +199,17 @@ std::string DiagnosisJson(const Records& records, const std::vector<Finding>& fi
         const auto text = [](const std::string& each) { return each.empty() ? Json() : Json(each); };
         const unsigned long number = finding.subject.number;
         list["findings"].push_back({{"rule", finding.rule},
+                                    {"severity", NameOf(finding.severity)},
                                     {"number", number ? Json(number) : Json()},
                                     {"device", text(finding.subject.id)},
                                     {"sentence", finding.sentence},
+                                    {"effect", finding.effect},
                                     {"safe", finding.safe},
                                     {"command", text(finding.command)},
                                     {"remedy", text(finding.remedy)}});
     }
     list["sound"] = {{"numbers", SoundOf(records, findings).numbers}};
-    // Invalid UTF-8 becomes U+FFFD.
-    return list.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
+    return list;
 }
 
 Lines NumberLines(const Records& records, unsigned long number) {

@@ -47,7 +47,7 @@ std::string_view TakeField(std::string_view& rest) {
 }
 
 std::string Wrong(const std::string& name, std::string_view field, std::string_view shown) {
-    return "no " + name + ' ' + Quoted(field) + ", " + std::string{shown} + " is shown";
+    return Quoted(field) + " is no " + name + ", the page shows " + std::string{shown};
 }
 
 // The page searches its list for the first speed that begins with the text.
@@ -64,7 +64,7 @@ std::string MisreadSpeed(std::string_view field) {
 
 std::string Misread(std::string_view line) {
     if (line.size() > longest_line) {
-        return "more than " + std::to_string(longest_line) + " characters, the rest is ignored";
+        return "it has more than " + std::to_string(longest_line) + " characters, the page ignores the rest";
     }
     std::string_view rest = Trimmed(line);
     if (rest.empty()) {
@@ -85,7 +85,7 @@ std::string Misread(std::string_view line) {
             return Wrong(field.name, text, field.otherwise);
         }
         if (*known != text) {
-            return Wrong(field.name, text, Quoted(*known));
+            return Wrong(field.name, text, *known);
         }
     }
     return {};

@@ -234,12 +234,13 @@ std::vector<Paragraph> FullScreen::Journal() {
 std::vector<Paragraph> FullScreen::Board(const std::string& device) {
     const Records records = session_->world().Describe();
     const BoardTable table = TableOfBoard(records, session_->FindDevice(device));
-    if (table.heading.empty()) {
+    if (table.lines.empty()) {
         return {{{"This device belongs to no board that has a page."}, {}}};
     }
-    std::vector<Paragraph> paragraphs = {{{table.heading}, {}}};
-    for (const BoardTable::Row& row : table.rows) {
-        paragraphs.push_back({{row.line}, row.listed != 0 ? "open " + std::to_string(row.listed) : ""});
+    std::vector<Paragraph> paragraphs;
+    for (std::size_t row = 0; row < table.lines.size(); ++row) {
+        const std::size_t listed = table.listed[row];
+        paragraphs.push_back({{table.lines[row]}, listed != 0 ? "open " + std::to_string(listed) : ""});
     }
     return paragraphs;
 }

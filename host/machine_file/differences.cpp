@@ -124,6 +124,19 @@ List Differences(const Records& before, const Records& after) {
     return list;
 }
 
+const char* NameOf(ChangedPlace place) {
+    static constexpr const char* names[] = {"device",   "friendlyName", "deviceStore",
+                                            "database", "serialMap",    "settingsLine"};
+    return names[static_cast<std::size_t>(place)];
+}
+
+std::vector<MissingPlace> NotCompared(const Records& before, const Records& after) {
+    std::vector<MissingPlace> places = MissingPlaces(before.known & after.known);
+    std::erase_if(places,
+                  [&](const MissingPlace& each) { return ((before.known | after.known) & each.place) == 0; });
+    return places;
+}
+
 std::vector<std::string> DifferenceLines(const Records& before, const Records& after) {
     std::vector<std::string> lines;
     for (const Difference& difference : Differences(before, after)) {
@@ -132,10 +145,8 @@ std::vector<std::string> DifferenceLines(const Records& before, const Records& a
     if (lines.empty()) {
         lines.push_back("nothing differs");
     }
-    for (const MissingPlace& missing : MissingPlaces(before.known & after.known)) {
-        if (((before.known | after.known) & missing.place) != 0) {
-            lines.push_back(std::string{"not compared: "} + missing.name + ", known in only one of the two");
-        }
+    for (const MissingPlace& missing : NotCompared(before, after)) {
+        lines.push_back(std::string{"not compared: "} + missing.name + ", which only one of the two holds");
     }
     return lines;
 }

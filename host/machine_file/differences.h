@@ -24,6 +24,12 @@ struct Difference {
 // In the order of the places. A place is compared only if it is known in both states.
 std::vector<Difference> Differences(const Records& before, const Records& after);
 
+// Its name for programs, which never changes.
+const char* NameOf(ChangedPlace place);
+
+// The places that are known in only one of the two states.
+std::vector<MissingPlace> NotCompared(const Records& before, const Records& after);
+
 // The same as lines, followed by the places that could not be compared; a single line says so if nothing
 // differs.
 std::vector<std::string> DifferenceLines(const Records& before, const Records& after);

@@ -4,7 +4,7 @@
 #include "host/machine_file/guid_text.h"
 #include "host/machine_file/machine_file.h"
 #include "host/machine_file/machine_places.h"
-#include "host/machine_file/whole_file.h"
+#include "host/whole_file.h"
 
 namespace host {
 namespace {

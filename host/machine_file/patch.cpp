@@ -5,8 +5,8 @@
 
 #include "host/machine_file/machine_places.h"
 #include "host/machine_file/registry_export.h"
-#include "host/machine_file/whole_file.h"
 #include "host/text.h"
+#include "host/whole_file.h"
 
 namespace host {
 namespace {

@@ -1,9 +1,9 @@
 #include <filesystem>
 
+#include "host/diagnosis/ports_table.h"
 #include "host/diagnosis/published_values.h"
 #include "host/screen/listing.h"
 #include "host/session/command.h"
-#include "host/session/ports_table.h"
 #include "host/session/session.h"
 #include "host/text.h"
 

@@ -8,6 +8,7 @@
 #include "host/machine_file/differences.h"
 #include "host/session/command.h"
 #include "host/session/session.h"
+#include "host/session/session_report.h"
 #include "host/text.h"
 #include "host/worlds/port_changes.h"
 
@@ -65,13 +66,17 @@ void Numbers(Session& session, const Words&) {
 void Board(Session& session, const Words& words) {
     const DeviceRecord device = session.FindDevice(words[1]);
     const BoardTable table = TableOfBoard(session.world().Describe(), device);
-    if (table.heading.empty()) {
+    if (table.lines.empty()) {
         throw Refusal(NameOf(device) + " belongs to no board that has a page");
     }
-    session.Tell(table.heading);
-    for (const BoardTable::Row& row : table.rows) {
-        session.Tell(row.line);
-    }
+    session.Tell(table.lines);
+}
+
+void Report(Session& session, const Words& words) {
+    std::string error;
+    Must(WriteReport(session, FileToWrite(words), "What has been changed here since it was read:", error),
+         error);
+    session.Tell(words.back() + " is written");
 }
 
 void Free(Session& session, const Words& words) {
@@ -180,6 +185,8 @@ std::span<const Command> MendingCommands() {
         {"why", "NUMBER", "shows all that is known about one COM number", &Why},
         {"numbers", "", "shows the 256 COM numbers as a map", &Numbers},
         {"board", "DEVICE", "shows a board's channels with number, interface and FIFO levels", &Board},
+        {"report", "[--over] FILE", "writes all that is known and wrong as an HTML file for a ticket",
+         &Report},
         {"free", "NUMBER [--even-so]", "takes a number from the COM port database", &Free},
         {"claim", "NUMBER [--even-so]", "marks a number as in use there", &Claim},
         {"forget", "LINE [--even-so]", "deletes a settings line, such as COM44:", &Forget},

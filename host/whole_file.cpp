@@ -1,4 +1,4 @@
-#include "host/machine_file/whole_file.h"
+#include "host/whole_file.h"
 
 #include <cerrno>
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "host/session/ports_table.h"
+#include "host/diagnosis/ports_table.h"
 
 #include <algorithm>
 #include <array>
@@ -10,11 +10,10 @@
 namespace host {
 namespace {
 
-constexpr std::array<const char*, 8> headings = {"device",   "channel",    "PortName", "friendly",
-                                                 "DOS name", "serial map", "database", "settings line"};
+constexpr std::array<const char*, std::tuple_size_v<PortCells>> port_headings = {
+    "device", "channel", "PortName", "friendly", "DOS name", "serial map", "database", "settings line"};
 constexpr std::size_t dos_names = 4; // the column that is left out if room is short
-using Row = std::array<std::string, headings.size()>;
-using PortRows = std::vector<Row>;
+using Lines = std::vector<std::string>;
 
 constexpr const char* differs = " differs";
 constexpr const char* missing = "missing";
@@ -30,7 +29,7 @@ std::string Joined(const Lines& texts, const std::string* wanted, const char* no
     return joined.empty() ? none : joined;
 }
 
-Row RowOf(const Records& records, const DeviceRecord& device) {
+PortCells RowOf(const Records& records, const DeviceRecord& device) {
     const std::string name = StoredText(device.store, "PortName");
     const unsigned long number = PortNumber(name), friendly = FriendlyNumber(device.friendly_name);
     const NumberRecord& record = NumberIn(records, number);
@@ -51,10 +50,10 @@ Row RowOf(const Records& records, const DeviceRecord& device) {
             known(SettingsPlace, record.lines.empty() ? "none" : Quoted(record.lines.front()))};
 }
 
-// A row for each port, below the headings.
-PortRows RowsOf(const Records& records) {
-    PortRows rows{{}};
-    std::ranges::copy(headings, rows.front().begin());
+// A row for each port, below the port_headings.
+std::vector<PortCells> RowsOf(const Records& records) {
+    std::vector<PortCells> rows{{}};
+    std::ranges::copy(port_headings, rows.front().begin());
     for (const DeviceRecord& device : records.devices) {
         if (device.role == Role::Port) {
             rows.push_back(RowOf(records, device));
@@ -64,9 +63,9 @@ PortRows RowsOf(const Records& records) {
 }
 
 // Marks the names that are not COM and a number, and those that several ports have.
-void MarkNames(PortRows& rows) {
+void MarkNames(std::vector<PortCells>& rows) {
     std::multiset<std::string> names;
-    for (const Row& row : rows) {
+    for (const PortCells& row : rows) {
         names.insert(Folded(row[2]));
     }
     for (auto row = rows.begin() + 1; row != rows.end(); ++row) {
@@ -82,9 +81,9 @@ void MarkNames(PortRows& rows) {
     }
 }
 
-Lines Written(const PortRows& rows, const std::array<int, headings.size()>& widths) {
+Lines Written(const std::vector<PortCells>& rows, const std::array<int, port_headings.size()>& widths) {
     Lines lines;
-    for (const Row& row : rows) {
+    for (const PortCells& row : rows) {
         std::string line;
         for (std::size_t column = 0; column < row.size(); ++column) {
             line += widths[column] != 0 ? "  " + PaddedTo(row[column], widths[column]) : "";
@@ -99,9 +98,9 @@ bool AreTooWide(const Lines& lines, int columns) {
            std::ranges::any_of(lines, [&](const std::string& line) { return Columns(line) > columns; });
 }
 
-Lines FittedLines(const PortRows& rows, int columns) {
-    std::array<int, headings.size()> widths{};
-    for (const Row& row : rows) {
+Lines FittedLines(const std::vector<PortCells>& rows, int columns) {
+    std::array<int, port_headings.size()> widths{};
+    for (const PortCells& row : rows) {
         for (std::size_t column = 0; column < row.size(); ++column) {
             widths[column] = std::max(widths[column], Columns(row[column]));
         }
@@ -112,6 +111,14 @@ Lines FittedLines(const PortRows& rows, int columns) {
     }
     widths[dos_names] = 0;
     return Written(rows, widths);
+}
+
+} // namespace
+
+std::vector<PortCells> PortRows(const Records& records) {
+    std::vector<PortCells> rows = RowsOf(records);
+    MarkNames(rows);
+    return rows;
 }
 
 std::string ClaimedWithoutDevice(const Records& records) {
@@ -127,12 +134,8 @@ std::string ClaimedWithoutDevice(const Records& records) {
     return RangesOf(unheld);
 }
 
-} // namespace
-
 Lines PortsTable(const Records& records, int columns) {
-    PortRows rows = RowsOf(records);
-    MarkNames(rows);
-    Lines lines = FittedLines(rows, columns);
+    Lines lines = FittedLines(PortRows(records), columns);
     lines.push_back("  claimed without a device: " + ClaimedWithoutDevice(records));
     if (AreTooWide(lines, columns)) {
         std::ranges::transform(lines, lines.begin(), [&](const auto& line) { return CutTo(line, columns); });

@@ -1,0 +1,49 @@
+#include "host/session/session_report.h"
+
+#include <chrono>
+#include <ctime>
+#include <filesystem>
+#include <fstream>
+
+#include <sys/stat.h>
+
+#include "host/diagnosis/html_report.h"
+#include "host/machine_file/differences.h"
+#include "host/session/session.h"
+#include "host/sha256.h"
+#include "host/text.h"
+#include "host/whole_file.h"
+
+namespace host {
+namespace {
+
+// When a file was last written, in UTC; empty if that can't be said.
+std::string DateOf(const std::string& file) {
+    struct stat facts {};
+    if (stat(file.c_str(), &facts) != 0) {
+        return {};
+    }
+    const std::time_t time = facts.st_mtime;
+    char text[32];
+    std::strftime(text, sizeof text, "%Y-%m-%d %H:%M UTC", std::gmtime(&time));
+    return text;
+}
+
+} // namespace
+
+bool WriteReport(Session& session, const std::string& file, const std::string& changes_by,
+                 std::string& error) {
+    const Records now = session.world().Describe();
+    ReportSource source{
+        session.world().Name(), {}, {}, DifferenceLines(AsRead(session.original(), now), now), changes_by};
+    std::ifstream bytes(std::filesystem::path(FromUtf8(source.name)), std::ios::binary);
+    if (session.world().File() != nullptr && bytes) {
+        source.date = DateOf(source.name);
+        source.sha256 = Sha256(bytes);
+    }
+    const std::string html = HtmlReport(session.original(), Diagnose(session.original()), source);
+    return WriteWhole(
+        file, [&](std::ostream& out) { out << html; }, error);
+}
+
+} // namespace host
