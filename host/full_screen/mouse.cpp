@@ -63,11 +63,11 @@ void FullScreen::TakeWheel(const Event& event) {
         const Cells cells = list.dropped ? front_.open_list : front_.On(placed);
         const bool at_it =
             list.dropped ? cells.Has(event.column, event.row) : front_.Shows(placed, event.column, event.row);
-        if ((list.kind == Kind::List || list.dropped) && at_it) {
+        if ((list.kind == Kind::List || list.kind == Kind::Table || list.dropped) && at_it) {
             const int step = event.kind == Event::Kind::WheelUp ? -wheel_step : wheel_step;
-            const int first = FirstInSight(list, cells.rows - 2, turned_);
+            const int first = FirstInSight(list, RowsIn(list, cells), turned_);
             turned_[list.window] = first + step;
-            turned_[list.window] = FirstInSight(list, cells.rows - 2, turned_);
+            turned_[list.window] = FirstInSight(list, RowsIn(list, cells), turned_);
             return;
         }
     }
