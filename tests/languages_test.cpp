@@ -202,10 +202,10 @@ TEST(UserLanguage, IsThatOfTheLocaleWithItsCountryFirst) {
     for (const auto& [locale, language] : locales) {
         EXPECT_EQ(host::LanguageOfLocale(locale), language) << locale;
     }
-    const std::pair<const char*, LANGID> called[] = {{"1031", 1031},    {"de", 1031},     {"German", 1031},
-                                                     {"ger", 1031},     {"pt_pt", 2070},  {"english", 1033},
-                                                     {"29", 29},        {"norwegian", 0}, {"", 0},
-                                                     {"english de", 0}, {"1034", 0},      {"99999999999", 0}};
+    const std::pair<const char*, LANGID> called[] = {
+        {"1031", 1031},    {"de", 1031},       {"German", 1031}, {"ger", 1031},   {"pt_pt", 2070},
+        {"english", 1033}, {"29", 29},         {"norwegian", 0}, {"", 0},         {"english de", 0},
+        {"1034", 0},       {"99999999999", 0}, {"zh-CN", 2052},  {"de-DE", 1031}, {"de_DE", 1031}};
     for (const auto& [name, language] : called) {
         EXPECT_EQ(host::FindLanguage(name), language) << name;
     }

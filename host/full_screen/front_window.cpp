@@ -230,10 +230,11 @@ void FrontWindow::Turn(const Event& event) {
         const Cells cells = list.dropped ? front_.open_list : front_.On(placed);
         const bool is_at_it =
             list.dropped ? cells.Has(event.column, event.row) : front_.Shows(placed, event.column, event.row);
-        if ((list.kind == Kind::List || list.dropped) && is_at_it) {
-            const int step = event.kind == Event::Kind::WheelUp ? -wheel_step : wheel_step;
-            turned_[list.window] = FirstInSight(list, cells.rows - 2, turned_) + step;
-            turned_[list.window] = FirstInSight(list, cells.rows - 2, turned_);
+        if ((list.kind == Kind::List || list.kind == Kind::Table || list.dropped) && is_at_it) {
+            const int rows = RowsIn(list, cells),
+                      step = event.kind == Event::Kind::WheelUp ? -wheel_step : wheel_step;
+            turned_[list.window] = FirstInSight(list, rows, turned_) + step;
+            turned_[list.window] = FirstInSight(list, rows, turned_);
             return;
         }
     }

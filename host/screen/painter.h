@@ -3,11 +3,10 @@
 // is changed.
 #pragma once
 
-#include <map>
 #include <string>
 #include <vector>
 
-#include "host/screen/canvas.h"
+#include "host/screen/control_painter.h"
 #include "host/screen/placement.h"
 
 namespace host {
@@ -25,18 +24,6 @@ struct Painted {
     // Whether a cell of the canvas shows the control.
     bool Shows(const Placed& placed, int column, int row) const;
 };
-
-// The first visible item of each list, and the first line of a message box, that was scrolled by hand.
-using Turned = std::map<HWND, int>;
-
-// The first visible item: the one that the list was scrolled to, or one that keeps the selection in sight.
-int FirstInSight(const Control& list, int rows, const Turned& turned);
-
-// The position that a slider would have with its knob in that column.
-int PositionAt(const Control& slider, const Cells& cells, int column);
-
-// Tells beside `rows` rows which begin at that place that there is more before or after them.
-void MarkMore(Canvas& canvas, int row, int column, int rows, bool before, bool after);
 
 // The window must be placed; the focus is scrolled into sight.
 void Paint(Canvas& canvas, Painted& painted, bool front, const Turned& turned);

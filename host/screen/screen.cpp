@@ -221,13 +221,15 @@ Window ReadWindow(HWND handle, bool box) {
     return window;
 }
 
+std::string SelectedItem(const Control& control) {
+    const auto selected = static_cast<std::size_t>(control.selection);
+    return control.selection >= 0 && selected < control.items.size() ? control.items[selected] : "";
+}
+
 void MarkChanged(Window& window, std::optional<Window>& stored) {
     const auto same = [](const Control& one, const Control& other) {
-        const auto item = [](const Control& control) {
-            const auto selected = static_cast<std::size_t>(control.selection);
-            return control.selection >= 0 && selected < control.items.size() ? control.items[selected] : "";
-        };
-        return one.checked == other.checked && one.position == other.position && item(one) == item(other);
+        return one.checked == other.checked && one.position == other.position &&
+               SelectedItem(one) == SelectedItem(other);
     };
     if (stored) {
         for (Control& control : window.controls) {

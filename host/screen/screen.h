@@ -66,6 +66,9 @@ struct Window {
 // `box` says that the window is a message box. A sheet is recognised by its page.
 Window ReadWindow(HWND window, bool box);
 
+// The item that is selected in a combo or list; empty if none is.
+std::string SelectedItem(const Control& control);
+
 // Marks the controls that differ from what the window showed when it last showed what is stored: when it was
 // opened, and since another entry was chosen in a list of it. `stored` is that window and is taken anew if it
 // is empty; its owner empties it when something has been stored.
