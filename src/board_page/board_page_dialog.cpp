@@ -1,11 +1,11 @@
 #include "board_page/board_page_dialog.h"
 
 #include "board_page/advanced_port_control.h"
+#include "board_page/channel_selection.h"
 #include "board_page/channel_view.h"
 #include "board_page/fifo_settings.h"
 #include "board_page/resource_list.h"
 #include "com_numbers/port_rename.h"
-#include "device_model/channel_list.h"
 #include "page_parts/fifo_controls.h"
 #include "page_parts/page_provider.h"
 #include "reporting/error_reporter.h"
@@ -33,9 +33,9 @@ bool _OnInitDialog(HWND hDlg, LPARAM page) {
     return bSuccess;
 }
 
-bool _AdvancedClicked(HWND hDlg, BoardParams* params, u32 index) {
+bool _AdvancedClicked(HWND hDlg, BoardParams* params, INT index) {
     TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
-    BPPCHL* chl = BoardChlByListIndex(params, index);
+    BPPCHL* chl = ChannelAt(params, index);
     const bool bSuccess = chl != nullptr;
     if (bSuccess && chl->Class == ClassUart) {
         params->ChlListChanged = false;
@@ -54,7 +54,7 @@ bool _OnCommand(HWND hDlg, int id, int notifyCode) {
     if (params == nullptr) {
         return false; // before WM_INITDIALOG
     }
-    const u32 index = SelectedChannel(hDlg);
+    const INT index = SelectedChannel(hDlg);
     bool bSuccess = false;
     TraceOut("----> %s( ), [pci:%d,irq:%d], NotifyCode:%d\n", __func__, params->BoardBasic.BoardPciBusNumber,
              params->BoardBasic.BoardIrq, notifyCode);
@@ -108,9 +108,9 @@ bool RenameUart(HWND hDlg, BPPCHL* chl) {
                              RenameOfChannel(chl, oldNumber, ChosenComNumber(hDlg, oldNumber)));
 }
 
-bool _OkClicked(HWND hDlg, BoardParams* params, u32 index) {
+bool _OkClicked(HWND hDlg, BoardParams* params, INT index) {
     TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
-    BPPCHL* chl = BoardChlByListIndex(params, index);
+    BPPCHL* chl = ChannelAt(params, index);
     bool bSuccess = chl != nullptr;
     if (bSuccess) {
         const bool isUart = chl->Class == ClassUart;
@@ -126,7 +126,7 @@ bool _OkClicked(HWND hDlg, BoardParams* params, u32 index) {
 bool _OnNotify(HWND hDlg, LPARAM lParam) {
     TraceOut("----> %s( )\n", __func__);
     BoardParams* params = PageParams(hDlg);
-    const u32 index = SelectedChannel(hDlg);
+    const INT index = SelectedChannel(hDlg);
     const bool initiated = params != nullptr && params->BasicSettingsDlgInitiateOK;
     const bool bSuccess = AnswerNotify(hDlg, lParam, initiated, [&] { _OkClicked(hDlg, params, index); });
     TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);

@@ -84,10 +84,11 @@ void SortComColumn(SortPairTable* table, u32 count) {
 }
 
 void AssignNewNumbers(BoardParams* board, const SortPairTable* table, u32 count) {
-    u32 next = 0;
-    for (BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
-        if (next < count && chl->CurrentInfo.ChlBasic.ChlNumber == table->pairs[next].channel) {
-            chl->SortNewCom = table->pairs[next++].com;
+    for (u32 i = 0; i < count; ++i) {
+        BPPCHL* chl = BoardChlByNumber(board, table->pairs[i].channel);
+        // The pairs are of UARTs that the walk has just visited.
+        if (chl != nullptr && IsUart(chl)) { // GCOV_EXCL_BR_LINE
+            chl->SortNewCom = table->pairs[i].com;
         }
     }
 }
@@ -140,8 +141,8 @@ void EnableSortButtons(HWND dialog, BOOL enable) {
     }
 }
 
-// The port that holds the number which the channel wants. There is one, because the numbers are exchanged and
-// stay the same. If several hold it, the last in the order of the walk.
+// The port that holds the number which the channel wants, or null. If several hold it, the last in the order
+// of the walk.
 BPPCHL* FindPartner(BoardParams* board, const BPPCHL* chl) {
     BPPCHL* partner = nullptr;
     for (BPPCHL* other = board->WalkFirst; other != nullptr; other = other->WalkNext) {
@@ -206,7 +207,15 @@ bool ExchangePorts(HWND dialog, BPPCHL* chl, BPPCHL* partner, u32 temporary) {
 // again.
 void ExchangeAll(HWND dialog, BoardParams* board, u32 temporary) {
     for (BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
-        if (NeedsMove(chl) && !ExchangePorts(dialog, chl, FindPartner(board, chl), temporary)) {
+        if (!NeedsMove(chl)) {
+            continue;
+        }
+        BPPCHL* partner = FindPartner(board, chl);
+        // The numbers are only exchanged, so one of the ports has the wanted one.
+        if (partner == nullptr) { // GCOV_EXCL_BR_LINE
+            continue;
+        }
+        if (!ExchangePorts(dialog, chl, partner, temporary)) {
             return;
         }
     }

@@ -59,7 +59,7 @@ bool RenamePortForUser(HWND dialog, const RenameTerms& terms, const PortRename& 
         if (terms.mayTakeClaimed) {
             TraceOut("%s - 1, nUserDialogChoice:%d\n", TraceOperation(), nUserDialogChoice);
         }
-        if (nUserDialogChoice != IDYES) {
+        if (nUserDialogChoice == IDNO) {
             return false;
         }
     }

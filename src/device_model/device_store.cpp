@@ -90,8 +90,11 @@ constexpr StoreField UartBasicFields[] = {
 };
 
 // Terminates a text that was stored without its terminator: after its last whole unit, or in the last unit of
-// a full field. A text that has one is left alone.
+// a full field. A text that has one is left alone, and so is a field that is too small for a terminator.
 void EndText(BYTE* field, u32 fieldBytes, u32 storedBytes) {
+    if (fieldBytes < sizeof(WCHAR)) {
+        return;
+    }
     auto* text = reinterpret_cast<WCHAR*>(field);
     const u32 last = fieldBytes / sizeof(WCHAR) - 1;
     const u32 stored = storedBytes / sizeof(WCHAR);

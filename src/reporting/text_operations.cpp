@@ -129,7 +129,7 @@ u32 CopyText(WCHAR* destination, u32 capacity, const WCHAR* source) {
 }
 
 u32 AppendText(WCHAR* destination, u32 capacity, const WCHAR* source) {
-    if (capacity > TextMaxCapacity) {
+    if (capacity == 0 || capacity > TextMaxCapacity) {
         return TextInvalid;
     }
     u32 length = 0;

@@ -63,6 +63,7 @@ bool _InitializeControls(HWND hDlg, UartAdvancedParams* params, u32* code, u32* 
     TraceOut("----> %s( )\n", __func__);
     const UartBasicInfo& uart = params->UartBasicInfo;
     FifoSliders& sliders = params->Fifo;
+    *code = 0;
     RxFifoStages(uart.UartRxFifoSize, sliders.RxFifo4Stage);
     TraceOut("%s - RxFifo4Stage: %d, %d, %d, %d\n", __func__, sliders.RxFifo4Stage[0],
              sliders.RxFifo4Stage[1], sliders.RxFifo4Stage[2], sliders.RxFifo4Stage[3]);

@@ -27,6 +27,7 @@ UartPageParams* PageParams(HWND hDlg) {
 
 bool _FillSettingsDlg(HWND hDlg, UartPageParams* params, u32* code, u32* status) {
     TraceOut("----> %s( )\n", __func__);
+    *code = 0;
     *status = Kavro_RegUartGetCOMName(params->DeviceInfoSet, params->DeviceInfoData, params->ComName,
                                       sizeof(params->ComName));
     const bool bSuccess = *status == 0;

@@ -82,6 +82,7 @@ bool _FillComboFromString(HWND combo, UINT stringId, u32 selection, bool localDe
 
 bool _FillComboxDlg(HWND hDlg, u32* code) {
     TraceOut("----> %s( )\n", __func__);
+    *code = 0;
     FillComboFromTable(hDlg, IDC_BAUD_RATE, BaudRateTable);
     SelectBaudRate(hDlg, DefaultBaudText);
     FillComboFromTable(hDlg, IDC_DATA_BITS, DataBitsTable);

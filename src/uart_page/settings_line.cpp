@@ -56,7 +56,7 @@ WCHAR* NextField(WCHAR*& rest) {
 
 // The index of a field's first character in `letters`, or `fallback`.
 u32 IndexOfFirst(const WCHAR* field, const WCHAR* letters, u32 fallback) {
-    for (u32 i = 0; letters[i] != 0; ++i) {
+    for (u32 i = 0; field[0] != 0 && letters[i] != 0; ++i) {
         if (letters[i] == field[0]) {
             return i;
         }

@@ -35,7 +35,7 @@ bool ReadSelections(HWND dialog, PortSettings& settings) {
 // Composes the line from the five combos, with its fields. False if one of the combos gives nothing.
 bool ComposeFromCombos(HWND dialog, WCHAR* line, u32 capacity, PortSettings& settings) {
     if (SendDlgItemMessageW(dialog, IDC_BAUD_RATE, WM_GETTEXT, BaudTextCapacity,
-                            reinterpret_cast<LPARAM>(line)) == 0) {
+                            reinterpret_cast<LPARAM>(line)) <= 0) { // no text, or CB_ERR
         return false;
     }
     settings.BaudRate = ParseDecimal(line);
