@@ -56,13 +56,19 @@ TEST(ComPortDatabase, NumbersAreBitsAndTheHighestFreeOneWins) {
 // A user who may not take a claimed number renames a UART from COM5 to COM7.
 bool RenameFrom5To7() {
     OpenDevice device(port);
-    WCHAR saved[StoreTextCapacity] = u"COM5";
-    WCHAR current[StoreTextCapacity] = u"COM5";
+    BPPCHL channel = {};
+    for (ChannelInfo* info : {&channel.SavedInfo, &channel.CurrentInfo}) {
+        CopyText(info->Uart.PortName, StoreTextCapacity, u"COM5");
+    }
     constexpr RenameTerms terms = {FailurePortNumberInUse, FailurePortOpened, FailurePortRemap, false};
-    const bool renamed = RenamePortForUser(
-        nullptr, terms, {device.set, &device.data, 5, 7, saved, current, saved, StoreTextCapacity, nullptr});
-    EXPECT_EQ(sim::ToUtf8(current), renamed ? "COM7" : "COM5");
-    EXPECT_EQ(sim::ToUtf8(saved), sim::ToUtf8(current));
+    const bool renamed = RemapForUser(nullptr, terms, device.set, &device.data, 5, 7);
+    if (renamed) {
+        Kavro_COMPortBroadcastRemap(device.set, &device.data);
+        NameChannel(&channel, 7);
+        MoveChannelSettings(&channel);
+    }
+    EXPECT_EQ(sim::ToUtf8(channel.CurrentInfo.Uart.PortName), renamed ? "COM7" : "COM5");
+    EXPECT_EQ(sim::ToUtf8(channel.SavedInfo.Uart.PortName), renamed ? "COM7" : "COM5");
     return renamed;
 }
 

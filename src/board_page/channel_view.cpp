@@ -71,7 +71,7 @@ void ShowPortNumber(HWND hDlg, const BPPCHL* chl) {
 } // namespace
 
 void _FillChannelList(HWND hDlg) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     const BoardParams* params = PageParams(hDlg);
     const HWND list = GetDlgItem(hDlg, IDC_PORT_LIST);
     SendMessageW(list, LB_RESETCONTENT, 0, 0);
@@ -84,11 +84,10 @@ void _FillChannelList(HWND hDlg) {
         chl->ListIndex = position++;
         SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line));
     }
-    TraceOut("<---- %s\n", __func__);
 }
 
 void _ChlListSelectChange(HWND hDlg, BoardParams* params, INT index) {
-    TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
+    TraceScope trace("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
     Select(hDlg, index);
     BPPCHL* chl = ChannelAt(params, index);
     _FillResourceList(hDlg, chl);
@@ -96,5 +95,4 @@ void _ChlListSelectChange(HWND hDlg, BoardParams* params, INT index) {
     ShowPollingCycle(hDlg);
     ShowPortNumber(hDlg, chl);
     Select(hDlg, index);
-    TraceOut("<---- %s\n", __func__);
 }

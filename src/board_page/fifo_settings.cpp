@@ -55,87 +55,79 @@ void ShowNoUart(HWND hDlg) {
 } // namespace
 
 void _RefreshFifoControls(HWND hDlg, BPPCHL* channel) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     if (channel != nullptr && channel->Class == ClassUart) {
         ShowUart(hDlg, channel->CurrentInfo.Uart, &channel->Fifo);
     } else {
         ShowNoUart(hDlg);
     }
-    TraceOut("<---- %s\n", __func__);
 }
 
 bool _OnHscroll(HWND hDlg, LPARAM lParam) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     const BoardParams* params = PageParams(hDlg);
     const INT index = SelectedChannel(hDlg);
     BPPCHL* chl = params != nullptr ? ChannelAt(params, index) : nullptr;
     if (chl != nullptr) {
         FollowFifoSlider(hDlg, reinterpret_cast<HWND>(lParam), &chl->Fifo);
     }
-    const bool bSuccess = true;
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(true);
 }
 
 bool _FifoEnableClicked(HWND hDlg, BoardParams* params, INT index) {
-    TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
+    TraceScope trace("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
     BPPCHL* chl = UartAt(params, index);
-    const bool bSuccess = chl != nullptr;
-    if (bSuccess) {
-        FollowFifoCheckBox(hDlg, &chl->Fifo);
+    if (chl == nullptr) {
+        return trace.Success(false);
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    FollowFifoCheckBox(hDlg, &chl->Fifo);
+    return trace.Success(true);
 }
 
 // Changes only the controls. The pending values and the remembered positions stay.
 bool _RestoreDefaultClicked(HWND hDlg, BoardParams* params, INT index) {
-    TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
+    TraceScope trace("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
     const BPPCHL* chl = UartAt(params, index);
-    const bool bSuccess = chl != nullptr;
-    if (bSuccess) {
-        CheckDlgButton(hDlg, IDC_LARGEFIFO, BST_CHECKED);
-        PutTransmitSlider(hDlg, chl->CurrentInfo.Uart.UartTxFifoSize);
-        PutReceiveSlider(hDlg, RxFifoStageCount, RxStageOfPosition(chl->Fifo.RxFifo4Stage, RxFifoStageCount));
-        _EnableFifoControls(hDlg, TRUE);
+    if (chl == nullptr) {
+        return trace.Success(false);
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    CheckDlgButton(hDlg, IDC_LARGEFIFO, BST_CHECKED);
+    PutTransmitSlider(hDlg, chl->CurrentInfo.Uart.UartTxFifoSize);
+    PutReceiveSlider(hDlg, RxFifoStageCount, RxStageOfPosition(chl->Fifo.RxFifo4Stage, RxFifoStageCount));
+    _EnableFifoControls(hDlg, TRUE);
+    return trace.Success(true);
 }
 
 bool _SetToAllClicked(HWND hDlg, BoardParams* params, INT index) {
-    TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
+    TraceScope trace("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
     const BPPCHL* selected = UartAt(params, index);
-    const bool bSuccess = selected != nullptr;
-    if (bSuccess) {
-        const FifoValues values = ReadPage(hDlg, selected);
-        for (BPPCHL* chl = params->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
-            if (chl->Class == ClassUart) {
-                SetFifoValues(chl->CurrentInfo.Uart, values);
-            }
+    if (selected == nullptr) {
+        return trace.Success(false);
+    }
+    const FifoValues values = ReadPage(hDlg, selected);
+    for (BPPCHL* chl = params->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
+        if (chl->Class == ClassUart) {
+            SetFifoValues(chl->CurrentInfo.Uart, values);
         }
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(true);
 }
 
 bool _ApplyClicked(HWND hDlg, BoardParams* params, INT index) {
-    TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
+    TraceScope trace("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
     BPPCHL* chl = UartAt(params, index);
-    bool bSuccess = false;
-    if (chl != nullptr) {
-        TakeFifoSettings(hDlg, chl);
-        bSuccess = StorePendingFifo(hDlg, params);
+    if (chl == nullptr) {
+        return trace.Success(false);
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    TakeFifoSettings(hDlg, chl);
+    return trace.Success(StorePendingFifo(hDlg, params));
 }
 
 bool _SetEachUartUiFifoSettingsIfChange(BoardParams* params, u32* status, u32* comNumber) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     *status = 0;
     *comNumber = 0;
-    for (BPPCHL* chl = params->WalkFirst; chl != nullptr && *status == 0; chl = chl->WalkNext) {
+    for (BPPCHL* chl = params->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
         if (chl->Class != ClassUart) {
             continue;
         }
@@ -150,15 +142,13 @@ bool _SetEachUartUiFifoSettingsIfChange(BoardParams* params, u32* status, u32* c
         *status =
             Kavro_RegUartSetFifoSettings(chl->DeviceInfoSet, &chl->DeviceInfoData, pending.UartFifoEnable,
                                          pending.UartTxFifoLowHigh, pending.UartRxFifoLowHigh);
-        if (*status == 0) {
-            SetFifoValues(chl->SavedInfo.Uart, pending);
-        } else {
+        if (*status != 0) {
             *comNumber = ComNumberFromName(uart.PortName);
+            return trace.Success(false);
         }
+        SetFifoValues(chl->SavedInfo.Uart, pending);
     }
-    const bool bSuccess = *status == 0;
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(true);
 }
 
 void TakeFifoSettings(HWND hDlg, BPPCHL* channel) {

@@ -1,6 +1,7 @@
 #include "com_numbers/com_sort.h"
 
 #include "com_numbers/com_port_database.h"
+#include "com_numbers/com_remap.h"
 #include "com_numbers/port_device.h"
 #include "com_numbers/port_rename.h"
 #include "device_model/channel_list.h"
@@ -153,30 +154,22 @@ BPPCHL* FindPartner(BoardParams* board, const BPPCHL* chl) {
     return partner;
 }
 
-// A move of the sort, as a rename.
-struct PortMove : PortRename {
-    BPPCHL* port;
-    const SortMove* move;
-};
-
-void PortNamed(const PortRename& rename) {
-    const auto& moved = static_cast<const PortMove&>(rename);
-    moved.port->SortCurrentCom = rename.newNumber;
-    TraceOut(moved.move->settingsTrace, TraceOperation(), moved.port->SortChlNumber, rename.savedName,
-             rename.newName);
-}
-
-// Moves one port to another number, together with its records. False if the rename failed; a box has said so.
+// Moves one port to another number, together with its records. False if the remap failed; a box has said so.
 bool MovePort(HWND dialog, BPPCHL* port, u32 to, const SortMove& move) {
     const u32 from = port->SortCurrentCom;
-    PortMove moved = {RenameOfChannel(port, from, to), port, &move};
-    moved.named = PortNamed;
-    const u32 sStatus = RenamePort(moved);
+    const u32 sStatus = Kavro_COMPortDoRemap(port->DeviceInfoSet, &port->DeviceInfoData, from, to);
     if (sStatus != 0) {
         ErrorBoxShow(move.failureCode, sStatus, dialog, port->SortChlNumber, from, to);
         return false;
     }
-    TraceOut(move.namesTrace, TraceOperation(), port->SortChlNumber, moved.savedName, moved.newName);
+    Kavro_COMPortBroadcastRemap(port->DeviceInfoSet, &port->DeviceInfoData);
+    port->SortCurrentCom = to;
+    NameChannel(port, to);
+    const WCHAR* saved = port->SavedInfo.Uart.PortName;
+    const WCHAR* current = port->CurrentInfo.Uart.PortName;
+    TraceOut(move.settingsTrace, TraceOperation(), port->SortChlNumber, saved, current);
+    MoveChannelSettings(port);
+    TraceOut(move.namesTrace, TraceOperation(), port->SortChlNumber, saved, current);
     return true;
 }
 
@@ -267,11 +260,9 @@ void SortBoard(HWND dialog, BoardParams* board) {
 } // namespace
 
 bool _SortCOMClicked(HWND dialog, BPPCHL* channel) {
-    TraceOut("----> %s( )\n", __func__);
-    const bool bSuccess = false;
+    TraceScope trace;
     if (channel != nullptr && channel->Board != nullptr) {
         SortBoard(dialog, channel->Board);
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(false);
 }

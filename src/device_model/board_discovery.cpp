@@ -158,7 +158,7 @@ u32 ReadBoardAndChannels(BoardParams* board) {
 } // namespace
 
 bool BoardInitiate(BoardParams* board, u32* status) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     board->ChlCount = 0;
     ChlListInit(&board->ChlList);
     board->WalkFirst = nullptr;
@@ -166,13 +166,12 @@ bool BoardInitiate(BoardParams* board, u32* status) {
     if (*status == 0) {
         *status = ReadBoardAndChannels(board);
     }
-    TraceOut("<---- %s, sStatus:%d\n", __func__, *status);
-    return *status == 0;
+    return trace.Status(*status) == 0;
 }
 
 u32 BoardEnumClass(BoardParams* board, BYTE* buffer, u32 bufferSize, HDEVINFO set, const GUID* interfaceClass,
                    u32 channelClass) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     const u32 before = board->ChlCount;
     auto* detail = reinterpret_cast<SP_DEVICE_INTERFACE_DETAIL_DATA_W*>(buffer);
     const u32 pathCapacity =
@@ -182,6 +181,7 @@ u32 BoardEnumClass(BoardParams* board, BYTE* buffer, u32 bufferSize, HDEVINFO se
     ChannelInfo info;
     for (DWORD index = 0; SetupDiEnumDeviceInterfaces(set, nullptr, interfaceClass, index, &interfaceData);
          ++index) {
+        // Asked without a buffer, the operation always fails and says how much it needs.
         DWORD needed = 0;
         SetupDiGetDeviceInterfaceDetailW(set, &interfaceData, nullptr, 0, &needed, nullptr);
         if (needed > DetailBufferBytes) {
@@ -198,12 +198,11 @@ u32 BoardEnumClass(BoardParams* board, BYTE* buffer, u32 bufferSize, HDEVINFO se
             AddChannel(board, set, data, channelClass, info, detail->DevicePath, pathCapacity);
         }
     }
-    TraceOut("<---- %s\n", __func__);
     return board->ChlCount - before;
 }
 
 void BoardDeinitiate(BoardParams* board) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     while (!ChlListIsEmpty(&board->ChlList)) {
         auto* chl = static_cast<BPPCHL*>(ChlListFirst(&board->ChlList));
         TraceOut("BPPCHL (%d, x%p, x%p, T:%d), TERMINATE\n", chl->CurrentInfo.ChlBasic.ChlNumber, chl,
@@ -216,8 +215,8 @@ void BoardDeinitiate(BoardParams* board) {
         --board->ChlCount;
     }
     board->WalkFirst = nullptr;
+    // A set that was never opened is refused, which does no harm.
     for (const HDEVINFO set : board->InterfaceSet) {
         SetupDiDestroyDeviceInfoList(set);
     }
-    TraceOut("<---- %s\n", __func__);
 }

@@ -146,30 +146,28 @@ template <SIZE_T Count> u32 WriteTo(HKEY key, const StoreNumber (&numbers)[Count
 template <SIZE_T Count>
 u32 ReadValues(HDEVINFO set, SP_DEVINFO_DATA* data, const StoreField (&fields)[Count], void* record,
                TraceName operation = __builtin_FUNCTION()) {
-    TraceOut("----> %s( )\n", operation);
-    u32 sStatus = StatusNoKey;
+    TraceScope trace(operation);
     const HKEY key = OpenDeviceKey(set, data);
-    if (key != INVALID_HANDLE_VALUE) {
-        sStatus = ReadFrom(key, fields, record);
-        RegCloseKey(key);
+    if (key == INVALID_HANDLE_VALUE) {
+        return trace.Status(StatusNoKey);
     }
-    TraceOut("<---- %s, sStatus:%d\n", operation, sStatus);
-    return sStatus;
+    const u32 sStatus = ReadFrom(key, fields, record);
+    RegCloseKey(key);
+    return trace.Status(sStatus);
 }
 
 // The same for a writing operation.
 template <SIZE_T Count>
 u32 WriteValues(HDEVINFO set, SP_DEVINFO_DATA* data, const StoreNumber (&numbers)[Count],
                 TraceName operation = __builtin_FUNCTION()) {
-    TraceOut("----> %s( )\n", operation);
-    u32 sStatus = StatusNoKey;
+    TraceScope trace(operation);
     const HKEY key = OpenDeviceKey(set, data);
-    if (key != INVALID_HANDLE_VALUE) {
-        sStatus = WriteTo(key, numbers);
-        RegCloseKey(key);
+    if (key == INVALID_HANDLE_VALUE) {
+        return trace.Status(StatusNoKey);
     }
-    TraceOut("<---- %s, sStatus:%d\n", operation, sStatus);
-    return sStatus;
+    const u32 sStatus = WriteTo(key, numbers);
+    RegCloseKey(key);
+    return trace.Status(sStatus);
 }
 
 } // namespace

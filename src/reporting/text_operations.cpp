@@ -142,6 +142,14 @@ u32 AppendText(WCHAR* destination, u32 capacity, const WCHAR* source) {
     return CopyText(destination + length, capacity - length, source);
 }
 
+bool SameText(const WCHAR* left, const WCHAR* right) {
+    while (*left != 0 && *left == *right) {
+        ++left;
+        ++right;
+    }
+    return *left == *right;
+}
+
 u32 ParseDecimal(const WCHAR* text) {
     u32 number = 0;
     for (; *text >= TEXT('0') && *text <= TEXT('9'); ++text) {
