@@ -185,6 +185,8 @@ bool _OkClicked(HWND hDlg, BPPCHL* channel) {
         ErrorBoxShow(FailureCapability, 0, hDlg);
         return trace.Success(false);
     }
+    // What is pending stays so if the write fails, and the saved values stay too: the next OK sees the
+    // difference and writes again.
     SetSettings(pending, settings);
     const u32 sStatus = WriteSettings(channel, settings);
     if (sStatus != 0) {
@@ -218,7 +220,10 @@ bool CommandGiven(HWND hDlg, BPPCHL* channel, int id, int notifyCode) {
         return true;
     case IDC_INTERFACE_SELECT:
         TraceOut("%s - IDC_INTERFACE_SELECT\n", TraceOperation());
-        return notifyCode == CBN_SELCHANGE && _InterfaceSelectClicked(hDlg, channel);
+        if (notifyCode != CBN_SELCHANGE) {
+            return false;
+        }
+        return _InterfaceSelectClicked(hDlg, channel);
     case IDC_SORT_COM:
         TraceOut("%s - IDC_SORT_COM\n", TraceOperation());
         return _SortCOMClicked(hDlg, channel);
@@ -254,6 +259,7 @@ INT_PTR CALLBACK BoardUartAdvancedDlgProc(HWND hDlg, UINT message, WPARAM wParam
 
 bool KvrBoardUartAdvancedDlgShow(HWND hParent, BPPCHL* channel) {
     TraceScope trace;
+    // A dialog that can't be shown is one that has closed without a choice.
     DialogBoxParamW(ModuleInstance, MAKEINTRESOURCEW(IDD_ADVANCED_PORT_CONTROL), hParent,
                     BoardUartAdvancedDlgProc, reinterpret_cast<LPARAM>(channel));
     return trace.Success(true);

@@ -62,6 +62,7 @@ void ShowPollingCycle(HWND hDlg) {
 void ShowPortNumber(HWND hDlg, const BPPCHL* chl) {
     if (chl != nullptr && chl->Class == ClassUart) {
         SendDlgItemMessageW(hDlg, IDC_PORT_NUMBER, CB_RESETCONTENT, 0, 0);
+        // If it fails, the combo is empty and disabled, and OK finds no number chosen.
         Kavro_COMPortFillPortNameCombox(hDlg, chl->CurrentInfo.Uart.PortName);
     } else {
         ShowFixedCombo(hDlg, IDC_PORT_NUMBER, IDC_PORT_NUMBER_CAPTION, TEXT("NONE"));
@@ -94,5 +95,6 @@ void _ChlListSelectChange(HWND hDlg, BoardParams* params, INT index) {
     _RefreshFifoControls(hDlg, chl);
     ShowPollingCycle(hDlg);
     ShowPortNumber(hDlg, chl);
+    // Once more, so that the list has the focus whatever the other controls have done.
     Select(hDlg, index);
 }

@@ -104,6 +104,8 @@ bool _SetToAllClicked(HWND hDlg, BoardParams* params, INT index) {
     if (selected == nullptr) {
         return trace.Success(false);
     }
+    // The values are copied as they are: a channel with a smaller FIFO has them lowered when its own page is
+    // read.
     const FifoValues values = ReadPage(hDlg, selected);
     for (BPPCHL* chl = params->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
         if (chl->Class == ClassUart) {

@@ -248,9 +248,10 @@ void SortBoard(HWND dialog, BoardParams* board) {
     bool buttonsDisabled = false;
     if (AnyNeedsMove(board)) {
         buttonsDisabled = MovePorts(dialog, board);
-        board->ChlListChanged = true;
+        board->ChlListChanged = true; // also after a failure, because the moves before it stay
     }
     LocalFree(table);
+    // The buttons were not disabled if a check failed before the first move.
     if (buttonsDisabled) {
         EnableSortButtons(dialog, TRUE);
         SetFocus(focus);

@@ -128,7 +128,8 @@ void _RestoreDefaultClicked(HWND hDlg, UartAdvancedParams* params) {
     SendDlgItemMessageW(hDlg, IDC_PORT_NUMBER, CB_SETCURSEL, LOWORD(found), 0);
 }
 
-// Returns the status of the write, or 0 if the values are those that were read when the dialog opened.
+// Returns the status of the write, or 0 if the values are those that were read when the dialog opened. The
+// record keeps those: where the rename then fails, the next OK compares with them and writes again.
 u32 WriteFifoValues(UartAdvancedParams* params, const FifoValues& values) {
     const FifoValues old = FifoValuesOf(params->UartBasicInfo);
     if (SameFifoValues(values, old)) {
@@ -261,6 +262,7 @@ bool KvrUartAdvancedDlgShow(HWND hParent, UartAdvancedParams* params) {
     if (!ReadPort(hParent, params)) {
         return trace.Success(false);
     }
+    // A dialog that can't be shown is one that has closed without a choice: the name is then the one before.
     DialogBoxParamW(ModuleInstance, MAKEINTRESOURCEW(IDD_ADVANCED_PORT_SETTINGS), hParent,
                     UartAdvancedDlgProc, reinterpret_cast<LPARAM>(params));
     return trace.Success(true);
