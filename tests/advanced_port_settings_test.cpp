@@ -97,7 +97,7 @@ TEST(AdvancedPortSettings, OkRenamesThePortOrStaysOpen) {
         {"a taken number, and yes", "com4", IDYES, no_fault, {in_use_question}, 4, true},
         {"no memory for the question counts as no", "com4", IDYES, Fail("LocalAlloc", 1),
          {no_memory}, 3, false},
-        {"a question that can't be shown counts as no", "com4", IDYES, Fail("MessageBoxW", 1), {}, 3, false},
+        {"only no refuses: a question that can't be shown does not", "com4", IDNO, Fail("MessageBoxW", 1), {}, 4, true},
         {"an open port, after the question", "com4", IDYES,
          [](sim::Machine& machine) { machine.devices[port].key.SetDword(u"ChlOpened", 1); },
          {in_use_question, "The port has been opened by another application. Close and try again."}, 3, false},

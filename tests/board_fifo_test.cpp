@@ -1,4 +1,5 @@
 // The FIFO settings on the Port Control page, from the store to the controls and back.
+#include "board_page/fifo_settings.h"
 #include "tests/sheets.h"
 
 namespace {
@@ -183,6 +184,16 @@ TEST(BoardFifo, ASliderThatIsNotThereStandsAtOne) {
     const AtWork at_work(machine);
     Open(Page::Board, 0, {.leaves_by = ok});
     EXPECT_EQ(StoredFifo(1), "1 1 1");
+}
+
+TEST(BoardFifo, StoringStartsFromNoStatusAndNoNumber) {
+    sim::Machine machine = TwoUartsAndADio();
+    const AtWork at_work(machine);
+    OpenBoard board;
+    u32 status = 77;
+    u32 number = 77;
+    EXPECT_TRUE(_SetEachUartUiFifoSettingsIfChange(&board.params, &status, &number));
+    EXPECT_EQ(std::pair(status, number), std::pair(0u, 0u));
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 // The Port Control page: the channels and their resources, and the rename at OK.
-#include "device_model/board_params.h"
+#include "board_page/channel_selection.h"
+#include "board_page/channel_view.h"
+#include "simulated/stage.h"
 #include "tests/sheets.h"
 
 namespace {
@@ -66,6 +68,37 @@ TEST(BoardPage, ChannelsAreListedByNumberWithTheirResources) {
     EXPECT_EQ(Open(Page::Board, 0, {.at_page = at_page, .leaves_by = ok}), "ok");
     EXPECT_EQ(Changes(), Lines{});
     EXPECT_EQ(Boxes(), Lines{});
+}
+
+TEST(BoardPage, ARecordOfNoKnownClassTakesNoPositionInTheList) {
+    sim::Machine machine = BoardOn({3, 4, 5});
+    const AtWork at_work(machine);
+    const auto at_page = [](HWND page) {
+        const sim::LogicAtWork logic_at_work;
+        BPPCHL* second = ChannelAt(PageParams(page), 1);
+        for (const u32 unknown : {0u, ChannelClassCount + 1}) {
+            second->Class = unknown;
+            _FillChannelList(page);
+            EXPECT_EQ(Items(page, IDC_PORT_LIST), (Lines{"COM3 (port1)", "COM5 (port3)"}));
+        }
+        second->Class = ClassUart;
+    };
+    EXPECT_EQ(Open(Page::Board, 0, {.at_page = at_page}), "left");
+}
+
+TEST(BoardPage, APositionIsSignedAndBelowZeroSelectsNone) {
+    void (*const select)(HWND, BoardParams*, INT) = _ChlListSelectChange;
+    sim::Machine machine = BoardOn({3});
+    const AtWork at_work(machine);
+    const auto at_page = [&](HWND page) {
+        const sim::LogicAtWork logic_at_work;
+        select(page, PageParams(page), -1);
+        const INT selected = SelectedChannel(page);
+        EXPECT_EQ(selected, -1);
+        EXPECT_EQ(ChannelAt(PageParams(page), selected), nullptr);
+        EXPECT_EQ(Shown(page, IDC_PORT_NUMBER), "NONE");
+    };
+    EXPECT_EQ(Open(Page::Board, 0, {.at_page = at_page}), "left");
 }
 
 TEST(BoardPage, ABoardWithoutListedChannelsIsEmptyAndWorks) {

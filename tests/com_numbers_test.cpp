@@ -56,13 +56,19 @@ TEST(ComPortDatabase, NumbersAreBitsAndTheHighestFreeOneWins) {
 // A user who may not take a claimed number renames a UART from COM5 to COM7.
 bool RenameFrom5To7() {
     OpenDevice device(port);
-    WCHAR saved[StoreTextCapacity] = u"COM5";
-    WCHAR current[StoreTextCapacity] = u"COM5";
+    BPPCHL channel = {};
+    for (ChannelInfo* info : {&channel.SavedInfo, &channel.CurrentInfo}) {
+        CopyText(info->Uart.PortName, StoreTextCapacity, u"COM5");
+    }
     constexpr RenameTerms terms = {FailurePortNumberInUse, FailurePortOpened, FailurePortRemap, false};
-    const bool renamed = RenamePortForUser(
-        nullptr, terms, {device.set, &device.data, 5, 7, saved, current, saved, StoreTextCapacity, nullptr});
-    EXPECT_EQ(sim::ToUtf8(current), renamed ? "COM7" : "COM5");
-    EXPECT_EQ(sim::ToUtf8(saved), sim::ToUtf8(current));
+    const bool renamed = RemapForUser(nullptr, terms, device.set, &device.data, 5, 7);
+    if (renamed) {
+        Kavro_COMPortBroadcastRemap(device.set, &device.data);
+        NameChannel(&channel, 7);
+        MoveChannelSettings(&channel);
+    }
+    EXPECT_EQ(sim::ToUtf8(channel.CurrentInfo.Uart.PortName), renamed ? "COM7" : "COM5");
+    EXPECT_EQ(sim::ToUtf8(channel.SavedInfo.Uart.PortName), renamed ? "COM7" : "COM5");
     return renamed;
 }
 
@@ -102,113 +108,123 @@ TEST(PortRename, TouchesTheOutsideInThisOrder) {
     EXPECT_EQ(PlacesOf(machine, 2), PlacesAt(machine, 2, 6));
 }
 
-// The state of the port's places: PortName, friendly name, DOS names, serial map, database, line. "5d" stands
-// for the default line.
-std::string State(sim::Machine& machine) {
+// What each place holds after a rename from COM5 to COM7; by default, after one that went through. Several
+// names in one place are separated by blanks.
+struct State {
+    std::string port_name = "COM7";
+    std::string friendly_name = "Board channel (COM7)";
+    std::string dos_names = "COM7";
+    std::string serial_map = "COM7";
+    std::string claimed = "COM7";
+    std::string settings = "COM7"; // the names with a line; "default" follows if it is not the port's own
+    friend bool operator==(const State&, const State&) = default;
+};
+const State renamed;
+const State untouched = {"COM5", "Board channel (COM5)", "COM5", "COM5", "COM5", "COM5"};
+
+std::ostream& operator<<(std::ostream& out, const State& state) {
+    return out << "port name " << state.port_name << ", friendly name " << state.friendly_name
+               << ", DOS names " << state.dos_names << ", serial map " << state.serial_map << ", claimed "
+               << state.claimed << ", settings " << state.settings;
+}
+
+State StateOf(sim::Machine& machine) {
     const Places places = PlacesOf(machine, port);
-    sim::Text names;
+    State state = {sim::ToUtf8(places.port_name),
+                   sim::ToUtf8(places.friendly_name),
+                   "",
+                   sim::ToUtf8(places.serial_map),
+                   "",
+                   ""};
+    const auto add = [](std::string& names, const std::string& name) {
+        names += (names.empty() ? "" : " ") + name;
+    };
     for (const auto& [name, target] : machine.dos_names) {
-        names += name == u"COM6" ? u"" : names.empty() ? name : u' ' + name;
+        if (name != u"COM6") { // of the other port
+            add(state.dos_names, sim::ToUtf8(name));
+        }
     }
-    std::string claimed;
-    std::string lines;
     for (const u32 number : {5, 7}) {
-        const std::string digit = std::to_string(number);
-        claimed += sim::IsClaimed(machine.port_usage, number) ? digit : "";
+        const std::string name = sim::ToUtf8(PortName(number));
         const sim::Text line = Line(machine, number);
-        lines += line.empty() ? "" : line == LineOf(port) ? digit : digit + "d";
-    }
-    std::string state = sim::ToUtf8(places.port_name + u" | " + places.friendly_name + u" | " + names +
-                                    u" | " + places.serial_map) +
-                        " | " + claimed + " | " + lines;
-    for (const std::string_view part : {"Board channel ", "COM"}) {
-        for (std::size_t at; (at = state.find(part)) != std::string::npos;) {
-            state.erase(at, part.size());
+        if (sim::IsClaimed(machine.port_usage, number)) {
+            add(state.claimed, name);
+        }
+        if (!line.empty()) {
+            add(state.settings, line == LineOf(port) ? name : name + " default");
         }
     }
     return state;
 }
-constexpr const char* untouched = "5 | (5) | 5 | 5 | 5 | 5";
-constexpr const char* renamed = "7 | (7) | 7 | 7 | 7 | 7";
 
 using Call = std::pair<std::string_view, std::size_t>; // a name, and the number of the call
 struct Outcome {
-    std::string state = renamed;
-    std::string box = {};
-    bool done = box.empty();
+    State state;
+    const char* box = nullptr; // what a refused rename shows
 };
+const char* const rename_failed = "There was an error renaming the COM port.";
 const std::map<Call, Outcome> after_failure = {
     {{"ComDBOpen", 1}, {untouched, "Check COM port in use failure. [serr:200]"}},
     {{"ComDBGetCurrentPortUsage", 1}, {untouched, "Check COM port in use failure. [serr:201]"}},
     {{"SetupDiOpenDevRegKey", 1}, {untouched, "Check COM port opened failure. [serr:100]"}},
     {{"RegQueryValueExW", 1}, {untouched, "Check COM port opened failure. [serr:101]"}},
-    {{"LocalAlloc", 1}, {untouched, "There was an error renaming the COM port."}},
-    {{"SetupDiOpenDevRegKey", 2}, {untouched, "There was an error renaming the COM port."}},
-    {{"ComDBOpen", 2}, {untouched, "There was an error renaming the COM port."}},
-    {{"QueryDosDeviceW", 1}, {"7 | (7) | 5 | 7 | 7 | 7"}},
-    {{"QueryDosDeviceW", 2}, {untouched, "There was an error renaming the COM port."}},
-    {{"DefineDosDeviceW", 1}, {"7 | (7) | 5 7 | 7 | 7 | 7"}},
-    {{"DefineDosDeviceW", 2}, {untouched, "There was an error renaming the COM port."}},
-    {{"RegOpenKeyExW", 1}, {"7 | (7) | 7 | 5 | 7 | 7"}},
-    {{"RegEnumValueW", 1}, {"7 | (7) | 7 | 5 | 7 | 7"}},
-    {{"RegSetValueExW", 1}, {"7 | (7) | 7 | 5 | 7 | 7"}},
-    {{"ComDBReleasePort", 1}, {"7 | (7) | 7 | 7 | 57 | 7"}},
-    {{"ComDBClaimPort", 1}, {"7 | (7) | 7 | 7 |  | 7"}},
-    {{"SetupDiGetDeviceRegistryPropertyW", 1}, {"7 | 7 | 7 | 7 | 7 | 7"}},
-    {{"SetupDiSetDeviceRegistryPropertyW", 1}, {"7 | (5) | 7 | 7 | 7 | 7"}},
-    {{"RegSetValueExW", 2}, {"5 | (7) | 7 | 7 | 7 | 7"}},
-    {{"LocalAlloc", 2}, {"7 | (7) | 7 | 7 | 7 | 5"}},
-    {{"LocalAlloc", 3}, {"7 | (7) | 7 | 7 | 7 | 5"}},
-    {{"GetProfileStringW", 1}, {"7 | (7) | 7 | 7 | 7 | 7d"}},
-    {{"WriteProfileStringW", 1}, {"7 | (7) | 7 | 7 | 7 | "}},
-    {{"WriteProfileStringW", 2}, {"7 | (7) | 7 | 7 | 7 | 57"}},
+    {{"LocalAlloc", 1}, {untouched, rename_failed}},
+    {{"SetupDiOpenDevRegKey", 2}, {untouched, rename_failed}},
+    {{"ComDBOpen", 2}, {untouched, rename_failed}},
+    {{"QueryDosDeviceW", 1}, {{.dos_names = "COM5"}}},
+    {{"QueryDosDeviceW", 2}, {untouched, rename_failed}},
+    {{"DefineDosDeviceW", 1}, {{.dos_names = "COM5 COM7"}}},
+    {{"DefineDosDeviceW", 2}, {untouched, rename_failed}},
+    {{"RegOpenKeyExW", 1}, {{.serial_map = "COM5"}}},
+    {{"RegEnumValueW", 1}, {{.serial_map = "COM5"}}},
+    {{"RegSetValueExW", 1}, {{.serial_map = "COM5"}}},
+    {{"ComDBReleasePort", 1}, {{.claimed = "COM5 COM7"}}},
+    {{"ComDBClaimPort", 1}, {{.claimed = ""}}},
+    {{"SetupDiGetDeviceRegistryPropertyW", 1}, {{.friendly_name = "COM7"}}},
+    {{"SetupDiSetDeviceRegistryPropertyW", 1}, {{.friendly_name = "Board channel (COM5)"}}},
+    {{"SetupDiGetDeviceInstallParamsW", 1}, {renamed}},
+    {{"SetupDiSetDeviceInstallParamsW", 1}, {renamed}},
+    {{"SetupDiSetClassInstallParamsW", 1}, {renamed}},
+    {{"SetupDiCallClassInstaller", 1}, {renamed}},
+    {{"RegSetValueExW", 2}, {{.port_name = "COM5"}}},
+    {{"LocalAlloc", 2}, {{.settings = "COM5"}}},
+    {{"LocalAlloc", 3}, {{.settings = "COM5"}}},
+    {{"GetProfileStringW", 1}, {{.settings = "COM7 default"}}},
+    {{"WriteProfileStringW", 1}, {{.settings = ""}}},
+    {{"SendNotifyMessageW", 1}, {renamed}},
+    {{"WriteProfileStringW", 2}, {{.settings = "COM5 COM7"}}},
 };
-// Pairs of failures that leave something else than the later one alone, or than the earlier one if only that
-// leaves anything.
+// Pairs of failures that work together: each of the others leaves what its two leave alone.
 const std::map<std::pair<Call, Call>, Outcome> after_both = {
     {{{"DefineDosDeviceW", 2}, {"DefineDosDeviceW", 3}},
-     {"5 | (5) |  | 5 | 5 | 5", "There was an error renaming the COM port."}},
-    {{{"RegOpenKeyExW", 1}, {"RegSetValueExW", 1}}, {"5 | (7) | 7 | 5 | 7 | 7"}}, // the one of PortName
-    {{{"RegEnumValueW", 1}, {"RegSetValueExW", 1}}, {"5 | (7) | 7 | 5 | 7 | 7"}},
-    {{{"ComDBReleasePort", 1}, {"ComDBClaimPort", 1}}, {"7 | (7) | 7 | 7 | 5 | 7"}},
-    {{{"GetProfileStringW", 1}, {"WriteProfileStringW", 1}}, {"7 | (7) | 7 | 7 | 7 | "}},
-    {{{"GetProfileStringW", 1}, {"WriteProfileStringW", 2}}, {"7 | (7) | 7 | 7 | 7 | 57d"}},
-    {{{"WriteProfileStringW", 1}, {"WriteProfileStringW", 2}}, {"7 | (7) | 7 | 7 | 7 | 5"}},
+     {{"COM5", "Board channel (COM5)", "", "COM5", "COM5", "COM5"}, rename_failed}},
+    // The value written first is then the one of PortName.
+    {{{"RegOpenKeyExW", 1}, {"RegSetValueExW", 1}}, {{.port_name = "COM5", .serial_map = "COM5"}}},
+    {{{"RegEnumValueW", 1}, {"RegSetValueExW", 1}}, {{.port_name = "COM5", .serial_map = "COM5"}}},
+    {{{"ComDBReleasePort", 1}, {"ComDBClaimPort", 1}}, {{.claimed = "COM5"}}},
+    {{{"GetProfileStringW", 1}, {"WriteProfileStringW", 2}}, {{.settings = "COM5 COM7 default"}}},
+    {{{"WriteProfileStringW", 1}, {"WriteProfileStringW", 2}}, {{.settings = "COM5"}}},
 };
 
-Outcome OutcomeOf(const Call& failed) {
-    const auto row = after_failure.find(failed);
-    return row != after_failure.end() ? row->second : Outcome();
-}
-
-// Place by place, the differences from a rename without failure.
-Outcome OutcomeOf(const Call& failed, const Call& failed_too) {
-    const auto row = after_both.find({failed, failed_too});
-    Outcome first = OutcomeOf(failed), second = OutcomeOf(failed_too);
-    if (row != after_both.end()) {
-        return row->second;
-    }
-    if (!first.done) {
-        return first;
-    }
-    if (!second.done) {
-        return second;
-    }
-    const auto places = [](const std::string& state) {
-        std::vector<std::string> parts;
-        std::size_t from = 0;
-        for (std::size_t to; (to = state.find(" | ", from)) != std::string::npos; from = to + 3) {
-            parts.push_back(state.substr(from, to - from));
+// What failures leave; none that the table does not have occurs. A refusal ends the rename, so nothing that
+// fails in its wake, such as its box, leaves anything more.
+Outcome OutcomeOf(const std::vector<Call>& failed) {
+    Outcome outcome;
+    for (const Call& call : failed) {
+        const auto row = after_failure.find(call);
+        if (outcome.box != nullptr || row == after_failure.end()) {
+            continue;
         }
-        parts.push_back(state.substr(from));
-        return parts;
-    };
-    std::string state;
-    const auto one = places(first.state), other = places(second.state), sound = places(renamed);
-    for (std::size_t i = 0; i < sound.size(); ++i) {
-        state += (i == 0 ? "" : " | ") + (other[i] == sound[i] ? one[i] : other[i]);
+        if (row->second.box != nullptr) {
+            return row->second;
+        }
+        for (std::string State::*place : {&State::port_name, &State::friendly_name, &State::dos_names,
+                                          &State::serial_map, &State::claimed, &State::settings}) {
+            const std::string& left = row->second.state.*place;
+            outcome.state.*place = left != renamed.*place ? left : outcome.state.*place;
+        }
     }
-    return {state, ""};
+    return outcome;
 }
 
 // Renames with failures at these operations. Returns the failures that occurred.
@@ -218,18 +234,16 @@ std::vector<Call> ExpectOutcomeWithFailures(const std::vector<std::size_t>& at) 
     machine.faults.at = at;
     const bool done = RenameFrom5To7();
     std::vector<Call> failed = FailedCalls(machine);
-    const Outcome expected = failed.size() == 2   ? OutcomeOf(failed[0], failed[1])
-                             : failed.size() == 1 ? OutcomeOf(failed[0])
-                                                  : Outcome();
     SCOPED_TRACE(testing::PrintToString(failed));
-    EXPECT_EQ(done, expected.done);
-    EXPECT_EQ(State(machine), expected.state);
+    const auto together = failed.size() == 2 ? after_both.find({failed[0], failed[1]}) : after_both.end();
+    const Outcome expected = together != after_both.end() ? together->second : OutcomeOf(failed);
+    EXPECT_EQ(done, expected.box == nullptr);
+    EXPECT_EQ(StateOf(machine), expected.state);
     // Each step of the property change is made, whichever of them fails.
     EXPECT_EQ(Count(machine, "SetupDiSetClassInstallParamsW"), done ? 1u : 0u);
     EXPECT_EQ(Count(machine, "SetupDiCallClassInstaller"), done ? 1u : 0u);
     // The second failure may be in the box that reports the first.
-    const bool is_untold =
-        failed.size() == 2 && !OutcomeOf(failed[0]).done && !after_both.contains({failed[0], failed[1]});
+    const bool is_untold = failed.size() == 2 && together == after_both.end() && OutcomeOf({failed[0]}).box;
     EXPECT_TRUE(is_untold || machine.boxes.size() == (done ? 0u : 1u));
     EXPECT_TRUE(is_untold || done || sim::ToUtf8(machine.boxes[0].text) == expected.box);
     EXPECT_EQ(PlacesOf(machine, 2), PlacesAt(machine, 2, 6));
@@ -238,18 +252,27 @@ std::vector<Call> ExpectOutcomeWithFailures(const std::vector<std::size_t>& at) 
 
 TEST(PortRename, EveryOneAndTwoOperationsMayFailAndLeaveTheStateOfTheirSteps) {
     std::set<Call> met;
+    std::set<std::pair<Call, Call>> met_together;
     for (std::size_t one = 1;; ++one) {
         const std::vector<Call> failed = ExpectOutcomeWithFailures({one});
         if (failed.empty()) {
             break;
         }
         met.insert(failed[0]);
-        for (std::size_t two = one + 1; ExpectOutcomeWithFailures({one, two}).size() == 2;) {
-            ++two;
+        for (std::size_t two = one + 1;; ++two) {
+            const std::vector<Call> both = ExpectOutcomeWithFailures({one, two});
+            if (both.size() != 2) {
+                break;
+            }
+            met_together.insert({both[0], both[1]});
         }
     }
     for (const auto& [call, outcome] : after_failure) {
         EXPECT_TRUE(met.contains(call)) << call.first << ' ' << call.second;
+    }
+    for (const auto& [calls, outcome] : after_both) {
+        EXPECT_TRUE(met_together.contains(calls)) << calls.first.first << ", " << calls.second.first;
+        EXPECT_NE(OutcomeOf({calls.first, calls.second}).state, outcome.state) << "needs no row";
     }
 }
 
@@ -276,36 +299,37 @@ TEST(PortRename, TakesTheMachineAsItFindsIt) {
     const struct {
         const char* what;
         Change change;
-        std::string state;
+        State state;
     } cases[] = {
-        {"no DOS name", [](auto& machine) { machine.dos_names.clear(); }, "7 | (7) |  | 7 | 7 | 7"},
+        {"no DOS name", [](auto& machine) { machine.dos_names.clear(); }, {.dos_names = ""}},
         {"a target that fits its buffer", target(78), renamed},
-        {"a target that doesn't is no DOS name", target(79), "7 | (7) | 5 | 7 | 7 | 7"},
-        {"no serial map", [](auto& machine) { machine.serial_map_exists = false; },
-         "7 | (7) | 7 | 5 | 7 | 7"},
-        {"of two in the map the first", map_first(u"Other", REG_SZ, u"COM5"), "7 | (7) | 7 | 5 | 7 | 7"},
+        {"a target that doesn't is no DOS name", target(79), {.dos_names = "COM5"}},
+        {"no serial map", [](auto& machine) { machine.serial_map_exists = false; }, {.serial_map = "COM5"}},
+        {"of two in the map the first", map_first(u"Other", REG_SZ, u"COM5"), {.serial_map = "COM5"}},
         {"a lower case name in the map is another", map_first(u"Other", REG_SZ, u"com5"), renamed},
         {"a longer name in the map is another", map_first(u"Other", REG_SZ, u"COM55"), renamed},
         {"a shorter name in the map is another", map_first(u"Other", REG_SZ, u"COM"), renamed},
         {"another type in the map is passed over", map_first(u"Other", REG_MULTI_SZ, u"COM5"), renamed},
         {"a name that fits the buffer", map_first(wide(80), REG_SZ, u"x"), renamed},
-        {"a name that doesn't ends the scan", map_first(wide(81), REG_SZ, u"x"), "7 | (7) | 7 | 5 | 7 | 7"},
+        {"a name that doesn't ends the scan", map_first(wide(81), REG_SZ, u"x"), {.serial_map = "COM5"}},
         {"a text that fits the buffer", map_first(u"Other", REG_SZ, wide(80)), renamed},
-        {"a text that doesn't ends the scan", map_first(u"Other", REG_SZ, wide(81)),
-         "7 | (7) | 7 | 5 | 7 | 7"},
+        {"a text that doesn't ends the scan", map_first(u"Other", REG_SZ, wide(81)), {.serial_map = "COM5"}},
         {"a text in the map without terminator",
          [](auto& machine) { machine.serial_map.list[0].data.resize(8); }, renamed},
-        {"a database of no handle", database(nullptr), "7 | (7) | 7 | 7 | 5 | 7"},
-        {"a database of no valid handle", database(HCOMDB_INVALID_HANDLE_VALUE), "7 | (7) | 7 | 7 | 5 | 7"},
-        {"no description", description(std::nullopt), "7 | 7 | 7 | 7 | 7 | 7"},
-        {"an empty description", description(u""), "7 |  (7) | 7 | 7 | 7 | 7"},
-        {"a description with just enough room", description(wide(71)), "7 | " + a71 + " (7) | 7 | 7 | 7 | 7"},
-        {"a description that cuts into the number", description(wide(77)),
-         "7 | " + std::string(77, 'a') + " (C | 7 | 7 | 7 | 7"},
-        {"a description of its buffer's length", description(wide(255)), "7 | " + a80 + " | 7 | 7 | 7 | 7"},
-        {"a description beyond its buffer", description(wide(256)), "7 | 7 | 7 | 7 | 7 | 7"},
-        {"a port without a line", [](auto& machine) { machine.profile.clear(); }, "7 | (7) | 7 | 7 | 7 | 7d"},
-        {"an empty line", [](auto& machine) { SetLine(machine, 5, u""); }, "7 | (7) | 7 | 7 | 7 | 7d"},
+        {"a database of no handle", database(nullptr), {.claimed = "COM5"}},
+        {"a database of no valid handle", database(HCOMDB_INVALID_HANDLE_VALUE), {.claimed = "COM5"}},
+        {"no description", description(std::nullopt), {.friendly_name = "COM7"}},
+        {"an empty description", description(u""), {.friendly_name = " (COM7)"}},
+        {"a description with just enough room", description(wide(71)), {.friendly_name = a71 + " (COM7)"}},
+        {"a description that cuts into the number",
+         description(wide(77)),
+         {.friendly_name = std::string(77, 'a') + " (C"}},
+        {"a description of its buffer's length", description(wide(255)), {.friendly_name = a80}},
+        {"a description beyond its buffer", description(wide(256)), {.friendly_name = "COM7"}},
+        {"a port without a line",
+         [](auto& machine) { machine.profile.clear(); },
+         {.settings = "COM7 default"}},
+        {"an empty line", [](auto& machine) { SetLine(machine, 5, u""); }, {.settings = "COM7 default"}},
     };
     for (const auto& each : cases) {
         SCOPED_TRACE(each.what);
@@ -313,7 +337,7 @@ TEST(PortRename, TakesTheMachineAsItFindsIt) {
         const AtWork at_work(machine);
         each.change(machine);
         RenameFrom5To7();
-        EXPECT_EQ(State(machine), each.state);
+        EXPECT_EQ(StateOf(machine), each.state);
     }
 }
 
@@ -322,7 +346,7 @@ TEST(PortRename, ADosNameThatStayedIsNotDefinedAgain) {
     const AtWork at_work(machine);
     machine.faults.at_call = {{"DefineDosDeviceW", 1}, {"DefineDosDeviceW", 2}};
     EXPECT_FALSE(RenameFrom5To7());
-    EXPECT_EQ(State(machine), untouched);
+    EXPECT_EQ(StateOf(machine), untouched);
     EXPECT_EQ(Count(machine, "DefineDosDeviceW"), 2u);
 }
 

@@ -182,6 +182,19 @@ TEST(DeviceStore, EachReadingTakesItsValuesInOrderWhateverTheirTypeAndLength) {
     }
 }
 
+TEST(DeviceStore, AFieldTooSmallForATerminatorGetsNone) {
+    for (const u32 bytes : {0u, 1u}) {
+        sim::Machine machine;
+        machine.devices.emplace_back().key.Set(u"PortName", REG_SZ, Pattern(bytes, 0));
+        const AtWork at_work(machine);
+        OpenDevice device(0);
+        WCHAR around[] = u"\xAAAA\xAAAA";
+        EXPECT_EQ(Kavro_RegUartGetCOMName(device.set, &device.data, around, bytes), 0u);
+        EXPECT_EQ(around[0], bytes == 0 ? u'\xAAAA' : u'\xAA01');
+        EXPECT_EQ(around[1], u'\xAAAA');
+    }
+}
+
 // --- The FIFO ---------------------------------------------------------------------------------------------
 
 TEST(FifoStages, APositionIsAStageAndATriggerLevelTheHighestThatItReaches) {
@@ -321,6 +334,37 @@ TEST(BoardDiscovery, AChannelIsKeptIfItCanBeReadAndBelongsToTheBoard) {
         EXPECT_TRUE(board.initiated) << each.what;
         EXPECT_EQ(Channels(board.params), each.channels) << each.what;
     }
+}
+
+TEST(BoardDiscovery, ARecordCanBeFilledAgainAndHoldsNothingInBetween) {
+    sim::Machine machine = OneOfEach();
+    const AtWork at_work(machine);
+    OpenBoard board;
+    BoardDeinitiate(&board.params);
+    EXPECT_EQ(Channels(board.params), " |");
+    std::ranges::fill(board.params.InterfaceSet, static_cast<HDEVINFO>(INVALID_HANDLE_VALUE));
+    BPPCHL left_over = {};
+    board.params.WalkFirst = &left_over;
+    EXPECT_TRUE(BoardInitiate(&board.params, &board.status));
+    EXPECT_EQ(Channels(board.params), all_of_each);
+}
+
+TEST(BoardDiscovery, AClassTellsHowManyChannelsItHasAndOnlyFiveAreClasses) {
+    sim::Machine machine = OneOfEach();
+    AddUart(machine, {}, 4, 8);
+    AddUart(machine, {.bus = 4, .irq = 17}, 3, 9);
+    const AtWork at_work(machine);
+    OpenBoard board;
+    BYTE buffer[DetailBufferBytes];
+    const auto channels_of = [&](u32 set, u32 channel_class) {
+        const GUID id = InterfaceClass(set);
+        return BoardEnumClass(&board.params, buffer, sizeof buffer, board.params.InterfaceSet[set - 1], &id,
+                              channel_class);
+    };
+    EXPECT_EQ(channels_of(ClassUart, ClassUart), 2u);
+    EXPECT_EQ(channels_of(ClassCan, ClassCan), 1u);
+    EXPECT_EQ(channels_of(ClassCan, ChannelClassCount + 1), 0u);
+    EXPECT_EQ(channels_of(ClassCan, 0), 0u);
 }
 
 TEST(BoardDiscovery, TheBoardsOwnValuesMustAllBeReadable) {

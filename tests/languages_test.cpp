@@ -79,8 +79,8 @@ void ExpectApart(const sim::DialogTemplate& dialog) {
     }
 }
 
-// The hot keys of the sheet's own Apply, on Windows and on Wine. The English pages use the letter too, as
-// specified.
+// The hot keys of the sheet's own Apply, on Windows and on Wine. The English pages use the letter too:
+// their texts are the ones that users know.
 const std::map<LANGID, std::u16string_view> sheet_letters = {
     {29, u"V"},    {1025, u"ت"}, {1028, u"A"}, {1029, u"P"}, {1030, u"A"},  {1031, u"AB"},
     {1032, u"ΕΦ"}, {1033, u""},  {1035, u"K"}, {1036, u"A"}, {1037, u"חה"}, {1038, u"A"},

@@ -8,7 +8,7 @@ import subprocess
 import sys
 import unittest
 
-SOURCE = pathlib.Path(__file__).resolve().parents[1] / "src"
+ROOT = pathlib.Path(__file__).resolve().parents[1]
 COMPILER = sys.argv.pop(1)
 IS_CLANG = "clang" in subprocess.run([*COMPILER.split(), "--version"], capture_output=True, text=True).stdout
 
@@ -28,6 +28,8 @@ RIGHT = [
     r'"x%p, x%p\n", record, text',
     r'rows[0].format, __func__, GetLastError()',
     r'"-----\n"',
+    r'TraceScope trace("----> %s( ), Message:%d\n", __func__, 1u)',
+    r'TraceScope().Exit("<---- %s, nReturn:%d, %d\n", 1u, flag)',
 ]
 WRONG = [
     r'"%s\n"', r'"%d, %d\n", 1', r'"%s\n", __func__, 1',
@@ -35,19 +37,21 @@ WRONG = [
     r'"%d\n", wide', r'"%I64d\n", 1', r'"%I64X\n", 1u', r'"%d\n", small', r'"%d\n", 1.0',
     r'"%p\n", 1', r'"%d\n", record', r'"%x\n", 1', r'"%02d\n", 1', r'"100%\n"',
     r'"%s - no line feed", __func__', r'reinterpret_cast<const char*>(record), 1', r'rows[0].format, 1, 1',
+    r'TraceScope trace("----> %s( )\n", __func__, 1)', r'TraceScope().Exit("<---- %s\n", 1u)',
 ]
-
 
 
 def compiled(lines, live):
     """Whether a function of these lines compiles, and the lines that the compiler complains about."""
-    source = FUNCTION % "\n    ".join(f"TraceOut({line});" for line in lines)
-    done = subprocess.run([*COMPILER.split(), "-std=c++20", "-DKVR_SIMULATED", f"-I{SOURCE}", "-fsyntax-only", "-x", "c++", "-",
-                           *(["-DTRACE_LIVE"] if live else []), *(["-ferror-limit=0"] if IS_CLANG else [])],
+    statements = [line if line.startswith("TraceScope") else f"TraceOut({line})" for line in lines]
+    source = FUNCTION % "\n    ".join(f"{{ {statement}; }}" for statement in statements)
+    done = subprocess.run([*COMPILER.split(), "-std=c++20", "-DKVR_SIMULATED", f"-I{ROOT}", f"-I{ROOT / 'src'}",
+                           "-fsyntax-only", "-x", "c++", "-", *(["-DTRACE_LIVE"] if live else []),
+                           *(["-ferror-limit=0"] if IS_CLANG else [])],
                           input=source, capture_output=True, text=True)
-    named = {int(number) for number in re.findall(r"<stdin>:(\d+):", done.stderr)}
-    return done.returncode == 0, {line[len("    TraceOut("):-len(");")] for number, line in enumerate(source.splitlines(), 1)
-                                  if number in named and "TraceOut(" in line}
+    first = 1 + FUNCTION[:FUNCTION.index("%s\n}")].count("\n")
+    named = {int(number) - first for number in re.findall(r"<stdin>:(\d+):", done.stderr)}
+    return done.returncode == 0, {line for number, line in enumerate(lines) if number in named}
 
 
 class TraceFormats(unittest.TestCase):

@@ -1,6 +1,8 @@
 // The Port Settings page: its five combos, the settings line through them, and what OK writes.
 #include "simulated/catalogue.h"
+#include "simulated/stage.h"
 #include "tests/sheets.h"
+#include "uart_page/settings_combos.h"
 #include "uart_page/settings_line.h"
 
 namespace {
@@ -285,6 +287,18 @@ TEST(UartPage, ARemoteMachineIsShownAndItsLineIsStillSaved) {
         EXPECT_EQ(Open(Page::Port, port, {.at_page = at_page, .leaves_by = ok}), "ok");
         EXPECT_EQ(Line(), "19200,n,8,1 ");
     }
+}
+
+TEST(UartPage, FillingTheCombosStartsFromNoFailure) {
+    sim::Machine machine = UartWithLine(u"9600,n,8,1");
+    const AtWork at_work(machine);
+    const auto at_page = [](HWND page) {
+        const sim::LogicAtWork logic_at_work;
+        u32 code = 77;
+        EXPECT_TRUE(_FillComboxDlg(page, &code));
+        EXPECT_EQ(code, 0u);
+    };
+    EXPECT_EQ(Open(Page::Port, port, {.at_page = at_page}), "left");
 }
 
 } // namespace

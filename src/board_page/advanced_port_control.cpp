@@ -69,7 +69,7 @@ const UartMode* ModeAtEntry(const BPPCHL* chl, u32 position) {
 }
 
 bool _InitializeControls(HWND hDlg, BPPCHL* channel) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     const UartBasicInfo& uart = channel->CurrentInfo.Uart;
     SendDlgItemMessageW(hDlg, IDC_INTERFACE_SELECT, CB_RESETCONTENT, 0, 0);
     for (const UartMode& mode : UartModes) {
@@ -92,22 +92,18 @@ bool _InitializeControls(HWND hDlg, BPPCHL* channel) {
         SelectEntry(hDlg, 0);
         EnableInterface(hDlg, FALSE);
     }
-    const bool bSuccess = true;
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(true);
 }
 
 // The boxes show the record again, so earlier clicks on them are lost.
 bool _InterfaceSelectClicked(HWND hDlg, const BPPCHL* channel) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     const UartMode* mode = ModeAtEntry(channel, SelectedEntry(hDlg));
     ClearBoxes(hDlg);
     if (mode != nullptr) {
         ShowBoxes(hDlg, channel->CurrentInfo.Uart, *mode);
     }
-    const bool bSuccess = false;
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(false);
 }
 
 const UartMode* FirstOfferedMode(u32 capability) {
@@ -121,7 +117,7 @@ const UartMode* FirstOfferedMode(u32 capability) {
 
 // Selects the first mode that the UART offers. If it offers none, the termination box is left alone.
 void _RestoreDefaultClicked(HWND hDlg, const BPPCHL* channel) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     const u32 capability = channel->CurrentInfo.Uart.UartCapability;
     const UartMode* mode = FirstOfferedMode(capability);
     if (mode != nullptr) {
@@ -135,7 +131,6 @@ void _RestoreDefaultClicked(HWND hDlg, const BPPCHL* channel) {
         EnableInterface(hDlg, FALSE);
         SetBox(hDlg, IDC_ACS_ENABLE, false, false);
     }
-    TraceOut("<---- %s\n", __func__);
 }
 
 // Storing a mode requires less than offering it, so this fails only if no offered entry is selected.
@@ -178,7 +173,7 @@ u32 WriteSettings(BPPCHL* channel, const InterfaceSettings& settings) {
 }
 
 bool _OkClicked(HWND hDlg, BPPCHL* channel) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     UartBasicInfo& pending = channel->CurrentInfo.Uart;
     const UartMode* chosen = ModeAtEntry(channel, SelectedEntry(hDlg));
     const UartMode& mode = chosen != nullptr ? *chosen : UartModes[0];
@@ -186,27 +181,56 @@ bool _OkClicked(HWND hDlg, BPPCHL* channel) {
         ChooseSettings(mode, pending.UartCapability, IsChecked(hDlg, IDC_TERMINATION_ENABLE),
                        IsChecked(hDlg, IDC_ACS_ENABLE));
     TraceSettings(settings);
-    bool bSuccess = false;
     if (!IsSupported(mode, pending.UartCapability)) {
         ErrorBoxShow(FailureCapability, 0, hDlg);
-    } else {
-        SetSettings(pending, settings);
-        const u32 sStatus = WriteSettings(channel, settings);
-        bSuccess = sStatus == 0;
-        if (!bSuccess) {
-            ErrorBoxShow(FailureSetAdvance, sStatus, hDlg);
-        }
+        return trace.Success(false);
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    // What is pending stays so if the write fails, and the saved values stay too: the next OK sees the
+    // difference and writes again.
+    SetSettings(pending, settings);
+    const u32 sStatus = WriteSettings(channel, settings);
+    if (sStatus != 0) {
+        ErrorBoxShow(FailureSetAdvance, sStatus, hDlg);
+    }
+    return trace.Success(sStatus == 0);
 }
 
 bool _OnInitDialog(HWND hDlg, LPARAM lParam) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     SetWindowLongPtrW(hDlg, DWLP_USER, lParam);
-    const bool bSuccess = _InitializeControls(hDlg, reinterpret_cast<BPPCHL*>(lParam));
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(_InitializeControls(hDlg, reinterpret_cast<BPPCHL*>(lParam)));
+}
+
+bool CommandGiven(HWND hDlg, BPPCHL* channel, int id, int notifyCode) {
+    switch (id) {
+    case IDOK:
+        TraceOut("%s - IDOK\n", TraceOperation());
+        if (!_OkClicked(hDlg, channel)) {
+            return false;
+        }
+        EndDialog(hDlg, IDOK);
+        return true;
+    case IDCANCEL:
+        TraceOut("%s - IDCANCEL\n", TraceOperation());
+        EndDialog(hDlg, IDCANCEL);
+        return true;
+    case IDC_RESTORE:
+        TraceOut("%s - IDC_RESTORE\n", TraceOperation());
+        _RestoreDefaultClicked(hDlg, channel);
+        return true;
+    case IDC_INTERFACE_SELECT:
+        TraceOut("%s - IDC_INTERFACE_SELECT\n", TraceOperation());
+        if (notifyCode != CBN_SELCHANGE) {
+            return false;
+        }
+        return _InterfaceSelectClicked(hDlg, channel);
+    case IDC_SORT_COM:
+        TraceOut("%s - IDC_SORT_COM\n", TraceOperation());
+        return _SortCOMClicked(hDlg, channel);
+    default:
+        TraceOut("%s - DEFAULT:%d\n", TraceOperation(), id);
+        return false;
+    }
 }
 
 bool _OnCommand(HWND hDlg, int id, int notifyCode) {
@@ -214,42 +238,8 @@ bool _OnCommand(HWND hDlg, int id, int notifyCode) {
     if (channel == nullptr) {
         return false; // before WM_INITDIALOG
     }
-    TraceOut("----> %s( ), NotifyCode:%d\n", __func__, notifyCode);
-    bool bSuccess = false;
-    switch (id) {
-    case IDOK:
-        TraceOut("%s - IDOK\n", __func__);
-        bSuccess = _OkClicked(hDlg, channel);
-        if (bSuccess) {
-            EndDialog(hDlg, IDOK);
-        }
-        break;
-    case IDCANCEL:
-        TraceOut("%s - IDCANCEL\n", __func__);
-        EndDialog(hDlg, IDCANCEL);
-        bSuccess = true;
-        break;
-    case IDC_RESTORE:
-        TraceOut("%s - IDC_RESTORE\n", __func__);
-        _RestoreDefaultClicked(hDlg, channel);
-        bSuccess = true;
-        break;
-    case IDC_INTERFACE_SELECT:
-        TraceOut("%s - IDC_INTERFACE_SELECT\n", __func__);
-        if (notifyCode == CBN_SELCHANGE) {
-            bSuccess = _InterfaceSelectClicked(hDlg, channel);
-        }
-        break;
-    case IDC_SORT_COM:
-        TraceOut("%s - IDC_SORT_COM\n", __func__);
-        bSuccess = _SortCOMClicked(hDlg, channel);
-        break;
-    default:
-        TraceOut("%s - DEFAULT:%d\n", __func__, id);
-        break;
-    }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    TraceScope trace("----> %s( ), NotifyCode:%d\n", __func__, notifyCode);
+    return trace.Success(CommandGiven(hDlg, channel, id, notifyCode));
 }
 
 INT_PTR CALLBACK BoardUartAdvancedDlgProc(HWND hDlg, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -268,10 +258,9 @@ INT_PTR CALLBACK BoardUartAdvancedDlgProc(HWND hDlg, UINT message, WPARAM wParam
 } // namespace
 
 bool KvrBoardUartAdvancedDlgShow(HWND hParent, BPPCHL* channel) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
+    // A dialog that can't be shown is one that has closed without a choice.
     DialogBoxParamW(ModuleInstance, MAKEINTRESOURCEW(IDD_ADVANCED_PORT_CONTROL), hParent,
                     BoardUartAdvancedDlgProc, reinterpret_cast<LPARAM>(channel));
-    const bool bSuccess = true;
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(true);
 }

@@ -1,11 +1,12 @@
 #include "board_page/board_page_dialog.h"
 
 #include "board_page/advanced_port_control.h"
+#include "board_page/channel_selection.h"
 #include "board_page/channel_view.h"
 #include "board_page/fifo_settings.h"
 #include "board_page/resource_list.h"
+#include "com_numbers/port_device.h"
 #include "com_numbers/port_rename.h"
-#include "device_model/channel_list.h"
 #include "page_parts/fifo_controls.h"
 #include "page_parts/page_provider.h"
 #include "reporting/error_reporter.h"
@@ -19,8 +20,8 @@ constexpr RenameTerms BoardRename = {FailureBoardNumberInUse, FailureBoardPortOp
 
 bool _OnInitDialog(HWND hDlg, LPARAM page) {
     auto* params = reinterpret_cast<BoardParams*>(reinterpret_cast<const PROPSHEETPAGEW*>(page)->lParam);
-    TraceOut("----> %s( ), [pci:%d,irq:%d]\n", __func__, params->BoardBasic.BoardPciBusNumber,
-             params->BoardBasic.BoardIrq);
+    TraceScope trace("----> %s( ), [pci:%d,irq:%d]\n", __func__, params->BoardBasic.BoardPciBusNumber,
+                     params->BoardBasic.BoardIrq);
     SetWindowLongPtrW(hDlg, DWLP_USER, reinterpret_cast<LONG_PTR>(params));
     AddResourceColumns(hDlg);
     ShowFifoLabel(hDlg, IDC_TRANSMIT_LOW, IDS_LOW, 1);
@@ -28,25 +29,66 @@ bool _OnInitDialog(HWND hDlg, LPARAM page) {
     _FillChannelList(hDlg);
     _ChlListSelectChange(hDlg, params, 0);
     params->BasicSettingsDlgInitiateOK = true;
-    const bool bSuccess = true;
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(true);
 }
 
-bool _AdvancedClicked(HWND hDlg, BoardParams* params, u32 index) {
-    TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
-    BPPCHL* chl = BoardChlByListIndex(params, index);
-    const bool bSuccess = chl != nullptr;
-    if (bSuccess && chl->Class == ClassUart) {
+bool _AdvancedClicked(HWND hDlg, BoardParams* params, INT index) {
+    TraceScope trace("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
+    BPPCHL* chl = ChannelAt(params, index);
+    if (chl == nullptr) {
+        return trace.Success(false);
+    }
+    if (chl->Class == ClassUart) {
         params->ChlListChanged = false;
         KvrBoardUartAdvancedDlgShow(hDlg, chl);
     }
-    if (bSuccess && params->ChlListChanged) {
+    if (params->ChlListChanged) {
         _FillChannelList(hDlg);
         _ChlListSelectChange(hDlg, params, index);
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(true);
+}
+
+// After a click that has changed pending values, or failed to store them, the page shows what the records
+// have.
+bool ThenRefresh(HWND hDlg, BoardParams* params, INT index, bool clicked) {
+    _ChlListSelectChange(hDlg, params, index);
+    return clicked;
+}
+
+// `index` is the position of the selected channel.
+bool CommandGiven(HWND hDlg, BoardParams* params, INT index, int id, int notifyCode) {
+    switch (id) {
+    case IDC_LARGEFIFO:
+        TraceOut("%s - IDC_LARGEFIFO\n", TraceOperation());
+        return _FifoEnableClicked(hDlg, params, index);
+    case IDC_SET_TO_ALL:
+        TraceOut("%s - IDC_SET_TO_ALL\n", TraceOperation());
+        return ThenRefresh(hDlg, params, index, _SetToAllClicked(hDlg, params, index));
+    case IDC_APPLY:
+        TraceOut("%s - IDC_APPLY\n", TraceOperation());
+        return ThenRefresh(hDlg, params, index, _ApplyClicked(hDlg, params, index));
+    case IDC_RESTORE:
+        TraceOut("%s - IDC_RESTORE\n", TraceOperation());
+        return _RestoreDefaultClicked(hDlg, params, index);
+    case IDC_ADVANCED:
+        TraceOut("%s - IDC_ADVANCED\n", TraceOperation());
+        return _AdvancedClicked(hDlg, params, index);
+    case IDC_PORT_LIST:
+        TraceOut("%s - IDC_PORT_LIST\n", TraceOperation());
+        if (notifyCode != LBN_SELCHANGE) {
+            return false;
+        }
+        _ChlListSelectChange(hDlg, params, index);
+        return true;
+    case IDCANCEL:
+        TraceOut("%s - IDCANCEL\n", TraceOperation());
+        EndDialog(hDlg, 0);
+        return true;
+    default:
+        TraceOut("%s - DEFAULT:%d\n", TraceOperation(), id);
+        return false;
+    }
 }
 
 bool _OnCommand(HWND hDlg, int id, int notifyCode) {
@@ -54,83 +96,47 @@ bool _OnCommand(HWND hDlg, int id, int notifyCode) {
     if (params == nullptr) {
         return false; // before WM_INITDIALOG
     }
-    const u32 index = SelectedChannel(hDlg);
-    bool bSuccess = false;
-    TraceOut("----> %s( ), [pci:%d,irq:%d], NotifyCode:%d\n", __func__, params->BoardBasic.BoardPciBusNumber,
-             params->BoardBasic.BoardIrq, notifyCode);
-    switch (id) {
-    case IDC_LARGEFIFO:
-        TraceOut("%s - IDC_LARGEFIFO\n", __func__);
-        bSuccess = _FifoEnableClicked(hDlg, params, index);
-        break;
-    case IDC_SET_TO_ALL:
-        TraceOut("%s - IDC_SET_TO_ALL\n", __func__);
-        bSuccess = _SetToAllClicked(hDlg, params, index);
-        _ChlListSelectChange(hDlg, params, index);
-        break;
-    case IDC_APPLY:
-        TraceOut("%s - IDC_APPLY\n", __func__);
-        bSuccess = _ApplyClicked(hDlg, params, index);
-        _ChlListSelectChange(hDlg, params, index);
-        break;
-    case IDC_RESTORE:
-        TraceOut("%s - IDC_RESTORE\n", __func__);
-        bSuccess = _RestoreDefaultClicked(hDlg, params, index);
-        break;
-    case IDC_ADVANCED:
-        TraceOut("%s - IDC_ADVANCED\n", __func__);
-        bSuccess = _AdvancedClicked(hDlg, params, index);
-        break;
-    case IDC_PORT_LIST:
-        TraceOut("%s - IDC_PORT_LIST\n", __func__);
-        if (notifyCode == LBN_SELCHANGE) {
-            _ChlListSelectChange(hDlg, params, index);
-            bSuccess = true;
-        }
-        break;
-    case IDCANCEL:
-        TraceOut("%s - IDCANCEL\n", __func__);
-        EndDialog(hDlg, 0);
-        bSuccess = true;
-        break;
-    default:
-        TraceOut("%s - DEFAULT:%d\n", __func__, id);
-        break;
-    }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    const INT index = SelectedChannel(hDlg);
+    TraceScope trace("----> %s( ), [pci:%d,irq:%d], NotifyCode:%d\n", __func__,
+                     params->BoardBasic.BoardPciBusNumber, params->BoardBasic.BoardIrq, notifyCode);
+    return trace.Success(CommandGiven(hDlg, params, index, id, notifyCode));
 }
 
-// Gives the selected UART the number that the user has chosen in the combo.
+// Gives the selected UART the number that the user has chosen in the combo. False after a box.
 bool RenameUart(HWND hDlg, BPPCHL* chl) {
     const u32 oldNumber = ComNumberFromName(chl->CurrentInfo.Uart.PortName);
-    return RenamePortForUser(hDlg, BoardRename,
-                             RenameOfChannel(chl, oldNumber, ChosenComNumber(hDlg, oldNumber)));
+    const u32 newNumber = ChosenComNumber(hDlg, oldNumber);
+    if (!IsNumberChanged(oldNumber, newNumber)) {
+        return true;
+    }
+    if (!RemapForUser(hDlg, BoardRename, chl->DeviceInfoSet, &chl->DeviceInfoData, oldNumber, newNumber)) {
+        return false;
+    }
+    Kavro_COMPortBroadcastRemap(chl->DeviceInfoSet, &chl->DeviceInfoData);
+    NameChannel(chl, newNumber);
+    MoveChannelSettings(chl);
+    return true;
 }
 
-bool _OkClicked(HWND hDlg, BoardParams* params, u32 index) {
-    TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
-    BPPCHL* chl = BoardChlByListIndex(params, index);
-    bool bSuccess = chl != nullptr;
-    if (bSuccess) {
-        const bool isUart = chl->Class == ClassUart;
-        if (isUart) {
-            TakeFifoSettings(hDlg, chl);
-        }
-        bSuccess = StorePendingFifo(hDlg, params) && (!isUart || RenameUart(hDlg, chl));
+bool _OkClicked(HWND hDlg, BoardParams* params, INT index) {
+    TraceScope trace("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
+    BPPCHL* chl = ChannelAt(params, index);
+    if (chl == nullptr) {
+        return trace.Success(false);
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    const bool isUart = chl->Class == ClassUart;
+    if (isUart) {
+        TakeFifoSettings(hDlg, chl);
+    }
+    return trace.Success(StorePendingFifo(hDlg, params) && (!isUart || RenameUart(hDlg, chl)));
 }
 
 bool _OnNotify(HWND hDlg, LPARAM lParam) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     BoardParams* params = PageParams(hDlg);
-    const u32 index = SelectedChannel(hDlg);
+    const INT index = SelectedChannel(hDlg);
     const bool initiated = params != nullptr && params->BasicSettingsDlgInitiateOK;
-    const bool bSuccess = AnswerNotify(hDlg, lParam, initiated, [&] { _OkClicked(hDlg, params, index); });
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(AnswerNotify(hDlg, lParam, initiated, [&] { _OkClicked(hDlg, params, index); }));
 }
 
 } // namespace

@@ -20,15 +20,13 @@ bool CheckBoard(const SP_PROPSHEETPAGE_REQUEST* request) {
 }
 
 bool _InitBoardParams(BoardParams* params, const SP_PROPSHEETPAGE_REQUEST* request, u32* status) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     params->DeviceInfoSet = request->DeviceInfoSet;
     params->DeviceInfoData = request->DeviceInfoData;
     for (HDEVINFO& set : params->InterfaceSet) {
         set = INVALID_HANDLE_VALUE;
     }
-    const bool bSuccess = BoardInitiate(params, status);
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(BoardInitiate(params, status));
 }
 
 bool InitBoardRecord(void* record, const SP_PROPSHEETPAGE_REQUEST* request) {
@@ -46,18 +44,13 @@ void ReleaseBoardRecord(void* record) {
 }
 
 UINT CALLBACK BoardBasicDlgCallback(HWND, UINT message, LPPROPSHEETPAGEW page) {
-    TraceOut("----> %s( ), Message:%d\n", __func__, message);
-    const UINT nReturn = AnswerPageCallback(message, page, ReleaseBoardRecord);
-    TraceOut("<---- %s, nReturn:%d\n", __func__, nReturn);
-    return nReturn;
+    TraceScope trace("----> %s( ), Message:%d\n", __func__, message);
+    return trace.Exit("<---- %s, nReturn:%d\n", AnswerPageCallback(message, page, ReleaseBoardRecord));
 }
 
 HPROPSHEETPAGE _InitBoardBasicSettingsPage(void* params) {
-    TraceOut("----> %s( )\n", __func__);
-    const HPROPSHEETPAGE page =
-        CreatePage(IDD_PORT_CONTROL, BoardBasicDlgProc, BoardBasicDlgCallback, params);
-    TraceOut("<---- %s\n", __func__);
-    return page;
+    TraceScope trace;
+    return CreatePage(IDD_PORT_CONTROL, BoardBasicDlgProc, BoardBasicDlgCallback, params);
 }
 
 constexpr PageKind BoardPage = {sizeof(BoardParams), CheckBoard, InitBoardRecord, _InitBoardBasicSettingsPage,
@@ -67,8 +60,6 @@ constexpr PageKind BoardPage = {sizeof(BoardParams), CheckBoard, InitBoardRecord
 
 extern "C" BOOL WINAPI KvrBoardPropPageProvider(PSP_PROPSHEETPAGE_REQUEST request,
                                                 LPFNADDPROPSHEETPAGE addPage, LPARAM addPageParam) {
-    TraceOut("----> %s( )\n", __func__);
-    const bool bSuccess = ProvidePage(BoardPage, request, addPage, addPageParam);
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    TraceScope trace;
+    return trace.Success(ProvidePage(BoardPage, request, addPage, addPageParam));
 }

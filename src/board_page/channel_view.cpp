@@ -1,9 +1,9 @@
 #include "board_page/channel_view.h"
 
+#include "board_page/channel_selection.h"
 #include "board_page/fifo_settings.h"
 #include "board_page/resource_list.h"
 #include "com_numbers/com_port_database.h"
-#include "device_model/channel_list.h"
 #include "page_parts/label_text.h"
 #include "reporting/trace.h"
 #include "resources/resource_ids.h"
@@ -12,7 +12,8 @@ namespace {
 
 constexpr u32 PollingCycleSeconds = 5;
 
-void FormatChannelLine(const BPPCHL* chl, WCHAR* line, u32 capacity) {
+// False if the class has no line.
+bool FormatChannelLine(const BPPCHL* chl, WCHAR* line, u32 capacity) {
     const ChannelInfo& info = chl->CurrentInfo;
     const u32 number = info.ChlBasic.ChlNumber;
     switch (chl->Class) {
@@ -28,16 +29,19 @@ void FormatChannelLine(const BPPCHL* chl, WCHAR* line, u32 capacity) {
     case ClassMcp251xFd:
         FormatText(line, capacity, TEXT("%ws (port%d)"), info.Mcp251xFd.Mcp251xFdName, number);
         break;
-    default: // ClassCan
+    case ClassCan:
         FormatText(line, capacity, TEXT("CAN (port%d)"), number);
         break;
+    default:
+        return false;
     }
+    return true;
 }
 
-void Select(HWND hDlg, u32 index) {
+void Select(HWND hDlg, INT index) {
     const HWND list = GetDlgItem(hDlg, IDC_PORT_LIST);
     SetFocus(list);
-    SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(static_cast<INT>(index)), 0);
+    SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(index), 0);
 }
 
 // Shows a single text in a combo that the user can't change.
@@ -58,6 +62,7 @@ void ShowPollingCycle(HWND hDlg) {
 void ShowPortNumber(HWND hDlg, const BPPCHL* chl) {
     if (chl != nullptr && chl->Class == ClassUart) {
         SendDlgItemMessageW(hDlg, IDC_PORT_NUMBER, CB_RESETCONTENT, 0, 0);
+        // If it fails, the combo is empty and disabled, and OK finds no number chosen.
         Kavro_COMPortFillPortNameCombox(hDlg, chl->CurrentInfo.Uart.PortName);
     } else {
         ShowFixedCombo(hDlg, IDC_PORT_NUMBER, IDC_PORT_NUMBER_CAPTION, TEXT("NONE"));
@@ -66,37 +71,30 @@ void ShowPortNumber(HWND hDlg, const BPPCHL* chl) {
 
 } // namespace
 
-BoardParams* PageParams(HWND hDlg) {
-    return reinterpret_cast<BoardParams*>(GetWindowLongPtrW(hDlg, DWLP_USER));
-}
-
-u32 SelectedChannel(HWND hDlg) {
-    return static_cast<u32>(SendDlgItemMessageW(hDlg, IDC_PORT_LIST, LB_GETCURSEL, 0, 0));
-}
-
 void _FillChannelList(HWND hDlg) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     const BoardParams* params = PageParams(hDlg);
     const HWND list = GetDlgItem(hDlg, IDC_PORT_LIST);
     SendMessageW(list, LB_RESETCONTENT, 0, 0);
     u32 position = 0;
     for (BPPCHL* chl = params->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
         WCHAR line[ControlTextCapacity];
-        FormatChannelLine(chl, line, ARRAYSIZE(line));
+        if (!FormatChannelLine(chl, line, ARRAYSIZE(line))) {
+            continue; // it takes no position either
+        }
         chl->ListIndex = position++;
         SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line));
     }
-    TraceOut("<---- %s\n", __func__);
 }
 
-void _ChlListSelectChange(HWND hDlg, BoardParams* params, u32 index) {
-    TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
+void _ChlListSelectChange(HWND hDlg, BoardParams* params, INT index) {
+    TraceScope trace("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
     Select(hDlg, index);
-    BPPCHL* chl = BoardChlByListIndex(params, index);
+    BPPCHL* chl = ChannelAt(params, index);
     _FillResourceList(hDlg, chl);
     _RefreshFifoControls(hDlg, chl);
     ShowPollingCycle(hDlg);
     ShowPortNumber(hDlg, chl);
+    // Once more, so that the list has the focus whatever the other controls have done.
     Select(hDlg, index);
-    TraceOut("<---- %s\n", __func__);
 }

@@ -1,7 +1,6 @@
 #include "board_page/fifo_settings.h"
 
-#include "board_page/channel_view.h"
-#include "device_model/channel_list.h"
+#include "board_page/channel_selection.h"
 #include "device_model/device_store.h"
 #include "page_parts/fifo_controls.h"
 #include "reporting/error_reporter.h"
@@ -12,8 +11,8 @@ namespace {
 // The other buttons that act only on a UART.
 constexpr int UartButtons[] = {IDC_APPLY, IDC_SET_TO_ALL, IDC_RESTORE};
 
-BPPCHL* UartAt(const BoardParams* params, u32 index) {
-    BPPCHL* chl = BoardChlByListIndex(params, index);
+BPPCHL* UartAt(const BoardParams* params, INT index) {
+    BPPCHL* chl = ChannelAt(params, index);
     return chl != nullptr && chl->Class == ClassUart ? chl : nullptr;
 }
 
@@ -53,12 +52,84 @@ void ShowNoUart(HWND hDlg) {
     EnableUartButtons(hDlg, FALSE);
 }
 
-// Writes every UART whose pending values differ from the saved ones, in ascending order of the channel
-// numbers. Stops with false at the first write that fails; `status` is that of the write, and `comNumber` the
-// number of the port. Both are 0 before.
+} // namespace
+
+void _RefreshFifoControls(HWND hDlg, BPPCHL* channel) {
+    TraceScope trace;
+    if (channel != nullptr && channel->Class == ClassUart) {
+        ShowUart(hDlg, channel->CurrentInfo.Uart, &channel->Fifo);
+    } else {
+        ShowNoUart(hDlg);
+    }
+}
+
+bool _OnHscroll(HWND hDlg, LPARAM lParam) {
+    TraceScope trace;
+    const BoardParams* params = PageParams(hDlg);
+    const INT index = SelectedChannel(hDlg);
+    BPPCHL* chl = params != nullptr ? ChannelAt(params, index) : nullptr;
+    if (chl != nullptr) {
+        FollowFifoSlider(hDlg, reinterpret_cast<HWND>(lParam), &chl->Fifo);
+    }
+    return trace.Success(true);
+}
+
+bool _FifoEnableClicked(HWND hDlg, BoardParams* params, INT index) {
+    TraceScope trace("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
+    BPPCHL* chl = UartAt(params, index);
+    if (chl == nullptr) {
+        return trace.Success(false);
+    }
+    FollowFifoCheckBox(hDlg, &chl->Fifo);
+    return trace.Success(true);
+}
+
+// Changes only the controls. The pending values and the remembered positions stay.
+bool _RestoreDefaultClicked(HWND hDlg, BoardParams* params, INT index) {
+    TraceScope trace("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
+    const BPPCHL* chl = UartAt(params, index);
+    if (chl == nullptr) {
+        return trace.Success(false);
+    }
+    CheckDlgButton(hDlg, IDC_LARGEFIFO, BST_CHECKED);
+    PutTransmitSlider(hDlg, chl->CurrentInfo.Uart.UartTxFifoSize);
+    PutReceiveSlider(hDlg, RxFifoStageCount, RxStageOfPosition(chl->Fifo.RxFifo4Stage, RxFifoStageCount));
+    _EnableFifoControls(hDlg, TRUE);
+    return trace.Success(true);
+}
+
+bool _SetToAllClicked(HWND hDlg, BoardParams* params, INT index) {
+    TraceScope trace("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
+    const BPPCHL* selected = UartAt(params, index);
+    if (selected == nullptr) {
+        return trace.Success(false);
+    }
+    // The values are copied as they are: a channel with a smaller FIFO has them lowered when its own page is
+    // read.
+    const FifoValues values = ReadPage(hDlg, selected);
+    for (BPPCHL* chl = params->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
+        if (chl->Class == ClassUart) {
+            SetFifoValues(chl->CurrentInfo.Uart, values);
+        }
+    }
+    return trace.Success(true);
+}
+
+bool _ApplyClicked(HWND hDlg, BoardParams* params, INT index) {
+    TraceScope trace("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
+    BPPCHL* chl = UartAt(params, index);
+    if (chl == nullptr) {
+        return trace.Success(false);
+    }
+    TakeFifoSettings(hDlg, chl);
+    return trace.Success(StorePendingFifo(hDlg, params));
+}
+
 bool _SetEachUartUiFifoSettingsIfChange(BoardParams* params, u32* status, u32* comNumber) {
-    TraceOut("----> %s( )\n", __func__);
-    for (BPPCHL* chl = params->WalkFirst; chl != nullptr && *status == 0; chl = chl->WalkNext) {
+    TraceScope trace;
+    *status = 0;
+    *comNumber = 0;
+    for (BPPCHL* chl = params->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
         if (chl->Class != ClassUart) {
             continue;
         }
@@ -73,94 +144,13 @@ bool _SetEachUartUiFifoSettingsIfChange(BoardParams* params, u32* status, u32* c
         *status =
             Kavro_RegUartSetFifoSettings(chl->DeviceInfoSet, &chl->DeviceInfoData, pending.UartFifoEnable,
                                          pending.UartTxFifoLowHigh, pending.UartRxFifoLowHigh);
-        if (*status == 0) {
-            SetFifoValues(chl->SavedInfo.Uart, pending);
-        } else {
+        if (*status != 0) {
             *comNumber = ComNumberFromName(uart.PortName);
+            return trace.Success(false);
         }
+        SetFifoValues(chl->SavedInfo.Uart, pending);
     }
-    const bool bSuccess = *status == 0;
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
-}
-
-} // namespace
-
-void _RefreshFifoControls(HWND hDlg, BPPCHL* channel) {
-    TraceOut("----> %s( )\n", __func__);
-    if (channel != nullptr && channel->Class == ClassUart) {
-        ShowUart(hDlg, channel->CurrentInfo.Uart, &channel->Fifo);
-    } else {
-        ShowNoUart(hDlg);
-    }
-    TraceOut("<---- %s\n", __func__);
-}
-
-bool _OnHscroll(HWND hDlg, LPARAM lParam) {
-    TraceOut("----> %s( )\n", __func__);
-    const BoardParams* params = PageParams(hDlg);
-    const u32 index = SelectedChannel(hDlg);
-    BPPCHL* chl = params != nullptr ? BoardChlByListIndex(params, index) : nullptr;
-    if (chl != nullptr) {
-        FollowFifoSlider(hDlg, reinterpret_cast<HWND>(lParam), &chl->Fifo);
-    }
-    const bool bSuccess = true;
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
-}
-
-bool _FifoEnableClicked(HWND hDlg, BoardParams* params, u32 index) {
-    TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
-    BPPCHL* chl = UartAt(params, index);
-    const bool bSuccess = chl != nullptr;
-    if (bSuccess) {
-        FollowFifoCheckBox(hDlg, &chl->Fifo);
-    }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
-}
-
-// Changes only the controls. The pending values and the remembered positions stay.
-bool _RestoreDefaultClicked(HWND hDlg, BoardParams* params, u32 index) {
-    TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
-    const BPPCHL* chl = UartAt(params, index);
-    const bool bSuccess = chl != nullptr;
-    if (bSuccess) {
-        CheckDlgButton(hDlg, IDC_LARGEFIFO, BST_CHECKED);
-        PutTransmitSlider(hDlg, chl->CurrentInfo.Uart.UartTxFifoSize);
-        PutReceiveSlider(hDlg, RxFifoStageCount, RxStageOfPosition(chl->Fifo.RxFifo4Stage, RxFifoStageCount));
-        _EnableFifoControls(hDlg, TRUE);
-    }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
-}
-
-bool _SetToAllClicked(HWND hDlg, BoardParams* params, u32 index) {
-    TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
-    const BPPCHL* selected = UartAt(params, index);
-    const bool bSuccess = selected != nullptr;
-    if (bSuccess) {
-        const FifoValues values = ReadPage(hDlg, selected);
-        for (BPPCHL* chl = params->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
-            if (chl->Class == ClassUart) {
-                SetFifoValues(chl->CurrentInfo.Uart, values);
-            }
-        }
-    }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
-}
-
-bool _ApplyClicked(HWND hDlg, BoardParams* params, u32 index) {
-    TraceOut("----> %s( ), SelectedChlIndex:%d\n", __func__, index);
-    BPPCHL* chl = UartAt(params, index);
-    bool bSuccess = false;
-    if (chl != nullptr) {
-        TakeFifoSettings(hDlg, chl);
-        bSuccess = StorePendingFifo(hDlg, params);
-    }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(true);
 }
 
 void TakeFifoSettings(HWND hDlg, BPPCHL* channel) {

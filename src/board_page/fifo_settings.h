@@ -18,12 +18,17 @@ void _RefreshFifoControls(HWND hDlg, BPPCHL* channel);
 // Answers WM_HSCROLL, where `lParam` is the window of the slider that has moved. Returns true.
 bool _OnHscroll(HWND hDlg, LPARAM lParam);
 
-bool _FifoEnableClicked(HWND hDlg, BoardParams* params, u32 index);
-bool _RestoreDefaultClicked(HWND hDlg, BoardParams* params, u32 index);
+bool _FifoEnableClicked(HWND hDlg, BoardParams* params, INT index);
+bool _RestoreDefaultClicked(HWND hDlg, BoardParams* params, INT index);
 // Makes the page's values pending for every UART. Nothing is stored.
-bool _SetToAllClicked(HWND hDlg, BoardParams* params, u32 index);
+bool _SetToAllClicked(HWND hDlg, BoardParams* params, INT index);
 // Makes the page's values pending and stores what is pending. False if that failed; a box has said so.
-bool _ApplyClicked(HWND hDlg, BoardParams* params, u32 index);
+bool _ApplyClicked(HWND hDlg, BoardParams* params, INT index);
+
+// Writes every UART whose pending values differ from the saved ones, in ascending order of the channel
+// numbers. Stops with false at the first write that fails; `status` is that of the write, and `comNumber` the
+// number of the port. Otherwise both are 0.
+bool _SetEachUartUiFifoSettingsIfChange(BoardParams* params, u32* status, u32* comNumber);
 
 // Makes the page's values pending for the selected UART.
 void TakeFifoSettings(HWND hDlg, BPPCHL* channel);

@@ -67,11 +67,10 @@ void AddResourceColumns(HWND hDlg) {
 }
 
 void _FillResourceList(HWND hDlg, const BPPCHL* channel) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     const HWND list = GetDlgItem(hDlg, IDC_RESOURCE_LIST);
     SendMessageW(list, LVM_DELETEALLITEMS, 0, 0);
     if (channel != nullptr) {
         AddRows(list, channel->CurrentInfo);
     }
-    TraceOut("<---- %s\n", __func__);
 }

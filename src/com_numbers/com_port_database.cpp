@@ -68,7 +68,7 @@ void AddAllNumbers(HWND combo, const PortUsageBitmap& usage, u32 currentNumber, 
 } // namespace
 
 u32 Kavro_COMPortCheckNumberInUse(u32 number) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     HCOMDB database = nullptr;
     PortUsageBitmap usage = {};
     u32 sStatus = ReadPortUsage(&database, usage);
@@ -77,12 +77,11 @@ u32 Kavro_COMPortCheckNumberInUse(u32 number) {
         sStatus = StatusNumberClaimed;
     }
     CloseDatabase(database);
-    TraceOut("<---- %s, sStatus:%d\n", __func__, sStatus);
-    return sStatus;
+    return trace.Status(sStatus);
 }
 
 u32 Kavro_COMPortGetMaxNumberAvailable(u32* MaxAvlComNumber) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     *MaxAvlComNumber = 0;
     HCOMDB database = nullptr;
     PortUsageBitmap usage = {};
@@ -101,12 +100,11 @@ u32 Kavro_COMPortGetMaxNumberAvailable(u32* MaxAvlComNumber) {
         }
     }
     CloseDatabase(database);
-    TraceOut("<---- %s, sStatus:%d, *MaxAvlComNumber:%d\n", __func__, sStatus, *MaxAvlComNumber);
-    return sStatus;
+    return trace.Exit("<---- %s, sStatus:%d, *MaxAvlComNumber:%d\n", sStatus, *MaxAvlComNumber);
 }
 
 u32 Kavro_COMPortFillPortNameCombox(HWND dialog, const WCHAR* portName) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     const HWND combo = GetDlgItem(dialog, IDC_PORT_NUMBER);
     HCOMDB database = nullptr;
     u32 sStatus = StatusNoCombo;
@@ -122,6 +120,5 @@ u32 Kavro_COMPortFillPortNameCombox(HWND dialog, const WCHAR* portName) {
     CloseDatabase(database);
     EnableWindow(combo, sStatus == 0);
     EnableWindow(GetDlgItem(dialog, IDC_PORT_NUMBER_CAPTION), sStatus == 0);
-    TraceOut("<---- %s, sStatus:%d\n", __func__, sStatus);
-    return sStatus;
+    return trace.Status(sStatus);
 }

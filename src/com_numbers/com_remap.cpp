@@ -29,15 +29,6 @@ DWORD TextBytes(const WCHAR* text) {
     return static_cast<DWORD>((lstrlenW(text) + 1) * sizeof(WCHAR));
 }
 
-// The comparison is exact: com5 in the map is not COM5.
-bool SameText(const WCHAR* left, const WCHAR* right) {
-    while (*left != 0 && *left == *right) {
-        ++left;
-        ++right;
-    }
-    return *left == *right;
-}
-
 bool QueryOldTarget(Remap* remap) {
     return QueryDosDeviceW(remap->OldComName, remap->Buffer1, RemapTextCapacity - 1) != 0;
 }
@@ -57,6 +48,8 @@ u32 MoveDosName(Remap* remap) {
     if (!DefineDosDeviceW(DDD_RAW_TARGET_PATH, remap->NewComName, remap->Buffer1)) {
         TraceOut("%s - DefineDosDevice fail, Remap->NewComName:%ws, Remap->Buffer1:%ws, GetLastError():%d\n",
                  TraceOperation(), remap->NewComName, remap->Buffer1, GetLastError());
+        // A name whose removal failed is still there, and defining it again would put a second definition
+        // over it.
         if (bRemoved) {
             DefineDosDeviceW(DDD_RAW_TARGET_PATH, remap->OldComName, remap->Buffer1);
         }
@@ -66,7 +59,8 @@ u32 MoveDosName(Remap* remap) {
 }
 
 // Writes the new name into the first value of the serial device map that holds the old one. A value that
-// doesn't fit the buffers ends the scan.
+// doesn't fit the buffers ends the scan. If the map stays as it was, it lists the old name until the driver
+// makes it anew at the next start, with the name in the device key.
 void RenameInSerialMap(Remap* remap, DWORD dwNewComNameLen) {
     if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, TEXT("Hardware\\DeviceMap\\SerialComm"), 0, KEY_READ | KEY_WRITE,
                       &remap->SerialCommKey) != ERROR_SUCCESS) {
@@ -83,7 +77,7 @@ void RenameInSerialMap(Remap* remap, DWORD dwNewComNameLen) {
             break;
         }
         data[bytes / sizeof(WCHAR)] = 0;
-        if (type == REG_SZ && SameText(data, remap->OldComName)) {
+        if (type == REG_SZ && SameText(data, remap->OldComName)) { // com5 is not COM5
             RegSetValueExW(remap->SerialCommKey, name, 0, REG_SZ,
                            reinterpret_cast<const BYTE*>(remap->NewComName), dwNewComNameLen);
             break;
@@ -92,6 +86,8 @@ void RenameInSerialMap(Remap* remap, DWORD dwNewComNameLen) {
     RegCloseKey(remap->SerialCommKey);
 }
 
+// The old number is free before the new one is claimed. The claim is forced: the caller has asked whether the
+// number may be taken. A refused claim leaves the number free in the database although the port has it.
 void RenameInDatabase(Remap* remap) {
     if (remap->ComDbHandle != nullptr && remap->ComDbHandle != INVALID_HANDLE_VALUE) {
         ComDBReleasePort(remap->ComDbHandle, remap->OldComNumber);
@@ -99,6 +95,7 @@ void RenameInDatabase(Remap* remap) {
     }
 }
 
+// The name is only shown, so one that can't be read or written costs nothing but its text.
 void WriteFriendlyName(Remap* remap) {
     // One unit more than is asked for, so that a description without its terminator gets one.
     WCHAR description[DescriptionCapacity + 1] = {};
@@ -131,51 +128,53 @@ u32 RenameEverywhere(Remap* remap) {
              dwNewComNameLen);
 
     const u32 sStatus = dosNameExists ? MoveDosName(remap) : 0;
-    if (sStatus == 0) {
-        RenameInSerialMap(remap, dwNewComNameLen);
-        RenameInDatabase(remap);
-        WriteFriendlyName(remap);
-        RegSetValueExW(remap->DeviceKey, TEXT("PortName"), 0, REG_SZ,
-                       reinterpret_cast<const BYTE*>(remap->NewComName), dwNewComNameLen);
+    if (sStatus != 0) {
+        return sStatus;
     }
-    return sStatus;
+    // From here on the port answers to its new name, and each step runs whatever the one before it reported:
+    // a place that can't be changed keeps the old number, and going back would leave more places wrong.
+    RenameInSerialMap(remap, dwNewComNameLen);
+    RenameInDatabase(remap);
+    WriteFriendlyName(remap);
+    RegSetValueExW(remap->DeviceKey, TEXT("PortName"), 0, REG_SZ,
+                   reinterpret_cast<const BYTE*>(remap->NewComName), dwNewComNameLen);
+    return 0;
 }
 
 u32 _EnactComNameChanges(Remap* remap) {
-    TraceOut("----> %s( )\n", __func__);
-    u32 sStatus = StatusNoKey;
+    TraceScope trace;
     remap->DeviceKey = OpenDeviceKey(remap->DeviceInfoSet, remap->DeviceInfoData);
-    if (remap->DeviceKey != INVALID_HANDLE_VALUE) {
-        if (ComDBOpen(&remap->ComDbHandle) == ERROR_SUCCESS) {
-            sStatus = RenameEverywhere(remap);
-        } else {
-            TraceOut("%s - ComDBOpen fail, GetLastError():%d\n", __func__, GetLastError());
-            sStatus = StatusNoDatabase;
-        }
-        if (remap->ComDbHandle != nullptr) {
-            ComDBClose(remap->ComDbHandle);
-        }
-        RegCloseKey(remap->DeviceKey);
+    if (remap->DeviceKey == INVALID_HANDLE_VALUE) {
+        return trace.Status(StatusNoKey);
     }
-    TraceOut("<---- %s, sStatus:%d\n", __func__, sStatus);
-    return sStatus;
+    u32 sStatus = StatusNoDatabase;
+    if (ComDBOpen(&remap->ComDbHandle) == ERROR_SUCCESS) {
+        sStatus = RenameEverywhere(remap);
+    } else {
+        TraceOut("%s - ComDBOpen fail, GetLastError():%d\n", __func__, GetLastError());
+    }
+    // An opening that failed may have left a handle all the same.
+    if (remap->ComDbHandle != nullptr) {
+        ComDBClose(remap->ComDbHandle);
+    }
+    RegCloseKey(remap->DeviceKey);
+    return trace.Status(sStatus);
 }
 
 } // namespace
 
 u32 Kavro_COMPortDoRemap(HDEVINFO DeviceInfoSet, SP_DEVINFO_DATA* DeviceInfoData, u32 oldNumber,
                          u32 newNumber) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     auto* remap = static_cast<Remap*>(LocalAlloc(LPTR, sizeof(Remap)));
-    u32 sStatus = StatusNoMemory;
-    if (remap != nullptr) {
-        remap->DeviceInfoSet = DeviceInfoSet;
-        remap->DeviceInfoData = DeviceInfoData;
-        remap->OldComNumber = oldNumber;
-        remap->NewComNumber = newNumber;
-        sStatus = _EnactComNameChanges(remap);
-        LocalFree(remap);
+    if (remap == nullptr) {
+        return trace.Status(StatusNoMemory);
     }
-    TraceOut("<---- %s, sStatus:%d\n", __func__, sStatus);
-    return sStatus;
+    remap->DeviceInfoSet = DeviceInfoSet;
+    remap->DeviceInfoData = DeviceInfoData;
+    remap->OldComNumber = oldNumber;
+    remap->NewComNumber = newNumber;
+    const u32 sStatus = _EnactComNameChanges(remap);
+    LocalFree(remap);
+    return trace.Status(sStatus);
 }

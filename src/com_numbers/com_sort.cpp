@@ -1,6 +1,7 @@
 #include "com_numbers/com_sort.h"
 
 #include "com_numbers/com_port_database.h"
+#include "com_numbers/com_remap.h"
 #include "com_numbers/port_device.h"
 #include "com_numbers/port_rename.h"
 #include "device_model/channel_list.h"
@@ -84,10 +85,11 @@ void SortComColumn(SortPairTable* table, u32 count) {
 }
 
 void AssignNewNumbers(BoardParams* board, const SortPairTable* table, u32 count) {
-    u32 next = 0;
-    for (BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
-        if (next < count && chl->CurrentInfo.ChlBasic.ChlNumber == table->pairs[next].channel) {
-            chl->SortNewCom = table->pairs[next++].com;
+    for (u32 i = 0; i < count; ++i) {
+        BPPCHL* chl = BoardChlByNumber(board, table->pairs[i].channel);
+        // The pairs are of UARTs that the walk has just visited.
+        if (chl != nullptr && IsUart(chl)) { // GCOV_EXCL_BR_LINE
+            chl->SortNewCom = table->pairs[i].com;
         }
     }
 }
@@ -140,8 +142,8 @@ void EnableSortButtons(HWND dialog, BOOL enable) {
     }
 }
 
-// The port that holds the number which the channel wants. There is one, because the numbers are exchanged and
-// stay the same. If several hold it, the last in the order of the walk.
+// The port that holds the number which the channel wants, or null. If several hold it, the last in the order
+// of the walk.
 BPPCHL* FindPartner(BoardParams* board, const BPPCHL* chl) {
     BPPCHL* partner = nullptr;
     for (BPPCHL* other = board->WalkFirst; other != nullptr; other = other->WalkNext) {
@@ -152,30 +154,22 @@ BPPCHL* FindPartner(BoardParams* board, const BPPCHL* chl) {
     return partner;
 }
 
-// A move of the sort, as a rename.
-struct PortMove : PortRename {
-    BPPCHL* port;
-    const SortMove* move;
-};
-
-void PortNamed(const PortRename& rename) {
-    const auto& moved = static_cast<const PortMove&>(rename);
-    moved.port->SortCurrentCom = rename.newNumber;
-    TraceOut(moved.move->settingsTrace, TraceOperation(), moved.port->SortChlNumber, rename.savedName,
-             rename.newName);
-}
-
-// Moves one port to another number, together with its records. False if the rename failed; a box has said so.
+// Moves one port to another number, together with its records. False if the remap failed; a box has said so.
 bool MovePort(HWND dialog, BPPCHL* port, u32 to, const SortMove& move) {
     const u32 from = port->SortCurrentCom;
-    PortMove moved = {RenameOfChannel(port, from, to), port, &move};
-    moved.named = PortNamed;
-    const u32 sStatus = RenamePort(moved);
+    const u32 sStatus = Kavro_COMPortDoRemap(port->DeviceInfoSet, &port->DeviceInfoData, from, to);
     if (sStatus != 0) {
         ErrorBoxShow(move.failureCode, sStatus, dialog, port->SortChlNumber, from, to);
         return false;
     }
-    TraceOut(move.namesTrace, TraceOperation(), port->SortChlNumber, moved.savedName, moved.newName);
+    Kavro_COMPortBroadcastRemap(port->DeviceInfoSet, &port->DeviceInfoData);
+    port->SortCurrentCom = to;
+    NameChannel(port, to);
+    const WCHAR* saved = port->SavedInfo.Uart.PortName;
+    const WCHAR* current = port->CurrentInfo.Uart.PortName;
+    TraceOut(move.settingsTrace, TraceOperation(), port->SortChlNumber, saved, current);
+    MoveChannelSettings(port);
+    TraceOut(move.namesTrace, TraceOperation(), port->SortChlNumber, saved, current);
     return true;
 }
 
@@ -206,7 +200,15 @@ bool ExchangePorts(HWND dialog, BPPCHL* chl, BPPCHL* partner, u32 temporary) {
 // again.
 void ExchangeAll(HWND dialog, BoardParams* board, u32 temporary) {
     for (BPPCHL* chl = board->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
-        if (NeedsMove(chl) && !ExchangePorts(dialog, chl, FindPartner(board, chl), temporary)) {
+        if (!NeedsMove(chl)) {
+            continue;
+        }
+        BPPCHL* partner = FindPartner(board, chl);
+        // The numbers are only exchanged, so one of the ports has the wanted one.
+        if (partner == nullptr) { // GCOV_EXCL_BR_LINE
+            continue;
+        }
+        if (!ExchangePorts(dialog, chl, partner, temporary)) {
             return;
         }
     }
@@ -246,9 +248,10 @@ void SortBoard(HWND dialog, BoardParams* board) {
     bool buttonsDisabled = false;
     if (AnyNeedsMove(board)) {
         buttonsDisabled = MovePorts(dialog, board);
-        board->ChlListChanged = true;
+        board->ChlListChanged = true; // also after a failure, because the moves before it stay
     }
     LocalFree(table);
+    // The buttons were not disabled if a check failed before the first move.
     if (buttonsDisabled) {
         EnableSortButtons(dialog, TRUE);
         SetFocus(focus);
@@ -258,11 +261,9 @@ void SortBoard(HWND dialog, BoardParams* board) {
 } // namespace
 
 bool _SortCOMClicked(HWND dialog, BPPCHL* channel) {
-    TraceOut("----> %s( )\n", __func__);
-    const bool bSuccess = false;
+    TraceScope trace;
     if (channel != nullptr && channel->Board != nullptr) {
         SortBoard(dialog, channel->Board);
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(false);
 }

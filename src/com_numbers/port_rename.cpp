@@ -8,73 +8,76 @@
 #include "reporting/text_operations.h"
 #include "resources/resource_ids.h"
 
-PortRename RenameOfChannel(BPPCHL* channel, u32 oldNumber, u32 newNumber) {
-    WCHAR* saved = channel->SavedInfo.Uart.PortName;
-    return {channel->DeviceInfoSet,
-            &channel->DeviceInfoData,
-            oldNumber,
-            newNumber,
-            saved,
-            channel->CurrentInfo.Uart.PortName,
-            saved,
-            StoreTextCapacity,
-            nullptr};
+namespace {
+
+// Whether the number is free, or the user takes it all the same.
+bool IsNumberFree(HWND dialog, const RenameTerms& terms, u32 number) {
+    const u32 sStatus = Kavro_COMPortCheckNumberInUse(number);
+    if (sStatus == 0) {
+        return true;
+    }
+    u32 nUserDialogChoice = IDNO;
+    ErrorBoxShow(terms.numberInUse, sStatus, dialog, 0, 0, 0,
+                 terms.mayTakeClaimed ? &nUserDialogChoice : nullptr);
+    if (terms.mayTakeClaimed) {
+        TraceOut("%s - 1, nUserDialogChoice:%d\n", TraceOperation(), nUserDialogChoice);
+    }
+    // Only a no refuses. A question that can't be shown is answered with 0, and the claim is then forced as
+    // if the user had agreed; a box that asks nothing leaves the no.
+    return nUserDialogChoice != IDNO;
 }
 
-u32 RenamePort(const PortRename& rename) {
-    const u32 sStatus =
-        Kavro_COMPortDoRemap(rename.DeviceInfoSet, rename.DeviceInfoData, rename.oldNumber, rename.newNumber);
-    if (sStatus != 0) {
-        return sStatus;
+bool IsPortClosed(HWND dialog, const RenameTerms& terms, HDEVINFO set, SP_DEVINFO_DATA* data) {
+    const u32 sStatus = Kavro_COMPortCheckOpened(set, data);
+    if (sStatus == 0) {
+        return true;
     }
-    Kavro_COMPortBroadcastRemap(rename.DeviceInfoSet, rename.DeviceInfoData);
-    FormatText(rename.newName, rename.nameCapacity, TEXT("COM%d"), rename.newNumber);
-    if (rename.named != nullptr) {
-        rename.named(rename);
+    u32 nUserDialogChoice = IDNO; // stays: the box asks nothing
+    ErrorBoxShow(terms.portOpened, sStatus, dialog, 0, 0, 0,
+                 terms.mayTakeClaimed ? &nUserDialogChoice : nullptr);
+    if (terms.mayTakeClaimed) {
+        TraceOut("%s - 2, nUserDialogChoice:%d\n", TraceOperation(), nUserDialogChoice);
     }
-    Kavro_COMPortMigratePortSettings(rename.settingsName, rename.newName);
-    if (rename.savedName != nullptr) {
-        CopyText(rename.savedName, rename.nameCapacity, rename.newName);
-    }
-    return 0;
+    return false;
 }
+
+} // namespace
 
 u32 ChosenComNumber(HWND dialog, u32 oldNumber) {
     const INT selection = static_cast<INT>(SendDlgItemMessageW(dialog, IDC_PORT_NUMBER, CB_GETCURSEL, 0, 0));
     return selection != CB_ERR ? static_cast<u32>(selection) + 1 : oldNumber;
 }
 
-bool RenamePortForUser(HWND dialog, const RenameTerms& terms, const PortRename& rename) {
-    if (rename.newNumber == rename.oldNumber) {
+bool IsNumberChanged(u32 oldNumber, u32 newNumber) {
+    if (newNumber == oldNumber) {
         TraceOut("%s - COM number not change\n", TraceOperation());
-        return true;
+        return false;
     }
     TraceOut("%s - COM number change\n", TraceOperation());
-    TraceOut("%s - COM number [old:%d, new:%d]\n", TraceOperation(), rename.oldNumber, rename.newNumber);
-    u32 nUserDialogChoice = IDNO;
-    u32* answer = terms.mayTakeClaimed ? &nUserDialogChoice : nullptr;
-    u32 sStatus = Kavro_COMPortCheckNumberInUse(rename.newNumber);
-    if (sStatus != 0) {
-        ErrorBoxShow(terms.numberInUse, sStatus, dialog, 0, 0, 0, answer);
-        if (terms.mayTakeClaimed) {
-            TraceOut("%s - 1, nUserDialogChoice:%d\n", TraceOperation(), nUserDialogChoice);
-        }
-        if (nUserDialogChoice != IDYES) {
-            return false;
-        }
-    }
-    sStatus = Kavro_COMPortCheckOpened(rename.DeviceInfoSet, rename.DeviceInfoData);
-    if (sStatus != 0) {
-        ErrorBoxShow(terms.portOpened, sStatus, dialog, 0, 0, 0, answer);
-        if (terms.mayTakeClaimed) {
-            TraceOut("%s - 2, nUserDialogChoice:%d\n", TraceOperation(), nUserDialogChoice);
-        }
-        return false;
-    }
-    sStatus = RenamePort(rename);
-    if (sStatus != 0) {
-        ErrorBoxShow(terms.remap, sStatus, dialog, 0, 0, 0, &nUserDialogChoice);
-        return false;
-    }
+    TraceOut("%s - COM number [old:%d, new:%d]\n", TraceOperation(), oldNumber, newNumber);
     return true;
+}
+
+bool RemapForUser(HWND dialog, const RenameTerms& terms, HDEVINFO set, SP_DEVINFO_DATA* data, u32 oldNumber,
+                  u32 newNumber) {
+    if (!IsNumberFree(dialog, terms, newNumber) || !IsPortClosed(dialog, terms, set, data)) {
+        return false;
+    }
+    const u32 sStatus = Kavro_COMPortDoRemap(set, data, oldNumber, newNumber);
+    if (sStatus != 0) {
+        u32 nUserDialogChoice = IDNO; // the notice must have a place for its OK
+        ErrorBoxShow(terms.remap, sStatus, dialog, 0, 0, 0, &nUserDialogChoice);
+    }
+    return sStatus == 0;
+}
+
+void NameChannel(BPPCHL* channel, u32 number) {
+    FormatText(channel->CurrentInfo.Uart.PortName, StoreTextCapacity, TEXT("COM%d"), number);
+}
+
+void MoveChannelSettings(BPPCHL* channel) {
+    WCHAR* saved = channel->SavedInfo.Uart.PortName;
+    const WCHAR* current = channel->CurrentInfo.Uart.PortName;
+    Kavro_COMPortMigratePortSettings(saved, current);
+    CopyText(saved, StoreTextCapacity, current);
 }

@@ -15,7 +15,8 @@ WCHAR* AllocateSettingsKey(const WCHAR* portName) {
     return key;
 }
 
-// Applications are notified while both keys exist.
+// Applications are notified while both keys exist, so that one that reads on the notice finds the port under
+// either name. A write that fails costs the line: the port then gets the default line.
 void MoveSettingsLine(const WCHAR* oldKey, const WCHAR* newKey) {
     WCHAR value[SettingsLineCapacity] = {};
     GetProfileStringW(PortsSection, oldKey, TEXT(""), value, ARRAYSIZE(value));
@@ -27,17 +28,19 @@ void MoveSettingsLine(const WCHAR* oldKey, const WCHAR* newKey) {
 } // namespace
 
 void Kavro_COMPortMigratePortSettings(const WCHAR* oldName, const WCHAR* newName) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
+    // Without memory the line stays under the old name, and the port gets the default line when it is next
+    // read.
     WCHAR* oldKey = AllocateSettingsKey(oldName);
-    if (oldKey != nullptr) {
-        WCHAR* newKey = AllocateSettingsKey(newName);
-        if (newKey != nullptr) {
-            MoveSettingsLine(oldKey, newKey);
-        }
-        LocalFree(oldKey);
-        if (newKey != nullptr) {
-            LocalFree(newKey);
-        }
+    if (oldKey == nullptr) {
+        return;
     }
-    TraceOut("<---- %s\n", __func__);
+    WCHAR* newKey = AllocateSettingsKey(newName);
+    if (newKey == nullptr) {
+        LocalFree(oldKey);
+        return;
+    }
+    MoveSettingsLine(oldKey, newKey);
+    LocalFree(oldKey);
+    LocalFree(newKey);
 }

@@ -1,5 +1,7 @@
 #include "device_model/board_discovery.h"
 
+#include <cstddef>
+
 #include "device_model/channel_list.h"
 #include "device_model/device_store.h"
 #include "reporting/statuses.h"
@@ -57,8 +59,10 @@ u32 ReadClassValues(HDEVINFO set, SP_DEVINFO_DATA* data, u32 channelClass, Chann
         return Kavro_RegMcp251xGetBasic(set, data, &info->Mcp251x);
     case ClassMcp251xFd:
         return Kavro_RegMcp251xFdGetBasic(set, data, &info->Mcp251xFd);
-    default:
+    case ClassCan:
         return Kavro_RegCanGetBasic(set, data, &info->Can);
+    default: // no class of a channel, so nothing tells what to read
+        return StatusReadFailed;
     }
 }
 
@@ -81,18 +85,23 @@ bool BelongsToBoard(const BoardParams* board, const ChannelInfo& info) {
     return false;
 }
 
-// Returns a copy of the path for the caller to free, or null if there is no memory.
-WCHAR* CopyDevicePath(const WCHAR* path) {
-    const u32 capacity = static_cast<u32>(lstrlenW(path)) + 1;
-    auto* copy = static_cast<WCHAR*>(LocalAlloc(LPTR, capacity * sizeof(WCHAR)));
+// Returns a copy of the path for the caller to free, or null if there is no memory. The path ends within
+// `capacity` units.
+WCHAR* CopyDevicePath(const WCHAR* path, u32 capacity) {
+    u32 length = 0;
+    // The system ends every path; without that, the copy ends with the buffer.
+    while (length < capacity && path[length] != 0) { // GCOV_EXCL_BR_LINE
+        ++length;
+    }
+    auto* copy = static_cast<WCHAR*>(LocalAlloc(LPTR, (length + 1) * sizeof(WCHAR)));
     if (copy != nullptr) {
-        CopyText(copy, capacity, path);
+        CopyText(copy, length + 1, path);
     }
     return copy;
 }
 
 void AddChannel(BoardParams* board, HDEVINFO set, const SP_DEVINFO_DATA& data, u32 channelClass,
-                const ChannelInfo& info, const WCHAR* path) {
+                const ChannelInfo& info, const WCHAR* path, u32 pathCapacity) {
     auto* chl = static_cast<BPPCHL*>(LocalAlloc(LPTR, sizeof(BPPCHL)));
     if (chl == nullptr) {
         return;
@@ -108,7 +117,7 @@ void AddChannel(BoardParams* board, HDEVINFO set, const SP_DEVINFO_DATA& data, u
     }
     chl->DeviceInfoSet = set;
     chl->DeviceInfoData = data;
-    chl->DevicePath = CopyDevicePath(path);
+    chl->DevicePath = CopyDevicePath(path, pathCapacity);
     ChlListInsertTail(&board->ChlList, chl);
     BoardChlWalkInsert(board, chl);
     ++board->ChlCount;
@@ -149,26 +158,30 @@ u32 ReadBoardAndChannels(BoardParams* board) {
 } // namespace
 
 bool BoardInitiate(BoardParams* board, u32* status) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     board->ChlCount = 0;
     ChlListInit(&board->ChlList);
+    board->WalkFirst = nullptr;
     *status = OpenInterfaceSets(board);
     if (*status == 0) {
         *status = ReadBoardAndChannels(board);
     }
-    TraceOut("<---- %s, sStatus:%d\n", __func__, *status);
-    return *status == 0;
+    return trace.Status(*status) == 0;
 }
 
-void BoardEnumClass(BoardParams* board, BYTE* buffer, u32 bufferSize, HDEVINFO set,
-                    const GUID* interfaceClass, u32 channelClass) {
-    TraceOut("----> %s( )\n", __func__);
+u32 BoardEnumClass(BoardParams* board, BYTE* buffer, u32 bufferSize, HDEVINFO set, const GUID* interfaceClass,
+                   u32 channelClass) {
+    TraceScope trace;
+    const u32 before = board->ChlCount;
     auto* detail = reinterpret_cast<SP_DEVICE_INTERFACE_DETAIL_DATA_W*>(buffer);
+    const u32 pathCapacity =
+        (bufferSize - offsetof(SP_DEVICE_INTERFACE_DETAIL_DATA_W, DevicePath)) / sizeof(WCHAR);
     SP_DEVICE_INTERFACE_DATA interfaceData = {};
     interfaceData.cbSize = sizeof(interfaceData);
     ChannelInfo info;
     for (DWORD index = 0; SetupDiEnumDeviceInterfaces(set, nullptr, interfaceClass, index, &interfaceData);
          ++index) {
+        // Asked without a buffer, the operation always fails and says how much it needs.
         DWORD needed = 0;
         SetupDiGetDeviceInterfaceDetailW(set, &interfaceData, nullptr, 0, &needed, nullptr);
         if (needed > DetailBufferBytes) {
@@ -182,14 +195,14 @@ void BoardEnumClass(BoardParams* board, BYTE* buffer, u32 bufferSize, HDEVINFO s
         data.cbSize = sizeof(data);
         if (SetupDiGetDeviceInterfaceDetailW(set, &interfaceData, detail, needed, &needed, &data) &&
             ReadChannel(set, &data, channelClass, &info) && BelongsToBoard(board, info)) {
-            AddChannel(board, set, data, channelClass, info, detail->DevicePath);
+            AddChannel(board, set, data, channelClass, info, detail->DevicePath, pathCapacity);
         }
     }
-    TraceOut("<---- %s\n", __func__);
+    return board->ChlCount - before;
 }
 
 void BoardDeinitiate(BoardParams* board) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     while (!ChlListIsEmpty(&board->ChlList)) {
         auto* chl = static_cast<BPPCHL*>(ChlListFirst(&board->ChlList));
         TraceOut("BPPCHL (%d, x%p, x%p, T:%d), TERMINATE\n", chl->CurrentInfo.ChlBasic.ChlNumber, chl,
@@ -201,8 +214,9 @@ void BoardDeinitiate(BoardParams* board) {
         LocalFree(chl);
         --board->ChlCount;
     }
+    board->WalkFirst = nullptr;
+    // A set that was never opened is refused, which does no harm.
     for (const HDEVINFO set : board->InterfaceSet) {
         SetupDiDestroyDeviceInfoList(set);
     }
-    TraceOut("<---- %s\n", __func__);
 }

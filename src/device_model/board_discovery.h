@@ -15,9 +15,11 @@ constexpr u32 DetailBufferBytes = 1024;
 bool BoardInitiate(BoardParams* board, u32* status);
 
 // Enumerates one class into the board's list. `buffer` has `bufferSize` bytes, at least DetailBufferBytes. An
-// interface is skipped if it can't be read, belongs to another board, or there is no memory for it.
-void BoardEnumClass(BoardParams* board, BYTE* buffer, u32 bufferSize, HDEVINFO set,
-                    const GUID* interfaceClass, u32 channelClass);
+// interface is skipped if it can't be read, belongs to another board, or there is no memory for it. Returns
+// the number of channels found, which may be none.
+u32 BoardEnumClass(BoardParams* board, BYTE* buffer, u32 bufferSize, HDEVINFO set, const GUID* interfaceClass,
+                   u32 channelClass);
 
-// Releases the records and the interface sets, but not the BoardParams itself.
+// Releases the records and the interface sets, but not the BoardParams itself, whose list and walk are empty
+// afterwards.
 void BoardDeinitiate(BoardParams* board);

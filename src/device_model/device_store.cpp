@@ -90,8 +90,11 @@ constexpr StoreField UartBasicFields[] = {
 };
 
 // Terminates a text that was stored without its terminator: after its last whole unit, or in the last unit of
-// a full field. A text that has one is left alone.
+// a full field. A text that has one is left alone, and so is a field that is too small for a terminator.
 void EndText(BYTE* field, u32 fieldBytes, u32 storedBytes) {
+    if (fieldBytes < sizeof(WCHAR)) {
+        return;
+    }
     auto* text = reinterpret_cast<WCHAR*>(field);
     const u32 last = fieldBytes / sizeof(WCHAR) - 1;
     const u32 stored = storedBytes / sizeof(WCHAR);
@@ -143,30 +146,28 @@ template <SIZE_T Count> u32 WriteTo(HKEY key, const StoreNumber (&numbers)[Count
 template <SIZE_T Count>
 u32 ReadValues(HDEVINFO set, SP_DEVINFO_DATA* data, const StoreField (&fields)[Count], void* record,
                TraceName operation = __builtin_FUNCTION()) {
-    TraceOut("----> %s( )\n", operation);
-    u32 sStatus = StatusNoKey;
+    TraceScope trace(operation);
     const HKEY key = OpenDeviceKey(set, data);
-    if (key != INVALID_HANDLE_VALUE) {
-        sStatus = ReadFrom(key, fields, record);
-        RegCloseKey(key);
+    if (key == INVALID_HANDLE_VALUE) {
+        return trace.Status(StatusNoKey);
     }
-    TraceOut("<---- %s, sStatus:%d\n", operation, sStatus);
-    return sStatus;
+    const u32 sStatus = ReadFrom(key, fields, record);
+    RegCloseKey(key);
+    return trace.Status(sStatus);
 }
 
 // The same for a writing operation.
 template <SIZE_T Count>
 u32 WriteValues(HDEVINFO set, SP_DEVINFO_DATA* data, const StoreNumber (&numbers)[Count],
                 TraceName operation = __builtin_FUNCTION()) {
-    TraceOut("----> %s( )\n", operation);
-    u32 sStatus = StatusNoKey;
+    TraceScope trace(operation);
     const HKEY key = OpenDeviceKey(set, data);
-    if (key != INVALID_HANDLE_VALUE) {
-        sStatus = WriteTo(key, numbers);
-        RegCloseKey(key);
+    if (key == INVALID_HANDLE_VALUE) {
+        return trace.Status(StatusNoKey);
     }
-    TraceOut("<---- %s, sStatus:%d\n", operation, sStatus);
-    return sStatus;
+    const u32 sStatus = WriteTo(key, numbers);
+    RegCloseKey(key);
+    return trace.Status(sStatus);
 }
 
 } // namespace

@@ -5,7 +5,9 @@
 // access even for reading, and closes it before it returns. Values are read in a fixed order, and reading
 // stops at the first that is missing or too long for its field. Those read before it stay in the destination.
 // Nothing is cleared, so a caller that wants a clean record clears it first. The type of a value is not
-// checked. A shorter value fills only its own bytes. A text always ends within its field.
+// checked. A shorter value fills only its own bytes, except that a text without a terminator gets one: after
+// its last whole unit, or in the last unit of a full field. So a text always ends within its field, unless
+// that is smaller than a terminator.
 #pragma once
 
 #include "device_model/board_params.h"

@@ -29,11 +29,10 @@ void RememberFifoPositions(const UartBasicInfo& uart, FifoSliders* sliders) {
 }
 
 void _EnableFifoControls(HWND hDlg, BOOL enable) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     for (const int control : FifoControls) {
         EnableWindow(GetDlgItem(hDlg, control), enable);
     }
-    TraceOut("<---- %s\n", __func__);
 }
 
 void ShowFifoCheckBox(HWND hDlg, bool checked) {
@@ -98,7 +97,7 @@ void FollowFifoSlider(HWND hDlg, HWND slider, FifoSliders* sliders) {
 }
 
 FifoValues _ReadFifoSliders(HWND hDlg, const UartBasicInfo& uart, const FifoSliders& sliders) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     FifoValues values = {0, 1, 1};
     if (IsDlgButtonChecked(hDlg, IDC_LARGEFIFO) == BST_CHECKED) {
         const auto& stages = sliders.RxFifo4Stage;
@@ -109,7 +108,6 @@ FifoValues _ReadFifoSliders(HWND hDlg, const UartBasicInfo& uart, const FifoSlid
         values.UartRxFifoLowHigh =
             AtLeastOneAtMost(RxStageOfPosition(stages, receive), stages[RxFifoStageCount - 1]);
     }
-    TraceOut("<---- %s\n", __func__);
     return values;
 }
 

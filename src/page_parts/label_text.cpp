@@ -5,7 +5,7 @@
 #include "reporting/trace.h"
 
 void _SetTextFromString(HWND control, UINT stringId, u32 value) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     WCHAR format[ControlTextCapacity];
     WCHAR text[ControlTextCapacity];
     if (LoadStringW(ModuleInstance, stringId, format, ARRAYSIZE(format)) == 0) {
@@ -13,11 +13,10 @@ void _SetTextFromString(HWND control, UINT stringId, u32 value) {
     }
     FormatText(text, ARRAYSIZE(text), format, value);
     SetWindowTextW(control, text);
-    TraceOut("<---- %s\n", __func__);
 }
 
 void _SetTextFromOwnFormat(HWND hDlg, int controlId, u32 value) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     const HWND control = GetDlgItem(hDlg, controlId);
     WCHAR format[ControlTextCapacity];
     WCHAR text[ControlTextCapacity];
@@ -25,5 +24,4 @@ void _SetTextFromOwnFormat(HWND hDlg, int controlId, u32 value) {
         FormatText(text, ARRAYSIZE(text), format, value);
         SetWindowTextW(control, text);
     }
-    TraceOut("<---- %s\n", __func__);
 }

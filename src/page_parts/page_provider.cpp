@@ -49,16 +49,15 @@ HPROPSHEETPAGE CreatePage(int dialog, DLGPROC procedure, LPFNPSPCALLBACKW callba
 }
 
 UINT AnswerPageCallback(UINT message, const PROPSHEETPAGEW* page, void (*releaseRecord)(void* record)) {
-    UINT nReturn = 1;
     switch (message) {
     case PSPCB_CREATE:
         TraceOut("%s - PSPCB_CREATE\n", TraceOperation());
-        break;
+        return 1; // go on creating the page
     case PSPCB_RELEASE:
         TraceOut("%s - PSPCB_RELEASE\n", TraceOperation());
         releaseRecord(reinterpret_cast<void*>(page->lParam));
-        nReturn = 0;
-        break;
+        return 0;
+    default:
+        return 1;
     }
-    return nReturn;
 }

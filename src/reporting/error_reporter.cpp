@@ -119,7 +119,7 @@ void ShowFromStrings(HWND owner, UINT stringId, UINT style, WCHAR* text, WCHAR* 
 
 void ErrorBoxShow(u32 oerr, u32 serr, HWND parent, u32 channel, u32 firstNumber, u32 secondNumber,
                   u32* nUserDialogChoice) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     if (nUserDialogChoice != nullptr) {
         *nUserDialogChoice = IDNO;
     }
@@ -147,5 +147,4 @@ void ErrorBoxShow(u32 oerr, u32 serr, HWND parent, u32 channel, u32 firstNumber,
     if (caption != nullptr) {
         LocalFree(caption);
     }
-    TraceOut("<---- %s\n", __func__);
 }

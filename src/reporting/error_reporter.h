@@ -44,7 +44,8 @@ enum FailureCode : u32 {
 //
 // oerr: the failure code. serr: the status of the failed operation, 0 if there is none. parent: the owner of
 // the box; if null, the window with the focus. channel, firstNumber, secondNumber: the channel and COM
-// numbers for the texts that print them. nUserDialogChoice: receives the answer, IDYES, IDNO or IDOK, and
-// IDNO from a box that asks nothing. It must not be null for the codes that ask or notify: 203, 205 and 305.
+// numbers for the texts that print them. nUserDialogChoice: receives the answer, IDYES, IDNO or IDOK, 0 if
+// the box can't be shown, and IDNO from a box that asks nothing, also for want of memory. It must not be null
+// for the codes that ask or notify: 203, 205 and 305.
 void ErrorBoxShow(u32 oerr, u32 serr, HWND parent, u32 channel = 0, u32 firstNumber = 0, u32 secondNumber = 0,
                   u32* nUserDialogChoice = nullptr);

@@ -129,7 +129,7 @@ u32 CopyText(WCHAR* destination, u32 capacity, const WCHAR* source) {
 }
 
 u32 AppendText(WCHAR* destination, u32 capacity, const WCHAR* source) {
-    if (capacity > TextMaxCapacity) {
+    if (capacity == 0 || capacity > TextMaxCapacity) {
         return TextInvalid;
     }
     u32 length = 0;
@@ -140,6 +140,14 @@ u32 AppendText(WCHAR* destination, u32 capacity, const WCHAR* source) {
         return TextInvalid;
     }
     return CopyText(destination + length, capacity - length, source);
+}
+
+bool SameText(const WCHAR* left, const WCHAR* right) {
+    while (*left != 0 && *left == *right) {
+        ++left;
+        ++right;
+    }
+    return *left == *right;
 }
 
 u32 ParseDecimal(const WCHAR* text) {

@@ -47,6 +47,9 @@ u32 CopyText(WCHAR* destination, u32 capacity, const WCHAR* source);
 // destination has no terminator within its capacity, it is TextInvalid and nothing is written.
 u32 AppendText(WCHAR* destination, u32 capacity, const WCHAR* source);
 
+// Whether two texts are equal up to their terminators. Case counts.
+bool SameText(const WCHAR* left, const WCHAR* right);
+
 // The number at the start of a text, modulo 2 to the power 32, or 0 if the text starts with no digit.
 u32 ParseDecimal(const WCHAR* text);
 

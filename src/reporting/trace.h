@@ -3,9 +3,9 @@
 // line to the sink that it links (`trace_line.h`).
 //
 // A line begins with the name of its operation, if it has one. "----> name" opens the operation, "<---- name"
-// closes it on every path, and so lines nest like brackets. A helper traces its lines under the name of the
-// operation that it works for, `TraceOperation()`. Text operations, lookups and pure computations trace
-// nothing.
+// closes it, and so lines nest like brackets: a TraceScope writes both. A helper traces its lines under the
+// name of the operation that it works for, `TraceOperation()`. Text operations, lookups and pure computations
+// trace nothing.
 #pragma once
 
 #include <type_traits>
@@ -157,3 +157,47 @@ void TraceLineOf(const TraceFormatFor<Arguments...>& format, const Arguments&...
             TraceLineOf(__VA_ARGS__);                                                                        \
         }                                                                                                    \
     } while (false)
+
+// An operation in the trace, from its entry to its exit. The entry is traced where the scope begins, the exit
+// where it ends, on every path:
+//
+//     TraceScope trace;
+//     if (key == INVALID_HANDLE_VALUE) {
+//         return trace.Status(StatusNoKey);
+//     }
+//
+// A result goes through the scope as it is returned, so that the exit prints it. An operation without a
+// result, or with one that the trace has no form for, just returns.
+struct TraceScope {
+    [[no_unique_address]] TraceName operation;
+    bool open = true;
+
+    // Under the name of the function that declares it.
+    explicit TraceScope(TraceName name = __builtin_FUNCTION()) : operation(name) {
+        TraceOut("----> %s( )\n", operation);
+    }
+    // With values that decide what the operation does.
+    template <typename... Values>
+    TraceScope(const TraceFormatFor<TraceName, Values...>& entry, TraceName name, const Values&... values)
+        : operation(name) {
+        TraceOut(entry, operation, values...);
+    }
+    ~TraceScope() {
+        if (open) {
+            TraceOut("<---- %s\n", operation);
+        }
+    }
+    TraceScope(const TraceScope&) = delete;
+    TraceScope& operator=(const TraceScope&) = delete;
+
+    bool Success(bool bSuccess) { return Exit("<---- %s, bSuccess:%d\n", bSuccess); }
+    u32 Status(u32 sStatus) { return Exit("<---- %s, sStatus:%d\n", sStatus); }
+    // Any other form. The first value is the result.
+    template <typename Result, typename... Values>
+    Result Exit(const TraceFormatFor<TraceName, Result, Values...>& exit, Result result,
+                const Values&... values) {
+        TraceOut(exit, operation, result, values...);
+        open = false;
+        return result;
+    }
+};

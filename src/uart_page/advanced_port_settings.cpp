@@ -1,7 +1,9 @@
 #include "uart_page/advanced_port_settings.h"
 
 #include "com_numbers/com_port_database.h"
+#include "com_numbers/port_device.h"
 #include "com_numbers/port_rename.h"
+#include "com_numbers/port_settings_migration.h"
 #include "device_model/device_store.h"
 #include "page_parts/fifo_controls.h"
 #include "page_parts/label_text.h"
@@ -19,11 +21,6 @@ constexpr RenameTerms PortRenameTerms = {FailurePortNumberInUse, FailurePortOpen
 UartAdvancedParams* DialogParams(HWND hDlg) {
     return reinterpret_cast<UartAdvancedParams*>(GetWindowLongPtrW(hDlg, DWLP_USER));
 }
-
-// A rename from this dialog. The title of the sheet follows it.
-struct RenameInDialog : PortRename {
-    HWND hDlg;
-};
 
 // One direction of the FIFO: its controls, the bounds for its captions, which are formats in this dialog, and
 // the position of its slider.
@@ -60,21 +57,20 @@ void ShowFifo(HWND hDlg, const UartBasicInfo& uart, const FifoSliders& sliders) 
 }
 
 bool _InitializeControls(HWND hDlg, UartAdvancedParams* params, u32* code, u32* status) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     const UartBasicInfo& uart = params->UartBasicInfo;
     FifoSliders& sliders = params->Fifo;
+    *code = 0;
     RxFifoStages(uart.UartRxFifoSize, sliders.RxFifo4Stage);
     TraceOut("%s - RxFifo4Stage: %d, %d, %d, %d\n", __func__, sliders.RxFifo4Stage[0],
              sliders.RxFifo4Stage[1], sliders.RxFifo4Stage[2], sliders.RxFifo4Stage[3]);
     RememberFifoPositions(uart, &sliders);
     ShowFifo(hDlg, uart, sliders);
     *status = Kavro_COMPortFillPortNameCombox(hDlg, params->ComName);
-    const bool bSuccess = *status == 0;
-    if (!bSuccess) {
+    if (*status != 0) {
         *code = FailurePortNumberCombo;
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(*status == 0);
 }
 
 bool ShowTitle(HWND hDlg, const WCHAR* comName) {
@@ -90,40 +86,35 @@ bool ShowTitle(HWND hDlg, const WCHAR* comName) {
 
 // If the initialisation fails, the dialog stays open, partly filled. Its OK and Cancel work.
 bool _OnInitDialog(HWND hDlg, LPARAM lParam) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     auto* params = reinterpret_cast<UartAdvancedParams*>(lParam);
     SetWindowLongPtrW(hDlg, DWLP_USER, lParam);
     u32 code = 0;
     u32 sStatus = 0;
-    bool bSuccess = _InitializeControls(hDlg, params, &code, &sStatus);
-    if (bSuccess) {
-        bSuccess = ShowTitle(hDlg, params->ComName);
-    } else {
+    if (!_InitializeControls(hDlg, params, &code, &sStatus)) {
         ErrorBoxShow(code, sStatus, hDlg);
+        return trace.Success(false);
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(ShowTitle(hDlg, params->ComName));
 }
 
 void _OnHScroll(HWND hDlg, LPARAM lParam) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     UartAdvancedParams* params = DialogParams(hDlg);
     if (params != nullptr) {
         FollowFifoSlider(hDlg, reinterpret_cast<HWND>(lParam), &params->Fifo);
     }
-    TraceOut("<---- %s\n", __func__);
 }
 
 void _FifoEnableClicked(HWND hDlg) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     FollowFifoCheckBox(hDlg, &DialogParams(hDlg)->Fifo);
-    TraceOut("<---- %s\n", __func__);
 }
 
 // Unlike Restore Defaults of the Port Control page, this also sets the remembered positions and moves the COM
 // number combo back to the port's present name.
 void _RestoreDefaultClicked(HWND hDlg, UartAdvancedParams* params) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     FifoSliders& sliders = params->Fifo;
     ShowFifoCheckBox(hDlg, true);
     sliders.RxFifoPos = RxFifoStageCount;
@@ -135,10 +126,10 @@ void _RestoreDefaultClicked(HWND hDlg, UartAdvancedParams* params) {
     const LRESULT found = SendDlgItemMessageW(hDlg, IDC_PORT_NUMBER, CB_FINDSTRING, static_cast<WPARAM>(-1),
                                               reinterpret_cast<LPARAM>(params->ComName));
     SendDlgItemMessageW(hDlg, IDC_PORT_NUMBER, CB_SETCURSEL, LOWORD(found), 0);
-    TraceOut("<---- %s\n", __func__);
 }
 
-// Returns the status of the write, or 0 if the values are those that were read when the dialog opened.
+// Returns the status of the write, or 0 if the values are those that were read when the dialog opened. The
+// record keeps those: where the rename then fails, the next OK compares with them and writes again.
 u32 WriteFifoValues(UartAdvancedParams* params, const FifoValues& values) {
     const FifoValues old = FifoValuesOf(params->UartBasicInfo);
     if (SameFifoValues(values, old)) {
@@ -156,32 +147,69 @@ u32 WriteFifoValues(UartAdvancedParams* params, const FifoValues& values) {
                                         values.UartTxFifoLowHigh, values.UartRxFifoLowHigh);
 }
 
-// The sheet's title names the port.
-void ChangeSheetTitle(const PortRename& rename) {
-    const auto& asked = static_cast<const RenameInDialog&>(rename);
-    _ChangeParentTitle(GetParent(asked.hDlg), rename.settingsName, rename.newName);
+// `ComName` of the record stays: the settings move from it, and the next opening reads the name afresh.
+bool RenamePort(HWND hDlg, UartAdvancedParams* params, u32 oldNumber, u32 newNumber) {
+    if (!IsNumberChanged(oldNumber, newNumber)) {
+        return true;
+    }
+    if (!RemapForUser(hDlg, PortRenameTerms, params->DeviceInfoSet, params->DeviceInfoData, oldNumber,
+                      newNumber)) {
+        return false;
+    }
+    Kavro_COMPortBroadcastRemap(params->DeviceInfoSet, params->DeviceInfoData);
+    FormatText(params->NewComName, ComNameCapacity, TEXT("COM%d"), newNumber);
+    _ChangeParentTitle(GetParent(hDlg), params->ComName, params->NewComName);
+    Kavro_COMPortMigratePortSettings(params->ComName, params->NewComName);
+    return true;
 }
 
-// The FIFO values are written before the number is checked, and stay written if the number is refused.
+// All controls are read before anything is written. The FIFO values are written before the number is checked,
+// and stay written if the number is refused.
 bool _OkClicked(HWND hDlg, UartAdvancedParams* params) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     const FifoValues values = _ReadFifoSliders(hDlg, params->UartBasicInfo, params->Fifo);
     TraceFifoValues(values);
     const u32 oldNumber = ComNumberFromName(params->ComName);
-    const RenameInDialog rename = {{params->DeviceInfoSet, params->DeviceInfoData, oldNumber,
-                                    ChosenComNumber(hDlg, oldNumber), params->ComName, params->NewComName,
-                                    nullptr, ComNameCapacity, ChangeSheetTitle},
-                                   hDlg};
+    const u32 newNumber = ChosenComNumber(hDlg, oldNumber);
     const u32 sStatus = WriteFifoValues(params, values);
     if (sStatus != 0) {
         ErrorBoxShow(FailurePortSetFifo, sStatus, hDlg);
+        return trace.Success(false);
     }
-    const bool bSuccess = sStatus == 0 && RenamePortForUser(hDlg, PortRenameTerms, rename);
-    if (bSuccess) {
-        SetupDiCallClassInstaller(DIF_PROPERTYCHANGE, params->DeviceInfoSet, params->DeviceInfoData);
+    if (!RenamePort(hDlg, params, oldNumber, newNumber)) {
+        return trace.Success(false);
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    // The driver takes the values up at a property change. If it can't be told, they are stored all the same
+    // and count from the device's next start.
+    SetupDiCallClassInstaller(DIF_PROPERTYCHANGE, params->DeviceInfoSet, params->DeviceInfoData);
+    return trace.Success(true);
+}
+
+bool CommandGiven(HWND hDlg, UartAdvancedParams* params, int id) {
+    switch (id) {
+    case IDOK:
+        TraceOut("%s - IDOK\n", TraceOperation());
+        if (!_OkClicked(hDlg, params)) {
+            return false;
+        }
+        EndDialog(hDlg, IDOK);
+        return true;
+    case IDCANCEL:
+        TraceOut("%s - IDCANCEL\n", TraceOperation());
+        EndDialog(hDlg, IDCANCEL);
+        return true;
+    case IDC_RESTORE:
+        TraceOut("%s - IDC_RESTORE\n", TraceOperation());
+        _RestoreDefaultClicked(hDlg, params);
+        return true;
+    case IDC_LARGEFIFO:
+        TraceOut("%s - IDC_LARGEFIFO\n", TraceOperation());
+        _FifoEnableClicked(hDlg);
+        return true;
+    default:
+        TraceOut("%s - DEFAULT:%d\n", TraceOperation(), id);
+        return false;
+    }
 }
 
 bool _OnCommand(HWND hDlg, int id, LPARAM /*lParam*/, int notifyCode) {
@@ -189,37 +217,8 @@ bool _OnCommand(HWND hDlg, int id, LPARAM /*lParam*/, int notifyCode) {
     if (params == nullptr) {
         return false; // before WM_INITDIALOG
     }
-    TraceOut("----> %s( ), NotifyCode:%d\n", __func__, notifyCode);
-    bool bSuccess = false;
-    switch (id) {
-    case IDOK:
-        TraceOut("%s - IDOK\n", __func__);
-        bSuccess = _OkClicked(hDlg, params);
-        if (bSuccess) {
-            EndDialog(hDlg, IDOK);
-        }
-        break;
-    case IDCANCEL:
-        TraceOut("%s - IDCANCEL\n", __func__);
-        EndDialog(hDlg, IDCANCEL);
-        bSuccess = true;
-        break;
-    case IDC_RESTORE:
-        TraceOut("%s - IDC_RESTORE\n", __func__);
-        _RestoreDefaultClicked(hDlg, params);
-        bSuccess = true;
-        break;
-    case IDC_LARGEFIFO:
-        TraceOut("%s - IDC_LARGEFIFO\n", __func__);
-        _FifoEnableClicked(hDlg);
-        bSuccess = true;
-        break;
-    default:
-        TraceOut("%s - DEFAULT:%d\n", __func__, id);
-        break;
-    }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    TraceScope trace("----> %s( ), NotifyCode:%d\n", __func__, notifyCode);
+    return trace.Success(CommandGiven(hDlg, params, id));
 }
 
 INT_PTR CALLBACK UartAdvancedDlgProc(HWND hDlg, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -259,12 +258,12 @@ bool ReadPort(HWND hParent, UartAdvancedParams* params) {
 } // namespace
 
 bool KvrUartAdvancedDlgShow(HWND hParent, UartAdvancedParams* params) {
-    TraceOut("----> %s( )\n", __func__);
-    const bool bSuccess = ReadPort(hParent, params);
-    if (bSuccess) {
-        DialogBoxParamW(ModuleInstance, MAKEINTRESOURCEW(IDD_ADVANCED_PORT_SETTINGS), hParent,
-                        UartAdvancedDlgProc, reinterpret_cast<LPARAM>(params));
+    TraceScope trace;
+    if (!ReadPort(hParent, params)) {
+        return trace.Success(false);
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    // A dialog that can't be shown is one that has closed without a choice: the name is then the one before.
+    DialogBoxParamW(ModuleInstance, MAKEINTRESOURCEW(IDD_ADVANCED_PORT_SETTINGS), hParent,
+                    UartAdvancedDlgProc, reinterpret_cast<LPARAM>(params));
+    return trace.Success(true);
 }

@@ -31,18 +31,21 @@ void SetTitleWith(HWND hWindow, WCHAR* title, u32 capacity, WCHAR* place, const 
 } // namespace
 
 void _ChangeParentTitle(HWND hWindow, const WCHAR* oldName, const WCHAR* newName) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     const int length = GetWindowTextLengthW(hWindow);
-    const u32 capacity = length > 0 && oldName[0] != 0 ? static_cast<u32>(length) + 1 : 0;
-    WCHAR* title = capacity != 0 ? AllocateText(capacity) : nullptr;
-    if (title != nullptr) {
-        if (GetWindowTextW(hWindow, title, static_cast<int>(capacity)) != 0) {
-            WCHAR* place = ScanComma(title, oldName);
-            if (*place != 0) {
-                SetTitleWith(hWindow, title, capacity, place, oldName, newName);
-            }
-        }
-        LocalFree(title);
+    if (length <= 0 || oldName[0] == 0) { // no name is nowhere in a title, not at its start
+        return;
     }
-    TraceOut("<---- %s\n", __func__);
+    const u32 capacity = static_cast<u32>(length) + 1;
+    WCHAR* title = AllocateText(capacity);
+    if (title == nullptr) {
+        return;
+    }
+    if (GetWindowTextW(hWindow, title, static_cast<int>(capacity)) != 0) {
+        WCHAR* place = ScanComma(title, oldName);
+        if (*place != 0) {
+            SetTitleWith(hWindow, title, capacity, place, oldName, newName);
+        }
+    }
+    LocalFree(title);
 }

@@ -26,73 +26,67 @@ UartPageParams* PageParams(HWND hDlg) {
 }
 
 bool _FillSettingsDlg(HWND hDlg, UartPageParams* params, u32* code, u32* status) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
+    *code = 0;
     *status = Kavro_RegUartGetCOMName(params->DeviceInfoSet, params->DeviceInfoData, params->ComName,
                                       sizeof(params->ComName));
-    const bool bSuccess = *status == 0;
-    if (bSuccess) {
-        WCHAR key[SettingsKeyCapacity];
-        MakeSettingsKey(key, ARRAYSIZE(key), params->ComName);
-        _GetSettingsFromRegistryAndApplyToUI(hDlg, key, params);
-        if (!params->ChangesEnabled) {
-            for (const int combo : SettingsCombos) {
-                EnableWindow(GetDlgItem(hDlg, combo), FALSE);
-            }
-        }
-    } else {
+    if (*status != 0) {
         *code = FailurePagePortName;
+        return trace.Success(false);
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    WCHAR key[SettingsKeyCapacity];
+    MakeSettingsKey(key, ARRAYSIZE(key), params->ComName);
+    _GetSettingsFromRegistryAndApplyToUI(hDlg, key, params);
+    if (!params->ChangesEnabled) {
+        for (const int combo : SettingsCombos) {
+            EnableWindow(GetDlgItem(hDlg, combo), FALSE);
+        }
+    }
+    return trace.Success(true);
 }
 
 // If the initialisation fails, the page stays partly filled, with its buttons disabled.
 bool _OnInitDialog(HWND hDlg, LPARAM page) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     auto* params = reinterpret_cast<UartPageParams*>(reinterpret_cast<const PROPSHEETPAGEW*>(page)->lParam);
     SetWindowLongPtrW(hDlg, DWLP_USER, reinterpret_cast<LONG_PTR>(params));
     EnableWindow(GetDlgItem(hDlg, IDC_ADVANCED), FALSE);
     EnableWindow(GetDlgItem(hDlg, IDC_RESTORE_PORT), FALSE);
     u32 code = 0;
     u32 sStatus = 0;
-    const bool bSuccess = _FillComboxDlg(hDlg, &code) && _FillSettingsDlg(hDlg, params, &code, &sStatus);
-    if (bSuccess) {
-        TraceOut("%s - ShowAdvanced:%d, ChangesEnabled:%d\n", __func__, params->ShowAdvanced,
-                 params->ChangesEnabled);
-        EnableWindow(GetDlgItem(hDlg, IDC_ADVANCED), params->ShowAdvanced);
-        EnableWindow(GetDlgItem(hDlg, IDC_RESTORE_PORT), params->ChangesEnabled);
-        params->BasicSettingsDlgInitiateOK = true;
-    } else {
+    if (!_FillComboxDlg(hDlg, &code) || !_FillSettingsDlg(hDlg, params, &code, &sStatus)) {
         ErrorBoxShow(code, sStatus, hDlg);
+        return trace.Success(false);
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    TraceOut("%s - ShowAdvanced:%d, ChangesEnabled:%d\n", __func__, params->ShowAdvanced,
+             params->ChangesEnabled);
+    EnableWindow(GetDlgItem(hDlg, IDC_ADVANCED), params->ShowAdvanced);
+    EnableWindow(GetDlgItem(hDlg, IDC_RESTORE_PORT), params->ChangesEnabled);
+    params->BasicSettingsDlgInitiateOK = true;
+    return trace.Success(true);
 }
 
-// After a rename the dialog hands back the new name, which is the key of the next save. The saved fields
-// stay, because the line has moved with the port.
+// The dialog hands back a name whatever closed it, so `NewComName` starts as the present one. After a rename
+// it is the key of the next save. The saved fields stay, because the line has moved with the port.
 void _AdvancedClicked(HWND hDlg, UartPageParams* params) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     UartAdvancedParams* advanced = params->AdvancedParams;
     CopyText(advanced->NewComName, ComNameCapacity, params->ComName);
-    if (KvrUartAdvancedDlgShow(hDlg, advanced)) {
+    if (KvrUartAdvancedDlgShow(hDlg, advanced) && !SameText(advanced->NewComName, params->ComName)) {
         CopyText(params->ComName, ComNameCapacity, advanced->NewComName);
     }
-    TraceOut("<---- %s\n", __func__);
 }
 
 void _RestoreDefault(HWND hDlg) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     SelectBaudRate(hDlg, DefaultBaudText);
     SelectSettings(hDlg, DefaultSettings);
-    TraceOut("<---- %s\n", __func__);
 }
 
 void _RestoreDefaultClicked(HWND hDlg) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     _RestoreDefault(hDlg);
     NotifySheetOfChange(hDlg);
-    TraceOut("<---- %s\n", __func__);
 }
 
 // Handles the commands other than a change of a selection.
@@ -121,33 +115,26 @@ bool _OnCommand(HWND hDlg, int id, LPARAM /*lParam*/, int notifyCode) {
     if (params == nullptr) {
         return false; // before WM_INITDIALOG
     }
-    TraceOut("----> %s( ), NotifyCode:%d\n", __func__, notifyCode);
-    bool bSuccess = true;
+    TraceScope trace("----> %s( ), NotifyCode:%d\n", __func__, notifyCode);
     if (notifyCode == CBN_SELCHANGE) {
         NotifySheetOfChange(hDlg);
-    } else {
-        bSuccess = ButtonClicked(hDlg, params, id);
+        return trace.Success(true);
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(ButtonClicked(hDlg, params, id));
 }
 
 bool _OkClicked(HWND hDlg, const UartPageParams* params) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     WCHAR key[SettingsKeyCapacity];
     MakeSettingsKey(key, ARRAYSIZE(key), params->ComName);
-    const bool bSuccess = _SaveSettings(hDlg, key, params);
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(_SaveSettings(hDlg, key, params));
 }
 
 bool _OnNotify(HWND hDlg, LPARAM lParam) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     const UartPageParams* params = PageParams(hDlg);
     const bool initiated = params != nullptr && params->BasicSettingsDlgInitiateOK;
-    const bool bSuccess = AnswerNotify(hDlg, lParam, initiated, [&] { _OkClicked(hDlg, params); });
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(AnswerNotify(hDlg, lParam, initiated, [&] { _OkClicked(hDlg, params); }));
 }
 
 } // namespace

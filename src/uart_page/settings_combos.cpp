@@ -33,7 +33,7 @@ template <typename Number> void FillComboFromTable(HWND hDlg, int combo, const N
     }
 }
 
-// The user's decimal separator, or 0 if it is not a single character.
+// The user's decimal separator, or 0 if it is not a single character: the point then stays.
 WCHAR LoadDecimalSeparator() {
     WCHAR decimal[2] = {};
     const bool loaded =
@@ -66,22 +66,22 @@ void AddItems(HWND combo, WCHAR* list, WCHAR decimal) {
 }
 
 bool _FillComboFromString(HWND combo, UINT stringId, u32 selection, bool localDecimal) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     const WCHAR decimal = localDecimal ? LoadDecimalSeparator() : TEXT('\0');
     WCHAR list[ListStringCapacity];
-    const bool bSuccess = LoadStringW(ModuleInstance, stringId, list, ARRAYSIZE(list)) != 0;
-    if (bSuccess) {
-        AddItems(combo, list, decimal);
-        SendMessageW(combo, CB_SETCURSEL, selection, 0);
+    if (LoadStringW(ModuleInstance, stringId, list, ARRAYSIZE(list)) == 0) {
+        return trace.Success(false);
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    AddItems(combo, list, decimal);
+    SendMessageW(combo, CB_SETCURSEL, selection, 0);
+    return trace.Success(true);
 }
 
 } // namespace
 
 bool _FillComboxDlg(HWND hDlg, u32* code) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
+    *code = 0;
     FillComboFromTable(hDlg, IDC_BAUD_RATE, BaudRateTable);
     SelectBaudRate(hDlg, DefaultBaudText);
     FillComboFromTable(hDlg, IDC_DATA_BITS, DataBitsTable);
@@ -90,10 +90,8 @@ bool _FillComboxDlg(HWND hDlg, u32* code) {
         if (!_FillComboFromString(GetDlgItem(hDlg, list.combo), list.stringId, list.selection,
                                   list.localDecimal)) {
             *code = list.failureCode;
-            break;
+            return trace.Success(false);
         }
     }
-    const bool bSuccess = *code == 0;
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(true);
 }

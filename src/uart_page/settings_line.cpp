@@ -2,14 +2,12 @@
 
 #include "reporting/text_operations.h"
 
-const u32 BaudRateTable[22] = {75,   110,   134,   150,   300,   600,    1200,   1800,   2400,   4800,   7200,
-                               9600, 14400, 19200, 38400, 57600, 115200, 128000, 230400, 460800, 921600, 0};
-const WORD DataBitsTable[6] = {4, 5, 6, 7, 8, 0};
-
 namespace {
 
-// The rate that an empty field stands for, whatever the default line says.
+// The entry that an empty field stands for, whatever the default line says. It is known by its place and not
+// by its rate, so a rate that is added before it would change what an empty field means.
 constexpr u32 MissingBaudIndex = 3;
+static_assert(BaudRateTable[MissingBaudIndex] == 150);
 
 constexpr const WCHAR* ParitySuffixes[] = {TEXT(",e"), TEXT(",o"), TEXT(",n"), TEXT(",m"), TEXT(",s")};
 constexpr const WCHAR* DataBitsSuffixes[] = {TEXT(",4"), TEXT(",5"), TEXT(",6"), TEXT(",7"), TEXT(",8")};
@@ -56,7 +54,7 @@ WCHAR* NextField(WCHAR*& rest) {
 
 // The index of a field's first character in `letters`, or `fallback`.
 u32 IndexOfFirst(const WCHAR* field, const WCHAR* letters, u32 fallback) {
-    for (u32 i = 0; letters[i] != 0; ++i) {
+    for (u32 i = 0; field[0] != 0 && letters[i] != 0; ++i) {
         if (letters[i] == field[0]) {
             return i;
         }

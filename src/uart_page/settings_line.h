@@ -10,9 +10,11 @@
 
 constexpr const WCHAR* DefaultBaudText = TEXT("9600");
 
-// Both tables end with a 0. The index of n data bits is n - 4.
-extern const u32 BaudRateTable[22];
-extern const WORD DataBitsTable[6];
+// The items of two combos, in their order. Both tables end with a 0. The index of n data bits is n - 4.
+inline constexpr u32 BaudRateTable[] = {75,     110,    134,    150,    300,    600,   1200,  1800,
+                                        2400,   4800,   7200,   9600,   14400,  19200, 38400, 57600,
+                                        115200, 128000, 230400, 460800, 921600, 0};
+inline constexpr WORD DataBitsTable[] = {4, 5, 6, 7, 8, 0};
 
 // The default selections, by index into the combos.
 constexpr u32 DefaultParityIndex = 2;      // None

@@ -35,7 +35,7 @@ bool ReadSelections(HWND dialog, PortSettings& settings) {
 // Composes the line from the five combos, with its fields. False if one of the combos gives nothing.
 bool ComposeFromCombos(HWND dialog, WCHAR* line, u32 capacity, PortSettings& settings) {
     if (SendDlgItemMessageW(dialog, IDC_BAUD_RATE, WM_GETTEXT, BaudTextCapacity,
-                            reinterpret_cast<LPARAM>(line)) == 0) {
+                            reinterpret_cast<LPARAM>(line)) <= 0) { // no text, or CB_ERR
         return false;
     }
     settings.BaudRate = ParseDecimal(line);
@@ -59,12 +59,13 @@ void SelectSettings(HWND dialog, const PortSettings& settings) {
 }
 
 void _GetSettingsFromRegistryAndApplyToUI(HWND dialog, const WCHAR* key, UartPageParams* params) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     WCHAR szParms[SettingsLineCapacity] = {};
     GetProfileStringW(PortsSection, key, TEXT(""), szParms, ARRAYSIZE(szParms));
     TraceOut("%s - A, szParms:%ws, lstrlen(szParms):%d\n", __func__, szParms, lstrlenW(szParms));
     TrimBlanks(szParms);
     if (szParms[0] == 0) {
+        // Nobody is notified: a port without a line counts as having this one.
         CopyText(szParms, ARRAYSIZE(szParms), DefaultSettingsLine);
         WriteProfileStringW(PortsSection, key, szParms);
     }
@@ -79,20 +80,22 @@ void _GetSettingsFromRegistryAndApplyToUI(HWND dialog, const WCHAR* key, UartPag
     }
     SelectBaudRate(dialog, baudText);
     SelectSettings(dialog, params->Saved);
-    TraceOut("<---- %s\n", __func__);
 }
 
 bool _SaveSettings(HWND dialog, const WCHAR* key, const UartPageParams* params) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     WCHAR szParms[ComposedLineCapacity] = {};
     PortSettings settings = {};
-    const bool bSuccess = ComposeFromCombos(dialog, szParms, ARRAYSIZE(szParms), settings);
-    if (bSuccess && !SamePortSettings(settings, params->Saved)) {
+    if (!ComposeFromCombos(dialog, szParms, ARRAYSIZE(szParms), settings)) {
+        return trace.Success(false);
+    }
+    if (!SamePortSettings(settings, params->Saved)) {
         TraceOut("%s - ComName:%ws, szParms:%ws\n", __func__, params->ComName, szParms);
+        // The results of the three are ignored: the sheet closes in any case, and a line that could not be
+        // written is read as it was when the page opens again.
         WriteProfileStringW(PortsSection, key, szParms);
         SendNotifyMessageW(HWND_BROADCAST, WM_WININICHANGE, 0, reinterpret_cast<LPARAM>(PortsSection));
         SetupDiCallClassInstaller(DIF_PROPERTYCHANGE, params->DeviceInfoSet, params->DeviceInfoData);
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    return trace.Success(true);
 }

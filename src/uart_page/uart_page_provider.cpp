@@ -34,21 +34,19 @@ bool IsRemote(HDEVINFO set) {
 }
 
 bool _InitUartParams(UartPageParams* params, const SP_PROPSHEETPAGE_REQUEST* request) {
-    TraceOut("----> %s( )\n", __func__);
+    TraceScope trace;
     params->DeviceInfoSet = request->DeviceInfoSet;
     params->DeviceInfoData = request->DeviceInfoData;
     params->AdvancedParams = static_cast<UartAdvancedParams*>(LocalAlloc(LPTR, sizeof(UartAdvancedParams)));
-    const bool bSuccess = params->AdvancedParams != nullptr;
-    if (bSuccess) {
-        params->ChangesEnabled = !IsRemote(params->DeviceInfoSet);
-        params->ShowAdvanced = params->ChangesEnabled;
-        params->AdvancedParams->DeviceInfoSet = params->DeviceInfoSet;
-        params->AdvancedParams->DeviceInfoData = params->DeviceInfoData;
-    } else {
+    if (params->AdvancedParams == nullptr) {
         SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return trace.Success(false);
     }
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    params->ChangesEnabled = !IsRemote(params->DeviceInfoSet);
+    params->ShowAdvanced = params->ChangesEnabled;
+    params->AdvancedParams->DeviceInfoSet = params->DeviceInfoSet;
+    params->AdvancedParams->DeviceInfoData = params->DeviceInfoData;
+    return trace.Success(true);
 }
 
 bool InitUartRecord(void* record, const SP_PROPSHEETPAGE_REQUEST* request) {
@@ -68,17 +66,13 @@ void ReleaseUartRecord(void* record) {
 }
 
 UINT CALLBACK UartBasicDlgCallback(HWND, UINT message, LPPROPSHEETPAGEW page) {
-    TraceOut("----> %s( ), Message:%d\n", __func__, message);
-    const UINT nReturn = AnswerPageCallback(message, page, ReleaseUartRecord);
-    TraceOut("<---- %s, nReturn:%d\n", __func__, nReturn);
-    return nReturn;
+    TraceScope trace("----> %s( ), Message:%d\n", __func__, message);
+    return trace.Exit("<---- %s, nReturn:%d\n", AnswerPageCallback(message, page, ReleaseUartRecord));
 }
 
 HPROPSHEETPAGE _InitUartBasicSettingsPage(void* params) {
-    TraceOut("----> %s( )\n", __func__);
-    const HPROPSHEETPAGE page = CreatePage(IDD_PORT_SETTINGS, UartBasicDlgProc, UartBasicDlgCallback, params);
-    TraceOut("<---- %s\n", __func__);
-    return page;
+    TraceScope trace;
+    return CreatePage(IDD_PORT_SETTINGS, UartBasicDlgProc, UartBasicDlgCallback, params);
 }
 
 constexpr PageKind UartPage = {sizeof(UartPageParams), CheckUart, InitUartRecord, _InitUartBasicSettingsPage,
@@ -88,8 +82,6 @@ constexpr PageKind UartPage = {sizeof(UartPageParams), CheckUart, InitUartRecord
 
 extern "C" BOOL WINAPI KvrUartPropPageProvider(PSP_PROPSHEETPAGE_REQUEST request,
                                                LPFNADDPROPSHEETPAGE addPage, LPARAM addPageParam) {
-    TraceOut("----> %s( )\n", __func__);
-    const bool bSuccess = ProvidePage(UartPage, request, addPage, addPageParam);
-    TraceOut("<---- %s, bSuccess:%d\n", __func__, bSuccess);
-    return bSuccess;
+    TraceScope trace;
+    return trace.Success(ProvidePage(UartPage, request, addPage, addPageParam));
 }

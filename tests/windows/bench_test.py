@@ -8,9 +8,9 @@ import subprocess
 import sys
 
 from compare_worlds import SCRIPTS, said
-from wine import ROOT, Prefix, Screen, template, windows_path
+from wine import ROOT, Prefix, Screen, built, template, windows_path
 
-HOST = pathlib.Path(os.environ.get("KVR_HOST", ROOT / "build" / "debug" / "kvrhost"))
+HOST = built(pathlib.Path(os.environ.get("KVR_HOST", ROOT / "build" / "debug" / "kvrhost")), "debug")
 SAMPLE = ROOT / "host" / "machines" / "sample.reg"
 
 

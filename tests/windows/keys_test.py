@@ -10,10 +10,10 @@ import re
 import subprocess
 import sys
 
-from wine import ROOT, Prefix
+from wine import ROOT, Prefix, built
 
 
-SIMULATED = pathlib.Path(os.environ.get("KVR_SIMULATED_BUILD", ROOT / "build" / "debug")) / "kvrkeys"
+SIMULATED = built(pathlib.Path(os.environ.get("KVR_SIMULATED_BUILD", ROOT / "build" / "debug")) / "kvrkeys", "debug")
 
 
 def main(languages):

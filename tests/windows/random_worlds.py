@@ -11,9 +11,9 @@ import sys
 from concurrent.futures import ThreadPoolExecutor
 
 from compare_worlds import comparable, differences
-from wine import ROOT, Prefix, Screen, template
+from wine import ROOT, Prefix, Screen, built, template
 
-HOST = pathlib.Path(os.environ.get("KVR_HOST", ROOT / "build" / "debug" / "kvrhost"))
+HOST = built(pathlib.Path(os.environ.get("KVR_HOST", ROOT / "build" / "debug" / "kvrhost")), "debug")
 MACHINES = {"host/machines/sample.reg": 12, "host/machines/four_uarts.reg": 8}
 # No languages in which the sheet's own buttons are translated: the simulated sheet speaks English.
 LANGUAGES = [0] * 6 + [1025, 1031, 1041, 1049, 2057, 2068, 3084, 4105]

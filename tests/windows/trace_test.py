@@ -10,10 +10,10 @@ import subprocess
 import sys
 
 import compare_worlds
-from wine import ROOT, Prefix
+from wine import ROOT, Prefix, built
 
-HOST = pathlib.Path(os.environ.get("KVR_HOST", ROOT / "build" / "debug" / "kvrhost"))
-LIBRARY = ROOT / "build" / "windows-trace" / "kvrpagex64.dll"
+HOST = built(pathlib.Path(os.environ.get("KVR_HOST", ROOT / "build" / "debug" / "kvrhost")), "debug")
+LIBRARY = built(ROOT / "build" / "windows-trace" / "kvrpagex64.dll", "windows-trace")
 
 # These differ between the worlds: addresses, the system's error numbers, and how often a page gets messages
 # about drawing, which it ignores.

@@ -41,6 +41,14 @@ SETTINGS = [
 ]
 
 
+def built(file, preset):
+    """A program that a test takes from another build than its own."""
+    if not file.exists():
+        sys.exit(f"{file} is missing. It comes with: cmake --preset {preset} && "
+                 f"cmake --build build/{preset} --target {file.stem}")
+    return file
+
+
 # A test that is stopped still clears up.
 signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
 
