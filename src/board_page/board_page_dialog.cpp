@@ -49,25 +49,25 @@ bool _AdvancedClicked(HWND hDlg, BoardParams* params, INT index) {
     return trace.Success(true);
 }
 
-// After a click that has changed pending values, or failed to store them, the page shows what the records
-// have.
-bool ThenRefresh(HWND hDlg, BoardParams* params, INT index, bool clicked) {
-    _ChlListSelectChange(hDlg, params, index);
-    return clicked;
-}
-
-// `index` is the position of the selected channel.
+// `index` is the position of the selected channel. After Set to All and Apply the page shows what the records
+// have, also where storing it failed.
 bool CommandGiven(HWND hDlg, BoardParams* params, INT index, int id, int notifyCode) {
     switch (id) {
     case IDC_LARGEFIFO:
         TraceOut("%s - IDC_LARGEFIFO\n", TraceOperation());
         return _FifoEnableClicked(hDlg, params, index);
-    case IDC_SET_TO_ALL:
+    case IDC_SET_TO_ALL: {
         TraceOut("%s - IDC_SET_TO_ALL\n", TraceOperation());
-        return ThenRefresh(hDlg, params, index, _SetToAllClicked(hDlg, params, index));
-    case IDC_APPLY:
+        const bool done = _SetToAllClicked(hDlg, params, index);
+        _ChlListSelectChange(hDlg, params, index);
+        return done;
+    }
+    case IDC_APPLY: {
         TraceOut("%s - IDC_APPLY\n", TraceOperation());
-        return ThenRefresh(hDlg, params, index, _ApplyClicked(hDlg, params, index));
+        const bool done = _ApplyClicked(hDlg, params, index);
+        _ChlListSelectChange(hDlg, params, index);
+        return done;
+    }
     case IDC_RESTORE:
         TraceOut("%s - IDC_RESTORE\n", TraceOperation());
         return _RestoreDefaultClicked(hDlg, params, index);
