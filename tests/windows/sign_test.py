@@ -12,7 +12,8 @@ import zipfile
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 
 PROGRAMS = {"kvrpagex64.dll", "kvrhost.exe", "kvrbench.exe"}
-TEXTS = {"kvrpages.inf", "packaging.md", "device_store.md", "service.md", "CHANGELOG.md", "sample.reg"}
+INFS = {f"{form}/{inf}.inf" for form in ("desktop", "isolated") for inf in ("kvrboard", "kvrports")}
+TEXTS = INFS | {"packaging.md", "device_store.md", "service.md", "CHANGELOG.md", "sample.reg"}
 
 
 def identity(symbols):

@@ -27,7 +27,8 @@ class Version(unittest.TestCase):
                 self.assertRegex(text, rf"{name}\0+{value}", file)
 
     def test_inf(self):
-        self.assertRegex((BUILD / "kvrpages.inf").read_text(), rf"DriverVer\s*= \S+,{re.escape(VERSION)}\n")
+        for inf in BUILD.glob("inf/*/*.inf"):
+            self.assertRegex(inf.read_text(), rf"DriverVer\s*= \S+,{re.escape(VERSION)}\n", inf)
 
     def test_change_log_begins_with_it(self):
         newest = re.search(r"^## (\S+)", (ROOT / "CHANGELOG.md").read_text(), re.M)[1]
