@@ -3,13 +3,17 @@
 #include "host/program.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <iostream>
+#include <iterator>
 #include <optional>
 #include <sstream>
 #include <utility>
 
 #include <CLI/CLI.hpp>
 
+#include "check/comparison.h"
 #include "host/diagnosis/changes.h"
 #include "host/diagnosis/gathering.h"
 #include "host/diagnosis/report.h"
@@ -22,7 +26,7 @@
 namespace host {
 namespace {
 
-constexpr std::string_view subcommands[] = {"diagnose", "diff"};
+constexpr std::string_view subcommands[] = {"diagnose", "diff", "check-report"};
 constexpr int sound = 0, found = 1, unreadable = 2; // exit statuses of the program
 
 void Write(const std::vector<std::string>& lines) {
@@ -69,6 +73,23 @@ int Diff(const std::string& before, const std::string& after) {
     }
     Write(ChangeLines(records[0], records[1]));
     return Changes(records[0], records[1]).empty() ? sound : found;
+}
+
+int CheckReport(const std::string& file) {
+    std::ifstream in(std::filesystem::path(FromUtf8(file)), std::ios::binary);
+    const std::string text((std::istreambuf_iterator<char>(in)), {});
+    std::string error;
+    check::Report wine, report;
+    check::ReadReport(check::WineReport(), wine, error);
+    if (in.bad() || !in.is_open()) {
+        error = "it can't be read";
+    }
+    if (!error.empty() || !check::ReadReport(text, report, error)) {
+        std::cerr << "kvrhost: " << Escaped(file + ": " + error) << '\n';
+        return unreadable;
+    }
+    Write(check::ComparisonLines(report, wine));
+    return check::Compare(report, wine).empty() ? sound : found;
 }
 
 // How the user wants to operate the pages.
@@ -185,6 +206,11 @@ int RunProgram(int argc, char** argv, OpenLines open_console, OpenScreen open_sc
                 "1 if something does, and 2 if one can't be read.");
     diff->add_option("old", wish.file, "the older one")->required();
     diff->add_option("new", other, "the newer one")->required();
+    CLI::App* const check_report = app.add_subcommand(
+        "check-report",
+        "Shows in what a report of kvrcheck differs from what was seen on Wine, worst first. The\n"
+        "exit status is 0 if in nothing, 1 if in something, and 2 if it can't be read.");
+    check_report->add_option("report", wish.file, "the kvrcheck.txt that came back")->required();
     try {
         std::vector<std::string> arguments = Arguments(argc, argv);
         std::ranges::reverse(arguments); // as the parser takes them
@@ -197,6 +223,9 @@ int RunProgram(int argc, char** argv, OpenLines open_console, OpenScreen open_sc
     }
     if (*diff) {
         return Diff(wish.file, other);
+    }
+    if (*check_report) {
+        return CheckReport(wish.file);
     }
     return Run(wish, open_console, open_screen);
 }
