@@ -62,7 +62,7 @@ TEST(CheckReport, HoldsOnlyWhatWasExpected) {
 }
 
 TEST(CheckReport, TellsTheWorstFirst) {
-    const Report wine = Read(some + "d\tx\tz\ne\tx\tx\nf\t-\t1\n1 of 4 held\n");
+    const Report wine = Read(some + "d\tx\tz\ne\tx\tx\nf\t-\t1\n2 of 4 held\n");
     const Report here =
         Read(heading + "about.windows\t-\t11\nc\t-\ty\nd\tx\tx\ng\t-\t1\nf\t-\t1\nb\tat most 4\t4\n"
                        "a\t4 of 4\t3 of 4\n");
