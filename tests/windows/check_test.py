@@ -19,6 +19,11 @@ def settled(text):
     return [line for line in text.splitlines() if not line.startswith(FREE)]
 
 
+def registry(prefix):
+    prefix.run("regedit", "/E", "C:\\all.reg")
+    return set((prefix.place / "drive_c" / "all.reg").read_text("utf-16").splitlines())
+
+
 def main(keep):
     failed = []
 
@@ -32,6 +37,7 @@ def main(keep):
         folder.mkdir()
         for file in ("kvrcheck.exe", "kvrpagex64.dll"):
             shutil.copy(BUILD / file, folder)
+        before = registry(prefix)
         times = 1000 if keep or "KVR_LONG" in os.environ else 40
         told, code = prefix.run("C:\\kit\\kvrcheck.exe", "--times", times, timeout=280)
         text = (folder / "kvrcheck.txt").read_bytes().decode()
@@ -44,6 +50,8 @@ def main(keep):
         check("every sheet opened", f"{times} of {times}\t{times} of {times}\n" in text)
         check("it ends with the count", text.splitlines()[-1] in told.decode(), told)
         check("the exit status says whether all held", code == 1, code)
+        changed = registry(prefix) ^ before
+        check("the registry is as before", not changed, sorted(changed))
         check("only the report is new",
               {file.name for file in folder.iterdir()} == {"kvrcheck.exe", "kvrpagex64.dll", "kvrcheck.txt"})
         (folder / "kvrpagex64.dll").unlink()
