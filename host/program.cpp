@@ -20,7 +20,8 @@
 namespace host {
 namespace {
 
-constexpr std::string_view subcommands[] = {"diagnose", "diff", "report"};
+constexpr std::string_view subcommands[] = {"diagnose", "diff", "report", "check-report"};
+
 // How the user wants to operate the pages.
 struct Wish {
     std::string file;
@@ -149,6 +150,11 @@ int RunProgram(int argc, char** argv, OpenLines open_console, OpenScreen open_sc
     report->add_option("machine", wish.file, "registry export of the machine")->required();
     report->add_option("file", report_file, "the report")->required();
     report->add_flag("--over", over, "replaces a file that exists");
+    CLI::App* const check_report = app.add_subcommand(
+        "check-report",
+        "Shows in what a report of kvrcheck differs from what was seen on Wine, worst first. The\n"
+        "exit status is 0 if in nothing, 1 if in something, and 2 if it can't be read.");
+    check_report->add_option("report", wish.file, "the kvrcheck.txt that came back")->required();
     try {
         std::vector<std::string> arguments = Arguments(argc, argv);
         std::ranges::reverse(arguments); // as the parser takes them
@@ -167,6 +173,9 @@ int RunProgram(int argc, char** argv, OpenLines open_console, OpenScreen open_sc
     }
     if (*report) {
         return Report(wish.file, report_file, over);
+    }
+    if (*check_report) {
+        return CheckReport(wish.file);
     }
     return Run(wish, open_console, open_screen);
 }

@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <iostream>
+#include <iterator>
 #include <sstream>
 
+#include "check/comparison.h"
 #include "host/diagnosis/report.h"
 #include "host/line/line_seat.h"
 #include "host/machine_file/differences.h"
@@ -163,6 +166,23 @@ int Diff(const std::string& before, const std::string& after, bool json) {
         Write(DifferenceLines(records[0], records[1]));
     }
     return differences.empty() ? status_sound : status_found;
+}
+
+int CheckReport(const std::string& file) {
+    std::ifstream in(fs::path(FromUtf8(file)), std::ios::binary);
+    const std::string text((std::istreambuf_iterator<char>(in)), {});
+    std::string error;
+    check::Report wine, report;
+    check::ReadReport(check::WineReport(), wine, error);
+    if (in.bad() || !in.is_open()) {
+        error = "it can't be read";
+    }
+    if (!error.empty() || !check::ReadReport(text, report, error)) {
+        std::cerr << "kvrhost: " << Escaped(file + ": " + error) << '\n';
+        return status_unreadable;
+    }
+    Write(check::ComparisonLines(report, wine));
+    return check::Compare(report, wine).empty() ? status_sound : status_found;
 }
 
 int Report(const std::string& machine, const std::string& file, bool over) {

@@ -23,6 +23,9 @@ int Diagnose(const std::vector<std::string>& paths, bool json);
 
 int Diff(const std::string& before, const std::string& after, bool json);
 
+// Shows in what a report of kvrcheck differs from what was seen on Wine.
+int CheckReport(const std::string& file);
+
 // Writes a report on a machine, with what mending it would change. An existing file is replaced only if
 // `over` says so.
 int Report(const std::string& machine, const std::string& file, bool over);

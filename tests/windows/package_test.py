@@ -63,7 +63,7 @@ class Package(unittest.TestCase):
         self.assertTrue(any(f"# {reference:#x}" in code for reference in references))
 
     def test_libraries_come_from_the_system_folder_only(self):
-        for file in ("kvrpagex64.dll", "kvrhost.exe", "kvrbench.exe"):
+        for file in ("kvrpagex64.dll", "kvrhost.exe", "kvrbench.exe", "kvrcheck.exe"):
             self.assertIn("DependentLoadFlags: 0x800", said("llvm-readobj-14", "--coff-load-config", BUILD / file), file)
 
     def test_shadow_stacks_are_allowed(self):

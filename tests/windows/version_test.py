@@ -17,7 +17,7 @@ VERSION = re.search(r"project\(\w+ VERSION (\S+)", (ROOT / "CMakeLists.txt").rea
 class Version(unittest.TestCase):
     def test_properties_of_each_file(self):
         major, minor, patch, build = map(int, VERSION.split("."))
-        for file in ("kvrpagex64.dll", "kvrhost.exe"):
+        for file in ("kvrpagex64.dll", "kvrhost.exe", "kvrcheck.exe"):
             version = pe.Image(BUILD / file).resources()[pe.RT_VERSION, 1, 1033]
             fixed = pe.unpack("IIII", version, version.index(b"\xbd\x04\xef\xfe"))
             self.assertEqual(fixed[2:], (major << 16 | minor, patch << 16 | build), file)
@@ -27,7 +27,8 @@ class Version(unittest.TestCase):
                 self.assertRegex(text, rf"{name}\0+{value}", file)
 
     def test_inf(self):
-        self.assertRegex((BUILD / "kvrpages.inf").read_text(), rf"DriverVer\s*= \S+,{re.escape(VERSION)}\n")
+        for inf in BUILD.glob("inf/*/*.inf"):
+            self.assertRegex(inf.read_text(), rf"DriverVer\s*= \S+,{re.escape(VERSION)}\n", inf)
 
     def test_change_log_begins_with_it(self):
         newest = re.search(r"^## (\S+)", (ROOT / "CHANGELOG.md").read_text(), re.M)[1]

@@ -1,4 +1,4 @@
-#include "tests/windows/programs/fit/run_time_texts.h"
+#include "check/windows/run_time_texts.h"
 
 #include <algorithm>
 

@@ -1,0 +1,75 @@
+// Looks at the library on the Windows that it is started on, and writes what it has seen to kvrcheck.txt
+// beside itself. It needs no rights and changes nothing else.
+#include <windows.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+
+#include "check/windows/parts.h"
+#include "check/windows/run_time_texts.h"
+#include "version.h"
+
+namespace {
+
+std::wstring OwnFolder() {
+    std::wstring path(32768, 0);
+    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return path.substr(0, path.rfind(L'\\'));
+}
+
+bool Write(const std::wstring& file, const std::string& text) {
+    const HANDLE opened = CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    if (opened == INVALID_HANDLE_VALUE) {
+        return false;
+    }
+    DWORD written = 0;
+    const bool whole =
+        WriteFile(opened, text.data(), static_cast<DWORD>(text.size()), &written, nullptr) != FALSE &&
+        written == text.size();
+    return CloseHandle(opened) != FALSE && whole;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    int times = 1000; // that a sheet is opened and closed
+    if (argc == 3 && std::string_view(argv[1]) == "--times") {
+        times = std::atoi(argv[2]);
+    } else if (argc != 1) {
+        std::printf("kvrcheck %s [--times N] looks at kvrpagex64.dll beside it and writes kvrcheck.txt. N, "
+                    "else 1000, is "
+                    "how often it opens a sheet.\n",
+                    VERSION_TEXT);
+        return 2;
+    }
+    const std::wstring folder = OwnFolder(), file = folder + L"\\kvrcheck.txt";
+    check::Report report;
+    bool written = true;
+    // Written after each part: if one ends the program, what was seen before it remains.
+    const auto look = [&](const char* what, const auto& part) {
+        std::printf("%s\n", what);
+        std::fflush(stdout);
+        part();
+        written = Write(file, TextOf(report)) && written;
+    };
+    look("This Windows", [&] { check::LookAtMachine(report); });
+    look("The library", [&] { library = check::LookAtLibrary(folder, report); });
+    if (library != nullptr) {
+        look("Its texts in 30 languages", [&] { check::LookAtStrings(report); });
+        look("Its 120 dialogs, twice", [&] { check::LookAtDialogs(report); });
+        look("Requests that it must refuse", [&] { check::LookAtRequests(report); });
+        look("A sheet, many times", [&] { check::LookAtSheets(times, report); });
+        FreeLibrary(library);
+    }
+    report.whole = true;
+    written = Write(file, TextOf(report)) && written;
+    std::printf("%s\n%s\n", check::ClosingLine(report).c_str(),
+                written ? "Please send kvrcheck.txt back." : "kvrcheck.txt can't be written here.");
+    for (const check::Fact& fact : report.facts) {
+        if (VerdictOf(fact) == check::Verdict::NotHeld) {
+            return 1;
+        }
+    }
+    return written ? 0 : 2;
+}
