@@ -7,8 +7,6 @@
 namespace host {
 namespace {
 
-constexpr unsigned long highest_number = 4096;
-
 // Who has the number, or might have it as far as is known.
 std::optional<Objection> Holder(const Records& records, const NumberRecord& record) {
     if (!record.holders.empty()) {
@@ -27,8 +25,8 @@ std::optional<Objection> Holder(const Records& records, const NumberRecord& reco
 }
 
 std::optional<Objection> AgainstChanging(const Records& records, unsigned long number) {
-    if (number < 1 || number > highest_number) {
-        return Objection{"a COM number is 1 to " + std::to_string(highest_number), true};
+    if (number < 1 || number > highest_com_number) {
+        return Objection{"a COM number is 1 to " + std::to_string(highest_com_number), true};
     }
     if ((records.known & DatabasePlace) == 0) {
         return Objection{"the COM port database is not known, so there is nothing to change", true};

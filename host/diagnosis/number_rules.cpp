@@ -66,7 +66,9 @@ void FindSharedNames(const Model& model, Found& found) {
 
 void FindUnclaimedPorts(const Model& model, Found& found) {
     ForEachPort(model, [&](unsigned long number, const NumberRecord& record, std::size_t holder) {
-        if (!record.claimed && model.IsPresent(holder)) {
+        // Of several holders nobody can say for which it would be claimed.
+        if (!record.claimed && number <= highest_com_number && record.holders.size() == 1 &&
+            model.IsPresent(holder)) {
             found.push_back(model.About(holder));
             found.back().number = number;
         }

@@ -79,20 +79,34 @@ void Report(Session& session, const Words& words) {
     session.Tell(words.back() + " is written");
 }
 
-void Free(Session& session, const Words& words) {
-    const unsigned long number = NumberOf(words[1]);
-    Heed("freed", AgainstFreeing(session.world().Describe(), number), IsOverruled(words));
+void FreeNow(Session& session, unsigned long number) {
     std::string error;
     Must(ReleaseNumber(number, error), error);
     session.Tell(ComName(number) + ": freed in the COM port database");
 }
 
-void Claim(Session& session, const Words& words) {
-    const unsigned long number = NumberOf(words[1]);
-    Heed("claimed", AgainstClaiming(session.world().Describe(), number), IsOverruled(words));
+void ClaimNow(Session& session, unsigned long number) {
     std::string error;
     Must(ClaimNumber(number, error), error);
     session.Tell(ComName(number) + ": claimed in the COM port database");
+}
+
+void ForgetNow(Session& session, const std::string& key) {
+    std::string error;
+    Must(ForgetLine(key, error), error);
+    session.Tell(key + " forgotten");
+}
+
+void Free(Session& session, const Words& words) {
+    const unsigned long number = NumberOf(words[1]);
+    Heed("freed", AgainstFreeing(session.world().Describe(), number), IsOverruled(words));
+    FreeNow(session, number);
+}
+
+void Claim(Session& session, const Words& words) {
+    const unsigned long number = NumberOf(words[1]);
+    Heed("claimed", AgainstClaiming(session.world().Describe(), number), IsOverruled(words));
+    ClaimNow(session, number);
 }
 
 void Forget(Session& session, const Words& words) {
@@ -102,19 +116,25 @@ void Forget(Session& session, const Words& words) {
         throw Refusal("there is no settings line " + Quoted(words[1]));
     }
     Heed("forgotten", AgainstForgetting(records, key), IsOverruled(words));
-    std::string error;
-    Must(ForgetLine(key, error), error);
-    session.Tell(key + " forgotten");
+    ForgetNow(session, key);
 }
 
+// What is safe has nothing against it, and one of them is not in the way of another: the machine is looked at
+// once.
 void Mend(Session& session, const Words&) {
     bool is_mended = false;
     for (const Finding& finding : host::Diagnose(session.world().Describe())) {
-        if (finding.safe) {
-            Words words;
-            SplitWords(finding.command, words);
-            RunCommand(session, words);
-            is_mended = true;
+        if (!finding.safe) {
+            continue;
+        }
+        is_mended = true;
+        const std::string_view command = finding.command;
+        if (command.starts_with("free")) {
+            FreeNow(session, finding.subject.number);
+        } else if (command.starts_with("claim")) {
+            ClaimNow(session, finding.subject.number);
+        } else {
+            ForgetNow(session, finding.subject.key);
         }
     }
     if (!is_mended) {

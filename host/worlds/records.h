@@ -51,6 +51,9 @@ struct DeviceRecord {
     std::vector<ChannelInterface> interfaces;
 };
 
+// The database can hold no higher one.
+constexpr unsigned long highest_com_number = 4096;
+
 // What all places say about one number.
 struct NumberRecord {
     bool claimed = false;
