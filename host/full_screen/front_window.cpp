@@ -34,32 +34,35 @@ std::string KeyName(const Key& key) {
 
 } // namespace
 
-bool FrontWindow::Draw(Canvas& canvas, Session& session, const Cells& within, int beside) {
+void FrontWindow::Read(Session& session) {
     // What has been stored is no longer a change.
     if (std::exchange(actions_, session.actions().size()) != session.actions().size()) {
         stored_.clear();
     }
     std::erase_if(stored_, [](const auto& window) { return !IsOpen(window.first); });
-    std::vector<Painted> windows;
+    windows_.clear();
+    for (const Session::OpenWindow& window : session.windows()) {
+        if (IsOpen(window.handle)) {
+            windows_.emplace_back().window = session.Read(window.handle);
+            MarkChanged(windows_.back().window, stored_[window.handle]);
+        }
+    }
+}
+
+bool FrontWindow::Draw(Canvas& canvas, const Cells& within, int beside) {
     bool is_free = true;
     const int most_rows = canvas.rows() - within.top - 1;
-    for (const Session::OpenWindow& window : session.windows()) {
-        if (!IsOpen(window.handle)) {
-            continue;
-        }
-        Painted painted;
-        painted.window = session.Read(window.handle);
-        MarkChanged(painted.window, stored_[window.handle]);
+    for (Painted& painted : windows_) {
         // Beside the devices and above the journal if there is room, otherwise over them.
+        Placement& placement = painted.placement;
         for (const auto& [columns, rows] : {std::pair{within.columns - beside, within.rows},
                                             {within.columns, within.rows},
                                             {within.columns, most_rows}}) {
-            painted.placement = PlaceWindow(painted.window, columns, rows);
-            if (painted.placement.columns <= columns && painted.placement.rows <= rows) {
+            placement = PlaceWindow(painted.window, columns, rows);
+            if (placement.columns <= columns && placement.rows <= rows) {
                 break;
             }
         }
-        const Placement& placement = painted.placement;
         const bool fits = placement.columns <= within.columns - beside;
         is_free = is_free && fits;
         const int room = placement.rows <= within.rows ? within.rows : most_rows;
@@ -69,24 +72,22 @@ bool FrontWindow::Draw(Canvas& canvas, Session& session, const Cells& within, in
         place.left = fits ? beside + (within.columns - beside - place.columns) / 2
                           : (within.columns - place.columns) / 2;
         place.top = within.top + (room - place.rows) / 2;
-        windows.push_back(std::move(painted));
     }
-    for (Painted& painted : windows) {
-        const bool is_front = &painted == &windows.back();
-        Paint(canvas, painted, is_front, turned_);
-        if (is_front) {
-            front_ = std::move(painted);
-        }
+    for (Painted& painted : windows_) {
+        Paint(canvas, painted, &painted == &windows_.back(), turned_);
     }
     return is_free;
 }
 
 std::vector<Hint> FrontWindow::Hints() const {
-    const Control* const focused = FocusedOf(front_.window);
-    if (front_.window.kind == WindowKind::Box) {
+    if (windows_.empty()) {
+        return {};
+    }
+    const Control* const focused = FocusedOf(Front().window);
+    if (Front().window.kind == WindowKind::Box) {
         std::vector<Hint> hints = {{"Enter", "press", OfCode(VK_RETURN)}, {"Tab", "next", OfCode(VK_TAB)}};
         bool has_cancel = false;
-        for (const Control& button : front_.window.controls) {
+        for (const Control& button : Front().window.controls) {
             if (button.kind != Kind::Button) {
                 continue;
             }
@@ -140,7 +141,7 @@ std::vector<Hint> FrontWindow::Hints() const {
 
 void FrontWindow::Take(Session& session, Event event) {
     const HWND front = session.windows().back().handle;
-    const Control* const focused = FocusedOf(front_.window);
+    const Control* const focused = FocusedOf(Front().window);
     if (event.kind == Event::Kind::Key) {
         const bool takes_letters =
             focused != nullptr && (focused->kind == Kind::Combo || focused->kind == Kind::List);
@@ -150,12 +151,12 @@ void FrontWindow::Take(Session& session, Event event) {
         turned_.clear();
         std::string name = KeyName(event.key);
         if (focused != nullptr && !event.key.alt) {
-            name += " on " + NameIn(front_.window, *focused);
+            name += " on " + NameIn(Front().window, *focused);
         }
         session.Act(name, [&] { PressKey(front, event.key); });
     } else if (event.kind == Event::Kind::Press) {
         if (const Placed* const pressed = At(event)) {
-            session.Act("click on " + NameIn(front_.window, *pressed->control),
+            session.Act("click on " + NameIn(Front().window, *pressed->control),
                         [&] { Click(*pressed, event); });
         }
     } else if (event.kind == Event::Kind::Drag) {
@@ -171,11 +172,11 @@ void FrontWindow::Take(Session& session, Event event) {
 
 const Placed* FrontWindow::At(const Event& event) const {
     for (const bool is_list : {true, false}) { // an open list lies over the rest
-        for (const Placed& placed : front_.placement.controls) {
+        for (const Placed& placed : Front().placement.controls) {
             const Control& control = *placed.control;
-            if (is_list ? control.dropped && front_.open_list.Has(event.column, event.row)
+            if (is_list ? control.dropped && Front().open_list.Has(event.column, event.row)
                         : control.enabled && control.kind != Kind::Label && control.kind != Kind::Group &&
-                              front_.Shows(placed, event.column, event.row)) {
+                              Front().Shows(placed, event.column, event.row)) {
                 return &placed;
             }
         }
@@ -183,19 +184,20 @@ const Placed* FrontWindow::At(const Event& event) const {
     return nullptr;
 }
 
+// What is done may open a window, and then all are read anew.
 void FrontWindow::Click(const Placed& placed, const Event& event) {
-    const Control& control = *placed.control;
-    if (control.dropped && front_.open_list.Has(event.column, event.row)) {
-        return ClickList(control, event.row - front_.open_list.top - 1, front_.open_list.rows - 2);
+    const Control control = *placed.control;
+    const Cells cells = Front().On(placed), open_list = Front().open_list;
+    if (control.dropped && open_list.Has(event.column, event.row)) {
+        return ClickList(control, event.row - open_list.top - 1, open_list.rows - 2);
     }
     if (control.kind == Kind::Button || control.kind == Kind::Check) {
         return host::Click(control);
     }
-    FocusOn(front_.window, control);
+    FocusOn(Front().window, control);
     if (control.kind == Kind::Combo) {
         SendMessageW(control.window, CB_SHOWDROPDOWN, control.dropped ? FALSE : TRUE, 0);
     } else if (control.kind == Kind::List) {
-        const Cells cells = front_.On(placed);
         ClickList(control, event.row - cells.top - 1, cells.rows - 2);
     } else if (control.kind == Kind::Slider) {
         dragged_ = control.window;
@@ -216,20 +218,20 @@ void FrontWindow::ClickList(const Control& list, int row, int rows) {
 
 // Moves the slider in hand to where the mouse is.
 void FrontWindow::Drag(int column) {
-    for (const Placed& placed : front_.placement.controls) {
+    for (const Placed& placed : Front().placement.controls) {
         const Control& slider = *placed.control;
         if (slider.window == dragged_ && slider.kind == Kind::Slider && slider.enabled) {
-            Slide(slider, PositionAt(slider, front_.On(placed), column));
+            return Slide(slider, PositionAt(slider, Front().On(placed), column));
         }
     }
 }
 
 void FrontWindow::Turn(const Event& event) {
-    for (const Placed& placed : front_.placement.controls) {
+    for (const Placed& placed : Front().placement.controls) {
         const Control& list = *placed.control;
-        const Cells cells = list.dropped ? front_.open_list : front_.On(placed);
-        const bool is_at_it =
-            list.dropped ? cells.Has(event.column, event.row) : front_.Shows(placed, event.column, event.row);
+        const Cells cells = list.dropped ? Front().open_list : Front().On(placed);
+        const bool is_at_it = list.dropped ? cells.Has(event.column, event.row)
+                                           : Front().Shows(placed, event.column, event.row);
         if ((list.kind == Kind::List || list.dropped) && is_at_it) {
             const int step = event.kind == Event::Kind::WheelUp ? -wheel_step : wheel_step;
             turned_[list.window] = FirstInSight(list, cells.rows - 2, turned_) + step;

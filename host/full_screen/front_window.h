@@ -14,9 +14,12 @@ namespace host {
 
 class FrontWindow {
 public:
-    // Draws the session's windows into these cells, or over more of the terminal if they need it. Returns
-    // whether the first `beside` columns have stayed free.
-    bool Draw(Canvas& canvas, Session& session, const Cells& within, int beside);
+    // Reads the session's windows, which the rest is about.
+    void Read(Session& session);
+
+    // Draws them into these cells, or over more of the terminal if they need it. Returns whether the first
+    // `beside` columns have stayed free.
+    bool Draw(Canvas& canvas, const Cells& within, int beside);
 
     // What the keys do to the control with the focus.
     std::vector<Hint> Hints() const;
@@ -32,7 +35,9 @@ private:
     void Turn(const Event& event);
     void Drag(int column);
 
-    Painted front_;
+    const Painted& Front() const { return windows_.back(); }
+
+    std::vector<Painted> windows_; // from the backmost to the frontmost
     Turned turned_;
     std::map<HWND, std::optional<Window>> stored_; // each window as it showed what is stored
     std::size_t actions_ = 0;                      // the session's then

@@ -450,6 +450,7 @@ void FullScreen::Draw(const std::string& question) {
                       columns);
         return terminal_.Show(canvas_);
     }
+    front_.Read(*session_);
     if (question.empty()) {
         hints_ = HintsHere();
     }
@@ -467,11 +468,11 @@ void FullScreen::Draw(const std::string& question) {
             devices_.Draw(canvas_, body, true);
         } else {
             devices_.Draw(canvas_, {0, body.top, beside, body.rows}, false);
-            if (!front_.Draw(canvas_, *session_, body, beside)) {
+            if (!front_.Draw(canvas_, body, beside)) {
                 for (int row = 0; row < body.rows; ++row) {
                     canvas_.Write(body.top + row, 0, "", columns);
                 }
-                front_.Draw(canvas_, *session_, body, beside);
+                front_.Draw(canvas_, body, beside);
             }
         }
     }
