@@ -21,8 +21,8 @@ public:
     // `beside` columns have stayed free.
     bool Draw(Canvas& canvas, const Cells& within, int beside);
 
-    // What the keys do to the control with the focus.
-    std::vector<Hint> Hints() const;
+    // What the keys do to the control with the focus, if there are so many cells for the window.
+    std::vector<Hint> Hints(int columns, int rows) const;
 
     // Passes an event on to the window in front, as an action of the session.
     void Take(Session& session, Event event);
@@ -33,6 +33,7 @@ private:
     void Click(const Placed& placed, const Event& event);
     void ClickList(const Control& list, int row, int rows);
     void Turn(const Event& event);
+    void Scroll(int step);
     void Drag(int column);
 
     const Painted& Front() const { return windows_.back(); }
