@@ -1,59 +1,91 @@
 """The full screen in a pseudo-terminal, read through a terminal emulator."""
 import os
+import re
+import signal
 import time
 
 import pexpect
 import pyte
 
 NAMES = {"enter": "\r", "tab": "\t", "backtab": "\x1b[Z", "esc": "\x1b", "up": "\x1bOA", "down": "\x1bOB",
-         "right": "\x1bOC", "left": "\x1bOD", "home": "\x1bOH", "end": "\x1bOF", "pagedown": "\x1b[6~", "space": " ",
-         "f2": "\x1bOQ", "f4": "\x1bOS", "f5": "\x1b[15~", "f9": "\x1b[20~", "f10": "\x1b[21~"}
-CLEAR = b"\x1b[H\x1b[2J"
+         "right": "\x1bOC", "left": "\x1bOD", "home": "\x1bOH", "end": "\x1bOF", "pageup": "\x1b[5~",
+         "pagedown": "\x1b[6~", "space": " ", "f1": "\x1bOP", "f2": "\x1bOQ", "f3": "\x1bOR", "f4": "\x1bOS",
+         "f5": "\x1b[15~", "f6": "\x1b[17~", "f7": "\x1b[18~", "f8": "\x1b[19~", "f9": "\x1b[20~", "f10": "\x1b[21~"}
+CLEAR = re.compile(rb"\x1b\[H\x1b\[2?J")
+REPAINT = "\x0c"
+
+
+def keys(*names):
+    """Takes names of keys, "alt-x" for Alt and a letter, "^x" for Ctrl, and anything else as it is typed."""
+    return "".join("\x1b" + name[4:] if name.startswith("alt-") else chr(ord(name[1].upper()) - 64)
+                   if len(name) == 2 and name[0] == "^" else NAMES.get(name, name) for name in names)
 
 
 class Terminal:
     """Runs a program until the end of the with block."""
 
-    def __init__(self, *command, columns=80, rows=24, **environment):
+    def __init__(self, *command, columns=80, rows=24, cwd=None, **environment):
         self.screen = pyte.Screen(columns, rows)
         self.stream = pyte.ByteStream(self.screen)
         self.raw = b""
-        self.child = pexpect.spawn(command[0], list(command[1:]), dimensions=(rows, columns), timeout=20, env={
+        self.shown = self.cleared = 0  # of it
+        self.child = pexpect.spawn(command[0], list(command[1:]), dimensions=(rows, columns), timeout=20, cwd=cwd, env={
             "PATH": os.environ["PATH"], "TERM": "xterm-256color", "LC_ALL": "C.UTF-8", **environment})
+        self.child.delaybeforesend = None
+        self.child.ptyproc.delayafterclose = 0
 
     def __enter__(self):
         return self
 
     def __exit__(self, *_):
-        self.child.close(force=True)
+        self.child.kill(signal.SIGKILL)
+        self.child.wait()
 
-    def read(self, seconds=0.05):
+    def read(self, seconds=0.05, seen=True):
         try:
-            got = self.child.read_nonblocking(65536, seconds)
+            self.raw += self.child.read_nonblocking(65536, seconds)
         except (pexpect.TIMEOUT, pexpect.EOF):
             return False
-        self.raw += got
-        self.stream.feed(got)
+        if seen:
+            self.show(len(self.raw))
         return True
+
+    def show(self, end):
+        self.stream.feed(self.raw[self.shown:end])
+        self.shown = end
 
     def text(self):
         return "\n".join(self.screen.display)
 
-    def wait(self, *texts, gone=(), seconds=20):
-        """Waits until all texts are on the screen and none of the others is."""
+    def until(self, is_reached, expected, seconds=20):
         end = time.monotonic() + seconds
-        while not all(text in self.text() for text in texts) or any(text in self.text() for text in gone):
+        while not is_reached():
             if not self.read() and time.monotonic() > end:
-                raise AssertionError(f"not {texts} without {gone} but\n{self.text()}")
+                raise AssertionError(f"not {expected} but\n{self.text()}")
 
-    def settle(self):
-        while self.read(0.15):
-            pass
+    def wait(self, *texts, gone=()):
+        """Waits until all texts are on the screen and none of the others is."""
+        self.until(lambda: all(text in self.text() for text in texts) and not any(text in self.text() for text in gone),
+                   f"{texts} without {gone}")
 
-    def press(self, *keys):
-        """Takes names of keys, "alt-x" for Alt and a letter, and anything else as it is typed."""
-        for key in keys:
-            self.child.send("\x1b" + key[4:] if key.startswith("alt-") else NAMES.get(key, key))
+    def press(self, *names):
+        self.child.send(keys(*names))
+
+    def repaints(self, number, seconds=20):
+        """Where the next repaints of the whole screen begin."""
+        end = time.monotonic() + seconds
+        while len(found := [clear.start() for clear in CLEAR.finditer(self.raw, self.cleared)]) < number:
+            if not self.read(seen=False) and time.monotonic() > end:
+                raise AssertionError(f"not repainted:\n{self.text()}")
+        self.cleared = found[number - 1] + 1
+        return found[number - 1]
+
+    def see(self, *names):
+        """The screen after these keys: two repaints are asked for behind them, and the first is whole when the second begins."""
+        self.cleared = len(self.raw)
+        self.press(*names, REPAINT, REPAINT)
+        self.show(self.repaints(2))
+        return self.text()
 
     def find(self, text, last=False):
         """The column and row of a text, from 0."""
@@ -66,25 +98,19 @@ class Terminal:
         self.child.send(f"\x1b[<{button};{column + 1};{row + 1}{'m' if up else 'M'}")
 
     def click(self, text, last=False):
-        self.wait(text)
-        self.settle()
+        """The screen after it."""
         column, row = self.find(text, last)
         self.mouse(0, column, row)
         self.mouse(0, column, row, up=True)
-
-    def await_new_picture(self, act):
-        """Waits until the program repaints the whole screen because of that: everything seen afterwards was painted since."""
-        self.settle()
-        begun = self.raw.count(CLEAR)
-        act()
-        end = time.monotonic() + 20
-        while self.raw.count(CLEAR) == begun:
-            if not self.read() and time.monotonic() > end:
-                raise AssertionError(f"not repainted:\n{self.text()}")
+        return self.see()
 
     def resize(self, columns, rows):
+        """The screen after the change, which repaints it."""
+        self.see()
         self.screen.resize(rows, columns)
-        self.await_new_picture(lambda: self.child.setwinsize(rows, columns))
+        self.child.setwinsize(rows, columns)
+        self.repaints(1)
+        return self.see()
 
     def wait_end(self):
         self.child.expect(pexpect.EOF)

@@ -24,7 +24,7 @@ void DeviceList::Read(World& world) {
         }
         const std::string reason = WhyNoPage(device.role, device.store);
         devices_.push_back({device.role == Role::Port ? StoredText(device.store, "PortName") : std::string(),
-                            NameOf(device),
+                            NameOf(device), reason.empty(),
                             !reason.empty()                                ? "no page: " + reason
                             : !device.present                              ? "absent"
                             : StoredNumber(device.store, "ChlOpened") != 0 ? "open"
@@ -47,7 +47,7 @@ void DeviceList::Draw(Canvas& canvas, const Cells& within, bool is_active) {
     first_ = std::clamp(first_, 0, std::max(0, all - within.rows));
     for (int row = 0; row < within.rows && first_ + row < all; ++row) {
         const int index = first_ + row;
-        const auto& [port, name, state] = devices_[static_cast<std::size_t>(index)];
+        const auto& [port, name, has_page, state] = devices_[static_cast<std::size_t>(index)];
         const bool is_selected = index == selected;
         const std::string number = std::to_string(index + 1);
         const std::string line =

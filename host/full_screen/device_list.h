@@ -17,6 +17,8 @@ public:
     void Read(World& world);
 
     bool IsEmpty() const { return devices_.empty(); }
+    // Whether the selected one has a page.
+    bool HasPage() const { return !IsEmpty() && devices_[selected_].has_page; }
     // Its number in the list, from 1.
     std::size_t Selected() const { return selected_ + 1; }
 
@@ -31,6 +33,7 @@ private:
     struct Listed {
         std::string port; // COM5; empty if it is not a port
         std::string name;
+        bool has_page;
         std::string state; // absent, no page and why, open; empty if none of these
     };
 

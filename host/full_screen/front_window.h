@@ -14,12 +14,15 @@ namespace host {
 
 class FrontWindow {
 public:
-    // Draws the session's windows into these cells, or over more of the terminal if they need it. Returns
-    // whether the first `beside` columns have stayed free.
-    bool Draw(Canvas& canvas, Session& session, const Cells& within, int beside);
+    // Reads the session's windows, which the rest is about.
+    void Read(Session& session);
 
-    // What the keys do to the control with the focus.
-    std::vector<Hint> Hints() const;
+    // Draws them into these cells, or over more of the terminal if they need it. Returns whether the first
+    // `beside` columns have stayed free.
+    bool Draw(Canvas& canvas, const Cells& within, int beside);
+
+    // What the keys do to the control with the focus, if there are so many cells for the window.
+    std::vector<Hint> Hints(int columns, int rows) const;
 
     // Passes an event on to the window in front, as an action of the session.
     void Take(Session& session, Event event);
@@ -30,9 +33,12 @@ private:
     void Click(const Placed& placed, const Event& event);
     void ClickList(const Control& list, int row, int rows);
     void Turn(const Event& event);
+    void Scroll(int step);
     void Drag(int column);
 
-    Painted front_;
+    const Painted& Front() const { return windows_.back(); }
+
+    std::vector<Painted> windows_; // from the backmost to the frontmost
     Turned turned_;
     std::map<HWND, std::optional<Window>> stored_; // each window as it showed what is stored
     std::size_t actions_ = 0;                      // the session's then

@@ -26,6 +26,9 @@ std::string AsWord(const std::string& text) {
     return text.find(' ') == std::string::npos ? text : '"' + text + '"';
 }
 
+constexpr const char* nothing_changed = "nothing has been changed";
+constexpr const char* nothing_traced = "nothing has been traced yet";
+
 constexpr const char* help[] = {
     "At the foot of the screen stands what the keys do at the moment; a click there does the same.",
     "In a window they are Windows' own:",
@@ -85,8 +88,8 @@ std::optional<std::string> FullScreen::Next(const std::string&) {
 // The next event; a click on a hint is the event of its key.
 Event FullScreen::NextEvent() {
     const Event event = terminal_.Next();
-    if (event.kind == Event::Kind::Resize) {
-        return event;
+    if (event.kind == Event::Kind::Resize || event.kind == Event::Kind::Release) {
+        return event; // which is nobody's answer to what has been said
     }
     message_.clear();
     if (event.kind == Event::Kind::Press) {
@@ -101,7 +104,7 @@ Event FullScreen::NextEvent() {
 
 void FullScreen::Done(const std::string& command) {
     const Lines told = std::exchange(told_, {});
-    if (told.size() == 1 && Columns(told.front()) < terminal_.columns() - 2) {
+    if (told.size() == 1) {
         message_ = told.front();
     } else if (!told.empty()) {
         ShowText(command, [told] { return std::vector<Paragraph>{{told, {}}}; });
@@ -135,7 +138,9 @@ std::string FullScreen::TakeCommon(const Event& event) {
         ShowOutput("The store of device " + device, "store " + device);
         break;
     case 5:
-        ShowText(tracing_ ? "The trace of the last action" : "Journal", [this] { return Journal(); });
+    case 9: // the pane goes on with it
+        tracing_ = event.function == 9;
+        ShowText(tracing_ ? "Trace of the last action" : "Journal", [this] { return Journal(); });
         break;
     case 6:
         return AskLine("command: ", {}, true).value_or("");
@@ -144,9 +149,6 @@ std::string FullScreen::TakeCommon(const Event& event) {
         break;
     case 8:
         ShowOutput("What differs from the machine as it was read", "changes");
-        break;
-    case 9:
-        tracing_ = !tracing_;
         break;
     default:
         break;
@@ -218,6 +220,9 @@ std::vector<Paragraph> FullScreen::Findings() {
 }
 
 std::vector<Paragraph> FullScreen::Journal() {
+    if (tracing_ ? session_->Trace().empty() : session_->actions().empty()) {
+        return {{{tracing_ ? nothing_traced : nothing_changed}, {}}};
+    }
     if (tracing_) {
         return {{session_->Trace(), {}}};
     }
@@ -270,14 +275,15 @@ std::optional<std::string> FullScreen::AskLine(const std::string& label, std::st
     std::size_t cursor = line.size(), recalled = commands_.size();
     for (;;) {
         const std::string before = ' ' + label + ToUtf8(line.substr(0, cursor));
-        hints_ = {{"Enter", "do it", OfCode(VK_RETURN)}, {"Esc", "leave", OfCode(VK_ESCAPE)}};
+        Question question{before + ToUtf8(line.substr(cursor)) + ' ', Columns(Escaped(before)), {}};
+        question.answers = {{"Enter", "do it", OfCode(VK_RETURN)}, {"Esc", "leave", OfCode(VK_ESCAPE)}};
         if (is_command) {
-            hints_.push_back({"Tab", "complete", OfCode(VK_TAB)});
-            hints_.push_back({"Up/Down", "earlier ones", OfCode(VK_UP)});
+            question.answers.push_back({"Tab", "complete", OfCode(VK_TAB)});
         }
-        Draw(before + ToUtf8(line.substr(cursor)));
-        canvas_.PointAt(terminal_.rows() - foot_ - 1, std::min(Columns(before), terminal_.columns() - 1));
-        terminal_.Show(canvas_);
+        if (is_command && !commands_.empty()) {
+            AddPair(question.answers, "Up", VK_UP, "Down", VK_DOWN, "earlier ones");
+        }
+        Draw(&question);
         const Event event = NextEvent();
         if (event.kind == Event::Kind::End) {
             session_->Abandon();
@@ -333,11 +339,8 @@ std::optional<std::string> FullScreen::AskLine(const std::string& label, std::st
 
 char FullScreen::AskLetter(const std::string& question, const std::vector<Hint>& answers) {
     for (;;) {
-        hints_ = answers;
-        Draw(' ' + question);
-        canvas_.PointAt(terminal_.rows() - foot_ - 1,
-                        std::min(Columns(question) + 2, terminal_.columns() - 1));
-        terminal_.Show(canvas_);
+        const Question asked{' ' + question, Columns(question) + 2, answers};
+        Draw(&asked);
         const Event event = NextEvent();
         if (event.kind == Event::Kind::End) {
             session_->Abandon();
@@ -417,46 +420,65 @@ Cells FullScreen::Body() const {
 }
 
 std::vector<Hint> FullScreen::HintsHere() const {
-    std::vector<Hint> hints;
+    std::vector<Hint> hints = {{"F1", "help", OfFunction(1)}};
+    const auto add = [&](const std::vector<Hint>& more) {
+        hints.insert(hints.end(), more.begin(), more.end());
+    };
     if (view_) {
-        hints = view_->Hints();
+        add(view_->Hints(Body()));
+        if (!session_->windows().empty()) { // no other sheet opens beside them
+            std::erase_if(hints, [](const Hint& hint) { return hint.does.starts_with("open "); });
+        }
         hints.push_back({"/", "find", OfLetter('/')});
         if (!searched_.empty()) {
             hints.push_back({"n", "next", OfLetter('n')});
         }
     } else if (!session_->windows().empty()) {
-        hints = front_.Hints();
-    } else {
-        hints = {{"Enter", "open", OfCode(VK_RETURN)},
-                 {"Up/Down", "choose", OfCode(VK_DOWN)},
-                 {"/", "find", OfLetter('/')}};
+        add(front_.Hints(terminal_.columns(), terminal_.rows() - 1 - foot_));
+    } else if (!devices_.IsEmpty()) {
+        if (devices_.HasPage()) {
+            hints.push_back({"Enter", "open", OfCode(VK_RETURN)});
+        }
+        AddPair(hints, "Up", VK_UP, "Down", VK_DOWN, "choose");
+        hints.push_back({"letters, /", "find", OfLetter('/')});
     }
-    const Hint everywhere[] = {
-        {"^N", "numbers", OfControl(numbers)}, {"^B", "board", OfControl(board)},
-
-        {"F1", "help", OfFunction(1)},         {"F7", "wrong", OfFunction(7)},
-        {"^S", "save", OfControl(save)},       {"F10", "end", OfFunction(10)},
-        {"F2", "ports", OfFunction(2)},        {"F3", "store", OfFunction(3)},
-        {"F5", "journal", OfFunction(5)},      {"F6", "command", OfFunction(6)},
-        {"F8", "changes", OfFunction(8)},      {"F9", tracing_ ? "journal" : "trace", OfFunction(9)}};
-    hints.insert(hints.end(), std::begin(everywhere), std::end(everywhere));
+    add({{"^N", "numbers", OfControl(numbers)},
+         {"^B", "board", OfControl(board)},
+         {"F7", "wrong", OfFunction(7)},
+         {"^S", "save", OfControl(save)},
+         {"F10", "end", OfFunction(10)},
+         {"F2", "ports", OfFunction(2)},
+         {"F3", "store", OfFunction(3)},
+         {"F5", "journal", OfFunction(5)},
+         {"F6", "command", OfFunction(6)},
+         {"F8", "changes", OfFunction(8)},
+         {"F9", "trace", OfFunction(9)}});
     return hints;
 }
 
-void FullScreen::Draw(const std::string& question) {
-    const int columns = terminal_.columns();
-    if (columns < fewest_columns || terminal_.rows() < fewest_rows) {
-        canvas_ = Canvas(columns, terminal_.rows());
+void FullScreen::Draw(const Question* question) {
+    const int columns = terminal_.columns(), rows = terminal_.rows();
+    if (columns < fewest_columns || rows < fewest_rows) {
+        canvas_ = Canvas(columns, rows);
         canvas_.Write(0, 0, "needs " + std::to_string(fewest_columns) + 'x' + std::to_string(fewest_rows),
                       columns);
         return terminal_.Show(canvas_);
     }
-    if (question.empty()) {
-        hints_ = HintsHere();
+    front_.Read(*session_);
+    const auto place = [&](std::vector<Hint> hints) {
+        hints_ = std::move(hints);
+        placed_hints_ = PlaceHints(hints_, columns, std::max(1, rows / 8));
+        return placed_hints_.empty() ? 1 : placed_hints_.back().cells.top + 1;
+    };
+    // A view has the more hints the less room they leave to it.
+    int before;
+    do {
+        before = std::exchange(foot_, place(HintsHere()));
+    } while (before != foot_);
+    if (question != nullptr) { // which moves nothing
+        foot_ = std::max(foot_, place(question->answers));
     }
-    placed_hints_ = PlaceHints(hints_, columns, std::max(1, terminal_.rows() / 8));
-    foot_ = placed_hints_.empty() ? 1 : placed_hints_.back().cells.top + 1;
-    canvas_ = Canvas(columns, terminal_.rows());
+    canvas_ = Canvas(columns, rows - foot_);
     const Cells body = Body();
     if (view_) {
         view_->Draw(canvas_, body);
@@ -468,37 +490,44 @@ void FullScreen::Draw(const std::string& question) {
             devices_.Draw(canvas_, body, true);
         } else {
             devices_.Draw(canvas_, {0, body.top, beside, body.rows}, false);
-            if (!front_.Draw(canvas_, *session_, body, beside)) {
+            if (!front_.Draw(canvas_, body, beside)) {
                 for (int row = 0; row < body.rows; ++row) {
                     canvas_.Write(body.top + row, 0, "", columns);
                 }
-                front_.Draw(canvas_, *session_, body, beside);
+                front_.Draw(canvas_, body, beside);
             }
         }
     }
     DrawTitle();
+    const Canvas above = std::exchange(canvas_, Canvas(columns, rows));
+    canvas_.Lay(0, 0, above, {0, 0, columns, above.rows()});
     DrawFoot(question);
     terminal_.Show(canvas_);
 }
 
+// What is not saved is told before all else.
 void FullScreen::DrawTitle() {
+    const Look look{false, true, false, colour_title};
     const std::string state = session_->IsUnsaved() ? " * not saved" : "";
     const std::string place = view_ ? view_->Title() : session_->windows().empty() ? "Devices" : "";
-    const int columns = terminal_.columns(), right = Columns(place) + 2;
-    canvas_.Write(0, 0, ' ' + session_->world().Name() + state, columns, {false, true, false, colour_title});
-    if (right < columns) {
-        canvas_.Write(0, columns - right, place, right, {false, true, false, colour_title});
+    const int columns = terminal_.columns();
+    const std::string name =
+        ' ' + CutTo(Escaped(session_->world().Name()), columns - Columns(state) - 2) + state;
+    canvas_.Write(0, 0, name, columns, look);
+    const int right = std::min(Columns(place) + 1, columns - Columns(name) - 2);
+    if (right > 0) {
+        canvas_.Write(0, columns - right, place, right, look);
     }
 }
 
 void FullScreen::DrawPane(const Cells& within) {
     // The last action in the journal from its start, or the end of the trace, where its results are.
     Lines lines;
-    std::string title = "Journal: nothing has been changed";
+    std::string title = std::string{"Journal: "} + nothing_changed;
     const std::size_t seen = static_cast<std::size_t>(std::max(0, within.rows - 1));
     if (tracing_) {
         const Lines& trace = session_->Trace();
-        title = trace.empty() ? "Trace: nothing yet" : "Trace of the last action";
+        title = trace.empty() ? std::string{"Trace: "} + nothing_traced : "Trace of the last action";
         lines.assign(trace.end() - static_cast<std::ptrdiff_t>(std::min(seen, trace.size())), trace.end());
     } else if (!session_->actions().empty()) {
         const Action& last = session_->actions().back();
@@ -512,26 +541,40 @@ void FullScreen::DrawPane(const Cells& within) {
     }
 }
 
-void FullScreen::DrawFoot(const std::string& question) {
+void FullScreen::DrawFoot(const Question* question) {
     const int columns = terminal_.columns(), first = terminal_.rows() - foot_;
     for (int row = 0; row < foot_; ++row) {
         canvas_.Write(first + row, 0, "", columns, {true, false, false, 0});
     }
     for (const PlacedHint& placed : placed_hints_) {
-        const Cells& cells = placed.cells;
+        const auto& [left, top, wide, high] = placed.cells;
         const int key = Columns(placed.hint->key);
-        canvas_.Write(first + cells.top, cells.left, placed.hint->key, key, {true, true, false, 0});
-        canvas_.Write(first + cells.top, cells.left + key + 1, placed.hint->does, cells.columns - key - 1,
-                      {true, false, false, 0});
+        canvas_.Write(first + top, left, placed.hint->key, key, {true, true, false, 0});
+        if (wide > key) {
+            canvas_.Write(first + top, left + key + 1, placed.hint->does, wide - key - 1,
+                          {true, false, false, 0});
+        }
     }
     // What is asked or has just been said stands above the hints.
-    const std::string said = !message_.empty() ? ' ' + message_ : question;
-    if (!message_.empty() && !question.empty()) {
-        canvas_.Write(first - 2, 0, ' ' + message_, columns, {false, true, false, colour_title});
+    const Look look{false, true, false, colour_title};
+    int row = first;
+    if (question != nullptr) {
+        const std::string text = Escaped(question->text);
+        std::string_view shown = text;
+        int cursor = question->cursor;
+        while (cursor >= columns) {
+            const std::string_view whole = shown;
+            TakeUtf8(shown);
+            cursor -= Columns(whole.substr(0, whole.size() - shown.size()));
+        }
+        canvas_.Write(--row, 0, shown, columns, look);
+        canvas_.PointAt(row, cursor);
     }
-    if (!said.empty()) {
-        canvas_.Write(first - 1, 0, question.empty() ? said : question, columns,
-                      {false, true, false, colour_title});
+    if (!message_.empty()) {
+        const Lines lines = BrokenAt(message_, columns - 2);
+        for (auto line = lines.rbegin(); line != lines.rend() && row > 2; ++line) {
+            canvas_.Write(--row, 0, ' ' + *line, columns, look);
+        }
     }
 }
 

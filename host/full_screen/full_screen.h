@@ -35,10 +35,16 @@ public:
 
 private:
     // --- The picture
-    void Draw(const std::string& question = {});
+    // What stands above the hints while an answer is awaited.
+    struct Question {
+        std::string text;
+        int cursor; // columns before it
+        std::vector<Hint> answers;
+    };
+    void Draw(const Question* question = nullptr);
     void DrawTitle();
     void DrawPane(const Cells& within);
-    void DrawFoot(const std::string& question);
+    void DrawFoot(const Question* question);
     std::vector<Hint> HintsHere() const;
     Cells Body() const;
     int PaneRows() const;

@@ -12,7 +12,7 @@ namespace host {
 
 struct Hint {
     std::string key;  // "F2", "^S"
-    std::string does; // "ports"
+    std::string does; // "ports"; empty if the next hint says it for both
     Event event;      // of the key
 };
 
@@ -21,6 +21,10 @@ Event OfFunction(int number);
 Event OfControl(char letter);
 Event OfCode(UINT code);
 Event OfLetter(WCHAR letter);
+
+// The two keys of a direction.
+void AddPair(std::vector<Hint>& hints, const char* back, UINT back_code, const char* forth, UINT forth_code,
+             const std::string& does);
 
 // The hints in rows of so many columns, in their order; those that no row holds are left out. Places are
 // within the rows.

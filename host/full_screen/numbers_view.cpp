@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/diagnosis/number_map.h"
+#include "host/diagnosis/published_values.h"
 #include "host/diagnosis/report.h"
 #include "host/text.h"
 
@@ -44,8 +45,10 @@ std::string NumbersView::Title() const {
 void NumbersView::Draw(Canvas& canvas, const Cells& within) {
     const Lines told = NumberLines(records_, static_cast<unsigned long>(number_));
     const Lines map = NumberMapLines(records_, within.columns);
-    const int map_rows = all / across, legend = static_cast<int>(map.size()) - map_rows;
-    rows_ = std::clamp(within.rows - legend - 4, 1, map_rows);
+    const int map_rows = all / across, below = 4; // of what is told
+    const bool has_legend = within.rows >= static_cast<int>(map.size()) - map_rows + below + below;
+    const int legend = has_legend ? static_cast<int>(map.size()) - map_rows : 0;
+    rows_ = std::clamp(within.rows - legend - below, 1, map_rows);
     const int at = (number_ - 1) / across;
     first_row_ = std::clamp(std::clamp(first_row_, at - rows_ + 1, at), 0, map_rows - rows_);
     int row = within.top;
@@ -65,7 +68,7 @@ void NumbersView::Draw(Canvas& canvas, const Cells& within) {
             }
         }
     }
-    for (std::size_t line = static_cast<std::size_t>(map_rows); line < map.size(); ++line, ++row) {
+    for (auto line = static_cast<std::size_t>(map_rows); has_legend && line < map.size(); ++line, ++row) {
         canvas.Write(row, within.left, map[line], within.columns, {false, false, true, 0});
     }
     for (std::size_t line = 0; line < told.size() && row < within.top + within.rows; ++line, ++row) {
@@ -82,9 +85,12 @@ std::string NumbersView::Command() const {
         }
     }
     const NumberRecord& record = NumberIn(records_, number);
-    const bool has_sheet = !record.holders.empty() && records_.devices[record.holders.front()].listed != 0;
-    return has_sheet ? "open " + std::to_string(records_.devices[record.holders.front()].listed)
-                     : std::string();
+    if (record.holders.empty()) {
+        return {};
+    }
+    const DeviceRecord& holder = records_.devices[record.holders.front()];
+    const bool has_sheet = holder.listed != 0 && WhyNoPage(holder.role, holder.store).empty();
+    return has_sheet ? "open " + std::to_string(holder.listed) : std::string();
 }
 
 View::Outcome NumbersView::Take(const Event& event, const Cells& within) {
@@ -114,7 +120,7 @@ View::Outcome NumbersView::Take(const Event& event, const Cells& within) {
     return {};
 }
 
-std::vector<Hint> NumbersView::Hints() const {
+std::vector<Hint> NumbersView::Hints(const Cells&) const {
     std::vector<Hint> hints;
     if (const std::string command = Command(); !command.empty()) {
         hints.push_back({"Enter", command, OfCode(VK_RETURN)});

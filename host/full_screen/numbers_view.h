@@ -14,7 +14,7 @@ public:
     void Renew() override;
     void Draw(Canvas& canvas, const Cells& within) override;
     Outcome Take(const Event& event, const Cells& within) override;
-    std::vector<Hint> Hints() const override;
+    std::vector<Hint> Hints(const Cells&) const override;
     // Goes to the next number with such a text in what is known of it.
     bool Find(const std::string& text) override;
 

@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <utility>
+#include <vector>
 
 #define NCURSES_NOMACROS // move and erase are also names in the standard library
 #include <curses.h>
@@ -234,40 +235,54 @@ Event Terminal::Suspend() {
 // Esc alone is a key. A letter that is there already makes a hot key: a terminal sends the two for Alt, but
 // nobody types them so fast.
 Event Terminal::OfEscape() {
-    pending_ = Read(0);
-    const bool is_key = pending_ && pending_->kind == Event::Kind::Key;
-    if (is_key &&
-        (pending_->key.letter != 0 || pending_->key.code == VK_DOWN || pending_->key.code == VK_UP)) {
-        Event event = *std::exchange(pending_, {});
-        event.key.alt = true;
-        return event;
+    std::optional<Event> next = Read(0);
+    const bool is_key = next && next->kind == Event::Kind::Key;
+    if (is_key && (next->key.letter != 0 || next->key.code == VK_DOWN || next->key.code == VK_UP)) {
+        next->key.alt = true;
+        return *next;
+    }
+    if (next) {
+        pending_.push_front(*next);
     }
     return *OfKey({VK_ESCAPE});
 }
 
+// A slow line brings several events at once. The library then tells of one key, and has the last event first.
 std::optional<Event> Terminal::OfMouse() {
-    MEVENT mouse;
-    if (getmouse(&mouse) != OK) {
+    std::vector<MEVENT> all;
+    for (MEVENT mouse; getmouse(&mouse) == OK;) {
+        all.push_back(mouse);
+    }
+    for (auto mouse = all.rbegin(); mouse != all.rend(); ++mouse) {
+        Event event;
+        event.column = mouse->x;
+        event.row = mouse->y;
+        if (mouse->bstate & BUTTON4_PRESSED) {
+            event.kind = Event::Kind::WheelUp;
+        } else if (mouse->bstate & BUTTON5_PRESSED) {
+            event.kind = Event::Kind::WheelDown;
+        } else if (mouse->bstate & BUTTON1_PRESSED) {
+            pressed_ = true;
+            event.kind = Event::Kind::Press;
+        } else if (mouse->bstate & BUTTON1_RELEASED) {
+            pressed_ = false;
+            event.kind = Event::Kind::Release;
+        } else if (pressed_) {
+            event.kind = Event::Kind::Drag;
+        } else {
+            continue;
+        }
+        pending_.push_back(event);
+    }
+    return TakePending();
+}
+
+std::optional<Event> Terminal::TakePending() {
+    if (pending_.empty()) {
         return {};
     }
-    Event event;
-    event.column = mouse.x;
-    event.row = mouse.y;
-    if (mouse.bstate & BUTTON4_PRESSED) {
-        event.kind = Event::Kind::WheelUp;
-    } else if (mouse.bstate & BUTTON5_PRESSED) {
-        event.kind = Event::Kind::WheelDown;
-    } else if (mouse.bstate & BUTTON1_PRESSED) {
-        pressed_ = true;
-        event.kind = Event::Kind::Press;
-    } else if (mouse.bstate & BUTTON1_RELEASED) {
-        pressed_ = false;
-        event.kind = Event::Kind::Release;
-    } else if (pressed_) {
-        event.kind = Event::Kind::Drag;
-    } else {
-        return {};
-    }
+    const Event event = pending_.front();
+    pending_.pop_front();
     return event;
 }
 
@@ -331,8 +346,8 @@ std::optional<Event> Terminal::OfCharacter(std::wint_t character) {
 
 // The next event; nothing if there is none within that time. A negative time waits for ever.
 std::optional<Event> Terminal::Read(int milliseconds) {
-    if (pending_) {
-        return std::exchange(pending_, {});
+    if (const auto event = TakePending()) {
+        return event;
     }
     while (!ending) {
         wint_t key = 0;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cwchar>
+#include <deque>
 #include <optional>
 #include <string>
 
@@ -58,8 +59,9 @@ private:
     std::optional<Event> OfCharacter(std::wint_t character);
     Event OfEscape();
     std::optional<Event> OfMouse();
+    std::optional<Event> TakePending();
 
-    std::optional<Event> pending_; // what came after an Esc that did not belong to it
+    std::deque<Event> pending_; // came together with the last one
     Charset charset_;
     bool pressed_ = false; // the mouse's button is down
 };

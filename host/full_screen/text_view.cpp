@@ -135,7 +135,7 @@ View::Outcome TextView::Take(const Event& event, const Cells& within) {
         shift_ = std::max(0, shift_ - 8);
         break;
     case VK_RIGHT:
-        shift_ += 8;
+        shift_ = std::clamp(Widest() - within.columns, 0, shift_ + 8);
         break;
     default:
         break;
@@ -143,15 +143,34 @@ View::Outcome TextView::Take(const Event& event, const Cells& within) {
     return {};
 }
 
-std::vector<Hint> TextView::Hints() const {
+int TextView::Widest() const {
+    int widest = 0;
+    for (const std::string& heading : headings_) {
+        widest = std::max(widest, Columns(Escaped(heading)));
+    }
+    for (const Line& line : lines_) {
+        widest = std::max(widest, Columns(Escaped(line.text)) + (HasCommands() ? 2 : 0));
+    }
+    return widest;
+}
+
+std::vector<Hint> TextView::Hints(const Cells& within) const {
     std::vector<Hint> hints;
     if (HasCommands()) {
         hints.push_back({"Enter", commands_[selected_], OfCode(VK_RETURN)});
     }
     hints.push_back({"Esc", "back", OfCode(VK_ESCAPE)});
-    hints.push_back({"Up/Down", HasCommands() ? "choose" : "move", OfCode(VK_DOWN)});
-    hints.push_back({"PgUp/PgDn", "page", OfCode(VK_NEXT)});
-    hints.push_back({"Left/Right", "shift", OfCode(VK_RIGHT)});
+    const bool is_long = static_cast<int>(headings_.size() + lines_.size()) > within.rows;
+    if (is_long ||
+        std::ranges::count_if(commands_, [](const auto& command) { return !command.empty(); }) > 1) {
+        AddPair(hints, "Up", VK_UP, "Down", VK_DOWN, HasCommands() ? "choose" : "move");
+    }
+    if (is_long) {
+        AddPair(hints, "PgUp", VK_PRIOR, "PgDn", VK_NEXT, "page");
+    }
+    if (Widest() > within.columns) {
+        AddPair(hints, "Left", VK_LEFT, "Right", VK_RIGHT, "shift");
+    }
     return hints;
 }
 

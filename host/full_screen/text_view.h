@@ -24,7 +24,7 @@ public:
     void Renew() override;
     void Draw(Canvas& canvas, const Cells& within) override;
     Outcome Take(const Event& event, const Cells& within) override;
-    std::vector<Hint> Hints() const override;
+    std::vector<Hint> Hints(const Cells& within) const override;
     bool Find(const std::string& text) override;
 
 private:
@@ -34,6 +34,7 @@ private:
     };
 
     bool HasCommands() const;
+    int Widest() const; // columns
     void Select(int step);
 
     std::string title_;

@@ -28,8 +28,8 @@ public:
     };
     virtual Outcome Take(const Event& event, const Cells& within) = 0;
 
-    // What the keys do here, besides those that do the same everywhere.
-    virtual std::vector<Hint> Hints() const = 0;
+    // What the keys do in these cells, besides those that do the same everywhere.
+    virtual std::vector<Hint> Hints(const Cells& within) const = 0;
 
     // Finds the next place with such a text, beginning after the present one. False if there is none.
     virtual bool Find(const std::string& text) = 0;
