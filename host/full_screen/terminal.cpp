@@ -237,7 +237,8 @@ Event Terminal::Suspend() {
 Event Terminal::OfEscape() {
     std::optional<Event> next = Read(0);
     const bool is_key = next && next->kind == Event::Kind::Key;
-    if (is_key && (next->key.letter != 0 || next->key.code == VK_DOWN || next->key.code == VK_UP)) {
+    if (is_key && !next->key.alt &&
+        (next->key.letter != 0 || next->key.code == VK_DOWN || next->key.code == VK_UP)) {
         next->key.alt = true;
         return *next;
     }
