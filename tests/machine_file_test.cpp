@@ -169,7 +169,8 @@ TEST(MachineFile, PassesOverInterfacesOfNoClass) {
     for (const std::string guid :
          {"{86E0D1E0-8089-11D0-9CE4-08003E301F7g}", "{86E0D1E0-8089-11D0-9CE4-08003E301F7Ł}",
           "{İ6E0D1E0-8089-11D0-9CE4-08003E301F73}", "{86E0D1E0-8089-11D0-9CE4-08003E301F7\x7F}",
-          "{86E0D1E0-8089-11D0-9CE4 08003E301F73}", "{86E0D1E0-8089-11D0-9CE4-08003E301F73", "86E0D1E0"}) {
+          "{86E0D1E0-8089-11D0-9CE4 08003E301F73}", "(86E0D1E0-8089-11D0-9CE4-08003E301F73}",
+          "{86E0D1E0-8089-11D0-9CE4-08003E301F73", "86E0D1E0"}) {
         lines += set + "Control\\DeviceClasses\\" + guid + "\\##?#a]\n\"DeviceInstance\"=\"A\\\\B\\\\C\"\n";
     }
     EXPECT_EQ(Loaded(lines).interfaces, std::vector<sim::Interface>{});
@@ -196,6 +197,36 @@ TEST(MachineFile, WritesNothingThatItHasNotRead) {
     for (const std::string& lines : cases) {
         EXPECT_EQ(Lines(Saved(Read(first_line + lines), Loaded(first_line + lines))), first_line + lines);
     }
+}
+
+TEST(MachineFile, WritesANewDeviceAndItsInterfaceUnderTheirNames) {
+    sim::Machine machine = Loaded(first_line);
+    sim::Device& device = machine.devices.emplace_back();
+    device.instance_id = u"A\\B\\C";
+    device.has_key = false;
+    machine.interfaces = {
+        {{0x86E0D1E0, 0x8089, 0x11D0, {1, 2, 3, 4, 5, 6, 7, 8}}, u"\\\\?\\a\\ref\\x", 0, true}};
+    EXPECT_EQ(Lines(Saved({}, machine)), first_line + R"(
+[HKEY_LOCAL_MACHINE\SYSTEM\CurrentControlSet\Enum\A\B\C]
+
+[HKEY_LOCAL_MACHINE\SYSTEM\CurrentControlSet\Control\DeviceClasses\{86e0d1e0-8089-11d0-0102-030405060708}\##?#a]
+"DeviceInstance"="A\\B\\C"
+
+[HKEY_LOCAL_MACHINE\SYSTEM\CurrentControlSet\Control\DeviceClasses\{86e0d1e0-8089-11d0-0102-030405060708}\##?#a\#ref#x]
+"SymbolicLink"="\\\\?\\a\\ref\\x"
+
+[HKEY_LOCAL_MACHINE\SYSTEM\CurrentControlSet\Control\DeviceClasses\{86e0d1e0-8089-11d0-0102-030405060708}\##?#a\#ref#x\Control]
+"Linked"=dword:00000001
+)");
+}
+
+TEST(MachineFile, TakesOutATextThatADeviceHasLost) {
+    const std::string device =
+                          first_line + "\n[HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Enum\\A\\B\\C]\n",
+                      lines = device + "\"FriendlyName\"=\"x\"\n";
+    sim::Machine machine = Loaded(lines);
+    machine.devices[0].friendly_name.reset();
+    EXPECT_EQ(Lines(Saved(Read(lines), machine)), device);
 }
 
 TEST(MachineFile, WritesOnlyThePortsOfTheProfile) {
