@@ -1,7 +1,5 @@
 // What a registry export says about a machine, and that a machine reads back as it was written.
 #include <algorithm>
-#include <cstring>
-#include <fstream>
 
 #include <rapidcheck.h>
 
@@ -17,18 +15,7 @@ std::string Saved(const host::MachineFile& file, const sim::Machine& machine) {
     const std::string path = OwnFile(".reg");
     std::string error;
     EXPECT_TRUE(host::SaveMachine(file, machine, path, error)) << error;
-    std::ostringstream content;
-    content << std::ifstream(path, std::ios::binary).rdbuf();
-    return content.str();
-}
-
-// The lines of a file as written.
-std::string Lines(const std::string& utf16) {
-    Text text(utf16.size() / sizeof(WCHAR), u' ');
-    std::memcpy(text.data(), utf16.data(), utf16.size());
-    std::string lines = sim::ToUtf8(text.substr(1));
-    std::erase(lines, '\r');
-    return lines;
+    return ContentOf(path);
 }
 
 // All that a file holds of a machine.
@@ -175,6 +162,20 @@ TEST(MachineFile, BringsASampleThatAgreesWithItself) {
     EXPECT_EQ(Contents(Loaded(Saved(Read(std::string(host::SampleMachine())), machine))), Contents(machine));
 }
 
+// Two texts below differ from a class only in the low bytes of their characters.
+TEST(MachineFile, PassesOverInterfacesOfNoClass) {
+    const std::string set = "[HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\";
+    std::string lines = first_line + set + "Enum\\A\\B\\C]\n";
+    for (const std::string guid :
+         {"{86E0D1E0-8089-11D0-9CE4-08003E301F7g}", "{86E0D1E0-8089-11D0-9CE4-08003E301F7Ł}",
+          "{İ6E0D1E0-8089-11D0-9CE4-08003E301F73}", "{86E0D1E0-8089-11D0-9CE4-08003E301F7\x7F}",
+          "{86E0D1E0-8089-11D0-9CE4 08003E301F73}", "(86E0D1E0-8089-11D0-9CE4-08003E301F73}",
+          "{86E0D1E0-8089-11D0-9CE4-08003E301F73", "86E0D1E0"}) {
+        lines += set + "Control\\DeviceClasses\\" + guid + "\\##?#a]\n\"DeviceInstance\"=\"A\\\\B\\\\C\"\n";
+    }
+    EXPECT_EQ(Loaded(lines).interfaces, std::vector<sim::Interface>{});
+}
+
 // Each place alone comes back as it was, and no other comes with it.
 TEST(MachineFile, WritesNothingThatItHasNotRead) {
     const std::string system = "\n[HKEY_LOCAL_MACHINE\\SYSTEM\\", set = system + "CurrentControlSet\\",
@@ -195,6 +196,48 @@ TEST(MachineFile, WritesNothingThatItHasNotRead) {
     };
     for (const std::string& lines : cases) {
         EXPECT_EQ(Lines(Saved(Read(first_line + lines), Loaded(first_line + lines))), first_line + lines);
+    }
+}
+
+TEST(MachineFile, WritesANewDeviceAndItsInterfaceUnderTheirNames) {
+    sim::Machine machine = Loaded(first_line);
+    sim::Device& device = machine.devices.emplace_back();
+    device.instance_id = u"A\\B\\C";
+    device.has_key = false;
+    machine.interfaces = {
+        {{0x86E0D1E0, 0x8089, 0x11D0, {1, 2, 3, 4, 5, 6, 7, 8}}, u"\\\\?\\a\\ref\\x", 0, true}};
+    EXPECT_EQ(Lines(Saved({}, machine)), first_line + R"(
+[HKEY_LOCAL_MACHINE\SYSTEM\CurrentControlSet\Enum\A\B\C]
+
+[HKEY_LOCAL_MACHINE\SYSTEM\CurrentControlSet\Control\DeviceClasses\{86e0d1e0-8089-11d0-0102-030405060708}\##?#a]
+"DeviceInstance"="A\\B\\C"
+
+[HKEY_LOCAL_MACHINE\SYSTEM\CurrentControlSet\Control\DeviceClasses\{86e0d1e0-8089-11d0-0102-030405060708}\##?#a\#ref#x]
+"SymbolicLink"="\\\\?\\a\\ref\\x"
+
+[HKEY_LOCAL_MACHINE\SYSTEM\CurrentControlSet\Control\DeviceClasses\{86e0d1e0-8089-11d0-0102-030405060708}\##?#a\#ref#x\Control]
+"Linked"=dword:00000001
+)");
+}
+
+TEST(MachineFile, TakesOutATextThatADeviceHasLost) {
+    const std::string device =
+                          first_line + "\n[HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Enum\\A\\B\\C]\n",
+                      lines = device + "\"FriendlyName\"=\"x\"\n";
+    sim::Machine machine = Loaded(lines);
+    machine.devices[0].friendly_name.reset();
+    EXPECT_EQ(Lines(Saved(Read(lines), machine)), device);
+}
+
+TEST(MachineFile, WritesOnlyThePortsOfTheProfile) {
+    const std::string ports =
+        "\n[HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Ports]\n";
+    for (const std::string& read : {std::string{}, ports + "\"COM5:\"=\"9600\"\n"}) {
+        sim::Machine machine = Loaded(first_line + read);
+        machine.ProfileSection(u"Fonts", true)->SetText(u"A", u"B");
+        EXPECT_EQ(Lines(Saved(Read(first_line + read), machine)), first_line + read);
+        machine.ProfileSection(u"pORTS", true)->SetText(u"COM5:", u"300");
+        EXPECT_EQ(Lines(Saved(Read(first_line + read), machine)), first_line + ports + "\"COM5:\"=\"300\"\n");
     }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstring>
+#include <fstream>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -35,6 +36,21 @@ inline sim::Machine Loaded(const std::string& bytes) {
 // A file that no other test writes, because tests run at the same time.
 inline std::string OwnFile(const std::string& suffix) {
     return testing::TempDir() + testing::UnitTest::GetInstance()->current_test_info()->name() + suffix;
+}
+
+inline std::string ContentOf(const std::string& path) {
+    std::ostringstream content;
+    content << std::ifstream(path, std::ios::binary).rdbuf();
+    return content.str();
+}
+
+// The lines of a file as written.
+inline std::string Lines(const std::string& utf16) {
+    sim::Text text(utf16.size() / sizeof(WCHAR), u' ');
+    std::memcpy(text.data(), utf16.data(), utf16.size());
+    std::string lines = sim::ToUtf8(text.substr(1));
+    std::erase(lines, '\r');
+    return lines;
 }
 
 // A text with its terminator.

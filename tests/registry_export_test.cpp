@@ -193,10 +193,17 @@ TEST(RegistryExport, WritesWhatRegeditWrites) {
     writer.SetValue(u"short", REG_DWORD, Bytes{1});
     writer.SetValue(u"none", 0, Bytes{});
     writer.SetValue(u"type", 0xFFFF0012, Bytes{1, 2});
+    writer.SetValue(u"empty", REG_SZ, BytesOf(u""));
+    writer.SetValue(u"nothing", REG_SZ, Bytes{});
     writer.SetValue(u"open", REG_SZ, Bytes{'a', 0});
     writer.SetValue(u"zero", REG_SZ, Bytes{0, 0, 'a', 0, 0, 0});
     writer.SetValue(u"odd", REG_SZ, Bytes{'a', 0, 0});
     writer.SetValue(u"line", REG_SZ, BytesOf(u"\n"));
+    writer.SetValue(u"return", REG_SZ, BytesOf(u"\r"));
+    writer.Comment(u"a comment");
+    writer.Comment(u"");
+    writer.DeleteValue(u"gone");
+    writer.DeleteValue(u"");
     writer.SetValue(u"12345", REG_BINARY, Bytes(48, 0xA5));
     EXPECT_EQ(out.str(), InUtf16(WithReturns(first_line + R"(
 [HKEY_LOCAL_MACHINE\K]
@@ -205,10 +212,17 @@ TEST(RegistryExport, WritesWhatRegeditWrites) {
 "short"=hex(4):01
 "none"=hex(0):
 "type"=hex(ffff0012):01,02
+"empty"=""
+"nothing"=hex(1):
 "open"=hex(1):61,00
 "zero"=hex(1):00,00,61,00,00,00
 "odd"=hex(1):61,00,00
 "line"=hex(1):0a,00,00,00
+"return"=hex(1):0d,00,00,00
+; a comment
+;
+"gone"=-
+@=-
 "12345"=hex:a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,\
   a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,a5,\
   a5
