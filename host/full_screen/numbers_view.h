@@ -1,6 +1,7 @@
 // The map of the COM numbers: arrows go over it, and below stands what is known of the number they are at.
 #pragma once
 
+#include "host/diagnosis/diagnosis.h"
 #include "host/full_screen/view.h"
 #include "host/session/session.h"
 
