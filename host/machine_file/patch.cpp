@@ -24,7 +24,7 @@ constexpr LeftOut left_outs[] = {
     {ChangedPlace::SerialMap, "Not in this file, because drivers make it anew whenever they start a port:",
      "The restart puts it right: the driver enters the port under the number that PortName has then."},
     {ChangedPlace::FriendlyName, "Not in this file, because only the system writes this key:",
-     "Device Manager shows the old number, which misleads and does no harm, until the port is given its\n"
+     "Device Manager shows the old number, which misleads and does no harm, until the port is given its "
      "number on its page there (Advanced) or its driver is reinstalled."},
     {ChangedPlace::Device, "Not in this file, because the system finds devices by itself:", nullptr},
 };
