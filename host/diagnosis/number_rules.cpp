@@ -64,9 +64,10 @@ void FindSharedNames(const Model& model, Found& found) {
     }
 }
 
+// A number that several devices have is claimed for none of them.
 void FindUnclaimedPorts(const Model& model, Found& found) {
     ForEachPort(model, [&](unsigned long number, const NumberRecord& record, std::size_t holder) {
-        if (!record.claimed && model.IsPresent(holder)) {
+        if (!record.claimed && record.holders.size() == 1 && model.IsPresent(holder)) {
             found.push_back(model.About(holder));
             found.back().number = number;
         }
@@ -133,14 +134,14 @@ void FindOrphanLines(const Model& model, Found& found) {
 }
 
 void FindMisreadLines(const Model& model, Found& found) {
-    ForEachPort(model, [&](unsigned long, const NumberRecord& record, std::size_t holder) {
+    for (const auto& [number, record] : model.records.numbers) {
         for (const std::string& line : record.lines) {
-            if (const std::string misread = Misread(line); !misread.empty()) {
-                found.push_back(model.About(holder));
-                found.back().what = "in " + Quoted(line) + ", " + misread;
+            if (const std::string misread = Misread(line); !misread.empty() && !record.holders.empty()) {
+                found.push_back(model.About(record.holders.front()));
+                found.back().what = "of " + Quoted(line) + ", " + misread;
             }
         }
-    });
+    }
 }
 
 void FindOpenPorts(const Model& model, Found& found) {
