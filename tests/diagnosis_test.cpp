@@ -109,6 +109,11 @@ TEST(Diagnosis, FindsWhatIsWrong) {
         {[](Machine& m) { m.serial_map.SetText(u"\\Device\\Two", u"COM4"); }, {"twice-in-serial-map COM4"}},
         {[](Machine& m) { m.devices[second].key.SetText(u"PortName", u"COM3"); },
          {"same-name COM3", "friendly-number COM3"}},
+        {[](Machine& m) { // nothing could be claimed for both of them
+             m.devices[second].key.SetText(u"PortName", u"COM3");
+             sim::SetClaimed(m.port_usage, 3, false);
+         },
+         {"same-name COM3", "friendly-number COM3"}},
         {[](Machine& m) { m.devices[mainboard].key.SetText(u"PortName", u"port1"); }, {"no-com-name 2"}},
         {[](Machine& m) { m.devices[mainboard].key.SetText(u"PortName", u"LPT1"); }, {}},
         {[](Machine& m) { m.devices[first].friendly_name = u"A port (COM9)"; }, {"friendly-number COM3"}},
@@ -146,18 +151,18 @@ TEST(Diagnosis, NamesThePlacesItDependsOn) {
     machine.devices[first].description = u"A\nport\x1B[2J";
     sim::SetClaimed(machine.port_usage, 13, true);
     host::Records records = RecordsOf(FileOf(machine));
-    const nlohmann::json list =
-        nlohmann::json::parse(host::DiagnosisJson(records, host::Diagnose(records), "m.reg"));
-    EXPECT_EQ(list["findings"][0]["number"], 13);
-    EXPECT_EQ(list["findings"][0]["command"], "free COM13");
-    EXPECT_EQ(
-        list["findings"][1]["sentence"],
-        "COM3, device 3 (A\\nport\\x1B[2J), is not on the page of its board: ChlType is too long: qword "
-        "of 8 bytes, of which at most 4 are read.");
+    const auto list = host::DiagnosisJson(records, host::Diagnose(records), "m.reg");
+    EXPECT_EQ(list["findings"][0]["sentence"],
+              "COM3, device 3 (A\\nport\\x1B[2J), is missing on its board's page: ChlType is too long: qword "
+              "of 8 bytes, of which at most 4 are read.");
+    EXPECT_EQ(list["findings"][1]["number"], 13);
+    EXPECT_EQ(list["findings"][1]["command"], "free COM13");
     EXPECT_EQ(list["sound"]["numbers"], (std::vector<int>{1, 4}));
     records.known &= ~static_cast<unsigned>(host::SerialMapPlace);
-    EXPECT_EQ(host::DiagnosisLines(records, host::Diagnose(records))[0],
-              "not known: the serial map; nothing is concluded from that. To know it,");
+    const Names lines = host::DiagnosisLines(records, host::Diagnose(records));
+    EXPECT_EQ(lines.front(), "One thing is wrong: 1 serious.");
+    EXPECT_EQ(std::ranges::count(lines, "    HKEY_LOCAL_MACHINE\\HARDWARE\\DEVICEMAP\\SERIALCOMM"), 1);
+    EXPECT_EQ(lines.back(), "In order as far as was checked: COM 1, 4; device 1 (Multi-function board).");
     for (const std::string& line : host::NumberLines(records, 13)) {
         EXPECT_LE(line.size(), 80u) << line;
     }
@@ -168,14 +173,12 @@ TEST(Diagnosis, SeesWhatAPageWouldNotShowAsItIsWritten) {
         EXPECT_EQ(host::Misread(line), "") << line;
     }
     const std::pair<const char*, const char*> misread[] = {
-        {"19,n,8,1", "no speed \"19\", 19200 is shown"},
-        {"1000000,n,8,1", "no speed \"1000000\", 75 is shown"},
-        {",n,8,1", "no speed \"\", 75 is shown"},
-        {"9600,E,8,1", "no parity \"E\", none is shown"},
-        {"9600,n,80,1", "no number of data bits \"80\", \"8\" is shown"},
-        {"9600,n,8,3", "no number of stop bits \"3\", 1 is shown"}};
+        {"19,n,8,1", "speed is \"19\", which the page does not know: it shows 19200"},
+        {",n,8,1", "speed is \"\", which the page does not know: it shows 75"},
+        {"9600,E,8,1", "parity is \"E\", which the page does not know: it shows none"},
+        {"9600,n,8,3", "number of stop bits is \"3\", which the page does not know: it shows 1"}};
     for (const auto& [line, told] : misread) {
-        EXPECT_EQ(host::Misread(line), told);
+        EXPECT_EQ(host::Misread(line), std::string("the ") + told);
     }
     EXPECT_EQ(host::RangesOf({9, 10, 33, 40, 41, 42, 59}), "9, 10, 33, 40-42, 59");
     EXPECT_EQ(host::RangesOf({}), "none");

@@ -55,14 +55,14 @@ bool IsWalked(const Model& model, const ChannelRecord& channel) {
 std::string WrongMode(unsigned long mode, unsigned long capability) {
     const std::optional<unsigned long> needed = NeededBy(mode);
     if (!needed) {
-        return "UartMode is " + std::to_string(mode) + ", which is no mode";
+        return "UartMode is " + std::to_string(mode) + ", which stands for none";
     }
     if ((capability & *needed) == *needed) {
         return {};
     }
     char digits[24];
     std::snprintf(digits, sizeof digits, "0x%02lX", capability);
-    return "UartMode is " + ModeName(mode) + ", which UartCapability " + digits + " does not allow";
+    return "UartMode is " + ModeName(mode) + ", which UartCapability " + digits + " rules out";
 }
 
 // The levels of the receive FIFO: 1, and 4, 8 and 14 sixteenths of its size.

@@ -14,8 +14,10 @@
 namespace host {
 namespace {
 
-// A machine's history of gone devices runs into thousands; a ticket's attachment does not.
-constexpr std::size_t most_rows = 1000;
+// A machine's history of gone devices runs into thousands, and a text in it may have any length; a ticket's
+// attachment may not.
+constexpr std::size_t most_rows = 500;
+constexpr int widest_cell = 100, longest_text = 500;
 
 // Contrast is at least 4.5 to 1 in each scheme; on paper everything is black.
 constexpr const char* head = R"(<!DOCTYPE html>
@@ -44,9 +46,9 @@ svg .live { fill: var(--soft); } svg .conflict { stroke: var(--bad); stroke-widt
 )";
 
 // Text from a machine as text, whatever it holds.
-std::string Html(std::string_view text) {
+std::string Html(std::string_view text, int columns = longest_text) {
     std::string html;
-    for (const char letter : Escaped(text)) {
+    for (const char letter : CutTo(Escaped(text), columns)) {
         switch (letter) {
         case '&':
             html += "&amp;";
@@ -75,41 +77,42 @@ template <class Cells> std::string HtmlRow(const Cells& cells, const char* tag) 
     std::string row = "<tr>";
     for (const std::string& cell : cells) {
         row += std::string{'<'} + tag + (std::string_view(tag) == "th" ? " scope=\"col\">" : ">") +
-               Html(cell) + "</" + tag + '>';
+               Html(cell, widest_cell) + "</" + tag + '>';
     }
     return row + "</tr>\n";
 }
 
-// The first row has the headings.
-template <class Rows> std::string HtmlTable(const std::string& caption, const Rows& rows) {
-    std::string table = "<div class=\"wide\"><table>\n<caption>" + Html(caption) + "</caption>\n<thead>" +
-                        HtmlRow(rows.front(), "th") + "</thead>\n<tbody>\n";
-    for (std::size_t row = 1; row < rows.size() && row <= most_rows; ++row) {
-        table += HtmlRow(rows[row], "td");
-    }
-    table += "</tbody>\n</table></div>\n";
-    return rows.size() - 1 <= most_rows ? table
-                                        : table + "<p>The first " + std::to_string(most_rows) + " of " +
-                                              std::to_string(rows.size() - 1) + ".</p>\n";
+// What is said below a list that is longer than what is shown of it.
+std::string CutNote(std::size_t shown, std::size_t all) {
+    return all <= shown ? std::string()
+                        : "<p>The first " + std::to_string(shown) + " of " + std::to_string(all) + ".</p>\n";
 }
 
-std::string FindingsPart(const std::vector<Finding>& findings) {
+// The first row has the headings.
+template <class Rows>
+std::string HtmlTable(const std::string& caption, const Rows& rows, std::size_t most = most_rows) {
+    std::string table = "<div class=\"wide\"><table>\n<caption>" + Html(caption, widest_cell) +
+                        "</caption>\n<thead>" + HtmlRow(rows.front(), "th") + "</thead>\n<tbody>\n";
+    for (std::size_t row = 1; row < rows.size() && row <= most; ++row) {
+        table += HtmlRow(rows[row], "td");
+    }
+    return table + "</tbody>\n</table></div>\n" + CutNote(most, rows.size() - 1);
+}
+
+std::string FindingsPart(const Records& records, const std::vector<Finding>& findings) {
     std::string html = Heading("What is wrong, and what mends it");
-    html += findings.empty() ? "<p>Nothing was found.</p>\n" : "<ol>\n";
+    html += findings.empty() ? "<p>" + Summary(records, findings) + "</p>\n" : "<ol>\n";
     for (std::size_t index = 0; index < findings.size() && index < most_rows; ++index) {
         const Finding& finding = findings[index];
         html += std::string{"<li><span class=\""} + NameOf(finding.severity) + "\">" +
-                NameOf(finding.severity) + ":</span> " + Html(finding.sentence) + ' ' + Html(finding.effect) +
-                ' ' + Html(finding.remedy);
+                NameOf(finding.severity) + ":</span> " + Html(finding.sentence) + ' ' + finding.effect +
+                (finding.remedy.empty() ? "" : ' ' + Html(finding.remedy));
         if (!finding.command.empty()) {
             html += " <code>" + Html(finding.command) + "</code>" + (finding.safe ? " (safe)" : "");
         }
         html += "</li>\n";
     }
-    html += findings.empty() ? "" : "</ol>\n";
-    return findings.size() <= most_rows ? html
-                                        : html + "<p>These are the first " + std::to_string(most_rows) +
-                                              " of " + std::to_string(findings.size()) + ".</p>\n";
+    return html + (findings.empty() ? "" : "</ol>\n") + CutNote(most_rows, findings.size());
 }
 
 const char* ClassOf(NumberState state) {
@@ -121,9 +124,10 @@ const char* ClassOf(NumberState state) {
 
 std::string NumbersPart(const Records& records) {
     constexpr unsigned cell = 26;
-    const std::string size = std::to_string(cell * map_columns + 2);
-    std::string html = Heading("The 256 COM numbers") + "<svg viewBox=\"-1 -1 " + size + ' ' + size +
-                       "\" width=\"" + size +
+    const std::string width = std::to_string(cell * (map_columns + 2)),
+                      height = std::to_string(cell * mapped_numbers / map_columns + 2);
+    std::string html = Heading("The 256 COM numbers") + "<svg viewBox=\"-50 -1 " + width + ' ' + height +
+                       "\" width=\"" + width +
                        "\" role=\"img\" aria-labelledby=\"map\"><title id=\"map\">COM1 to COM256 in rows of "
                        "16; the list below "
                        "says the same in words</title>\n";
@@ -132,6 +136,9 @@ std::string NumbersPart(const Records& records) {
         const NumberState state = StateOf(records, number);
         numbers[state].push_back(number);
         const unsigned x = (number - 1) % map_columns * cell, y = (number - 1) / map_columns * cell;
+        html += x != 0
+                    ? ""
+                    : "<text x=\"-25\" y=\"" + std::to_string(y + 17) + "\">" + ComName(number) + "</text>\n";
         html += "<g><title>" + ComName(number) + ": " + SignOf(state).name + "</title><rect class=\"" +
                 ClassOf(state) + "\" x=\"" + std::to_string(x) + "\" y=\"" + std::to_string(y) +
                 "\" width=\"24\" height=\"24\"/><text x=\"" + std::to_string(x + 12) + "\" y=\"" +
@@ -147,15 +154,18 @@ std::string NumbersPart(const Records& records) {
 
 std::string BoardsPart(const Records& records) {
     std::string html = Heading("The boards");
-    bool has_board = false;
+    constexpr std::size_t most_boards = 16;
+    std::size_t boards = 0, rows_left = most_rows;
     for (const DeviceRecord& device : records.devices) {
-        const BoardTable table = device.role == Role::Board ? TableOfBoard(records, device) : BoardTable();
-        if (!table.cells.empty()) {
-            has_board = true;
-            html += HtmlTable(LabelOf(records, device), table.cells);
+        if (device.role != Role::Board || ++boards > most_boards) {
+            continue;
+        }
+        if (const BoardTable table = TableOfBoard(records, device); !table.cells.empty()) {
+            html += HtmlTable(LabelOf(records, device), table.cells, rows_left);
+            rows_left -= std::min(rows_left, table.cells.size() - 1);
         }
     }
-    return has_board ? html : html + "<p>No board with a page is known.</p>\n";
+    return html + (boards == 0 ? "<p>No board is known.</p>\n" : CutNote(most_boards, boards));
 }
 
 std::string PortsPart(const Records& records) {
@@ -194,8 +204,8 @@ std::string HtmlReport(const Records& records, const std::vector<Finding>& findi
         }
         html += "</ul>\n";
     }
-    return html + FindingsPart(findings) + ChangesPart(source) + NumbersPart(records) + BoardsPart(records) +
-           PortsPart(records) + "</main>\n</body>\n</html>\n";
+    return html + FindingsPart(records, findings) + ChangesPart(source) + NumbersPart(records) +
+           BoardsPart(records) + PortsPart(records) + "</main>\n</body>\n</html>\n";
 }
 
 } // namespace host

@@ -64,9 +64,9 @@ void FindSharedNames(const Model& model, Found& found) {
     }
 }
 
+// A number that several devices have is claimed for none of them.
 void FindUnclaimedPorts(const Model& model, Found& found) {
     ForEachPort(model, [&](unsigned long number, const NumberRecord& record, std::size_t holder) {
-        // Of several holders nobody can say for which it would be claimed.
         if (!record.claimed && number <= highest_com_number && record.holders.size() == 1 &&
             model.IsPresent(holder)) {
             found.push_back(model.About(holder));
@@ -135,14 +135,14 @@ void FindOrphanLines(const Model& model, Found& found) {
 }
 
 void FindMisreadLines(const Model& model, Found& found) {
-    ForEachPort(model, [&](unsigned long, const NumberRecord& record, std::size_t holder) {
+    for (const auto& [number, record] : model.records.numbers) {
         for (const std::string& line : record.lines) {
-            if (const std::string misread = Misread(line); !misread.empty()) {
-                found.push_back(model.About(holder));
-                found.back().what = "in " + Quoted(line) + ", " + misread;
+            if (const std::string misread = Misread(line); !misread.empty() && !record.holders.empty()) {
+                found.push_back(model.About(record.holders.front()));
+                found.back().what = "of " + Quoted(line) + ", " + misread;
             }
         }
-    });
+    }
 }
 
 void FindOpenPorts(const Model& model, Found& found) {

@@ -21,8 +21,12 @@ constexpr const char* unknown = "not known";
 
 // The texts, each with a word if it is not the wanted one; `none` if there are none.
 std::string Joined(const Lines& texts, const std::string* wanted, const char* none) {
+    constexpr std::ptrdiff_t most = 8; // an export may hold any number for each port
     std::string joined;
     for (const std::string& text : texts) {
+        if (&text - texts.data() == most) {
+            return joined + ", …";
+        }
         joined += (joined.empty() ? "" : ", ") + Escaped(text) +
                   (wanted != nullptr && Folded(text) == Folded(*wanted) ? "" : differs);
     }
@@ -50,7 +54,7 @@ PortCells RowOf(const Records& records, const DeviceRecord& device) {
             known(SettingsPlace, record.lines.empty() ? "none" : Quoted(record.lines.front()))};
 }
 
-// A row for each port, below the port_headings.
+// A row for each port, below the headings.
 std::vector<PortCells> RowsOf(const Records& records) {
     std::vector<PortCells> rows{{}};
     std::ranges::copy(port_headings, rows.front().begin());

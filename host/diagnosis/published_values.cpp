@@ -10,7 +10,7 @@ namespace {
 using Values = std::span<const PublishedValue>;
 
 constexpr std::size_t number = 4, address = 8, text = 128;
-// A port with a longer name has no page of its own.
+// The page of a port with a longer name only says so.
 constexpr std::size_t port_name = 40;
 
 constexpr PublishedValue board_identity[] = {{"BoardPciBusNumber", number}, {"BoardIrq", number}};

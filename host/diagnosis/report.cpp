@@ -83,8 +83,8 @@ void AddGroup(Lines& lines, const Group& group) {
 
 void AddMissing(Lines& lines, unsigned known) {
     for (const MissingPlace& missing : MissingPlaces(known)) {
-        Add(lines, std::string{"Not checked, because nothing is known of it: "} + missing.name +
-                       ". To know it, export");
+        Add(lines, std::string{"Nothing is known of "} + missing.name +
+                       ", so some things were not checked. Export this too:");
         lines.push_back(indent + std::string{missing.key});
     }
 }
@@ -174,9 +174,9 @@ Lines DiagnosisLines(const Records& records, const std::vector<Finding>& finding
         AddGroup(lines, group);
     }
     if (std::ranges::any_of(findings, &Finding::safe)) {
-        Add(lines, "The command mend does all of these that need no look at the machine, and patch FILE "
-                   "makes a file "
-                   "of them to import.");
+        Add(lines,
+            "The command mend does all that is safe to do from here, and patch FILE makes a file of it "
+            "for the machine to import.");
     }
     AddMissing(lines, records.known);
     if (const std::string sound = SoundLine(records, SoundOf(records, findings)); !sound.empty()) {

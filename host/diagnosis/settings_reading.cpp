@@ -47,7 +47,8 @@ std::string_view TakeField(std::string_view& rest) {
 }
 
 std::string Wrong(const std::string& name, std::string_view field, std::string_view shown) {
-    return Quoted(field) + " is no " + name + ", the page shows " + std::string{shown};
+    return "the " + name + " is " + Quoted(field) + ", which the page does not know: it shows " +
+           std::string{shown};
 }
 
 // The page searches its list for the first speed that begins with the text.
@@ -64,7 +65,7 @@ std::string MisreadSpeed(std::string_view field) {
 
 std::string Misread(std::string_view line) {
     if (line.size() > longest_line) {
-        return "it has more than " + std::to_string(longest_line) + " characters, the page ignores the rest";
+        return "the page ignores what follows " + std::to_string(longest_line) + " characters";
     }
     std::string_view rest = Trimmed(line);
     if (rest.empty()) {

@@ -79,62 +79,50 @@ void Report(Session& session, const Words& words) {
     session.Tell(words.back() + " is written");
 }
 
-void FreeNow(Session& session, unsigned long number) {
+void FreeIn(Session& session, const Records& records, const Words& words) {
+    const unsigned long number = NumberOf(words[1]);
+    Heed("freed", AgainstFreeing(records, number), IsOverruled(words));
     std::string error;
     Must(ReleaseNumber(number, error), error);
     session.Tell(ComName(number) + ": freed in the COM port database");
 }
 
-void ClaimNow(Session& session, unsigned long number) {
+void ClaimIn(Session& session, const Records& records, const Words& words) {
+    const unsigned long number = NumberOf(words[1]);
+    Heed("claimed", AgainstClaiming(records, number), IsOverruled(words));
     std::string error;
     Must(ClaimNumber(number, error), error);
     session.Tell(ComName(number) + ": claimed in the COM port database");
 }
 
-void ForgetNow(Session& session, const std::string& key) {
-    std::string error;
-    Must(ForgetLine(key, error), error);
-    session.Tell(key + " forgotten");
-}
-
-void Free(Session& session, const Words& words) {
-    const unsigned long number = NumberOf(words[1]);
-    Heed("freed", AgainstFreeing(session.world().Describe(), number), IsOverruled(words));
-    FreeNow(session, number);
-}
-
-void Claim(Session& session, const Words& words) {
-    const unsigned long number = NumberOf(words[1]);
-    Heed("claimed", AgainstClaiming(session.world().Describe(), number), IsOverruled(words));
-    ClaimNow(session, number);
-}
-
-void Forget(Session& session, const Words& words) {
-    const Records records = session.world().Describe();
+void ForgetIn(Session& session, const Records& records, const Words& words) {
     const std::string key = LineKey(records, words[1]);
     if (key.empty()) {
         throw Refusal("there is no settings line " + Quoted(words[1]));
     }
     Heed("forgotten", AgainstForgetting(records, key), IsOverruled(words));
-    ForgetNow(session, key);
+    std::string error;
+    Must(ForgetLine(key, error), error);
+    session.Tell(key + " forgotten");
 }
 
-// What is safe has nothing against it, and one of them is not in the way of another: the machine is looked at
-// once.
+template <auto In> void Now(Session& session, const Words& words) {
+    In(session, session.world().Describe(), words);
+}
+
+// The machine is described once, however many findings it has: each is about something of its own.
 void Mend(Session& session, const Words&) {
+    constexpr std::pair<std::string_view, decltype(&FreeIn)> menders[] = {
+        {"free", FreeIn}, {"claim", ClaimIn}, {"forget", ForgetIn}};
+    const Records records = session.world().Describe();
     bool is_mended = false;
-    for (const Finding& finding : host::Diagnose(session.world().Describe())) {
-        if (!finding.safe) {
-            continue;
-        }
-        is_mended = true;
-        const std::string_view command = finding.command;
-        if (command.starts_with("free")) {
-            FreeNow(session, finding.subject.number);
-        } else if (command.starts_with("claim")) {
-            ClaimNow(session, finding.subject.number);
-        } else {
-            ForgetNow(session, finding.subject.key);
+    for (const Finding& finding : host::Diagnose(records)) {
+        if (finding.safe) {
+            Words words;
+            SplitWords(finding.command, words);
+            std::ranges::find(menders, words[0], &std::pair<std::string_view, decltype(&FreeIn)>::first)
+                ->second(session, records, words);
+            is_mended = true;
         }
     }
     if (!is_mended) {
@@ -207,9 +195,9 @@ std::span<const Command> MendingCommands() {
         {"board", "DEVICE", "shows a board's channels with number, interface and FIFO levels", &Board},
         {"report", "[--over] FILE", "writes all that is known and wrong as an HTML file for a ticket",
          &Report},
-        {"free", "NUMBER [--even-so]", "takes a number from the COM port database", &Free},
-        {"claim", "NUMBER [--even-so]", "marks a number as in use there", &Claim},
-        {"forget", "LINE [--even-so]", "deletes a settings line, such as COM44:", &Forget},
+        {"free", "NUMBER [--even-so]", "takes a number from the COM port database", &Now<FreeIn>},
+        {"claim", "NUMBER [--even-so]", "marks a number as in use there", &Now<ClaimIn>},
+        {"forget", "LINE [--even-so]", "deletes a settings line, such as COM44:", &Now<ForgetIn>},
         {"mend", "", "mends all that diagnose calls safe to mend", &Mend},
         {"changes", "", "lists what differs from the machine as it was read", &Changes},
         {"undo", "", "undoes the last action that changed something", &Undo},
