@@ -26,6 +26,8 @@ std::string AsWord(const std::string& text) {
     return text.find(' ') == std::string::npos ? text : '"' + text + '"';
 }
 
+constexpr std::size_t mark_columns = 2; // before a line that stands for something; a table has blanks there
+
 constexpr const char* nothing_changed = "nothing has been changed";
 constexpr const char* nothing_traced = "nothing has been traced yet";
 
@@ -244,7 +246,8 @@ std::vector<Paragraph> FullScreen::Board(const std::string& device) {
     }
     std::vector<Paragraph> paragraphs = {{{table.heading}, {}}};
     for (const BoardTable::Row& row : table.rows) {
-        paragraphs.push_back({{row.line}, row.listed != 0 ? "open " + std::to_string(row.listed) : ""});
+        paragraphs.push_back(
+            {{row.line.substr(mark_columns)}, row.listed != 0 ? "open " + std::to_string(row.listed) : ""});
     }
     return paragraphs;
 }
