@@ -26,6 +26,8 @@ std::string AsWord(const std::string& text) {
     return text.find(' ') == std::string::npos ? text : '"' + text + '"';
 }
 
+constexpr std::size_t mark_columns = 2; // before a line that stands for something; a table has blanks there
+
 constexpr const char* nothing_changed = "nothing has been changed";
 constexpr const char* nothing_traced = "nothing has been traced yet";
 
@@ -245,7 +247,9 @@ std::vector<Paragraph> FullScreen::Board(const std::string& device) {
     std::vector<Paragraph> paragraphs;
     for (std::size_t row = 0; row < table.lines.size(); ++row) {
         const std::size_t listed = table.listed[row];
-        paragraphs.push_back({{table.lines[row]}, listed != 0 ? "open " + std::to_string(listed) : ""});
+        // The view marks what can be chosen in the columns that the table leaves free, but not the headings.
+        paragraphs.push_back({{row == 0 ? table.lines[row] : table.lines[row].substr(mark_columns)},
+                              listed != 0 ? "open " + std::to_string(listed) : ""});
     }
     return paragraphs;
 }
