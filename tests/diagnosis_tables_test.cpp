@@ -153,7 +153,7 @@ TEST(DiagnosisTables, SettingsLinesAreReadAsThePageReadsThem) {
     for (const char* const line : {"9600", "9600,n,8,1,x,more", ",", "9600,e,7,2 ,x  "}) {
         EXPECT_EQ(disagreement(line), "");
     }
-    Check(300, 100, [&] {
+    Check(100, 100, [&] {
         std::string line = *rc::gen::elementOf(speeds);
         for (const auto* const list : {&parities, &bits, &stops, &flows}) {
             line += ',' + *rc::gen::elementOf(*list);

@@ -204,6 +204,12 @@ class Report(unittest.TestCase):
         self.check_findings(page, "many.reg")
         self.assertIn("The first 500 of 10000.", page.texts("p"))
 
+    @unittest.skipUnless("KVR_LONG" in os.environ, "a browser is there only in long runs")
+    def test_a_browser_shows_it(self):
+        picture = self.folder / "report.png"
+        subprocess.run([sys.executable, ROOT / "tests/report_picture.py", HOST, picture], check=True)
+        self.assertGreater(picture.stat().st_size, 20_000)
+
     def test_its_colours_can_be_told_apart_in_both_schemes(self):
         self.report(SAMPLE)
         style = (self.folder / "report.html").read_text().split("<style>")[1].split("</style>")[0]

@@ -30,7 +30,7 @@ constexpr const char* style = R"(</title>
 <style>
 :root { color-scheme: light dark; --ink: #1b1f24; --ground: #ffffff; --soft: #f1f3f5; --line: #8a929c; --bad: #a3121f; --ok: #14532d; }
 @media (prefers-color-scheme: dark) { :root { --ink: #e6e9ec; --ground: #16191d; --soft: #23282e; --line: #79828d; --bad: #ff9a9a; --ok: #86e0a5; } }
-body { font: 16px/1.5 sans-serif; color: var(--ink); background: var(--ground); max-width: 60rem; margin: 0 auto; padding: 1rem; overflow-wrap: anywhere; }
+body { font: 16px/1.5 sans-serif; color: var(--ink); background: var(--ground); max-width: 60rem; margin: 0 auto; padding: 1rem; overflow-wrap: break-word; }
 h1 { font-size: 1.5rem; } h2 { font-size: 1.2rem; margin-top: 2rem; } h3 { font-size: 1rem; }
 table { border-collapse: collapse; } th, td { border: 1px solid var(--line); padding: .2rem .5rem; text-align: left; vertical-align: top; }
 th { background: var(--soft); } caption { text-align: left; font-weight: bold; padding: .3rem 0; }
@@ -38,7 +38,7 @@ th { background: var(--soft); } caption { text-align: left; font-weight: bold; p
 .serious { color: var(--bad); font-weight: bold; } .minor { font-weight: bold; } svg { max-width: 100%; height: auto; }
 svg rect { fill: var(--ground); stroke: var(--line); } svg text { fill: var(--ink); font: 13px monospace; text-anchor: middle; }
 svg .live { fill: var(--soft); } svg .conflict { stroke: var(--bad); stroke-width: 3; } svg .free { stroke-dasharray: 2 2; }
-@media print { :root { --ink: #000; --ground: #fff; --soft: #fff; --line: #000; --bad: #000; --ok: #000; } h2 { break-after: avoid; } tr { break-inside: avoid; } }
+@media print { :root { --ink: #000; --ground: #fff; --soft: #fff; --line: #000; --bad: #000; --ok: #000; } table { font-size: 11px; } .wide { overflow: visible; } h2, caption { break-after: avoid; } tr, svg { break-inside: avoid; } }
 </style>
 </head>
 <body>

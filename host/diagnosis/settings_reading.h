@@ -8,7 +8,8 @@
 namespace host {
 
 // The first part of a line that a page would show differently from what is written, and what it shows
-// instead: `the speed is "1000000", which the page does not know: it shows 75`. Empty if the page shows the line as it is written.
+// instead: `the speed is "1000000", which the page does not know: it shows 75`. Empty if the page shows the
+// line as it is written.
 std::string Misread(std::string_view line);
 
 } // namespace host

@@ -198,7 +198,7 @@ std::span<const Command> MendingCommands() {
         {"free", "NUMBER [--even-so]", "takes a number from the COM port database", &Now<FreeIn>},
         {"claim", "NUMBER [--even-so]", "marks a number as in use there", &Now<ClaimIn>},
         {"forget", "LINE [--even-so]", "deletes a settings line, such as COM44:", &Now<ForgetIn>},
-        {"mend", "", "mends all that diagnose calls safe to mend", &Mend},
+        {"mend", "", "mends all that is safe without a look at the machine", &Mend},
         {"changes", "", "lists what differs from the machine as it was read", &Changes},
         {"undo", "", "undoes the last action that changed something", &Undo},
         {"reload", "", "goes back to the machine as it was read", &Reload},

@@ -46,7 +46,7 @@ def patch_goes_there_and_back(prefix):
     prefix.import_file(prefix.programs / "fix-undo.reg")
     after = told(prefix)
     for text, wanted in ((before, True), (mended, False), (after, True)):
-        for sentence in ("COM9 is in use and nothing is there", "do not ascend"):
+        for sentence in ("> free COM9", "Whoever counts"):
             if (sentence in text) != wanted:
                 print(f"{'missing' if wanted else 'still there'}: {sentence}\n{answer.decode()}\n{text}")
                 return False
