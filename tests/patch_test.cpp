@@ -152,6 +152,14 @@ TEST(Patch, IsSilentAboutPlacesThatAreAsTheyWere) {
 )");
 }
 
+TEST(Patch, HoldsWhatWasWrittenSinceInAPlaceThatWasNotRead) {
+    const Records after = PortOn(u"COM7", {0x40});
+    Records before = after;
+    before.known &= ~static_cast<unsigned>(host::SettingsPlace);
+    before.settings_lines.clear();
+    EXPECT_NE(Patched(before, after).first.find("\n\"COM7:\"=\"9600,n,8,1\"\n"), std::string::npos);
+}
+
 TEST(Patch, IsNotWrittenIfThereIsNothingToWriteOrNoPlaceForIt) {
     const Records before = PortOn(u"COM7", {0x40});
     Records after = before;
