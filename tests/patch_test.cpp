@@ -1,5 +1,6 @@
-// A patch as its reader has it: what it changes, what it leaves out and how that is put right, and the file
-// that takes it back. That it can be applied is among the laws in diagnosis_test.cpp.
+// What differs between two states of a machine, and a patch as its reader has it: what it changes, what it
+// leaves out and how that is put right, and the file that takes it back. That it can be applied is among the
+// laws in diagnosis_test.cpp.
 #include "host/machine_file/patch.h"
 #include "tests/machine_files.h"
 
@@ -36,6 +37,36 @@ std::pair<std::string, std::string> Patched(const Records& before, const Records
     std::string error;
     EXPECT_TRUE(host::WritePatch({before, after, u"SYSTEM\\ControlSet002", "old.reg"}, file, error)) << error;
     return {Lines(ContentOf(file)), Lines(ContentOf(host::UndoPath(file)))};
+}
+
+TEST(Differences, AreThoseOfThePlacesThatAreKnownInBoth) {
+    Records before = PortOn(u"COM7", {0x40}), after = before;
+    before.devices.emplace_back().id = "A\\B\\0";
+    before.devices[1].description = "Other";
+    after.devices[0].present = false;
+    before.devices[0].store = {TextValue(u"A", u"same"), TextValue(u"B", u"x"), TextValue(u"C", u"7")};
+    after.devices[0].store = {
+        TextValue(u"a", u"same"), TextValue(u"B", u"y"), {u"C", REG_BINARY, BytesOf(u"7")}};
+    after.usage = {0x40, 0};
+    after.settings_lines.clear();
+    using Lines = std::vector<std::string>;
+    EXPECT_EQ(
+        host::DifferenceLines(before, after),
+        (Lines{"device: A\\B\\0 (Other), A\\B\\0: gone", "device: device 1 (Port, absent): present -> absent",
+               "device store: device 1 (Port, absent): B: \"x\" -> \"y\"",
+               "device store: device 1 (Port, absent): C: \"7\" -> 37 00 00 00",
+               "settings line: COM7: \"9600,n,8,1\" -> gone"}));
+    after.known &= ~static_cast<unsigned>(host::InterfacesPlace | host::SettingsPlace);
+    EXPECT_EQ(
+        host::DifferenceLines(before, after),
+        (Lines{"device: A\\B\\0 (Other), A\\B\\0: gone", "device store: device 1 (Port): B: \"x\" -> \"y\"",
+               "device store: device 1 (Port): C: \"7\" -> 37 00 00 00",
+               "not compared: the interfaces, which only one of the two holds",
+               "not compared: the settings lines, which only one of the two holds"}));
+    before.known = after.known = host::InterfacesPlace;
+    after.usage = {};
+    after.serial_map.clear();
+    EXPECT_EQ(host::DifferenceLines(before, after), Lines{"nothing differs"});
 }
 
 TEST(Patch, SaysWhatItChangesAndLeavesOut) {
@@ -119,6 +150,14 @@ TEST(Patch, IsSilentAboutPlacesThatAreAsTheyWere) {
 [HKEY_LOCAL_MACHINE\SOFTWARE\Microsoft\Windows NT\CurrentVersion\Ports]
 "COM7:"="300,n,8,1"
 )");
+}
+
+TEST(Patch, HoldsWhatWasWrittenSinceInAPlaceThatWasNotRead) {
+    const Records after = PortOn(u"COM7", {0x40});
+    Records before = after;
+    before.known &= ~static_cast<unsigned>(host::SettingsPlace);
+    before.settings_lines.clear();
+    EXPECT_NE(Patched(before, after).first.find("\n\"COM7:\"=\"9600,n,8,1\"\n"), std::string::npos);
 }
 
 TEST(Patch, IsNotWrittenIfThereIsNothingToWriteOrNoPlaceForIt) {
