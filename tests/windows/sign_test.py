@@ -13,7 +13,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 
 PROGRAMS = {"kvrpagex64.dll", "kvrhost.exe", "kvrbench.exe"}
 INFS = {f"{form}/{inf}.inf" for form in ("desktop", "isolated") for inf in ("kvrboard", "kvrports")}
-TEXTS = INFS | {"packaging.md", "device_store.md", "service.md", "CHANGELOG.md", "sample.reg"}
+TEXTS = INFS | {"packaging.md", "device_store.md", "service.md", "formats.md", "CHANGELOG.md", "sample.reg"}
 
 
 def identity(symbols):
