@@ -163,7 +163,7 @@ TEST(Diagnosis, NamesThePlacesItDependsOn) {
     EXPECT_EQ(lines.front(), "One thing is wrong: 1 serious.");
     EXPECT_EQ(std::ranges::count(lines, "    HKEY_LOCAL_MACHINE\\HARDWARE\\DEVICEMAP\\SERIALCOMM"), 1);
     EXPECT_EQ(lines.back(), "In order as far as was checked: COM 1, 4; device 1 (Multi-function board).");
-    for (const std::string& line : host::NumberLines(records, 13)) {
+    for (const std::string& line : host::NumberLines(records, host::Diagnose(records), 13)) {
         EXPECT_LE(line.size(), 80u) << line;
     }
 }

@@ -123,7 +123,7 @@ class Terminals(unittest.TestCase):
             print(f"Esc takes {statistics.median(escapes):.0f} ms, 95 % of the other keys {sorted(others)[len(others) * 95 // 100]:.0f} ms")
             self.assertLess(sorted(escapes)[len(escapes) // 4], 50)  # as other tests run at the same time
             for key, each in times.items():
-                self.assertLess(sorted(each)[len(each) // 4], 20, key)
+                self.assertLess(sorted(each)[len(each) // 4], 60 if SANITIZED else 20, key)
             terminal.see("esc")
             open_board(terminal)
             terminal.press("esc")
@@ -132,6 +132,7 @@ class Terminals(unittest.TestCase):
 
 
 HOST = str(pathlib.Path(sys.argv.pop(1)).resolve())
+SANITIZED = b"__asan_init" in pathlib.Path(HOST).read_bytes()
 
 if __name__ == "__main__":
     unittest.main()

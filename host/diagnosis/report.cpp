@@ -212,7 +212,7 @@ nlohmann::ordered_json DiagnosisJson(const Records& records, const std::vector<F
     return list;
 }
 
-Lines NumberLines(const Records& records, unsigned long number) {
+Lines NumberLines(const Records& records, const std::vector<Finding>& findings, unsigned long number) {
     const NumberRecord& record = NumberIn(records, number);
     Lines devices, objects, targets, settings;
     for (const std::size_t holder : record.holders) {
@@ -247,7 +247,7 @@ Lines NumberLines(const Records& records, unsigned long number) {
     place("serial map", SerialMapPlace, objects);
     place("DOS name", records.dos_names_derived ? SerialMapPlace : 0u, targets);
     place("settings line", SettingsPlace, settings);
-    const std::vector<Finding> own = FindingsOf(Diagnose(records), number, records);
+    const std::vector<Finding> own = FindingsOf(findings, number, records);
     for (const Finding& finding : own) {
         std::ranges::copy(FindingLines(finding), std::back_inserter(lines));
     }

@@ -31,7 +31,8 @@ nlohmann::ordered_json DiagnosisJson(const Records& records, const std::vector<F
 // One finding with what follows from it and what mends it.
 std::vector<std::string> FindingLines(const Finding& finding);
 
-// All that is known about one number, place by place.
-std::vector<std::string> NumberLines(const Records& records, unsigned long number);
+// All that is known about one number, place by place, and what of the findings concerns it.
+std::vector<std::string> NumberLines(const Records& records, const std::vector<Finding>& findings,
+                                     unsigned long number);
 
 } // namespace host

@@ -43,7 +43,7 @@ std::string NumbersView::Title() const {
 }
 
 void NumbersView::Draw(Canvas& canvas, const Cells& within) {
-    const Lines told = NumberLines(records_, static_cast<unsigned long>(number_));
+    const Lines told = NumberLines(records_, findings_, static_cast<unsigned long>(number_));
     const Lines map = NumberMapLines(records_, within.columns);
     const int map_rows = all / across, below = 4; // of what is told
     const bool has_legend = within.rows >= static_cast<int>(map.size()) - map_rows + below + below;
@@ -135,7 +135,7 @@ bool NumbersView::Find(const std::string& text) {
     for (int step = 1; step <= all; ++step) {
         const int number = (number_ - 1 + step) % all + 1;
         const auto asked = static_cast<unsigned long>(number);
-        const Lines told = NumberLines(records_, asked);
+        const Lines told = NumberLines(records_, findings_, asked);
         if (Folded(ComName(asked)) == wanted || std::to_string(number) == wanted ||
             (records_.numbers.contains(asked) && std::ranges::any_of(told, [&](const std::string& line) {
                  return Folded(line).find(wanted) != std::string::npos;

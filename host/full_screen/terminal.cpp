@@ -196,17 +196,24 @@ int Terminal::rows() const {
 
 void Terminal::Show(const Canvas& canvas) {
     erase();
+    const int columns = std::min(COLS, canvas.columns());
     for (int row = 0; row < std::min(LINES, canvas.rows()); ++row) {
-        for (int column = 0; column < std::min(COLS, canvas.columns()); ++column) {
-            const auto& [glyph, look] = canvas.At(row, column);
-            if (glyph.empty() || (glyph == " " && look == Look{})) {
-                continue;
+        for (int column = 0; column < columns;) {
+            // Cells of one look are written together, but none behind a character of which the terminal may
+            // think that it is wider or narrower.
+            const int first = column;
+            const Look& look = canvas.At(row, first).look;
+            std::string run;
+            for (bool is_plain = true; is_plain && column < columns && canvas.At(row, column).look == look;
+                 ++column) {
+                const std::string& glyph = canvas.At(row, column).glyph;
+                is_plain = glyph.size() == 1 || GlyphIn(Charset::Ascii, glyph) != glyph;
+                run += GlyphIn(charset_, glyph);
             }
             attr_set((look.reversed ? A_REVERSE : A_NORMAL) | (look.bold ? A_BOLD : A_NORMAL) |
                          (look.dim ? A_DIM : A_NORMAL) | (look.underlined ? A_UNDERLINE : A_NORMAL),
                      has_colors() ? static_cast<short>(look.colour) : 0, nullptr);
-            const std::string_view shown = GlyphIn(charset_, glyph);
-            mvaddnstr(row, column, shown.data(), static_cast<int>(shown.size()));
+            mvaddnstr(row, first, run.data(), static_cast<int>(run.size()));
         }
     }
     attr_set(A_NORMAL, 0, nullptr);

@@ -56,7 +56,8 @@ void Diagnose(Session& session, const Words&) {
 }
 
 void Why(Session& session, const Words& words) {
-    session.Tell(NumberLines(session.world().Describe(), NumberOf(words[1])));
+    const Records records = session.world().Describe();
+    session.Tell(NumberLines(records, host::Diagnose(records), NumberOf(words[1])));
 }
 
 void Numbers(Session& session, const Words&) {

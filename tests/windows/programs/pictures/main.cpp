@@ -80,7 +80,8 @@ void Press(HWND window, int button) {
     SendMessageW(GetDlgItem(window, button), BM_CLICK, 0, 0);
 }
 
-void TakePictures(host::World& world, const host::DeviceRecord& device, int page_dialog, int advanced_dialog) {
+void TakePictures(host::World& world, const host::DeviceRecord& device, int page_dialog,
+                  int advanced_dialog) {
     std::set<HWND> seen;
     world.RunSheet(device.id, [&](HWND front) {
         const HWND page = PageOf(front);
