@@ -24,7 +24,7 @@ using Json = nlohmann::ordered_json;
 constexpr int json_version = 1; // of what the programs that read it rely on
 
 // Invalid UTF-8 becomes U+FFFD.
-void WriteJson(Json document) {
+void WriteJson(const Json& document) {
     Json versioned = {{"version", json_version}};
     versioned.update(document);
     std::cout << versioned.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
@@ -98,7 +98,7 @@ int DiagnoseSeveral(const std::vector<std::string>& files, bool json) {
         }
     }
     if (json) {
-        WriteJson(std::move(list));
+        WriteJson(list);
     }
     return machines.front().status;
 }
@@ -161,7 +161,7 @@ int Diff(const std::string& before, const std::string& after, bool json) {
         for (const MissingPlace& missing : NotCompared(records[0], records[1])) {
             list["notCompared"].push_back(missing.json);
         }
-        WriteJson(std::move(list));
+        WriteJson(list);
     } else {
         Write(DifferenceLines(records[0], records[1]));
     }

@@ -98,7 +98,7 @@ TEST(Placement, EveryDialogOfEveryLanguageFitsASmallTerminal) {
                 for (const auto& [columns, rows] : {std::pair{80, 23}, {120, 40}, {200, 59}}) {
                     ExpectToFit(host::ReadWindow(front, false), columns, rows);
                 }
-                if (std::ranges::count(std::array{1025, 1031, 1041, 1054}, catalogue->language)) {
+                if (std::ranges::count(std::array{1025, 1031, 1041, 1054}, catalogue->language) != 0) {
                     ExpectFocusInSight(host::ReadWindow(front, false));
                 }
                 constexpr int prompt = 80 - 3; // with what stands before a picture

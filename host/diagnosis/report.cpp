@@ -48,7 +48,8 @@ std::vector<Group> GroupsOf(const std::vector<Finding>& findings) {
 
 // "COM9, COM10 and COM33 are": the sentence of a group, made from that of its first finding.
 std::string SentenceOf(const Group& group) {
-    const std::string sentence = Escaped(group.first->sentence), first = ComName(group.numbers.front());
+    std::string sentence = Escaped(group.first->sentence);
+    const std::string first = ComName(group.numbers.front());
     if (group.numbers.size() == 1 || !sentence.starts_with(first + " is ")) {
         return sentence;
     }

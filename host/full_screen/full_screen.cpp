@@ -311,8 +311,8 @@ std::optional<std::string> FullScreen::AskLine(const std::string& label, std::st
             return text;
         }
         if (is_command && (key.code == VK_UP || key.code == VK_DOWN)) {
-            recalled =
-                key.code == VK_UP ? recalled - (recalled != 0) : std::min(recalled + 1, commands_.size());
+            recalled = key.code == VK_UP ? std::max<std::size_t>(recalled, 1) - 1
+                                         : std::min(recalled + 1, commands_.size());
             line = FromUtf8(recalled < commands_.size() ? commands_[recalled] : "");
             cursor = line.size();
         } else if (is_command && key.code == VK_TAB) {
@@ -324,7 +324,7 @@ std::optional<std::string> FullScreen::AskLine(const std::string& label, std::st
                 message_ += (message_.empty() ? "" : "  ") + Escaped(candidate);
             }
         } else if (key.code == VK_LEFT) {
-            cursor -= cursor != 0;
+            cursor = std::max<std::size_t>(cursor, 1) - 1;
         } else if (key.code == VK_RIGHT) {
             cursor = std::min(cursor + 1, line.size());
         } else if (key.code == VK_HOME) {
