@@ -227,4 +227,8 @@ bool SplitWords(std::string_view line, std::vector<std::string>& words) {
     return !in_quotes;
 }
 
+std::string AsWord(const std::string& text) {
+    return text.find(' ') == std::string::npos ? text : '"' + text + '"';
+}
+
 } // namespace host

@@ -55,5 +55,7 @@ std::string Nearest(std::string_view word, const std::vector<std::string>& candi
 // The words of a line, separated by blanks; "..." keeps the blanks between the quotes. False if a quote is
 // not closed, and then it ends with the line.
 bool SplitWords(std::string_view line, std::vector<std::string>& words);
+// The text as one of them.
+std::string AsWord(const std::string& text);
 
 } // namespace host

@@ -18,6 +18,13 @@
 
 namespace host {
 
+// Keys with Ctrl that do the same everywhere.
+constexpr char leave = 'C', save = 'S', numbers = 'N', board = 'B';
+
+// What the journal and the trace say while they are empty.
+constexpr const char* nothing_changed = "nothing has been changed";
+constexpr const char* nothing_traced = "nothing has been traced yet";
+
 class FullScreen : public Seat {
 public:
     // The terminal must be one that can be filled.

@@ -18,6 +18,10 @@ Event OfControl(char letter) {
     return event;
 }
 
+bool IsControl(const Event& event, char letter) {
+    return event.kind == Event::Kind::Control && event.key.letter == static_cast<WCHAR>(letter);
+}
+
 Event OfCode(UINT code) {
     Event event;
     event.kind = Event::Kind::Key;

@@ -19,6 +19,7 @@ struct Hint {
 // The events of keys, for hints.
 Event OfFunction(int number);
 Event OfControl(char letter);
+bool IsControl(const Event& event, char letter);
 Event OfCode(UINT code);
 Event OfLetter(WCHAR letter);
 
