@@ -45,7 +45,6 @@ public:
     void End();
     // Ends whatever is not saved.
     void Abandon() { ending_ = true; }
-    bool IsEnding() const { return ending_; }
 
     // --- The machine
 
