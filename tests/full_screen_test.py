@@ -214,22 +214,26 @@ class FullScreen(unittest.TestCase):
         self.assertEqual((finished, status), (terminal.child.pid, signal.SIGHUP))
 
     def test_a_key_costs_little(self):
-        """On a board with 256 ports."""
+        """On a board with 256 ports not much more than on one with 8, however fast the machine is."""
         with tempfile.TemporaryDirectory() as folder:
             machine = pathlib.Path(folder, "large.reg")
             machine.write_text(large_machine())
-            with Terminal(HOST, str(machine)) as terminal:
-                terminal.wait("Devices")
-                terminal.see("enter", "end")
-                terminal.wait("> COM256 (port256)")
-                terminal.see("home")
-                before = processor_time(terminal.child.pid)
-                keys = ("down", "down", "down", "tab", "backtab") * 8
-                for key in keys:
-                    terminal.see(key)
-                each = (processor_time(terminal.child.pid) - before) / len(keys) / 3  # each key is followed by two repaints
-                print(f"a picture costs {each * 1000:.1f} ms of the processor")
-                self.assertLess(each, 0.02)
+            few, many = picture_costs(), picture_costs(str(machine))
+            print(f"a picture costs {few * 1000:.1f} ms of the processor, and {many * 1000:.1f} with 256 ports")
+            self.assertLess(many, 3 * few)
+
+
+def picture_costs(*machine):
+    with Terminal(HOST, *machine) as terminal:
+        terminal.wait("Devices")
+        terminal.see("enter", "end")
+        terminal.wait("> COM256 (port256)" if machine else "> CAN (port13)")
+        terminal.see("home")
+        before = processor_time(terminal.child.pid)
+        keys = ("down", "down", "down", "tab", "backtab") * 8
+        for key in keys:
+            terminal.see(key)
+        return (processor_time(terminal.child.pid) - before) / len(keys) / 3  # each key is followed by two repaints
 
 
 def processor_time(process):
