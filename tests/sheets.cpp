@@ -5,9 +5,8 @@
 #include <map>
 #include <sstream>
 
-#include "board_page/board_page_provider.h"
 #include "host/screen/hand.h"
-#include "uart_page/uart_page_provider.h"
+#include "host/worlds/simulated/world.h"
 
 namespace sheets {
 namespace {
@@ -99,8 +98,7 @@ std::string Open(Page page, std::size_t device, const User& user, const Request&
     const machines::OpenDevice opened(device);
     SP_DEVINFO_DATA data = opened.data;
     SP_PROPSHEETPAGE_REQUEST asked = {sizeof asked, request.page_requested, opened.set, &data};
-    const auto provider = page == Page::Board ? KvrBoardPropPageProvider : KvrUartPropPageProvider;
-    const bool provided = provider(&asked, Take, reinterpret_cast<LPARAM>(&shelf)) != FALSE;
+    const bool provided = host::ProviderOf(page)(&asked, Take, reinterpret_cast<LPARAM>(&shelf)) != FALSE;
     const sim::Text title = u"Properties of " + machines::PlacesOf(machine, device).port_name;
     const bool accepted = !shelf.pages.empty() && sim::RunSheet(title, shelf.pages);
     machine.user = nullptr;

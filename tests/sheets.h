@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "host/worlds/records.h"
 #include "resources/resource_ids.h"
 #include "tests/at_work.h"
 
@@ -25,7 +26,7 @@ inline const Fault no_fault = [](sim::Machine&) {};
 inline constexpr WPARAM ok = PSBTN_OK;
 inline constexpr WPARAM cancel = PSBTN_CANCEL;
 
-enum class Page { Board, Port };
+using Page = host::Role;
 
 // A language that a test makes up. No real one has this number.
 constexpr LANGID made_up_language = 0x03F0;

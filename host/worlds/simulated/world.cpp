@@ -59,6 +59,10 @@ std::string JournalLine(const sim::JournalEntry& entry) {
 
 } // namespace
 
+PageProvider ProviderOf(Role role) {
+    return role == Role::Board ? KvrBoardPropPageProvider : KvrUartPropPageProvider;
+}
+
 SimulatedWorld::SimulatedWorld(MachineFile file, sim::Machine& machine)
     : file_(std::move(file)), machine_(machine), scope_(machine) {
     GiveMachine(file_, machine_);
@@ -143,8 +147,7 @@ bool SimulatedWorld::RunSheet(const std::string& id, const std::function<void(HW
         sim::OpenDeviceSet(static_cast<std::size_t>(device - machine_.devices.begin()), data);
     SP_PROPSHEETPAGE_REQUEST request{sizeof request, SPPSR_ENUM_ADV_DEVICE_PROPERTIES, set, &data};
     std::vector<HPROPSHEETPAGE> pages;
-    const auto provider = *role == Role::Board ? KvrBoardPropPageProvider : KvrUartPropPageProvider;
-    provider(&request, AddPage, reinterpret_cast<LPARAM>(&pages));
+    ProviderOf (*role)(&request, AddPage, reinterpret_cast<LPARAM>(&pages));
     if (!pages.empty()) {
         const sim::Text name =
             device->friendly_name.value_or(device->description.value_or(device->instance_id));

@@ -15,7 +15,7 @@
 #include "host/screen/keyboard.h"
 #include "host/screen/screen.h"
 #include "resources/resource_ids.h"
-#include "tests/windows/programs/first_device.h"
+#include "tests/windows/programs/sheets.h"
 
 namespace {
 
@@ -177,10 +177,8 @@ int main(int argc, char** argv) {
             std::printf("%s\n", error.c_str());
             return 2;
         }
-        for (const auto& [kind, page, advanced] :
-             {std::tuple{host::Role::Board, IDD_PORT_CONTROL, IDD_ADVANCED_PORT_CONTROL},
-              {host::Role::Port, IDD_PORT_SETTINGS, IDD_ADVANCED_PORT_SETTINGS}}) {
-            const std::optional<host::DeviceRecord> device = host::FirstDevice(*world, kind);
+        for (const auto& [role, page, advanced] : host::role_sheets) {
+            const std::optional<host::DeviceRecord> device = host::FirstDevice(*world, role);
             std::set<HWND> seen;
             const auto attend = [&, page = page, advanced = advanced](HWND front) {
                 if (!seen.insert(front).second) {

@@ -10,7 +10,7 @@
 #include <string>
 #include <utility>
 
-#include "tests/windows/programs/first_device.h"
+#include "tests/windows/programs/sheets.h"
 
 namespace {
 

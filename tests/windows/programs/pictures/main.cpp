@@ -12,7 +12,7 @@
 #include <string>
 
 #include "resources/resource_ids.h"
-#include "tests/windows/programs/first_device.h"
+#include "tests/windows/programs/sheets.h"
 
 namespace {
 
@@ -96,12 +96,6 @@ void TakePictures(host::World& world, const host::DeviceRecord& device, int page
     });
 }
 
-constexpr struct {
-    host::Role kind;
-    int page, advanced;
-} sheets[] = {{host::Role::Board, IDD_PORT_CONTROL, IDD_ADVANCED_PORT_CONTROL},
-              {host::Role::Port, IDD_PORT_SETTINGS, IDD_ADVANCED_PORT_SETTINGS}};
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -114,8 +108,8 @@ int main(int argc, char** argv) {
             std::printf("%s\n", error.c_str());
             return 2;
         }
-        for (const auto& [kind, page, advanced] : sheets) {
-            if (const std::optional<host::DeviceRecord> device = host::FirstDevice(*world, kind)) {
+        for (const auto& [role, page, advanced] : host::role_sheets) {
+            if (const std::optional<host::DeviceRecord> device = host::FirstDevice(*world, role)) {
                 TakePictures(*world, *device, page, advanced);
             }
         }

@@ -1,4 +1,4 @@
-#include "tests/windows/programs/first_device.h"
+#include "tests/windows/programs/sheets.h"
 
 #include <algorithm>
 
