@@ -8,8 +8,12 @@ namespace host {
 namespace {
 
 // By state.
-constexpr StateSign signs[] = {{'?', "not known"},       {'.', "free"},           {'c', "claimed, no device"},
-                               {'a', "absent device's"}, {'p', "port, not live"}, {'L', "live"},
+constexpr StateSign signs[] = {{'?', "not known"},
+                               {'.', "free"},
+                               {'c', "claimed, no device"},
+                               {'a', "of an absent device"},
+                               {'p', "port, not live"},
+                               {'L', "live"},
                                {'!', "conflict"}};
 
 } // namespace

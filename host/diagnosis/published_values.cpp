@@ -118,7 +118,7 @@ std::string ToldShortly(const std::vector<ValueFault>& faults) {
 
 std::string ModeName(unsigned long mode) {
     const auto* const known = std::ranges::find(modes, mode, &Mode::mode);
-    return known == std::end(modes) ? std::to_string(mode) : known->name;
+    return known == std::end(modes) ? "none (" + std::to_string(mode) + ')' : known->name;
 }
 
 std::optional<unsigned long> NeededBy(unsigned long mode) {
@@ -131,7 +131,7 @@ std::string WhyNoPage(Role role, const StoreValues& store) {
     if (!is_board && !IsChannel(store)) {
         return "it is not a channel of a board";
     }
-    const std::vector<ValueFault> faults = is_board ? BoardFaults(store) : PortFaults(store);
+    const std::vector<ValueFault> faults = is_board ? BoardFaults(store) : FaultsOf(store, {channel_basic});
     if (!faults.empty()) {
         return ToldShortly(faults);
     }

@@ -39,12 +39,13 @@ std::vector<ValueFault> PortFaults(const StoreValues& store);
 // there are.
 std::string ToldShortly(const std::vector<ValueFault>& faults);
 
-// The name of an electrical interface, a UartMode; its number if it is none.
+// The name of an electrical interface, a UartMode; "none" and its number if it is none.
 std::string ModeName(unsigned long mode);
 // The bits of UartCapability that a mode needs; nothing if it is no mode.
 std::optional<unsigned long> NeededBy(unsigned long mode);
 
-// Why the library has no page for a device with a sheet; empty if it has one.
+// Why the library has no page for a device with a sheet; empty if it has one. Of a port whose PortName can't
+// be read the page opens after an error.
 std::string WhyNoPage(Role role, const StoreValues& store);
 // The values of a board or a port that its driver must publish and that can't be read. None for a port that
 // is not a channel of a board.

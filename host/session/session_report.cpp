@@ -5,8 +5,6 @@
 #include <filesystem>
 #include <fstream>
 
-#include <sys/stat.h>
-
 #include "host/diagnosis/html_report.h"
 #include "host/machine_file/differences.h"
 #include "host/session/session.h"
@@ -19,11 +17,14 @@ namespace {
 
 // When a file was last written, in UTC; empty if that can't be said.
 std::string DateOf(const std::string& file) {
-    struct stat facts {};
-    if (stat(file.c_str(), &facts) != 0) {
+    using namespace std::chrono;
+    std::error_code failure;
+    const auto written = std::filesystem::last_write_time(std::filesystem::path(FromUtf8(file)), failure);
+    if (failure) {
         return {};
     }
-    const std::time_t time = facts.st_mtime;
+    const std::time_t time =
+        system_clock::to_time_t(time_point_cast<system_clock::duration>(file_clock::to_sys(written)));
     char text[32];
     std::strftime(text, sizeof text, "%Y-%m-%d %H:%M UTC", std::gmtime(&time));
     return text;
