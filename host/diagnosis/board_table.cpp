@@ -10,14 +10,13 @@
 namespace host {
 namespace {
 
-constexpr std::array<const char*, 8> board_headings = {"channel", "class",   "number",   "interface",
-                                                       "FIFO",    "receive", "transmit", "device"};
-using BoardCells = std::array<std::string, board_headings.size()>;
+constexpr std::array<const char*, std::tuple_size_v<Row>> board_headings = {
+    "channel", "class", "number", "interface", "FIFO", "receive", "transmit", "device"};
 
 // By channel class, from 1.
 constexpr const char* class_names[] = {"UART", "digital I/O", "Mcp251x", "Mcp251xFd", "CAN"};
 
-BoardCells CellsOf(const DeviceRecord& device, const ChannelRecord& channel) {
+Row CellsOf(const DeviceRecord& device, const ChannelRecord& channel) {
     const bool is_uart = channel.channel_class == uart_class;
     const auto number = [&](const char* name) {
         return is_uart && FindValue(device.store, name) != nullptr
@@ -63,20 +62,7 @@ BoardTable TableOfBoard(const Records& records, const DeviceRecord& device) {
         table.cells.push_back(CellsOf(records.devices[channel.device], channel));
         table.listed.push_back(records.devices[channel.device].listed);
     }
-    std::array<int, board_headings.size()> widths{};
-    for (const BoardCells& cells : table.cells) {
-        std::ranges::transform(widths, cells, widths.begin(), [](int width, const std::string& cell) {
-            return std::max(width, Columns(cell));
-        });
-    }
-    for (const BoardCells& cells : table.cells) {
-        std::string line;
-        for (std::size_t column = 0; column < cells.size(); ++column) {
-            line += "  " + PaddedTo(cells[column], widths[column]);
-        }
-        line.resize(line.find_last_not_of(' ') + 1);
-        table.lines.push_back(std::move(line));
-    }
+    table.lines = TableLines(table.cells);
     return table;
 }
 

@@ -10,7 +10,7 @@
 namespace host {
 namespace {
 
-constexpr std::array<const char*, std::tuple_size_v<PortCells>> port_headings = {
+constexpr std::array<const char*, std::tuple_size_v<Row>> port_headings = {
     "device", "channel", "PortName", "friendly", "DOS name", "serial map", "database", "settings line"};
 constexpr std::size_t dos_names = 4; // the column that is left out if room is short
 using Lines = std::vector<std::string>;
@@ -33,7 +33,7 @@ std::string Joined(const Lines& texts, const std::string* wanted, const char* no
     return joined.empty() ? none : joined;
 }
 
-PortCells RowOf(const Records& records, const DeviceRecord& device) {
+Row RowOf(const Records& records, const DeviceRecord& device) {
     const std::string name = StoredText(device.store, "PortName");
     const unsigned long number = PortNumber(name), friendly = FriendlyNumber(device.friendly_name);
     const NumberRecord& record = NumberIn(records, number);
@@ -55,8 +55,8 @@ PortCells RowOf(const Records& records, const DeviceRecord& device) {
 }
 
 // A row for each port, below the headings.
-std::vector<PortCells> RowsOf(const Records& records) {
-    std::vector<PortCells> rows{{}};
+std::vector<Row> RowsOf(const Records& records) {
+    std::vector<Row> rows{{}};
     std::ranges::copy(port_headings, rows.front().begin());
     for (const DeviceRecord& device : records.devices) {
         if (device.role == Role::Port) {
@@ -67,9 +67,9 @@ std::vector<PortCells> RowsOf(const Records& records) {
 }
 
 // Marks the names that are not COM and a number, and those that several ports have.
-void MarkNames(std::vector<PortCells>& rows) {
+void MarkNames(std::vector<Row>& rows) {
     std::multiset<std::string> names;
-    for (const PortCells& row : rows) {
+    for (const Row& row : rows) {
         names.insert(Folded(row[2]));
     }
     for (auto row = rows.begin() + 1; row != rows.end(); ++row) {
@@ -85,42 +85,15 @@ void MarkNames(std::vector<PortCells>& rows) {
     }
 }
 
-Lines Written(const std::vector<PortCells>& rows, const std::array<int, port_headings.size()>& widths) {
-    Lines lines;
-    for (const PortCells& row : rows) {
-        std::string line;
-        for (std::size_t column = 0; column < row.size(); ++column) {
-            line += widths[column] != 0 ? "  " + PaddedTo(row[column], widths[column]) : "";
-        }
-        lines.push_back(line.substr(0, line.find_last_not_of(' ') + 1));
-    }
-    return lines;
-}
-
 bool AreTooWide(const Lines& lines, int columns) {
     return columns != 0 &&
            std::ranges::any_of(lines, [&](const std::string& line) { return Columns(line) > columns; });
 }
 
-Lines FittedLines(const std::vector<PortCells>& rows, int columns) {
-    std::array<int, port_headings.size()> widths{};
-    for (const PortCells& row : rows) {
-        for (std::size_t column = 0; column < row.size(); ++column) {
-            widths[column] = std::max(widths[column], Columns(row[column]));
-        }
-    }
-    Lines lines = Written(rows, widths);
-    if (!AreTooWide(lines, columns)) {
-        return lines;
-    }
-    widths[dos_names] = 0;
-    return Written(rows, widths);
-}
-
 } // namespace
 
-std::vector<PortCells> PortRows(const Records& records) {
-    std::vector<PortCells> rows = RowsOf(records);
+std::vector<Row> PortRows(const Records& records) {
+    std::vector<Row> rows = RowsOf(records);
     MarkNames(rows);
     return rows;
 }
@@ -139,7 +112,11 @@ std::string ClaimedWithoutDevice(const Records& records) {
 }
 
 Lines PortsTable(const Records& records, int columns) {
-    Lines lines = FittedLines(PortRows(records), columns);
+    const std::vector<Row> rows = PortRows(records);
+    Lines lines = TableLines(rows);
+    if (AreTooWide(lines, columns)) {
+        lines = TableLines(rows, dos_names);
+    }
     lines.push_back("  claimed without a device: " + ClaimedWithoutDevice(records));
     if (AreTooWide(lines, columns)) {
         std::ranges::transform(lines, lines.begin(), [&](const auto& line) { return CutTo(line, columns); });

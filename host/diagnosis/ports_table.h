@@ -2,17 +2,16 @@
 // each place that disagrees with the port's name in its device store.
 #pragma once
 
-#include <array>
 #include <string>
 #include <vector>
 
+#include "host/diagnosis/table.h"
 #include "host/worlds/records.h"
 
 namespace host {
 
-using PortCells = std::array<std::string, 8>;
 // A row for each port, below the headings.
-std::vector<PortCells> PortRows(const Records& records);
+std::vector<Row> PortRows(const Records& records);
 
 // "9, 10, 33": the numbers that the database has claimed although no device holds them.
 std::string ClaimedWithoutDevice(const Records& records);
