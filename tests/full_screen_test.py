@@ -51,7 +51,7 @@ class FullScreen(unittest.TestCase):
             terminal.mouse(65, *terminal.find("COM7 (port1)"))  # the wheel turns the list
             terminal.wait("COM11 (port7)", gone=["COM7 (port1)"])
             _, row = terminal.find("Transmit Buffer")
-            knob, end = terminal.screen.display[row].index("█"), terminal.screen.display[row].index("┤")
+            knob, end = terminal.rows()[row].index("█"), terminal.rows()[row].index("┤")
             terminal.mouse(0, knob, row)
             for at in (knob + 2, knob + 4, end + 5):
                 terminal.mouse(32, at, row)
@@ -105,7 +105,7 @@ class FullScreen(unittest.TestCase):
                 terminal.wait("F1 help")
                 self.assertIn("(port1)", terminal.see("enter"))
                 self.assertIsNone(re.search(rb"\x1b\[[0-9;]*3[0-7][;m]", terminal.raw), "a colour")
-                rows = [line for line in terminal.screen.display if "(port1)" in line]
+                rows = [line for line in terminal.rows() if "(port1)" in line]
                 self.assertIn(title, rows[0])
         with Terminal(HOST, TERM="dumb") as terminal:
             terminal.wait("can't be filled", "> ")

@@ -47,7 +47,7 @@ def hints(terminal):
         cells = [terminal.screen.buffer[row][column] for column in range(columns)]
         if not all(cell.reverse for cell in cells):
             continue
-        line, bold = terminal.screen.display[row], "".join("k" if cell.bold else "." for cell in cells)
+        line, bold = terminal.rows()[row], "".join("k" if cell.bold else "." for cell in cells)
         for run in re.finditer("k+", bold):
             does = line[run.end():bold.find("k", run.end()) % (columns + 1)].strip()
             for key in re.finditer(r"letters, /|^/$|[^/]+", line[run.start():run.end()]):
@@ -58,7 +58,7 @@ def hints(terminal):
 def front(terminal):
     """Which window or view is in front."""
     title = re.findall("╔═ (.*?) ═", terminal.text())
-    return terminal.screen.display[0].split("saved")[-1].strip() + (title[-1] if title else "")
+    return terminal.rows()[0].split("saved")[-1].strip() + (title[-1] if title else "")
 
 
 class Hints(unittest.TestCase):

@@ -29,6 +29,7 @@ class Terminal:
         self.stream = pyte.ByteStream(self.screen)
         self.raw = b""
         self.shown = self.cleared = 0  # of it
+        self.lines = None  # of the screen, once they have been asked for
         self.child = pexpect.spawn(command[0], list(command[1:]), dimensions=(rows, columns), timeout=20, cwd=cwd, env={
             "PATH": os.environ["PATH"], "TERM": "xterm-256color", "LC_ALL": "C.UTF-8", **environment})
         self.child.delaybeforesend = None
@@ -53,9 +54,14 @@ class Terminal:
     def show(self, end):
         self.stream.feed(self.raw[self.shown:end])
         self.shown = end
+        self.lines = None
+
+    def rows(self):
+        self.lines = self.lines or self.screen.display
+        return self.lines
 
     def text(self):
-        return "\n".join(self.screen.display)
+        return "\n".join(self.rows())
 
     def until(self, is_reached, expected, seconds=20):
         end = time.monotonic() + seconds
@@ -84,12 +90,16 @@ class Terminal:
         """The screen after these keys: two repaints are asked for behind them, and the first is whole when the second begins."""
         self.cleared = len(self.raw)
         self.press(*names, REPAINT, REPAINT)
-        self.show(self.repaints(2))
+        begin, end = self.repaints(1), self.repaints(1)
+        # Of what the first repaint replaces only the modes are read: reading is slow.
+        self.stream.feed(b"".join(re.findall(rb"\x1b\[\?[\d;]+[hl]", self.raw[self.shown:begin])))
+        self.shown = begin
+        self.show(end)
         return self.text()
 
     def find(self, text, last=False):
         """The column and row of a text, from 0."""
-        rows = [(row, line) for row, line in enumerate(self.screen.display) if text in line]
+        rows = [(row, line) for row, line in enumerate(self.rows()) if text in line]
         assert rows, f"no {text!r} in\n{self.text()}"
         row, line = rows[-1 if last else 0]
         return line.index(text), row
@@ -108,6 +118,7 @@ class Terminal:
         """The screen after the change, which repaints it."""
         self.see()
         self.screen.resize(rows, columns)
+        self.lines = None
         self.child.setwinsize(rows, columns)
         self.repaints(1)
         return self.see()

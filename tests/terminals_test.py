@@ -33,7 +33,7 @@ class Terminals(unittest.TestCase):
         """The cursor is at the focus, with the mark before it."""
         cursor = terminal.screen.cursor
         self.assertFalse(cursor.hidden)
-        before = terminal.screen.display[cursor.y][:cursor.x]
+        before = terminal.rows()[cursor.y][:cursor.x]
         self.assertRegex(before, r">[^│]*$" if "║" in before else ">", terminal.text())
 
     def test_focus_is_in_sight_at_every_size(self):
@@ -72,7 +72,7 @@ class Terminals(unittest.TestCase):
                 terminal.wait_end()
                 terminal.show(len(terminal.raw))
                 self.assertNotIn(b"$<", terminal.raw)
-                self.assertEqual((terminal.screen.display[-1].strip(), terminal.screen.cursor.y), ("", 23))
+                self.assertEqual((terminal.rows()[-1].strip(), terminal.screen.cursor.y), ("", 23))
 
     def test_frames_follow_the_character_set(self):
         for environment, corner in (({"LC_ALL": "C"}, "#="), ({"LC_ALL": "C.UTF-8"}, "╔═")):
