@@ -57,7 +57,7 @@ std::vector<Difference> Compare(const Report& seen, const Report& wine) {
     return differences;
 }
 
-std::vector<std::string> ComparisonLines(const Report& seen, const Report& wine) {
+std::vector<std::string> ComparisonLines(const Report& seen, const std::vector<Difference>& differences) {
     std::vector<std::string> lines;
     for (const Fact& fact : seen.facts) {
         if (IsAboutMachine(fact)) {
@@ -65,7 +65,6 @@ std::vector<std::string> ComparisonLines(const Report& seen, const Report& wine)
         }
     }
     lines.push_back(ClosingLine(seen) + (seen.whole ? "" : "; the check did not come to its end"));
-    const std::vector<Difference> differences = Compare(seen, wine);
     for (const Difference& difference : differences) {
         lines.push_back(difference.line);
     }

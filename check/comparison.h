@@ -25,6 +25,6 @@ struct Difference {
 std::vector<Difference> Compare(const Report& seen, const Report& wine);
 
 // The whole answer about a report, a line each: what it was made on, and the differences.
-std::vector<std::string> ComparisonLines(const Report& seen, const Report& wine);
+std::vector<std::string> ComparisonLines(const Report& seen, const std::vector<Difference>& differences);
 
 } // namespace check

@@ -91,7 +91,7 @@ bool ReadReport(std::string_view text, Report& report, std::string& error) {
                 return false;
             }
             report.facts.push_back(std::move(fact));
-        } else if (line == ClosingLine(report)) {
+        } else if (line.ends_with(" held") && line == ClosingLine(report)) {
             report.whole = true;
         } else if (!line.empty()) {
             error = place + (line.ends_with(" held")

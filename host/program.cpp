@@ -3,6 +3,7 @@
 #include "host/program.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <iostream>
 #include <optional>
 #include <sstream>
@@ -15,6 +16,7 @@
 #include "host/session/session.h"
 #include "host/subcommands.h"
 #include "host/text.h"
+#include "host/whole_file.h"
 #include "version.h"
 
 namespace host {
@@ -57,6 +59,14 @@ int RunLines(World& world, const Wish& wish, LineSource& lines) {
     return failed != 0 ? status_found : status_sound;
 }
 
+// What a person may have meant who names a file that is not there.
+std::string Meant(const std::string& file) {
+    std::error_code none;
+    return file.empty() || std::filesystem::exists(PathOf(file), none)
+               ? std::string()
+               : Nearest(file, {std::begin(subcommands), std::end(subcommands)});
+}
+
 int Run(const Wish& wish, OpenLines open_console, OpenScreen open_screen) {
     const LANGID language = wish.language.empty() ? LANGID{0} : FindLanguage(wish.language);
     if (!wish.language.empty() && language == 0) {
@@ -65,6 +75,9 @@ int Run(const Wish& wish, OpenLines open_console, OpenScreen open_screen) {
     }
     const std::unique_ptr<World> world = OpenToldWorld(wish.file, language);
     if (!world) {
+        if (const std::string meant = Meant(wish.file); !meant.empty()) {
+            std::cerr << "kvrhost: did you mean " << meant << "?\n";
+        }
         return status_unreadable;
     }
     if (!wish.commands.empty()) {
@@ -100,16 +113,18 @@ std::vector<std::string> Arguments(int argc, char** argv) {
     }
     std::vector<std::string> result(arguments.begin(), first);
     for (auto argument = first; argument != arguments.end(); ++argument) {
-        if (*argument != "-c") {
-            result.push_back((argument->starts_with("--") ? "" : "-c") + *argument);
+        const bool is_option =
+            argument->starts_with("--") || (argument != first && *std::prev(argument) == "--language");
+        if (is_option) {
+            result.push_back(*argument);
+        } else if (*argument != "-c" && !argument->empty()) {
+            result.push_back("-c" + *argument);
         }
     }
-    return result;
+    return result.size() == static_cast<std::size_t>(first - arguments.begin()) ? arguments : result;
 }
 
-} // namespace
-
-int RunProgram(int argc, char** argv, OpenLines open_console, OpenScreen open_screen) {
+int Choose(int argc, char** argv, OpenLines open_console, OpenScreen open_screen) {
     CLI::App app{"Opens the property sheets of a board and its ports on the full screen of a terminal, or "
                  "operates them\n"
                  "by commands from the standard input, one per line. The command help lists them.",
@@ -139,7 +154,7 @@ int RunProgram(int argc, char** argv, OpenLines open_console, OpenScreen open_sc
     diagnose->add_flag("--json", json, "prints a list for programs");
     CLI::App* const diff = app.add_subcommand(
         "diff", "Shows what differs between two exports of a machine. The exit status is 0 if nothing does,\n"
-                "1 if something does, and 2 if one can't be read.");
+                "1 if something does, and 2 if one can't be read or no place is in both.");
     diff->add_option("old", wish.file, "the older one")->required();
     diff->add_option("new", other, "the newer one")->required();
     diff->add_flag("--json", json, "prints a list for programs");
@@ -155,6 +170,16 @@ int RunProgram(int argc, char** argv, OpenLines open_console, OpenScreen open_sc
         "Shows in what a report of kvrcheck differs from what was seen on Wine, worst first. The\n"
         "exit status is 0 if in nothing, 1 if in something, and 2 if it can't be read.");
     check_report->add_option("report", wish.file, "the kvrcheck.txt that came back")->required();
+    // An empty name is a variable that nobody has set, and not the sample machine.
+    for (CLI::App* const each : {&app, diagnose, diff, report, check_report}) {
+        for (CLI::Option* const option : each->get_options()) {
+            if (option->get_positional()) {
+                option->check([](const std::string& name) {
+                    return name.empty() ? std::string("a file without a name") : std::string();
+                });
+            }
+        }
+    }
     try {
         std::vector<std::string> arguments = Arguments(argc, argv);
         std::ranges::reverse(arguments); // as the parser takes them
@@ -178,6 +203,17 @@ int RunProgram(int argc, char** argv, OpenLines open_console, OpenScreen open_sc
         return CheckReport(wish.file);
     }
     return Run(wish, open_console, open_screen);
+}
+
+} // namespace
+
+int RunProgram(int argc, char** argv, OpenLines open_console, OpenScreen open_screen) {
+    const int status = Choose(argc, argv, open_console, open_screen);
+    if (!std::cout.flush()) {
+        std::cerr << "kvrhost: the output can't be written to its end\n";
+        return status_unreadable;
+    }
+    return status;
 }
 
 } // namespace host

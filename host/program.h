@@ -14,8 +14,8 @@ using OpenScreen = std::unique_ptr<Seat> (*)(std::string& reason);
 
 // The program: opens the machine that the command line names and fills the terminal with it, or runs the
 // commands that come from the console, or reports what is wrong with a machine. The exit status is 0 if all
-// is well, 1 if a command failed or something is wrong with the machine, 2 if the machine can't be read or
-// the command line is wrong.
+// is well, 1 if a command failed or something is wrong with the machine, 2 if the machine can't be read, the
+// command line is wrong or the output can't be written.
 int RunProgram(int argc, char** argv, OpenLines open_console, OpenScreen open_screen);
 
 } // namespace host

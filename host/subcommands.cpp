@@ -14,6 +14,7 @@
 #include "host/session/session.h"
 #include "host/session/session_report.h"
 #include "host/text.h"
+#include "host/whole_file.h"
 
 namespace host {
 namespace {
@@ -23,11 +24,11 @@ using Json = nlohmann::ordered_json;
 
 constexpr int json_version = 1; // of what the programs that read it rely on
 
-// Invalid UTF-8 becomes U+FFFD.
+// In ASCII: no character of a machine commands the terminal. Invalid UTF-8 becomes U+FFFD.
 void WriteJson(const Json& document) {
     Json versioned = {{"version", json_version}};
     versioned.update(document);
-    std::cout << versioned.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+    std::cout << versioned.dump(2, ' ', true, Json::error_handler_t::replace) << '\n';
 }
 
 void Write(const std::vector<std::string>& lines) {
@@ -68,14 +69,15 @@ std::vector<std::string> FilesOf(const std::vector<std::string>& paths) {
     std::vector<std::string> files;
     for (const std::string& path : paths) {
         std::error_code failure;
-        if (!fs::is_directory(fs::path(FromUtf8(path)), failure)) {
+        if (!fs::is_directory(PathOf(path), failure)) {
             files.push_back(path);
             continue;
         }
         std::vector<std::string> inside;
-        for (const auto& entry : fs::directory_iterator(fs::path(FromUtf8(path)), failure)) {
-            if (Folded(ToUtf8(FromUtf8(entry.path().extension().string()))) == ".reg") {
-                inside.push_back((fs::path(path) / entry.path().filename()).string());
+        for (auto entry = fs::directory_iterator(PathOf(path), failure); !failure && entry != fs::end(entry);
+             entry.increment(failure)) {
+            if (Folded(FileName(entry->path().extension())) == ".reg") {
+                inside.push_back(FileName(entry->path()));
             }
         }
         std::ranges::sort(inside);
@@ -165,12 +167,17 @@ int Diff(const std::string& before, const std::string& after, bool json) {
     } else {
         Write(DifferenceLines(records[0], records[1]));
     }
-    return differences.empty() ? status_sound : status_found;
+    return !differences.empty()                         ? status_found
+           : (records[0].known & records[1].known) == 0 ? status_unreadable
+                                                        : status_sound;
 }
 
 int CheckReport(const std::string& file) {
-    std::ifstream in(fs::path(FromUtf8(file)), std::ios::binary);
-    const std::string text((std::istreambuf_iterator<char>(in)), {});
+    std::ifstream in(PathOf(file), std::ios::binary);
+    std::string text;
+    for (char block[4096]; in.read(block, sizeof block), in.gcount() > 0;) {
+        text.append(block, static_cast<std::size_t>(in.gcount()));
+    }
     std::string error;
     check::Report wine, report;
     check::ReadReport(check::WineReport(), wine, error);
@@ -181,8 +188,9 @@ int CheckReport(const std::string& file) {
         std::cerr << "kvrhost: " << Escaped(file + ": " + error) << '\n';
         return status_unreadable;
     }
-    Write(check::ComparisonLines(report, wine));
-    return check::Compare(report, wine).empty() ? status_sound : status_found;
+    const std::vector<check::Difference> differences = check::Compare(report, wine);
+    Write(check::ComparisonLines(report, differences));
+    return differences.empty() ? status_sound : status_found;
 }
 
 int Report(const std::string& machine, const std::string& file, bool over) {
@@ -200,7 +208,7 @@ int Report(const std::string& machine, const std::string& file, bool over) {
     }
     std::error_code none;
     std::string error = file + " exists; --over replaces it";
-    if ((!over && fs::exists(fs::path(FromUtf8(file)), none)) ||
+    if ((!over && fs::exists(PathOf(file), none)) ||
         !WriteReport(session, file, "What the command mend would change:", error)) {
         std::cerr << "kvrhost: " << Escaped(error) << '\n';
         return status_unreadable;

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
+#include <type_traits>
 
 #include "host/text.h"
 
@@ -10,10 +11,27 @@ namespace host {
 
 namespace fs = std::filesystem;
 
+fs::path PathOf(const std::string& name) {
+    if constexpr (std::is_same_v<fs::path::value_type, char>) {
+        return name;
+    } else {
+        return FromUtf8(name);
+    }
+}
+
+std::string FileName(const fs::path& path) {
+    const auto& name = path.native();
+    if constexpr (std::is_same_v<fs::path::value_type, char>) {
+        return {name.begin(), name.end()};
+    } else {
+        return ToUtf8({reinterpret_cast<const WCHAR*>(name.data()), name.size()});
+    }
+}
+
 bool WriteWhole(const std::string& path, const std::function<void(std::ostream&)>& write,
                 std::string& error) {
     std::error_code failure;
-    fs::path place(FromUtf8(path));
+    fs::path place = PathOf(path);
     const fs::file_status status = fs::status(place, failure);
     // A pipe or a terminal is written to and not replaced.
     const bool replaces = !fs::exists(status) || fs::is_regular_file(status);

@@ -355,7 +355,7 @@ TEST(DiagnosisLaws, APatchCanBeAppliedAndTakenBack) {
             const Names& some = possible[*rc::gen::inRange<std::size_t>(0, std::size(possible))];
             commands.insert(commands.end(), some.begin(), some.end());
         }
-        commands.push_back("patch " + patch);
+        commands.push_back("patch --over " + patch);
         host::MachineFile after;
         const std::string answers = Do(file, commands, &after);
         if (!std::filesystem::exists(patch)) {

@@ -98,6 +98,13 @@ class FullScreen(unittest.TestCase):
                 self.assertGreaterEqual(len(listed(terminal)), ports)
                 self.assertLess(terminal.find("╝")[0], columns)
             self.assertIn("[ ]*Enable large FIFO", terminal.see("space"))
+            terminal.resize(30, 6)
+            terminal.see("space", "enter")  # nothing is done unseen
+            self.assertIn("[ ]*Enable large FIFO", terminal.resize(80, 24))
+        with Terminal(HOST, columns=30, rows=6) as terminal:
+            terminal.wait("needs 40x10")
+            terminal.see("enter", "esc", "f6", "open 1\r", "esc")
+            self.assertIn("Devices", terminal.resize(80, 24))
 
     def test_languages_and_terminals(self):
         for language, title in ((1041, "COM7"), (1025, "COM7"), (1037, "COM7")):
@@ -144,13 +151,14 @@ class FullScreen(unittest.TestCase):
             terminal.wait("Devices")
             self.assertIn("Enter free COM9", terminal.see("f7", "down"))
             text = terminal.see("enter")
+            self.assertNotIn("…", text)
             self.assertTrue("COM9: freed" in text and "* not saved" in text and "COM9 is marked" not in text, text)
             self.assertIn("Port Settings", terminal.see("up", "enter"))  # of another that needs a look
 
     def test_numbers_and_board(self):
         with Terminal(HOST) as terminal:
             terminal.wait("Devices")
-            for pressed, title in (((), "COM1: live"), (("down",), "COM17"), (("up", *["right"] * 8), "COM9: claimed"),
+            for pressed, title in (((), "COM1: live"), (("down",), "COM33: claimed"), (("up", *["right"] * 8), "COM9: claimed"),
                                    (("enter",), "COM9: free"), (("end",), "COM256: free"), (("/", "com20\r"), "COM20: live")):
                 text = terminal.see(*pressed) if pressed else terminal.see("^n")
                 self.assertIn(title, text.splitlines()[0])

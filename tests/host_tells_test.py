@@ -31,7 +31,7 @@ class Host(unittest.TestCase):
         self.folder = pathlib.Path(folder.name)
 
     def run_host(self, *words, status=0, **more):
-        run = subprocess.run([HOST, *words], capture_output=True, cwd=self.folder, encoding="utf-8", timeout=120, check=False,
+        run = subprocess.run([HOST, *words], capture_output=True, cwd=self.folder, encoding="utf-8", errors="replace", timeout=120, check=False,
                              **{"stdin": subprocess.DEVNULL, "env": {**os.environ, "LC_ALL": "C.UTF-8"}, **more})
         self.assertEqual(run.returncode, status, (words, run.stdout, run.stderr))
         return run.stdout + run.stderr
@@ -159,6 +159,40 @@ class Host(unittest.TestCase):
                     self.assertIn(line.split(": ")[1].split()[0] + ":", written)
             undo = (self.folder / fix.replace(".reg", "-undo.reg")).read_text("utf-16")
             self.assertIn(f"; Takes back what {fix} changes:\n", undo)
+
+    def test_no_file_is_lost_unasked(self):
+        machine = self.export("machine.reg", SAMPLE.read_text())
+        undo = self.folder / self.export("fix-undo.reg", "the only way back")
+        for command in ("patch fix.reg", "patch --over machine.reg", "report machine.reg --over", "trace machine.reg",
+                        "export \xed\xa0\x80/a.reg", "source ."):
+            self.assertIn("error: ", self.run_host(machine, "-c", "free 9", "-c", command, status=1))
+        self.run_host("report", machine, machine, "--over", status=2)
+        self.assertEqual(((self.folder / machine).read_text(), undo.read_text()), (SAMPLE.read_text(), "the only way back"))
+        self.assertFalse((self.folder / "fix.reg").exists())
+        self.says("free --even-so COM7", "patch fix.reg --over", "trace new", "open 1", "trace off", "trace new")
+        self.assertNotIn("only way", undo.read_text("utf-16"))
+
+    def test_undo_leaves_what_nobody_has_read(self):
+        machine = self.export("part.reg", without("CurrentVersion\\Ports"))
+        said = self.says("open 6", "click Advanced", 'pick "COM Port Number" COM14', "click OK", "sheet ok", "changes", "patch fix.reg",
+                         machine=machine)
+        self.assertIn("settings line: COM14: not known -> ", said)
+        self.assertIn('"COM14:"=', (self.folder / "fix.reg").read_text("utf-16"))
+        undo = (self.folder / "fix-undo.reg").read_text("utf-16")
+        self.assertIn('"PortName"="COM5"', undo)
+        self.assertNotIn('"COM14:"', undo)
+
+    def test_what_cannot_be_done_has_its_status(self):
+        empty = self.export("empty.reg", "Windows Registry Editor Version 5.00\n")
+        self.assertIn("nothing can be compared", self.run_host("diff", SAMPLE, empty, status=2))
+        for words in (["diagnose", ""], ["diff", "", SAMPLE], ["check-report", "."], ["diagnose", b"\xed\xa0\x80.reg"], ["."]):
+            self.run_host(*words, status=2)
+        self.assertIn("did you mean diagnose?", self.run_host("dianose", status=2))
+        self.assertIn("Anschluss", self.run_host(SAMPLE, "-c", "open 6", "--language", "de"))
+        with open("/dev/full", "w") as full:
+            self.assertEqual(subprocess.run([HOST, "diff", SAMPLE, SAMPLE], stdout=full, stderr=subprocess.DEVNULL).returncode, 2)
+        hostile = self.export("hostile.reg", SAMPLE.read_text().replace("UART\\5&2B7D41E6", "UART\\\x9b\u202e5&2B7D41E6"))
+        self.assertTrue(self.run_host("diff", SAMPLE, hostile, "--json", status=1).isascii())
 
     def test_settings_line_has_one_colon(self):
         said = self.says("open 6", "click Advanced", 'pick "COM Port Number" COM14', "click OK", "sheet ok", "changes")

@@ -29,7 +29,7 @@ def main():
         host.expect_exact("exists; export --over")
         for line in ("open 1", "uncheck 1039", "click 1041", "sheet ok", "quit"):
             host.sendline(line)
-        host.expect_exact("was not exported")
+        host.expect_exact("are not saved")
         host.sendline("export --over Übung.reg")
         host.sendline("q")
         host.expect(pexpect.EOF)

@@ -71,10 +71,14 @@ class OneSession(unittest.TestCase):
         self.go((":free 9", "* not saved"), ("^s", "Save:"), ("e", "export to: cust-changed.reg"), ("enter", "cust-changed.reg", "not saved"))
         first = saved.read_bytes()
         self.go((":free 10", "* not saved"), ("^s e enter", "cust-changed.reg exists."), ("esc", "* not saved"))
+        self.go(("^s e ^u none/x.reg enter", "can't write none/x.reg"), ("home", "export to: none/x.reg"), ("esc", "* not saved"))
         self.assertEqual(saved.read_bytes(), first)
         self.go(("^s e enter", "exists."), ("r", "Devices", "not saved"))
         self.assertNotEqual(saved.read_bytes(), first)
-        self.go(("^s p", "patch to: cust-fix.reg"), ("enter", "cust-fix.reg"))
+        (self.folder / "cust-fix-undo.reg").write_text("the only way back")
+        self.go((":claim 11 --even-so", "COM11"), ("^s p", "patch to: cust-fix.reg"), ("enter", "cust-fix-undo.reg exists."), ("esc", "Devices"))
+        self.assertEqual((self.folder / "cust-fix-undo.reg").read_text(), "the only way back")
+        self.go(("^s p enter", "exists."), ("r", "cust-fix.reg"))
         self.assertIn("Made from cust.reg", (self.folder / "cust-fix.reg").read_bytes().decode("utf-16"))
 
 

@@ -172,7 +172,7 @@ TEST(Patch, IsNotWrittenIfThereIsNothingToWriteOrNoPlaceForIt) {
     after.usage = {0};
     EXPECT_FALSE(
         host::WritePatch({before, after, u"SYSTEM\\ControlSet001", "old.reg"}, "/no/such/x.reg", error));
-    EXPECT_TRUE(error.starts_with("can't write /no/such/x.reg: ")) << error;
+    EXPECT_TRUE(error.starts_with("can't write /no/such/x-undo.reg: ")) << error;
 }
 
 TEST(Patch, IsTakenBackByTheFileOfItsName) {

@@ -74,6 +74,18 @@ class Terminals(unittest.TestCase):
                 self.assertNotIn(b"$<", terminal.raw)
                 self.assertEqual((terminal.rows()[-1].strip(), terminal.screen.cursor.y), ("", 23))
 
+    def test_keys_that_the_terminal_does_not_know_are_not_letters(self):
+        with Terminal(HOST, TERM="xterm") as terminal:
+            terminal.wait("Devices")
+            self.assertIn("Bits per second", terminal.see(*["down"] * 4, "enter"))
+            speed = terminal.find("Bits per second")[1]
+            shown = terminal.rows()[speed]
+            terminal.see("\x1b[200~", "\x1b[24;2~", "\x1b[[A", "\x1bOj", "\x1b[1;5C")
+            self.assertEqual(terminal.rows()[speed], shown)
+            terminal.see("esc", "f6", "ree 9", "\x1b[1~", "f", "\x1b[4~", "9")
+            self.assertIn("command: free 99", terminal.text())
+            self.assertNotIn("free", terminal.see("^u"))
+
     def test_frames_follow_the_character_set(self):
         for environment, corner in (({"LC_ALL": "C"}, "#="), ({"LC_ALL": "C.UTF-8"}, "╔═")):
             with Terminal(HOST, **environment) as terminal:
@@ -121,9 +133,11 @@ class Terminals(unittest.TestCase):
                     times[key].append((time.monotonic() - begun) * 1000)
             escapes, others = times.pop("esc"), sum(times.values(), [])
             print(f"Esc takes {statistics.median(escapes):.0f} ms, 95 % of the other keys {sorted(others)[len(others) * 95 // 100]:.0f} ms")
-            self.assertLess(sorted(escapes)[len(escapes) // 4], 50)  # as other tests run at the same time
+            def quick(each):  # a quarter of them, as other tests run at the same time
+                return sorted(each)[len(each) // 4]
+            self.assertLess(quick(escapes), quick(others) + 30)
             for key, each in times.items():
-                self.assertLess(sorted(each)[len(each) // 4], 60 if SANITIZED else 20, key)
+                self.assertLess(quick(each), 100 if SANITIZED else 20, key)
             terminal.see("esc")
             open_board(terminal)
             terminal.press("esc")

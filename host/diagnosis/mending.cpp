@@ -10,7 +10,7 @@ namespace {
 // Who has the number, or might have it as far as is known.
 std::optional<Objection> Holder(const Records& records, const NumberRecord& record) {
     if (!record.holders.empty()) {
-        return Objection{LabelOf(records, records.devices[record.holders.front()]) + ", has it"};
+        return Objection{LabelOf(records, records.devices[record.holders.front()]) + " has it"};
     }
     if (!record.mapped.empty()) {
         return Objection{"a port is live on it: " + Escaped(record.mapped.front()) + " in the serial map"};

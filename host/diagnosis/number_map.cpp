@@ -41,11 +41,12 @@ StateSign SignOf(NumberState state) {
 }
 
 std::vector<std::string> NumberMapLines(const Records& records, int columns) {
+    const unsigned across = MapColumns(columns);
     std::vector<std::string> lines;
-    for (unsigned long first = 1; first <= mapped_numbers; first += map_columns) {
+    for (unsigned long first = 1; first <= mapped_numbers; first += across) {
         const std::string number = std::to_string(first);
         std::string line = std::string(5 - number.size(), ' ') + number + ' ';
-        for (unsigned long column = 0; column < map_columns; ++column) {
+        for (unsigned long column = 0; column < across; ++column) {
             line += std::string{' '} + SignOf(StateOf(records, first + column)).letter;
         }
         lines.push_back(std::move(line));

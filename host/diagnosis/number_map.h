@@ -29,6 +29,11 @@ struct StateSign {
 };
 StateSign SignOf(NumberState state);
 
+// How many numbers stand side by side: as many as fit, so that the map is seen at a glance.
+constexpr unsigned MapColumns(int columns) {
+    return columns >= 72 ? 2 * map_columns : map_columns;
+}
+
 // The map with its legend, for a screen of at least 40 columns.
 std::vector<std::string> NumberMapLines(const Records& records, int columns);
 

@@ -13,11 +13,11 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-constexpr int columns = 80;
+constexpr int usual_columns = 80;
 constexpr const char* indent = "    ";
 
 // A paragraph. All its lines but the first are indented.
-void Add(Lines& lines, const std::string& text) {
+void Add(Lines& lines, const std::string& text, int columns = usual_columns) {
     const Lines broken = BrokenAt(text, columns - 4);
     for (const std::string& line : broken) {
         lines.push_back((&line == &broken.front() ? "" : indent) + line);
@@ -70,9 +70,9 @@ std::string SentenceOf(const Group& group) {
     return plural;
 }
 
-void AddGroup(Lines& lines, const Group& group) {
+void AddGroup(Lines& lines, const Group& group, int columns = usual_columns) {
     const Finding& finding = *group.first;
-    Add(lines, SentenceOf(group));
+    Add(lines, SentenceOf(group), columns);
     const std::string remedy = finding.remedy.empty() ? "" : ' ' + Escaped(finding.remedy);
     for (const std::string& line : BrokenAt(finding.effect + remedy, columns - 4)) {
         lines.push_back(indent + line);
@@ -163,9 +163,9 @@ const char* NameOf(Severity severity) {
     return severity_names[static_cast<std::size_t>(severity)];
 }
 
-Lines FindingLines(const Finding& finding) {
+Lines FindingLines(const Finding& finding, int columns) {
     Lines lines;
-    AddGroup(lines, GroupsOf({finding}).front());
+    AddGroup(lines, GroupsOf({finding}).front(), columns);
     return lines;
 }
 
@@ -237,7 +237,7 @@ Lines NumberLines(const Records& records, const std::vector<Finding>& findings, 
         }
         bool first = true;
         for (const std::string& each : told) {
-            for (const std::string& line : BrokenAt(each, columns - 17)) {
+            for (const std::string& line : BrokenAt(each, usual_columns - 17)) {
                 lines.push_back((first ? shown : std::string(17, ' ')) + line);
                 first = false;
             }

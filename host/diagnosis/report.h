@@ -29,7 +29,7 @@ nlohmann::ordered_json DiagnosisJson(const Records& records, const std::vector<F
                                      const std::string& machine);
 
 // One finding with what follows from it and what mends it.
-std::vector<std::string> FindingLines(const Finding& finding);
+std::vector<std::string> FindingLines(const Finding& finding, int columns = 80);
 
 // All that is known about one number, place by place, and what of the findings concerns it.
 std::vector<std::string> NumberLines(const Records& records, const std::vector<Finding>& findings,

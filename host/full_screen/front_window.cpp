@@ -240,7 +240,7 @@ void FrontWindow::ClickList(const Control& list, int row, int rows) {
 // Moves the slider in hand to where the mouse is.
 void FrontWindow::Drag(int column) {
     for (const Placed& placed : Front().placement.controls) {
-        const Control& slider = *placed.control;
+        const Control slider = *placed.control; // as what is done may open a window
         if (slider.window == dragged_ && slider.kind == Kind::Slider && slider.enabled) {
             return Slide(slider, PositionAt(slider, Front().On(placed), column));
         }

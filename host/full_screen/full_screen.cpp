@@ -4,6 +4,13 @@
 #include "host/text.h"
 
 namespace host {
+namespace {
+
+bool Leaves(const Event& event) {
+    return IsControl(event, leave) || (event.kind == Event::Kind::Function && event.function == 10);
+}
+
+} // namespace
 
 void FullScreen::SitBefore(Session& session) {
     session_ = &session;
@@ -17,9 +24,7 @@ std::optional<std::string> FullScreen::Next(const std::string&) {
     }
     Draw();
     const Event event = NextEvent();
-    const bool leaves =
-        IsControl(event, leave) || (event.kind == Event::Kind::Function && event.function == 10);
-    if (leaves) {
+    if (Leaves(event)) {
         return {};
     }
     if (event.kind == Event::Kind::End) {
@@ -41,9 +46,12 @@ std::optional<std::string> FullScreen::Next(const std::string&) {
     return std::string{};
 }
 
-// The next event; a click on a hint is the event of its key.
+// The next event; a click on a hint is the event of its key. Nothing is operated that can't be seen.
 Event FullScreen::NextEvent() {
     const Event event = terminal_.Next();
+    if (IsTooSmall() && event.kind != Event::Kind::End && !Leaves(event)) {
+        return {};
+    }
     if (event.kind == Event::Kind::Resize || event.kind == Event::Kind::Release) {
         return event; // which is nobody's answer to what has been said
     }

@@ -20,6 +20,7 @@ namespace host {
 
 // Keys with Ctrl that do the same everywhere.
 constexpr char leave = 'C', save = 'S', numbers = 'N', board = 'B';
+constexpr char clear = 'U'; // where a line is typed
 
 // What the journal and the trace say while they are empty.
 constexpr const char* nothing_changed = "nothing has been changed";
@@ -55,6 +56,7 @@ private:
     std::vector<Hint> HintsHere() const;
     Cells Body() const;
     int PaneRows() const;
+    bool IsTooSmall() const;
 
     // --- Events; the command that one leads to, or an empty text
     Event NextEvent();
@@ -81,6 +83,7 @@ private:
 
     Terminal terminal_;
     Canvas canvas_{0, 0}; // what it shows
+    int columns_ = 0;     // of the screen when it was drawn
     Session* session_ = nullptr;
     DeviceList devices_;
     FrontWindow front_;

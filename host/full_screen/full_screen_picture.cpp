@@ -18,6 +18,10 @@ int FullScreen::PaneRows() const {
     return view_ ? 0 : terminal_.rows() < low_screen ? 4 : 10;
 }
 
+bool FullScreen::IsTooSmall() const {
+    return terminal_.columns() < fewest_columns || terminal_.rows() < fewest_rows;
+}
+
 // Between the title and the pane.
 Cells FullScreen::Body() const {
     return {0, 1, terminal_.columns(), std::max(1, terminal_.rows() - 1 - PaneRows() - foot_)};
@@ -62,13 +66,16 @@ std::vector<Hint> FullScreen::HintsHere() const {
 
 void FullScreen::Draw(const Question* question) {
     const int columns = terminal_.columns(), rows = terminal_.rows();
-    if (columns < fewest_columns || rows < fewest_rows) {
+    front_.Read(*session_);
+    if (IsTooSmall()) {
         canvas_ = Canvas(columns, rows);
         canvas_.Write(0, 0, "needs " + std::to_string(fewest_columns) + 'x' + std::to_string(fewest_rows),
                       columns);
         return terminal_.Show(canvas_);
     }
-    front_.Read(*session_);
+    if (std::exchange(columns_, columns) != columns && view_) {
+        view_->Renew(); // its lines are as long as the screen is wide
+    }
     const auto place = [&](std::vector<Hint> hints) {
         hints_ = std::move(hints);
         placed_hints_ = PlaceHints(hints_, columns, std::max(1, rows / 8));

@@ -18,6 +18,9 @@ std::optional<std::string> FullScreen::AskLine(const std::string& label, std::st
         if (is_command) {
             question.answers.push_back({"Tab", "complete", OfCode(VK_TAB)});
         }
+        if (!line.empty()) {
+            question.answers.push_back({"^U", "clear", OfControl(clear)});
+        }
         if (is_command && !commands_.empty()) {
             AddPair(question.answers, "Up", VK_UP, "Down", VK_DOWN, "earlier ones");
         }
@@ -29,6 +32,10 @@ std::optional<std::string> FullScreen::AskLine(const std::string& label, std::st
         }
         if (IsControl(event, leave)) {
             return {};
+        }
+        if (IsControl(event, clear)) {
+            line.clear();
+            cursor = 0;
         }
         if (event.kind != Event::Kind::Key) {
             continue;
@@ -120,19 +127,27 @@ void FullScreen::Save() {
         stem = "sample";
     }
     const std::string word = kind == 'e' ? "export" : "patch";
-    const std::optional<std::string> file =
-        AskLine(word + " to: ", stem + (kind == 'e' ? "-changed.reg" : "-fix.reg"), false);
-    if (!file || file->empty()) {
-        return;
-    }
-    Lines told = OutputOf(word + ' ' + AsWord(*file));
-    if (!told.empty() && told.front().find(" exists; ") != std::string::npos) {
-        if (AskLetter(*file + " exists.", {{"r", "replace it", OfLetter('r')}, esc}) == 0) {
+    constexpr std::string_view refused = "error: ";
+    for (std::string file = stem + (kind == 'e' ? "-changed.reg" : "-fix.reg");;) {
+        const std::optional<std::string> wanted = AskLine(word + " to: ", file, false);
+        if (!wanted || wanted->empty()) {
             return;
         }
-        told = OutputOf(word + " --over " + AsWord(*file));
+        file = *wanted;
+        Lines told = OutputOf(word + ' ' + AsWord(file));
+        if (const std::size_t exists = told.empty() ? std::string::npos : told.front().find(" exists; ");
+            exists != std::string::npos) {
+            const std::string which = told.front().substr(refused.size(), exists - refused.size());
+            if (AskLetter(which + " exists.", {{"r", "replace it", OfLetter('r')}, esc}) == 0) {
+                return;
+            }
+            told = OutputOf(word + " --over " + AsWord(file));
+        }
+        message_ = told.empty() ? file + " is written" : told.front();
+        if (!message_.starts_with(refused)) {
+            return;
+        }
     }
-    message_ = told.empty() ? *file + " is written" : told.front();
 }
 
 bool FullScreen::MayDiscard() {

@@ -56,12 +56,13 @@ std::vector<Paragraph> FullScreen::Findings() {
     if (findings.empty()) {
         return {{DiagnosisLines(records, findings), {}}};
     }
+    const int columns = terminal_.columns() - static_cast<int>(mark_columns);
     std::vector<Paragraph> paragraphs;
     for (const Finding& finding : findings) {
         const bool opens = !finding.subject.open.empty() && !finding.safe;
-        paragraphs.push_back({FindingLines(finding), opens          ? "open " + AsWord(finding.subject.open)
-                                                     : finding.safe ? finding.command
-                                                                    : ""});
+        paragraphs.push_back({FindingLines(finding, columns), opens ? "open " + AsWord(finding.subject.open)
+                                                              : finding.safe ? finding.command
+                                                                             : ""});
     }
     return paragraphs;
 }
@@ -102,7 +103,7 @@ std::vector<Paragraph> FullScreen::Board(const std::string& device) {
 std::vector<Paragraph> FullScreen::Help() {
     std::vector<Paragraph> paragraphs;
     for (const char* const line : help) {
-        paragraphs.push_back({{line}, {}});
+        paragraphs.push_back({BrokenAt(line, terminal_.columns()), {}});
     }
     paragraphs.push_back({OutputOf("help"), {}});
     return paragraphs;

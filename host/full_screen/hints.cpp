@@ -4,38 +4,6 @@
 
 namespace host {
 
-Event OfFunction(int number) {
-    Event event;
-    event.kind = Event::Kind::Function;
-    event.function = number;
-    return event;
-}
-
-Event OfControl(char letter) {
-    Event event;
-    event.kind = Event::Kind::Control;
-    event.key.letter = static_cast<WCHAR>(letter);
-    return event;
-}
-
-bool IsControl(const Event& event, char letter) {
-    return event.kind == Event::Kind::Control && event.key.letter == static_cast<WCHAR>(letter);
-}
-
-Event OfCode(UINT code) {
-    Event event;
-    event.kind = Event::Kind::Key;
-    event.key.code = code;
-    return event;
-}
-
-Event OfLetter(WCHAR letter) {
-    Event event;
-    event.kind = Event::Kind::Key;
-    event.key.letter = letter;
-    return event;
-}
-
 void AddPair(std::vector<Hint>& hints, const char* back, UINT back_code, const char* forth, UINT forth_code,
              const std::string& does) {
     hints.push_back({std::string{back} + '/', {}, OfCode(back_code)});

@@ -16,13 +16,6 @@ struct Hint {
     Event event;      // of the key
 };
 
-// The events of keys, for hints.
-Event OfFunction(int number);
-Event OfControl(char letter);
-bool IsControl(const Event& event, char letter);
-Event OfCode(UINT code);
-Event OfLetter(WCHAR letter);
-
 // The two keys of a direction.
 void AddPair(std::vector<Hint>& hints, const char* back, UINT back_code, const char* forth, UINT forth_code,
              const std::string& does);

@@ -10,7 +10,7 @@
 namespace host {
 namespace {
 
-constexpr int all = static_cast<int>(mapped_numbers), across = static_cast<int>(map_columns);
+constexpr int all = static_cast<int>(mapped_numbers);
 
 Look LookOf(NumberState state) {
     switch (state) {
@@ -45,18 +45,19 @@ std::string NumbersView::Title() const {
 void NumbersView::Draw(Canvas& canvas, const Cells& within) {
     const Lines told = NumberLines(records_, findings_, static_cast<unsigned long>(number_));
     const Lines map = NumberMapLines(records_, within.columns);
-    const int map_rows = all / across, below = 4; // of what is told
+    across_ = static_cast<int>(MapColumns(within.columns));
+    const int map_rows = all / across_, below = 4; // of what is told
     const bool has_legend = within.rows >= static_cast<int>(map.size()) - map_rows + below + below;
     const int legend = has_legend ? static_cast<int>(map.size()) - map_rows : 0;
     rows_ = std::clamp(within.rows - legend - below, 1, map_rows);
-    const int at = (number_ - 1) / across;
+    const int at = (number_ - 1) / across_;
     first_row_ = std::clamp(std::clamp(first_row_, at - rows_ + 1, at), 0, map_rows - rows_);
     int row = within.top;
     for (int line = first_row_; line < first_row_ + rows_; ++line, ++row) {
         canvas.Write(row, within.left, map[static_cast<std::size_t>(line)].substr(0, 6), 6,
                      {false, false, true, 0});
-        for (int column = 0; column < across; ++column) {
-            const int number = line * across + column + 1;
+        for (int column = 0; column < across_; ++column) {
+            const int number = line * across_ + column + 1;
             const NumberState state = StateOf(records_, static_cast<unsigned long>(number));
             const int left = within.left + 6 + 2 * column;
             Look look = LookOf(state);
@@ -96,8 +97,8 @@ std::string NumbersView::Command() const {
 View::Outcome NumbersView::Take(const Event& event, const Cells& within) {
     if (event.kind == Event::Kind::Press) {
         const int column = (event.column - within.left - 6) / 2, row = event.row - within.top;
-        if (column >= 0 && column < across && row >= 0 && row < rows_) {
-            number_ = (first_row_ + row) * across + column + 1;
+        if (column >= 0 && column < across_ && row >= 0 && row < rows_) {
+            number_ = (first_row_ + row) * across_ + column + 1;
         }
         return {};
     }
@@ -111,8 +112,8 @@ View::Outcome NumbersView::Take(const Event& event, const Cells& within) {
         return {false, Command()};
     }
     const std::pair<UINT, int> moves[] = {
-        {VK_LEFT, -1},           {VK_RIGHT, 1},         {VK_UP, -across},       {VK_DOWN, across},
-        {VK_PRIOR, -4 * across}, {VK_NEXT, 4 * across}, {VK_HOME, 1 - number_}, {VK_END, all - number_}};
+        {VK_LEFT, -1},           {VK_RIGHT, 1},         {VK_UP, -across_},       {VK_DOWN, across_},
+        {VK_PRIOR, -4 * across_}, {VK_NEXT, 4 * across_}, {VK_HOME, 1 - number_}, {VK_END, all - number_}};
     const auto move = std::ranges::find(moves, event.key.code, &std::pair<UINT, int>::first);
     if (move != std::end(moves) && number_ + move->second >= 1 && number_ + move->second <= all) {
         number_ += move->second;

@@ -26,7 +26,8 @@ private:
     Records records_;
     std::vector<Finding> findings_;
     int number_ = 1;
-    int first_row_ = 0; // of the map, in sight
+    int across_ = 1;    // columns of the map
+    int first_row_ = 0; // of it, in sight
     int rows_ = 1;
 };
 

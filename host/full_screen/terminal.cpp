@@ -100,17 +100,40 @@ constexpr std::pair<int, Key> keys[] = {
 constexpr std::pair<wint_t, Key> controls[] = {
     {L'\t', {VK_TAB}}, {L'\r', {VK_RETURN}}, {L'\n', {VK_RETURN}}, {L' ', {VK_SPACE}}, {0x7F, {VK_BACK}}};
 
-std::optional<Event> OfKey(Key key) {
-    Event event;
-    event.kind = Event::Kind::Key;
-    event.key = key;
-    return event;
+// The next character of a sequence; 0 if the terminal sends no more of it.
+wint_t NextOfSequence() {
+    pollfd input{STDIN_FILENO, POLLIN, 0};
+    wint_t character = 0;
+    for (const int wait : {0, escape_wait}) {
+        if (wait != 0) {
+            poll(&input, 1, wait);
+        }
+        if (const int kind = get_wch(&character); kind != ERR) {
+            return kind == OK ? character : 0;
+        }
+    }
+    return 0;
 }
 
-Event EndEvent() {
-    Event event;
-    event.kind = Event::Kind::End;
-    return event;
+// A key that the terminal's description does not have, after "ESC [" or "ESC O". What it ends with is read
+// whatever it means: nobody typed its letters.
+std::optional<Event> OfSequence(WCHAR begun) {
+    static constexpr std::pair<std::string_view, Key> known[] = {
+        {"A", {VK_UP}},     {"B", {VK_DOWN}},  {"C", {VK_RIGHT}},   {"D", {VK_LEFT}},        {"H", {VK_HOME}},
+        {"F", {VK_END}},    {"1~", {VK_HOME}}, {"7~", {VK_HOME}},   {"4~", {VK_END}},        {"8~", {VK_END}},
+        {"5~", {VK_PRIOR}}, {"6~", {VK_NEXT}}, {"3~", {VK_DELETE}}, {"Z", {VK_TAB, 0, true}}};
+    std::string sequence;
+    for (wint_t next = NextOfSequence(); next > ' ' && next < 0x7F; next = NextOfSequence()) {
+        sequence += static_cast<char>(next);
+        if (next >= '@' && sequence != "[") { // the console of Linux has a second bracket
+            break;
+        }
+    }
+    if (sequence.empty()) {
+        return OfKey({0, begun, false, true}); // was typed with Alt
+    }
+    const auto* const key = std::ranges::find(known, sequence, &std::pair<std::string_view, Key>::first);
+    return key != std::end(known) ? std::optional(OfKey(key->second)) : std::nullopt;
 }
 
 } // namespace
@@ -241,18 +264,26 @@ Event Terminal::Suspend() {
 
 // Esc alone is a key. A letter that is there already makes a hot key: a terminal sends the two for Alt, but
 // nobody types them so fast.
-Event Terminal::OfEscape() {
+std::optional<Event> Terminal::OfEscape() {
+    wint_t character = 0;
+    const int kind = get_wch(&character);
+    if (kind == OK && (character == '[' || character == 'O')) {
+        return OfSequence(static_cast<WCHAR>(character));
+    }
+    if (kind != ERR) {
+        kind == OK ? unget_wch(static_cast<wchar_t>(character)) : ungetch(static_cast<int>(character));
+    }
     std::optional<Event> next = Read(0);
     const bool is_key = next && next->kind == Event::Kind::Key;
     if (is_key && !next->key.alt &&
         (next->key.letter != 0 || next->key.code == VK_DOWN || next->key.code == VK_UP)) {
         next->key.alt = true;
-        return *next;
+        return next;
     }
     if (next) {
         pending_.push_front(*next);
     }
-    return *OfKey({VK_ESCAPE});
+    return OfKey({VK_ESCAPE});
 }
 
 // A slow line brings several events at once. The library then tells of one key, and has the last event first.
@@ -310,10 +341,7 @@ std::optional<Event> Terminal::OfCode(std::wint_t code) {
         }
     }
     if (code >= KEY_F(1) && code <= KEY_F(12)) {
-        Event event;
-        event.kind = Event::Kind::Function;
-        event.function = static_cast<int>(code - KEY_F0);
-        return event;
+        return OfFunction(static_cast<int>(code - KEY_F0));
     }
     const char* const name = keyname(static_cast<int>(code));
     if (name != nullptr && (std::strcmp(name, "kDN3") == 0 || std::strcmp(name, "kUP3") == 0)) {
@@ -341,13 +369,10 @@ std::optional<Event> Terminal::OfCharacter(std::wint_t character) {
         }
     }
     if (character < 0x20) {
-        Event event;
-        event.kind = Event::Kind::Control;
-        event.key.letter = static_cast<WCHAR>(character + '@');
-        return event;
+        return OfControl(static_cast<char>(character + '@'));
     }
     if (character <= 0xFFFF) {
-        return OfKey({0, static_cast<WCHAR>(character)});
+        return OfLetter(static_cast<WCHAR>(character));
     }
     return {};
 }
@@ -376,7 +401,7 @@ std::optional<Event> Terminal::Read(int milliseconds) {
             break;
         }
     }
-    return EndEvent();
+    return Event{Event::Kind::End};
 }
 
 Event Terminal::Next() {

@@ -31,6 +31,25 @@ struct Event {
     int column = 0, row = 0;
 };
 
+constexpr Event OfKey(const Key& key) {
+    return {Event::Kind::Key, key};
+}
+constexpr Event OfCode(UINT code) {
+    return OfKey({code});
+}
+constexpr Event OfLetter(WCHAR letter) {
+    return OfKey({0, letter});
+}
+constexpr Event OfFunction(int number) {
+    return {Event::Kind::Function, {}, number};
+}
+constexpr Event OfControl(char letter) {
+    return {Event::Kind::Control, {0, static_cast<WCHAR>(letter)}};
+}
+constexpr bool IsControl(const Event& event, char letter) {
+    return event.kind == Event::Kind::Control && event.key.letter == static_cast<WCHAR>(letter);
+}
+
 constexpr int wheel_step = 3; // items or lines that the mouse's wheel moves by
 
 // Why the terminal can't be filled; nothing if it can be.
@@ -57,7 +76,7 @@ private:
     std::optional<Event> Read(int milliseconds);
     std::optional<Event> OfCode(std::wint_t code);
     std::optional<Event> OfCharacter(std::wint_t character);
-    Event OfEscape();
+    std::optional<Event> OfEscape();
     std::optional<Event> OfMouse();
     std::optional<Event> TakePending();
 

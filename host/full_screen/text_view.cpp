@@ -49,8 +49,8 @@ void TextView::Draw(Canvas& canvas, const Cells& within) {
     rows_ = std::max(1, within.rows - headings);
     first_ = std::clamp(first_, 0, std::max(0, all - rows_));
     const auto write = [&](int row, std::string_view line, const Look& look) {
-        for (int cut = 0; cut < shift_ && !line.empty(); ++cut) {
-            TakeUtf8(line);
+        for (int cut = 0; cut < shift_ && !line.empty();) {
+            cut += ColumnsOf(TakeUtf8(line));
         }
         canvas.Write(within.top + row, within.left, line, within.columns, look);
     };
@@ -81,8 +81,9 @@ void TextView::Select(int step) {
             const auto begin = std::ranges::find(lines_, selected_, &Line::paragraph);
             const auto end = std::find_if(begin, lines_.end(),
                                           [&](const Line& line) { return line.paragraph != selected_; });
-            first_ = std::clamp(first_, static_cast<int>(end - lines_.begin()) - rows_,
-                                static_cast<int>(begin - lines_.begin()));
+            // Of a paragraph that is longer than the screen its beginning is shown.
+            first_ = std::min(std::max(first_, static_cast<int>(end - lines_.begin()) - rows_),
+                              static_cast<int>(begin - lines_.begin()));
             return;
         }
     }

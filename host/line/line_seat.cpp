@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "host/text.h"
+
 namespace host {
 
 void LineSeat::SitBefore(Session& session) {
@@ -28,8 +30,12 @@ bool LineSeat::MayDiscard() {
         return true;
     }
     asked_ = 2;
-    Tell("The machine has changed and was not exported: export FILE saves it, quit again discards the "
-         "changes.");
+    for (const std::string& line : BrokenAt(
+             "The machine has changed, and the changes are not saved: export FILE or patch FILE saves them, "
+             "quit again discards them.",
+             Width() != 0 ? Width() : 80)) {
+        Tell(line);
+    }
     return false;
 }
 

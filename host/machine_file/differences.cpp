@@ -42,8 +42,10 @@ void Compare(List& list, Difference about, const StoreValues& before, const Stor
         }
         const std::string name = Escaped(ToUtf8(value->name));
         about.text = where + name + (name.ends_with(':') ? " " : ": ") +
-                     (about.before ? Told(*about.before) : "not there") + " -> " +
-                     (about.after ? Told(*about.after) : "gone");
+                     (about.before     ? Told(*about.before)
+                      : about.was_read ? "not there"
+                                       : "not known") +
+                     " -> " + (about.after ? Told(*about.after) : "gone");
         list.push_back(about);
     }
 }
@@ -107,6 +109,7 @@ void CompareDatabases(List& list, const std::vector<BYTE>& before, const std::ve
 List Differences(const Records& before, const Records& after) {
     List list;
     const unsigned known = before.known & after.known;
+    const auto was_read = [&](Place place) { return (before.written & place) == 0; };
     if ((known & DevicesPlace) != 0) {
         CompareDevices(list, before, after);
     }
@@ -114,12 +117,13 @@ List Differences(const Records& before, const Records& after) {
         CompareDatabases(list, before.usage, after.usage);
     }
     if ((known & SerialMapPlace) != 0) {
-        Compare(list, {ChangedPlace::SerialMap, "serial map: ", {}, {}, {}, {}}, before.serial_map,
-                after.serial_map);
+        Compare(list, {ChangedPlace::SerialMap, "serial map: ", {}, {}, {}, {}, was_read(SerialMapPlace)},
+                before.serial_map, after.serial_map);
     }
     if ((known & SettingsPlace) != 0) {
-        Compare(list, {ChangedPlace::SettingsLine, "settings line: ", {}, {}, {}, {}}, before.settings_lines,
-                after.settings_lines);
+        Compare(list,
+                {ChangedPlace::SettingsLine, "settings line: ", {}, {}, {}, {}, was_read(SettingsPlace)},
+                before.settings_lines, after.settings_lines);
     }
     return list;
 }
@@ -142,10 +146,13 @@ std::vector<std::string> DifferenceLines(const Records& before, const Records& a
     for (const Difference& difference : Differences(before, after)) {
         lines.push_back(difference.text);
     }
+    const std::vector<MissingPlace> not_compared = NotCompared(before, after);
     if (lines.empty()) {
-        lines.push_back("nothing differs");
+        lines.push_back((before.known & after.known) == 0 ? "nothing can be compared"
+                        : not_compared.empty()            ? "nothing differs"
+                                                          : "nothing differs in what both hold");
     }
-    for (const MissingPlace& missing : NotCompared(before, after)) {
+    for (const MissingPlace& missing : not_compared) {
         lines.push_back(std::string{"not compared: "} + missing.name + ", which only one of the two holds");
     }
     return lines;
@@ -153,6 +160,7 @@ std::vector<std::string> DifferenceLines(const Records& before, const Records& a
 
 Records AsRead(const Records& original, const Records& now) {
     Records read = original;
+    read.written = now.known & ~original.known;
     read.known |= now.known;
     return read;
 }

@@ -1,6 +1,7 @@
 #include "host/machine_file/patch.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <iterator>
 
 #include "host/machine_file/machine_places.h"
@@ -33,6 +34,11 @@ bool IsInPatch(const Difference& difference) {
     return std::ranges::find(left_outs, difference.place, &LeftOut::place) == std::end(left_outs);
 }
 
+// Nobody knows what its value was.
+bool IsBlind(const Difference& difference) {
+    return IsInPatch(difference) && !difference.was_read;
+}
+
 void AddBroken(Lines& lines, const std::string& text) {
     const Lines broken = BrokenAt(text, 96);
     lines.insert(lines.end(), broken.begin(), broken.end());
@@ -60,6 +66,13 @@ Lines PatchComments(const List& list, const std::string& made_from) {
             "The COM port database is one value: what was claimed since the export is lost by the import. So "
             "import it soon, and make it from a fresh export.");
     }
+    if (std::ranges::any_of(list, IsBlind)) {
+        AddBroken(
+            lines,
+            "What is \"not known\" here was not in the export. The import replaces it for good: the file "
+            "that takes this one back leaves it as it is then. Export that key too, and make this "
+            "file from it.");
+    }
     for (const LeftOut& left_out : left_outs) {
         const auto is_of = [&](const Difference& difference) { return difference.place == left_out.place; };
         if (std::ranges::any_of(list, is_of)) {
@@ -75,7 +88,11 @@ Lines PatchComments(const List& list, const std::string& made_from) {
 
 Lines UndoComments(const List& list, const std::string& patch) {
     Lines lines = {"Takes back what " + Escaped(patch) + " changes:"};
-    AddTexts(lines, list, &IsInPatch);
+    AddTexts(lines, list, [](const Difference& each) { return IsInPatch(each) && each.was_read; });
+    if (std::ranges::any_of(list, IsBlind)) {
+        lines.insert(lines.end(), {"", "and leaves as it is, because the export did not hold what it was:"});
+        AddTexts(lines, list, IsBlind);
+    }
     lines.insert(lines.end(), {"", "An administrator imports it and restarts the machine, or the ports."});
     return lines;
 }
@@ -108,7 +125,8 @@ void Write(std::ostream& out, const Lines& comments, const List& list, const Tex
     bool has_database = false;
     for (const Difference& difference : list) {
         const bool is_database = difference.place == ChangedPlace::Database;
-        if (!IsInPatch(difference) || (is_database && has_database)) {
+        const bool is_known = value == &Difference::after || difference.was_read;
+        if (!IsInPatch(difference) || !is_known || (is_database && has_database)) {
             continue;
         }
         has_database = has_database || is_database;
@@ -139,8 +157,17 @@ bool WritePatch(const PatchSource& source, const std::string& path, std::string&
             file, [&](std::ostream& out) { Write(out, comments, list, source.control_set, state, value); },
             error);
     };
-    return write(path, PatchComments(list, source.name), source.after, &Difference::after) &&
-           write(UndoPath(path), UndoComments(list, path), source.before, &Difference::before);
+    // No patch is left without what takes it back.
+    const std::string undo = UndoPath(path);
+    if (!write(undo, UndoComments(list, path), source.before, &Difference::before)) {
+        return false;
+    }
+    if (!write(path, PatchComments(list, source.name), source.after, &Difference::after)) {
+        std::error_code none;
+        std::filesystem::remove(PathOf(undo), none);
+        return false;
+    }
+    return true;
 }
 
 std::string UndoPath(const std::string& path) {

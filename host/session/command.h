@@ -38,7 +38,7 @@ const std::vector<Command>& Commands();
 const Command& FindCommand(std::string_view word);
 
 // Runs the command that the words give. Throws Refusal.
-void RunCommand(Session& session, const Words& words);
+void RunCommand(Session& session, Words words);
 
 // The file in words that end in "[--over] FILE". Throws Refusal if it exists and may not be replaced.
 std::string FileToWrite(const Words& words);

@@ -46,10 +46,28 @@ const Command& FindCommand(std::string_view word) {
     throw Refusal(Quoted(word) + " could be " + meant);
 }
 
-void RunCommand(Session& session, const Words& words) {
+namespace {
+
+// An option may stand anywhere: it goes to where the command has it.
+void MoveOption(Words& words, const Words& arguments) {
+    for (std::size_t index = 0; index < arguments.size(); ++index) {
+        const std::string option = arguments[index].substr(1, arguments[index].size() - 2);
+        const auto given = std::ranges::find(words, option);
+        if (option.starts_with("--") && given != words.end()) {
+            words.erase(given);
+            words.insert(words.begin() + static_cast<std::ptrdiff_t>(std::min(index + 1, words.size())),
+                         option);
+        }
+    }
+}
+
+} // namespace
+
+void RunCommand(Session& session, Words words) {
     const Command& command = FindCommand(words[0]);
     Words arguments;
     SplitWords(command.arguments, arguments);
+    MoveOption(words, arguments);
     const auto optional = static_cast<std::size_t>(
         std::ranges::count_if(arguments, [](const std::string& each) { return each.starts_with('['); }));
     if (words.size() > arguments.size() + 1 || words.size() + optional < arguments.size() + 1) {

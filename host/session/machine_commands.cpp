@@ -6,6 +6,7 @@
 #include "host/session/command.h"
 #include "host/session/session.h"
 #include "host/text.h"
+#include "host/whole_file.h"
 
 namespace host {
 namespace {
@@ -61,13 +62,12 @@ void Export(Session& session, const Words& words) {
 } // namespace
 
 std::string FileToWrite(const Words& words) {
-    const std::string& file = words.back();
-    const bool over = words.size() > 2;
-    if (over && words[1] != "--over") {
+    if (words.size() > 2 && words[1] != "--over") {
         throw Refusal(Quoted(words[1]) + " is not --over");
     }
+    const std::string& file = words.back();
     std::error_code none;
-    if (!over && std::filesystem::exists(std::filesystem::path(FromUtf8(file)), none)) {
+    if (words.size() < 3 && std::filesystem::exists(PathOf(file), none)) {
         throw Refusal(file + " exists; " + words[0] + " --over " + file + " replaces it");
     }
     return file;

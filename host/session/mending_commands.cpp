@@ -163,8 +163,10 @@ void Patch(Session& session, const Words& words) {
     if (machine == nullptr) {
         throw Refusal("what is changed here is changed already: a patch is made from an export");
     }
+    const std::string file = FileToWrite(words);
+    Must(!session.IsReadFrom(file), file + " is the export that the machine was read from");
     std::string told;
-    Must(machine->Patch(session.original(), FileToWrite(words), told), told);
+    Must(machine->Patch(session.original(), file, words.size() > 2, told), told);
     session.Tell(told);
 }
 

@@ -10,6 +10,7 @@
 #include "host/screen/painter.h"
 #include "host/session/command.h"
 #include "host/text.h"
+#include "host/whole_file.h"
 
 namespace host {
 namespace {
@@ -48,11 +49,16 @@ void Session::Source(const std::string& file) {
     if (files_.size() == deepest) {
         throw Refusal("files are sourced no deeper than " + std::to_string(deepest));
     }
-    std::ifstream lines(std::filesystem::path(FromUtf8(file)), std::ios::binary);
+    std::ifstream lines(PathOf(file), std::ios::binary);
     if (!lines) {
         throw Refusal("can't open " + file);
     }
     files_.push_back(std::move(lines));
+}
+
+bool Session::IsReadFrom(const std::string& file) const {
+    std::error_code none;
+    return world_.File() != nullptr && std::filesystem::equivalent(PathOf(world_.Name()), PathOf(file), none);
 }
 
 // The next line of the innermost file, or else of the user; nothing if there is none at the moment.
@@ -66,7 +72,11 @@ std::optional<std::string> Session::NextLine() {
     }
     std::string line;
     if (!std::getline(files_.back(), line)) {
+        const bool is_broken = files_.back().bad();
         files_.pop_back();
+        if (is_broken) {
+            Fail("the file can't be read to its end");
+        }
     }
     return line;
 }

@@ -52,6 +52,8 @@ public:
     // As it was read.
     const Records& original() const { return original_; }
     History& history() { return history_; }
+    // Whether that is the file that the machine was read from.
+    bool IsReadFrom(const std::string& file) const;
     // As of the last action.
     bool IsUnsaved() const { return unsaved_; }
 
@@ -78,6 +80,8 @@ public:
     // From now on `hear` gets each line of the trace too; null for none. False if this library traces
     // nothing.
     bool HearTrace(World::TraceListener hear);
+    // The files that this session has begun to trace to.
+    Lines& trace_files() { return trace_files_; }
 
     // --- Windows
 
@@ -148,6 +152,7 @@ private:
     bool keeps_trace_ = false;
     bool trace_is_old_ = true;
     World::TraceListener trace_listener_;
+    Lines trace_files_;
 };
 
 } // namespace host

@@ -19,7 +19,7 @@ namespace {
 std::string DateOf(const std::string& file) {
     using namespace std::chrono;
     std::error_code failure;
-    const auto written = std::filesystem::last_write_time(std::filesystem::path(FromUtf8(file)), failure);
+    const auto written = std::filesystem::last_write_time(PathOf(file), failure);
     if (failure) {
         return {};
     }
@@ -34,10 +34,14 @@ std::string DateOf(const std::string& file) {
 
 bool WriteReport(Session& session, const std::string& file, const std::string& changes_by,
                  std::string& error) {
+    if (session.IsReadFrom(file)) {
+        error = file + " is the export that the machine was read from";
+        return false;
+    }
     const Records now = session.world().Describe();
     ReportSource source{
         session.world().Name(), {}, {}, DifferenceLines(AsRead(session.original(), now), now), changes_by};
-    std::ifstream bytes(std::filesystem::path(FromUtf8(source.name)), std::ios::binary);
+    std::ifstream bytes(PathOf(source.name), std::ios::binary);
     if (session.world().File() != nullptr && bytes) {
         source.date = DateOf(source.name);
         source.sha256 = Sha256(bytes);

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -5,12 +6,13 @@
 #include "host/session/command.h"
 #include "host/session/session.h"
 #include "host/text.h"
+#include "host/whole_file.h"
 
 namespace host {
 namespace {
 
-// A line of the trace is written as it is, one of the journal with a * before it. They are appended to what a
-// file already holds.
+// A line of the trace is written as it is, one of the journal with a * before it. They are appended to a file
+// that this session has begun, and to no other.
 World::TraceListener ListenerFor(Session& session, const std::string& where) {
     const std::string word = Folded(where);
     if (word == "off") {
@@ -21,10 +23,17 @@ World::TraceListener ListenerFor(Session& session, const std::string& where) {
             session.Tell((change ? "  * " : "  ") + line);
         };
     }
-    const auto file = std::make_shared<std::ofstream>(std::filesystem::path(FromUtf8(where)), std::ios::app);
+    Lines& begun = session.trace_files();
+    const bool goes_on = std::ranges::find(begun, where) != begun.end();
+    std::error_code none;
+    if (!goes_on && std::filesystem::is_regular_file(PathOf(where), none)) {
+        throw Refusal(where + " exists; name a new file");
+    }
+    const auto file = std::make_shared<std::ofstream>(PathOf(where), std::ios::app);
     if (!*file) {
         throw Refusal("can't write " + where);
     }
+    begun.push_back(where);
     return [file](const std::string& line, bool change) {
         *file << (change ? "* " : "") << line << '\n' << std::flush;
     };

@@ -26,9 +26,10 @@ public:
     virtual bool Export(const std::string& file, std::string& told) = 0;
 
     // Writes what differs from `original`, the machine as it was read, as a patch for its registry, and
-    // beside it a file that takes it back. Returns false, with a reason in `told`, if that fails or there is
-    // nothing to write. On success `told` names the files.
-    virtual bool Patch(const Records& original, const std::string& file, std::string& told) = 0;
+    // beside it a file that takes it back, which replaces an existing one only if `over` says so. Returns
+    // false, with a reason in `told`, if that fails or there is nothing to write. On success `told` names the
+    // files.
+    virtual bool Patch(const Records& original, const std::string& file, bool over, std::string& told) = 0;
 
     // The present state of the machine, to come back to. It is first asked for before anything changes. No
     // sheet may be open when it is set back.

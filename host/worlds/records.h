@@ -59,14 +59,16 @@ struct NumberRecord {
     bool claimed = false;
     std::vector<std::size_t> holders; // indices of the devices with this number in PortName
     std::vector<std::string> mapped;  // the objects in the serial map
-    std::vector<std::string> lines;   // the settings lines; several only if their keys differ in case
+    std::vector<std::string>
+        lines; // the settings lines; several if their keys differ in case or in zeros before the number
     std::vector<std::string> targets; // of its DOS names
 };
 
 using TextPairs = std::vector<std::pair<std::string, std::string>>;
 
 struct Records {
-    unsigned known = 0; // places
+    unsigned known = 0;   // places
+    unsigned written = 0; // of these, the ones that were not read: only what has been written there is known
     // First those with a sheet, boards before ports, each in the order of their instance ids; then other
     // channels.
     std::vector<DeviceRecord> devices;

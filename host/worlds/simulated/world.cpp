@@ -1,6 +1,7 @@
 #include "host/worlds/simulated/world.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -12,6 +13,7 @@
 #include "host/machine_file/machine_places.h"
 #include "host/machine_file/patch.h"
 #include "host/text.h"
+#include "host/whole_file.h"
 #include "host/worlds/channel_classes.h"
 #include "host/worlds/simulated/tour.h"
 #include "reporting/module_entry.h"
@@ -199,7 +201,12 @@ bool SimulatedWorld::Export(const std::string& file, std::string& told) {
     return true;
 }
 
-bool SimulatedWorld::Patch(const Records& original, const std::string& file, std::string& told) {
+bool SimulatedWorld::Patch(const Records& original, const std::string& file, bool over, std::string& told) {
+    std::error_code none;
+    if (!over && std::filesystem::exists(PathOf(UndoPath(file)), none)) {
+        told = UndoPath(file) + " exists; patch --over " + file + " replaces it";
+        return false;
+    }
     if (!WritePatch({original, Describe(), file_.control_set, Name()}, file, told)) {
         return false;
     }
@@ -244,9 +251,10 @@ bool OpenMachineFile(const std::string& path, MachineFile& file, std::string& er
     std::ifstream from_file;
     std::istringstream sample{std::string{SampleMachine()}};
     if (!path.empty()) {
-        from_file.open(path, std::ios::binary);
-        if (!from_file) {
-            error = "can't open " + path;
+        std::error_code none;
+        from_file.open(PathOf(path), std::ios::binary);
+        if (!from_file || std::filesystem::is_directory(PathOf(path), none)) {
+            error = "can't open " + path + (from_file ? ": it is a folder" : "");
             return false;
         }
     }
@@ -254,7 +262,10 @@ bool OpenMachineFile(const std::string& path, MachineFile& file, std::string& er
     if (LoadMachine(path.empty() ? static_cast<std::istream&>(sample) : from_file, path, file, problem)) {
         return true;
     }
-    error = problem.file + ':' + std::to_string(problem.line) + ": expected " + problem.expected;
+    error =
+        problem.file + ':' + std::to_string(problem.line) + ": expected " + problem.expected +
+        ". Unless somebody has edited it, ask for the file again: it was cut off or changed on its way, or "
+        "it is no export of registry version 5.";
     return false;
 }
 

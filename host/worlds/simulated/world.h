@@ -34,7 +34,7 @@ public:
 private:
     bool IsUnsaved() override;
     bool Export(const std::string& file, std::string& told) override;
-    bool Patch(const Records& original, const std::string& file, std::string& told) override;
+    bool Patch(const Records& original, const std::string& file, bool over, std::string& told) override;
     std::shared_ptr<const Moment> Now() override;
     bool IsStill(const Moment& moment) override;
     void ComeBackTo(const Moment& moment) override;
