@@ -165,7 +165,7 @@ class Prefix:
 
     def environment(self):
         return {**os.environ, "WINEPREFIX": str(self.place), "WINEDEBUG": "-all", "LC_ALL": "C.UTF-8",
-                "WINEDLLOVERRIDES": "msports=n,b;mscoree,mshtml=d", "DISPLAY": self.display or Screen.name()}
+                "WINEDLLOVERRIDES": "msports,cfgmgr32=n,b;mscoree,mshtml=d", "DISPLAY": self.display or Screen.name()}
 
     def run(self, *command, input=b"", timeout=300):
         """Runs a program of the system or of C:\\kvr. Returns the bytes that it writes, and its exit code."""

@@ -1,0 +1,212 @@
+#include "check/windows/devices.h"
+
+#include <io.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <iostream>
+#include <sstream>
+
+#include "check/windows/embedded.h"
+#include "check/windows/journal.h"
+#include "check/windows/own_machine.h"
+#include "check/windows/own_world.h"
+#include "check/windows/parts.h"
+#include "check/windows/software_devices.h"
+#include "check/windows/steps.h"
+#include "host/line/line_seat.h"
+#include "host/session/session.h"
+
+namespace check {
+namespace {
+
+using host::Records;
+
+constexpr const char* everything = "all";
+
+// Takes the steps back in reverse order. Returns "all", or what remains.
+std::string TakeAllBack(const std::vector<Step>& steps, OwnWorld& world) {
+    const Records before = world.All();
+    std::for_each(steps.rbegin(), steps.rend(), [&](const Step& step) { TakeBack(step, before); });
+    const Records now = world.All();
+    std::string left;
+    for (const Step& step : steps) {
+        if (Remains(step, now)) {
+            left += (left.empty() ? "there remains: " : ", ") + LineOf(step);
+        }
+    }
+    return left.empty() ? everything : left;
+}
+
+// A number that is used for anything; 0 if none of the check's own is.
+unsigned long UsedNumber(const Records& records) {
+    for (unsigned long number = first_number; number <= last_number; ++number) {
+        if (records.numbers.contains(number)) {
+            return number;
+        }
+    }
+    return 0;
+}
+
+// Makes all steps, each after its line is on the disk. Returns what has failed, or nothing.
+std::string MakeAll(Journal& journal, std::vector<Step>& made) {
+    for (const Step& step : AllSteps()) {
+        if (!journal.Note(LineOf(step))) {
+            return "the journal can't be written";
+        }
+        std::string error;
+        const Made result = Make(step, error);
+        if (result == Made::Refused) {
+            journal.Forget();
+        } else {
+            made.push_back(step);
+        }
+        if (!error.empty()) {
+            return error;
+        }
+    }
+    return Furnish();
+}
+
+// The lines of a transcript that are the same in both worlds: all but the drawings.
+std::vector<std::string> ToldLines(std::string_view transcript) {
+    std::vector<std::string> lines;
+    std::istringstream stream{std::string(transcript)};
+    for (std::string line; std::getline(stream, line);) {
+        if (!line.starts_with("  |")) {
+            lines.push_back(line);
+        }
+    }
+    return lines;
+}
+
+// "as kept", or the first line that differs, counted without drawings.
+std::string RunScript(const KeptScript& script, OwnWorld& world) {
+    std::istringstream commands{std::string(script.commands)};
+    std::ostringstream out;
+    const std::unique_ptr<host::LineSource> lines = host::LinesOf(commands);
+    host::LineSeat seat(*lines, out);
+    host::Session(world, seat).Run();
+    const std::vector<std::string> kept = ToldLines(script.transcript), seen = ToldLines(out.str());
+    const auto [left, right] = std::ranges::mismatch(kept, seen);
+    if (left == kept.end() && right == seen.end()) {
+        return "as kept";
+    }
+    return "line " + std::to_string(left - kept.begin() + 1) + ": " +
+           (right == seen.end() ? "the end" : *right);
+}
+
+// A page of a board and one of a port, in turn.
+void OpenPages(OwnWorld& world, int times, Report& report) {
+    std::size_t turn = 0;
+    Repeat(
+        "devices.pages", times,
+        [&] {
+            const auto& devices = TheOwnMachine().devices;
+            bool opened = false;
+            world.RunSheet(devices[turn++ % 2].id, [&](HWND front) {
+                opened = true;
+                SendMessageW(GetDlgItem(front, IDCANCEL), BM_CLICK, 0, 0);
+            });
+            return opened;
+        },
+        report);
+}
+
+} // namespace
+
+void TakeBackEarlier(Report& report) {
+    Journal journal;
+    std::vector<std::string> lines;
+    const bool is_read = journal.ReadEarlier(lines);
+    if (is_read && lines.empty()) {
+        journal.Delete(); // its check ended before the first step
+        return;
+    }
+    std::vector<Step> steps;
+    std::string not_read = is_read ? "" : "; its journal can't be read";
+    for (const std::string& line : lines) {
+        Step step{};
+        if (ReadStep(line, step)) {
+            steps.push_back(step);
+        } else {
+            not_read += "; not read: " + line;
+        }
+    }
+    OwnWorld world;
+    const std::string taken = !HasSoftwareDevices()         ? "nothing: the system has no software devices"
+                              : Rights() != "administrator" ? "nothing: the check is not the administrator's"
+                              : !world.IsOpen()             ? "nothing: the system can't be read"
+                                                            : TakeAllBack(steps, world);
+    if (taken == everything) {
+        journal.Delete();
+    }
+    report.facts.push_back({"earlier_check.taken_back", everything, taken + not_read});
+}
+
+bool MayMakeDevices() {
+    WCHAR user[257] = {};
+    DWORD length = ARRAYSIZE(user);
+    if (GetUserNameW(user, &length) && lstrcmpiW(user, L"WDAGUtilityAccount") == 0) {
+        return true;
+    }
+    if (!_isatty(_fileno(stdin)) || !_isatty(_fileno(stdout))) {
+        return false;
+    }
+    std::printf(
+        "For some minutes, this check makes on your Windows what a board and its driver would:\n"
+        "  eight software devices below SWD\\KVRCHECK: two boards and six ports, which are none;\n"
+        "  the numbers COM%lu to COM%lu: their marks in the database of ports, their DOS names and\n"
+        "  their settings, if none of them is used; and six entries in the list of serial ports.\n"
+        "It opens their property pages, changes them there, and takes everything back at the end. Before\n"
+        "each step it writes it down in kvrcheck.journal, in the folder ProgramData, and what a check\n"
+        "leaves that was ended is taken back when kvrcheck is next started as administrator.\n"
+        "Type yes if it may: ",
+        first_number, last_number);
+    std::fflush(stdout);
+    std::string answer;
+    std::getline(std::cin, answer);
+    return answer == "yes" || answer == "yes\r";
+}
+
+void LookAtDevices(bool allowed, int times, Report& report) {
+    OwnWorld world;
+    Journal journal;
+    std::vector<std::string> earlier;
+    std::string error;
+    std::vector<Step> made;
+    bool begun = false;
+    if (!allowed) {
+        error = "nobody has agreed";
+    } else if (Rights() != "administrator") {
+        error = "the check is not the administrator's";
+    } else if (!HasSoftwareDevices()) {
+        error = "the system has no software devices";
+    } else if (!world.IsOpen()) {
+        error = "the system can't be read";
+    } else if (const unsigned long used = UsedNumber(world.All())) {
+        error = host::ComName(used) + " is used";
+    } else if (begun = journal.Begin(); !begun) {
+        error = "an earlier check's journal is there, or none can be written";
+    } else {
+        error = MakeAll(journal, made);
+    }
+    report.facts.push_back({"devices.made", everything, error.empty() ? everything : error});
+    if (error.empty()) {
+        for (const KeptScript& script : KeptScripts()) {
+            error = Furnish();
+            report.facts.push_back({std::string("devices.script.") + script.name, "as kept",
+                                    error.empty() ? RunScript(script, world) : error});
+        }
+        OpenPages(world, times, report);
+    }
+    if (begun) {
+        const std::string taken = TakeAllBack(made, world);
+        if (taken == everything) {
+            journal.Delete();
+        }
+        report.facts.push_back({"devices.taken_back", everything, taken});
+    }
+}
+
+} // namespace check
