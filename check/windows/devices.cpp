@@ -80,6 +80,16 @@ std::vector<std::string> ToldLines(std::string_view transcript) {
     return lines;
 }
 
+// Without the folder of this program, which may be named after a person.
+std::string WithoutFolder(std::string line) {
+    const std::string quoted = host::Quoted(ToUtf8(OwnFolder())),
+                      folder = quoted.substr(1, quoted.size() - 2);
+    for (std::size_t at; (at = line.find(folder)) != std::string::npos;) {
+        line.erase(at, folder.size());
+    }
+    return line;
+}
+
 // "as kept", or the first line that differs, counted without drawings.
 std::string RunScript(const KeptScript& script, OwnWorld& world) {
     std::istringstream commands{std::string(script.commands)};
@@ -93,7 +103,7 @@ std::string RunScript(const KeptScript& script, OwnWorld& world) {
         return "as kept";
     }
     return "line " + std::to_string(left - kept.begin() + 1) + ": " +
-           (right == seen.end() ? "the end" : *right);
+           (right == seen.end() ? "the end" : WithoutFolder(*right));
 }
 
 // A page of a board and one of a port, in turn.
@@ -153,16 +163,17 @@ bool MayMakeDevices() {
     if (!_isatty(_fileno(stdin)) || !_isatty(_fileno(stdout))) {
         return false;
     }
-    std::printf(
-        "For some minutes, this check makes on your Windows what a board and its driver would:\n"
-        "  eight software devices below SWD\\KVRCHECK: two boards and six ports, which are none;\n"
-        "  the numbers COM%lu to COM%lu: their marks in the database of ports, their DOS names and\n"
-        "  their settings, if none of them is used; and six entries in the list of serial ports.\n"
-        "It opens their property pages, changes them there, and takes everything back at the end. Before\n"
-        "each step it writes it down in kvrcheck.journal, in the folder ProgramData, and what a check\n"
-        "leaves that was ended is taken back when kvrcheck is next started as administrator.\n"
-        "Type yes if it may: ",
-        first_number, last_number);
+    std::printf("For some minutes, this check makes on your Windows what a board and its driver would:\n"
+                "- eight software devices below SWD\\KVRCHECK, as two boards and their six ports;\n"
+                "- COM%lu to COM%lu, if none of them is used: their marks in the database of ports,\n"
+                "  their DOS names and their settings;\n"
+                "- six entries in the list of serial ports.\n"
+                "It opens the property pages of these devices, changes them there, and takes everything\n"
+                "back at the end. Each step is written down before, in kvrcheck.journal in the folder\n"
+                "ProgramData. If the check is ended, start it again as administrator: it first takes\n"
+                "back what was left.\n"
+                "Type yes if it may: ",
+                first_number, last_number);
     std::fflush(stdout);
     std::string answer;
     std::getline(std::cin, answer);

@@ -196,7 +196,7 @@ std::string FurnishDevice(const OwnDevice& own) {
     return std::ranges::all_of(own.store,
                                [&](const StoreValue& value) { return WriteValue(key.Handle(), value); })
                ? ""
-               : own.id + " can't be given its values: error " + std::to_string(GetLastError());
+               : own.id + " can't be given its values";
 }
 
 void FurnishNumber(unsigned long number) {
