@@ -154,7 +154,8 @@ class Prefix:
         (place / "dosdevices").mkdir()
         (place / "dosdevices" / "c:").symlink_to("../drive_c")
         (place / "dosdevices" / "z:").symlink_to("/")
-        for folder, own in (("drive_c", {"windows", "kvr"}), ("drive_c/windows", {"win.ini", "temp", "system32"}),
+        for folder, own in (("drive_c", {"windows", "kvr", "ProgramData"}), ("drive_c/ProgramData", set()),
+                            ("drive_c/windows", {"win.ini", "temp", "system32"}),
                             ("drive_c/windows/system32", {"msports.dll"})):
             (place / folder).mkdir()
             for entry in (origin / folder).iterdir():
