@@ -49,7 +49,7 @@ unsigned long UsedNumber(const Records& records) {
 }
 
 // Makes all steps, each after its line is on the disk. Returns what has failed, or nothing.
-std::string MakeAll(Journal& journal, std::vector<Step>& made) {
+std::string MakeAll(Journal& journal, std::vector<Step>& made, OwnWorld& world) {
     for (const Step& step : AllSteps()) {
         if (!journal.Note(LineOf(step))) {
             return "the journal can't be written";
@@ -65,7 +65,7 @@ std::string MakeAll(Journal& journal, std::vector<Step>& made) {
             return error;
         }
     }
-    return Furnish();
+    return Furnish(world.All());
 }
 
 // The lines of a transcript that are the same in both worlds: all but the drawings.
@@ -115,8 +115,8 @@ void OpenPages(OwnWorld& world, int times, Report& report) {
             const auto& devices = TheOwnMachine().devices;
             bool opened = false;
             world.RunSheet(devices[turn++ % 2].id, [&](HWND front) {
-                opened = true;
-                SendMessageW(GetDlgItem(front, IDCANCEL), BM_CLICK, 0, 0);
+                opened = opened || PropSheet_GetCurrentPageHwnd(front) != nullptr;
+                SendMessageW(front, WM_CLOSE, 0, 0);
             });
             return opened;
         },
@@ -134,7 +134,7 @@ void TakeBackEarlier(Report& report) {
         return;
     }
     std::vector<Step> steps;
-    std::string not_read = is_read ? "" : "; its journal can't be read";
+    std::string not_read;
     for (const std::string& line : lines) {
         Step step{};
         if (ReadStep(line, step)) {
@@ -143,8 +143,10 @@ void TakeBackEarlier(Report& report) {
             not_read += "; not read: " + line;
         }
     }
+    std::printf("What an earlier check has left\n");
     OwnWorld world;
-    const std::string taken = !HasSoftwareDevices()         ? "nothing: the system has no software devices"
+    const std::string taken = !is_read                      ? "nothing: its journal can't be read"
+                              : !HasSoftwareDevices()       ? "nothing: the system has no software devices"
                               : Rights() != "administrator" ? "nothing: the check is not the administrator's"
                               : !world.IsOpen()             ? "nothing: the system can't be read"
                                                             : TakeAllBack(steps, world);
@@ -200,12 +202,12 @@ void LookAtDevices(bool allowed, int times, Report& report) {
     } else if (begun = journal.Begin(); !begun) {
         error = "an earlier check's journal is there, or none can be written";
     } else {
-        error = MakeAll(journal, made);
+        error = MakeAll(journal, made, world);
     }
     report.facts.push_back({"devices.made", everything, error.empty() ? everything : error});
     if (error.empty()) {
         for (const KeptScript& script : KeptScripts()) {
-            error = Furnish();
+            error = Furnish(world.All());
             report.facts.push_back({std::string("devices.script.") + script.name, "as kept",
                                     error.empty() ? RunScript(script, world) : error});
         }

@@ -45,9 +45,10 @@ int main(int argc, char** argv) {
             return 2;
         }
     }
-    const bool may_make_devices = devices && check::MayMakeDevices();
     const std::wstring folder = check::OwnFolder(), file = folder + L"\\kvrcheck.txt";
     check::Report report;
+    check::TakeBackEarlier(report);
+    const bool may_make_devices = devices && check::MayMakeDevices();
     bool written = true;
     // Written after each part: if one ends the program, what was seen before it remains.
     const auto look = [&](const char* what, const auto& part) {
@@ -56,7 +57,6 @@ int main(int argc, char** argv) {
         part();
         written = Write(file, TextOf(report)) && written;
     };
-    check::TakeBackEarlier(report);
     look("This Windows", [&] { check::LookAtMachine(report); });
     look("The library", [&] { library = check::LookAtLibrary(folder, report); });
     if (library != nullptr) {

@@ -266,7 +266,7 @@ bool Remains(const Step& step, const host::Records& now) {
     return step.kind->remains(step, now);
 }
 
-std::string Furnish() {
+std::string Furnish(const host::Records& before) {
     for (const OwnDevice& device : TheOwnMachine().devices) {
         if (std::string error = FurnishDevice(device); !error.empty()) {
             return error;
@@ -276,7 +276,9 @@ std::string Furnish() {
         WriteValue(host::RegistryKey(OpenMap()).Handle(), entry);
     }
     for (unsigned long number = first_number; number <= last_number; ++number) {
-        FurnishNumber(number);
+        if (!IsHeldByAnother(number, before)) {
+            FurnishNumber(number);
+        }
     }
     return {};
 }

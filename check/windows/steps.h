@@ -41,8 +41,8 @@ void TakeBack(const Step& step, const host::Records& before);
 bool Remains(const Step& step, const host::Records& now);
 
 // Gives the devices, numbers and lists that were made the values of the check's machine, whatever scripts
-// have done to them. Returns what has failed, or nothing.
-std::string Furnish();
+// have done to them. `before` is as above. Returns what has failed, or nothing.
+std::string Furnish(const host::Records& before);
 
 // What of a machine is the check's own.
 void KeepOwn(host::Records& records);
