@@ -24,18 +24,30 @@ using host::Records;
 
 constexpr const char* everything = "all";
 
-// Takes the steps back in reverse order. Returns "all", or what remains.
-std::string TakeAllBack(const std::vector<Step>& steps, OwnWorld& world) {
-    const Records before = world.All();
-    std::for_each(steps.rbegin(), steps.rend(), [&](const Step& step) { TakeBack(step, before); });
-    const Records now = world.All();
+// "number 247, device SWD\KVRCHECK\PORT11"
+std::string WhatRemains(const std::vector<Step>& steps, const Records& now) {
     std::string left;
     for (const Step& step : steps) {
         if (Remains(step, now)) {
-            left += (left.empty() ? "there remains: " : ", ") + LineOf(step);
+            left += (left.empty() ? "" : ", ") + LineOf(step);
         }
     }
-    return left.empty() ? everything : left;
+    return left;
+}
+
+// Takes the steps back in reverse order, again while something remains: the system removes devices in its own
+// time. Returns "all", or what remains.
+std::string TakeAllBack(const std::vector<Step>& steps, OwnWorld& world) {
+    constexpr int turns = 10;
+    constexpr DWORD between = 1000; // milliseconds
+    std::string left;
+    for (int turn = 0; turn == 0 || (turn != turns && !left.empty()); ++turn) {
+        Sleep(turn == 0 ? 0 : between);
+        const Records before = world.All();
+        std::for_each(steps.rbegin(), steps.rend(), [&](const Step& step) { TakeBack(step, before); });
+        left = WhatRemains(steps, world.All());
+    }
+    return left.empty() ? everything : "there remains: " + left;
 }
 
 // A number that is used for anything; 0 if none of the check's own is.
@@ -182,7 +194,7 @@ bool MayMakeDevices() {
     return answer == "yes" || answer == "yes\r";
 }
 
-void LookAtDevices(bool allowed, int times, Report& report) {
+void LookAtDevices(bool allowed, int times, Report& report, const std::function<void()>& save) {
     OwnWorld world;
     Journal journal;
     std::vector<std::string> earlier;
@@ -207,10 +219,12 @@ void LookAtDevices(bool allowed, int times, Report& report) {
     report.facts.push_back({"devices.made", everything, error.empty() ? everything : error});
     if (error.empty()) {
         for (const KeptScript& script : KeptScripts()) {
+            save();
             error = Furnish(world.All());
             report.facts.push_back({std::string("devices.script.") + script.name, "as kept",
                                     error.empty() ? RunScript(script, world) : error});
         }
+        save();
         OpenPages(world, times, report);
     }
     if (begun) {

@@ -1,6 +1,8 @@
 // The pages on devices of the check's own, which it makes and takes back.
 #pragma once
 
+#include <functional>
+
 #include "check/facts.h"
 
 namespace check {
@@ -11,8 +13,9 @@ void TakeBackEarlier(Report& report);
 // Whether the person at the console agrees to what is made. Windows Sandbox is not asked: it is thrown away.
 bool MayMakeDevices();
 
-// Makes the devices, opens their pages so many times, runs the scripts on them and takes everything back.
-// Only tells that it was not allowed if it was not.
-void LookAtDevices(bool allowed, int times, Report& report);
+// Makes the devices, runs the scripts on them, opens their pages so many times and takes everything back.
+// Only tells that it was not allowed if it was not. `save` is called where the report has grown and what
+// follows may end the program.
+void LookAtDevices(bool allowed, int times, Report& report, const std::function<void()>& save);
 
 } // namespace check

@@ -51,17 +51,19 @@ int main(int argc, char** argv) {
     const bool may_make_devices = devices && check::MayMakeDevices();
     bool written = true;
     // Written after each part: if one ends the program, what was seen before it remains.
+    const auto save = [&] { written = Write(file, TextOf(report)) && written; };
     const auto look = [&](const char* what, const auto& part) {
         std::printf("%s\n", what);
         std::fflush(stdout);
         part();
-        written = Write(file, TextOf(report)) && written;
+        save();
     };
     look("This Windows", [&] { check::LookAtMachine(report); });
     look("The library", [&] { library = check::LookAtLibrary(folder, report); });
     if (library != nullptr) {
         if (devices) {
-            look("Two boards of its own", [&] { check::LookAtDevices(may_make_devices, times, report); });
+            look("Two boards of its own",
+                 [&] { check::LookAtDevices(may_make_devices, times, report, save); });
         }
         look("Its texts in 30 languages", [&] { check::LookAtStrings(report); });
         look("Its 120 dialogs, twice", [&] { check::LookAtDialogs(report); });
@@ -70,7 +72,7 @@ int main(int argc, char** argv) {
         FreeLibrary(library);
     }
     report.whole = true;
-    written = Write(file, TextOf(report)) && written;
+    save();
     std::printf("%s\n%s\n", check::ClosingLine(report).c_str(),
                 written ? "Please send kvrcheck.txt back." : "kvrcheck.txt can't be written here.");
     for (const check::Fact& fact : report.facts) {

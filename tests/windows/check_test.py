@@ -56,6 +56,7 @@ def main(keep):
 
     with Prefix() as prefix:
         prefix.import_machine(ROOT / "host/machines/sample.reg")
+        prefix.reg("delete", r"HKLM\HARDWARE\DEVICEMAP\SERIALCOMM")  # as in a sandbox, which has no port
         prefix.run("kvrhost.exe", input=b"devices\n")  # Wine changes the spelling of what it lists for the first time
         folder = install(prefix)
         prefix.environment = (lambda given: lambda: {**given, "USER": "WDAGUtilityAccount"})(prefix.environment())
