@@ -23,6 +23,8 @@ std::string WindowsVersion() {
                : "not known";
 }
 
+} // namespace
+
 std::string Rights() {
     HANDLE token = nullptr;
     if (!OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token)) {
@@ -36,7 +38,11 @@ std::string Rights() {
     return !known ? "not known" : elevation.TokenIsElevated ? "administrator" : "user";
 }
 
-} // namespace
+std::wstring OwnFolder() {
+    std::wstring path(32768, 0);
+    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return path.substr(0, path.rfind(L'\\'));
+}
 
 std::string Of(int count, int all) {
     return std::to_string(count) + " of " + std::to_string(all);

@@ -1,8 +1,10 @@
-// The parts of the check that need no rights and change nothing. Each adds its facts to the report.
+// The parts of the check. Each adds its facts to the report. These need no rights and change nothing; the
+// part in devices.h does.
 #pragma once
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
 
 #include "check/facts.h"
@@ -23,6 +25,13 @@ void LookAtRequests(Report& report);
 // Opens and closes a sheet so many times, and two at once in two threads.
 void LookAtSheets(int times, Report& report);
 
+// Does something so many times, and tells how often it succeeded and what this process holds more afterwards.
+void Repeat(const std::string& name, int times, const std::function<bool()>& once, Report& report);
+
+// The folder of this program.
+std::wstring OwnFolder();
+// "administrator", "user" or "not known"
+std::string Rights();
 // "118 of 120"
 std::string Of(int count, int all);
 // "0x80004005"

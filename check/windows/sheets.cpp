@@ -97,25 +97,29 @@ int OpenTwoAtOnce() {
 
 } // namespace
 
-void LookAtSheets(int times, Report& report) {
+void Repeat(const std::string& name, int times, const std::function<bool()>& once, Report& report) {
     // The system fills its caches first.
     for (int i = 0; i < 20; ++i) {
-        OpenAndClose();
+        once();
     }
-    int opened = 0;
+    int succeeded = 0;
     const Holdings before = Take();
     for (int i = 0; i < times; ++i) {
-        opened += OpenAndClose();
+        succeeded += once();
     }
     const Holdings after = Take();
-    const auto grown = [&](const char* name, const char* expected, long long more) {
-        report.facts.push_back({std::string("sheets.more_") + name, expected, std::to_string(more)});
+    const auto grown = [&](const char* what, const char* expected, long long more) {
+        report.facts.push_back({name + ".more_" + what, expected, std::to_string(more)});
     };
-    report.facts.push_back({"sheets.opened_and_closed", Of(times, times), Of(opened, times)});
+    report.facts.push_back({name + ".opened_and_closed", Of(times, times), Of(succeeded, times)});
     grown("handles", "at most 4", static_cast<long long>(after.handles) - before.handles);
     grown("gdi_objects", "at most 4", static_cast<long long>(after.gdi) - before.gdi);
     grown("user_objects", "at most 4", static_cast<long long>(after.user) - before.user);
     grown("kilobytes", "at most 512", after.kilobytes - before.kilobytes);
+}
+
+void LookAtSheets(int times, Report& report) {
+    Repeat("sheets", times, OpenAndClose, report);
     report.facts.push_back({"sheets.two_at_once", "2 of 2", Of(OpenTwoAtOnce(), 2)});
 }
 

@@ -77,5 +77,5 @@ def main(names, left_out, run_both, jobs):
 
 
 if __name__ == "__main__":
-    # The library that ships contains no trace.
-    sys.exit(main(sys.argv[1:], "trace_", run, int(os.environ.get("KVR_JOBS", 2))))
+    # The library that ships contains no trace, and the scripts of the check run in check_test.py.
+    sys.exit(main(sys.argv[1:], ("trace_", "check_"), run, int(os.environ.get("KVR_JOBS", 2))))

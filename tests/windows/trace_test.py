@@ -44,4 +44,4 @@ def run(script):
 if __name__ == "__main__":
     # Only the tests' host can make devices belong to another machine. One script at a time: two on one screen
     # take the focus from each other, and the trace shows that.
-    sys.exit(compare_worlds.main(sys.argv[1:], "remote_", run, jobs=1))
+    sys.exit(compare_worlds.main(sys.argv[1:], ("remote_", "check_"), run, jobs=1))

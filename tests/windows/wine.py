@@ -154,7 +154,8 @@ class Prefix:
         (place / "dosdevices").mkdir()
         (place / "dosdevices" / "c:").symlink_to("../drive_c")
         (place / "dosdevices" / "z:").symlink_to("/")
-        for folder, own in (("drive_c", {"windows", "kvr"}), ("drive_c/windows", {"win.ini", "temp", "system32"}),
+        for folder, own in (("drive_c", {"windows", "kvr", "ProgramData"}), ("drive_c/ProgramData", set()),
+                            ("drive_c/windows", {"win.ini", "temp", "system32"}),
                             ("drive_c/windows/system32", {"msports.dll"})):
             (place / folder).mkdir()
             for entry in (origin / folder).iterdir():
@@ -165,7 +166,7 @@ class Prefix:
 
     def environment(self):
         return {**os.environ, "WINEPREFIX": str(self.place), "WINEDEBUG": "-all", "LC_ALL": "C.UTF-8",
-                "WINEDLLOVERRIDES": "msports=n,b;mscoree,mshtml=d", "DISPLAY": self.display or Screen.name()}
+                "WINEDLLOVERRIDES": "msports,cfgmgr32=n,b;mscoree,mshtml=d", "DISPLAY": self.display or Screen.name()}
 
     def run(self, *command, input=b"", timeout=300):
         """Runs a program of the system or of C:\\kvr. Returns the bytes that it writes, and its exit code."""

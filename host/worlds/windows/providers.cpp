@@ -3,27 +3,9 @@
 #include <algorithm>
 
 #include "host/text.h"
-#include "host/worlds/store_values.h"
-#include "host/worlds/windows/registry.h"
 #include "host/worlds/windows/system.h"
 
 namespace host {
-namespace {
-
-Text NamedIn(HKEY key) {
-    const std::vector<StoreValue> values = RegistryKey(key).Values();
-    const StoreValue* const named = FindValue(values, "EnumPropPages32");
-    return named != nullptr ? TextIn(named->data) : Text();
-}
-
-Text NamedFor(HDEVINFO set, SP_DEVINFO_DATA& data) {
-    const Text named = NamedIn(SetupDiOpenDevRegKey(set, &data, DICS_FLAG_GLOBAL, 0, DIREG_DRV, KEY_READ));
-    return named.empty() ? NamedIn(SetupDiOpenClassRegKeyExW(&data.ClassGuid, KEY_READ, DIOCR_INSTALLER,
-                                                             nullptr, nullptr))
-                         : named;
-}
-
-} // namespace
 
 Providers::~Providers() {
     for (const HMODULE library : loaded_) {
@@ -43,12 +25,12 @@ HMODULE Providers::Load(LPCWSTR name) {
 }
 
 Provider Providers::Of(HDEVINFO set, SP_DEVINFO_DATA& data) {
-    const Text named = NamedFor(set, data);
+    const Text named = NamedProvider(set, data);
     if (named.empty()) {
         return {nullptr, "neither its driver nor its class has a value EnumPropPages32"};
     }
     const std::string shown = "EnumPropPages32 is " + Quoted(ToUtf8(named)) + ", ";
-    const std::size_t comma = named.find(TEXT(','));
+    const std::size_t comma = named.rfind(TEXT(','));
     if (comma == Text::npos) {
         return {nullptr, shown + "which does not name a library and a function"};
     }
@@ -56,7 +38,8 @@ Provider Providers::Of(HDEVINFO set, SP_DEVINFO_DATA& data) {
     if (library == nullptr) {
         return {nullptr, shown + "and that library can't be loaded: error " + std::to_string(GetLastError())};
     }
-    const std::string function = ToUtf8(named.substr(named.find_first_not_of(TEXT(' '), comma + 1)));
+    const std::size_t begin = named.find_first_not_of(TEXT(' '), comma + 1);
+    const std::string function = ToUtf8(named.substr(std::min(begin, named.size())));
     const auto ask = reinterpret_cast<decltype(Provider::ask)>(
         reinterpret_cast<void*>(GetProcAddress(library, function.c_str())));
     return {ask, ask != nullptr ? "" : shown + "and that library has no such function"};

@@ -5,9 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "host/text.h"
 #include "platform/platform.h"
 
 namespace host {
+
+// What names a device's provider; empty if nothing does. The check's program, whose devices no INF has
+// installed, has this function of its own.
+Text NamedProvider(HDEVINFO set, SP_DEVINFO_DATA& data);
 
 struct Provider {
     BOOL(APIENTRY* ask)(SP_PROPSHEETPAGE_REQUEST*, LPFNADDPROPSHEETPAGE, LPARAM) = nullptr;

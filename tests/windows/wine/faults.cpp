@@ -1,13 +1,28 @@
 #include "tests/windows/wine/faults.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
+#include <string_view>
 
+#include "check/windows/software_device_api.h"
 #include "host/worlds/windows/import_table.h"
 #include "host/worlds/windows/observers.h"
 
 namespace host {
 namespace {
+
+// The fate of a call that has been counted down to.
+struct Doom {
+    int calls_left = 0; // until that one; 0 for none
+    Fate fate = Fate::Fails;
+};
+
+[[noreturn]] void EndProcess() {
+    constexpr UINT ended = 9;
+    TerminateProcess(GetCurrentProcess(), ended);
+    std::abort();
+}
 
 // An operation that can be made to fail: its result then, and the error that it leaves.
 template <class Function, int Place> struct Fault;
@@ -15,15 +30,21 @@ template <class Result, class... Arguments, int Place> struct Fault<Result(WINAP
     static inline Result(WINAPI* next)(Arguments...) = nullptr;
     static inline Result failure{};
     static inline DWORD error = 0;
-    static inline int calls_left = 0; // until the one that fails; 0 for none
+    static inline Doom doom;
 
     static Result WINAPI Call(Arguments... arguments) {
-        if (calls_left != 0 && --calls_left == 0) {
+        if (doom.calls_left == 0 || --doom.calls_left != 0) {
+            return next(arguments...);
+        }
+        if (doom.fate == Fate::Fails) {
             NoteFailure();
             SetLastError(error);
             return failure;
         }
-        return next(arguments...);
+        if (doom.fate == Fate::EndsAfter) {
+            next(arguments...);
+        }
+        EndProcess();
     }
 };
 
@@ -31,19 +52,18 @@ struct Operation {
     const char* name;
     void* function;
     void (*keep)(void* next);
-    int* calls_left;
+    Doom* doom;
 };
 
 template <class Function, int Place, class Failure>
-Operation Failing(const char* name, Function, Failure failure, DWORD error) {
+Operation Failing(const char* name, Failure failure, DWORD error) {
     using Fault = Fault<Function, Place>;
     Fault::failure = failure;
     Fault::error = error;
     return {name, reinterpret_cast<void*>(&Fault::Call),
-            [](void* next) { Fault::next = reinterpret_cast<Function>(next); }, &Fault::calls_left};
+            [](void* next) { Fault::next = reinterpret_cast<Function>(next); }, &Fault::doom};
 }
-#define FAILING(function, failure, error)                                                                    \
-    Failing<decltype(&::function), __LINE__>(#function, &::function, failure, error)
+#define FAILING(function, failure, error) Failing<decltype(&::function), __LINE__>(#function, failure, error)
 
 const Operation operations[] = {
     FAILING(LocalAlloc, nullptr, ERROR_NOT_ENOUGH_MEMORY),
@@ -68,6 +88,12 @@ const Operation operations[] = {
     FAILING(ComDBReleasePort, ERROR_GEN_FAILURE, ERROR_GEN_FAILURE),
     FAILING(CreatePropertySheetPageW, nullptr, ERROR_NOT_ENOUGH_MEMORY),
     FAILING(LoadStringW, 0, ERROR_RESOURCE_NAME_NOT_FOUND),
+    FAILING(WriteFile, FALSE, ERROR_DISK_FULL),
+    FAILING(DeleteFileW, FALSE, ERROR_ACCESS_DENIED),
+    FAILING(RegDeleteValueW, ERROR_ACCESS_DENIED, 0),
+    FAILING(SetupDiCreateDevRegKeyW, static_cast<HKEY>(INVALID_HANDLE_VALUE), ERROR_GEN_FAILURE),
+    FAILING(SwDeviceCreate, E_FAIL, 0),
+    FAILING(SwDeviceInterfaceRegister, E_FAIL, 0),
 };
 
 decltype(&SetupDiGetDeviceInfoListDetailW) NextDetail = nullptr;
@@ -81,29 +107,43 @@ BOOL WINAPI DetailOfRemote(HDEVINFO set, SP_DEVINFO_LIST_DETAIL_DATA_W* detail) 
     return found;
 }
 
+const Operation* Find(std::string_view name) {
+    const auto found = std::ranges::find(operations, name, &Operation::name);
+    return found != std::end(operations) ? &*found : nullptr;
+}
+
+// A program may also find an operation at run time.
+FARPROC WINAPI FindWithFaults(HMODULE module, LPCSTR name) {
+    const FARPROC stood = GetProcAddress(module, name);
+    const Operation* const found = stood == nullptr || IS_INTRESOURCE(name) ? nullptr : Find(name);
+    if (found == nullptr) {
+        return stood;
+    }
+    found->keep(reinterpret_cast<void*>(stood));
+    return reinterpret_cast<FARPROC>(found->function);
+}
+
 } // namespace
 
-void AllowFaults(HMODULE library) {
-    remote = false;
+void AllowFaults(HMODULE module) {
     if (void* const stood =
-            Redirect(library, "SetupDiGetDeviceInfoListDetailW", reinterpret_cast<void*>(&DetailOfRemote))) {
+            Redirect(module, "SetupDiGetDeviceInfoListDetailW", reinterpret_cast<void*>(&DetailOfRemote))) {
         NextDetail = reinterpret_cast<decltype(NextDetail)>(stood);
     }
+    Redirect(module, "GetProcAddress", reinterpret_cast<void*>(&FindWithFaults));
     for (const Operation& operation : operations) {
-        *operation.calls_left = 0;
-        if (void* const stood = Redirect(library, operation.name, operation.function)) {
+        if (void* const stood = Redirect(module, operation.name, operation.function)) {
             operation.keep(stood);
         }
     }
 }
 
-bool FailCall(const std::string& name, int count) {
-    const auto found = std::find_if(std::begin(operations), std::end(operations),
-                                    [&](const Operation& each) { return name == each.name; });
-    if (found != std::end(operations)) {
-        *found->calls_left = count;
+bool FailCall(const std::string& name, int count, Fate fate) {
+    const Operation* const found = Find(name);
+    if (found != nullptr) {
+        *found->doom = {count, fate};
     }
-    return found != std::end(operations);
+    return found != nullptr;
 }
 
 void PretendRemote() {

@@ -8,11 +8,15 @@
 
 namespace host {
 
-// Routes the library's calls through here, below the observers. Only one library at a time.
-void AllowFaults(HMODULE library);
+// Routes the calls of a program or library through here, below the observers. All that do so share what is
+// behind an operation.
+void AllowFaults(HMODULE module);
 
-// Makes the `count`-th call from now on fail, counted from 1. False if this operation can't be made to fail.
-bool FailCall(const std::string& operation, int count);
+// What becomes of a call: it fails without being carried out, or the process ends there.
+enum class Fate { Fails, EndsBefore, EndsAfter };
+
+// Gives the `count`-th call from now on its fate, counted from 1. False if this operation can have none.
+bool FailCall(const std::string& operation, int count, Fate fate = Fate::Fails);
 
 // Makes every device appear to belong to another machine.
 void PretendRemote();

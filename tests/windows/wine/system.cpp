@@ -10,6 +10,7 @@
 #include "host/worlds/windows/observers.h"
 #include "host/worlds/windows/registry.h"
 #include "tests/windows/wine/faults.h"
+#include "tests/windows/wine/standins.h"
 
 namespace host {
 namespace {
@@ -58,8 +59,8 @@ BOOL WINAPI StandInSetupDiSetClassInstallParamsW(HDEVINFO, SP_DEVINFO_DATA*, SP_
     return TRUE;
 }
 
-BOOL WINAPI StandInSetupDiCallClassInstaller(DI_FUNCTION, HDEVINFO, SP_DEVINFO_DATA*) {
-    return TRUE;
+BOOL WINAPI StandInSetupDiCallClassInstaller(DI_FUNCTION function, HDEVINFO set, SP_DEVINFO_DATA* data) {
+    return function == DIF_PROPERTYCHANGE || SetupDiCallClassInstaller(function, set, data);
 }
 
 // Windows keeps the [Ports] section of the profile in the registry. Wine uses a file instead, which ignores
@@ -109,7 +110,7 @@ BOOL WINAPI StandInWriteProfileStringW(LPCWSTR section, LPCWSTR key, LPCWSTR val
 
 } // namespace
 
-void AttachTo(HMODULE library) {
+void StandIn(HMODULE module) {
     dos_names.clear();
     for (const StoreValue& value : RegistryKey(HKEY_LOCAL_MACHINE, serial_map_key, KEY_READ).Texts()) {
         const Text port = TextIn(value.data);
@@ -126,9 +127,13 @@ void AttachTo(HMODULE library) {
         {"WriteProfileStringW", reinterpret_cast<void*>(&StandInWriteProfileStringW)},
     };
     for (const auto& [name, function] : replacements) {
-        Redirect(library, name, function);
+        Redirect(module, name, function);
     }
-    AllowFaults(library);
+    AllowFaults(module);
+}
+
+void AttachTo(HMODULE library) {
+    StandIn(library);
     Observe(library);
 }
 
