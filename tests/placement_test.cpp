@@ -28,6 +28,11 @@ void ExpectToFit(const host::Window& window, int columns, int rows) {
         const auto& [left, top, wide, high] = placed.cells;
         SCOPED_TRACE(std::to_string(placed.control->id) + ' ' + placed.control->text);
         EXPECT_GE(wide, host::ColumnsFor(*placed.control, true));
+        int headings = 0;
+        for (const auto& column : placed.control->columns) {
+            headings += host::Columns(column.title) + 1;
+        }
+        EXPECT_GT(wide, headings);
         EXPECT_TRUE(left > 0 && top > 0 && left + wide < placement.columns && top + high < placement.rows);
         for (const host::Placed& other : placement.controls) {
             const bool apart = &other == &placed || other.control->kind == host::Kind::Group ||
@@ -38,8 +43,35 @@ void ExpectToFit(const host::Window& window, int columns, int rows) {
                 other.control->area.y >= placed.control->area.y + placed.control->area.cy) {
                 EXPECT_GE(other.cells.top, top) << other.control->text;
             }
+            // What is in a group stays off its frame.
+            if (host::IsInside(*placed.control, *other.control)) {
+                const host::Cells& group = other.cells;
+                EXPECT_TRUE(group.left < left && left + wide < group.left + group.columns &&
+                            group.top < top && top + high < group.top + group.rows)
+                    << other.control->text;
+            }
         }
     }
+}
+
+// In a window of few controls: a label and a check box almost at one height, and a label that reaches over
+// the edge of its group.
+TEST(Placement, FramesRowsAndTheTitleStayWhole) {
+    const auto control = [](host::Kind kind, const host::Area& area) {
+        host::Control one;
+        one.kind = kind;
+        one.area = area;
+        return one;
+    };
+    host::Window window;
+    window.title = std::string(60, 't');
+    window.controls = {control(host::Kind::Label, {0, 2, 30, 8}), control(host::Kind::Check, {34, 0, 40, 8}),
+                       control(host::Kind::Group, {0, 20, 100, 30}),
+                       control(host::Kind::Label, {5, 30, 140, 8})};
+    ExpectToFit(window, 80, 24);
+    const host::Placement placement = host::PlaceWindow(window, 80, 24);
+    EXPECT_EQ(placement.controls[1].cells.top, placement.controls[2].cells.top);
+    EXPECT_GT(placement.columns, 60);
 }
 
 // The window as a terminal of that size shows it, with the focus on a control.
