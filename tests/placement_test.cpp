@@ -54,8 +54,8 @@ void ExpectToFit(const host::Window& window, int columns, int rows) {
     }
 }
 
-// In a window of few controls: a label and a check box almost at one height, and a label that reaches over
-// the edge of its group.
+// In a window of few controls: a label over whose place a check box lies, a label that reaches over the edge
+// of its group, and one whose text needs two lines of unequal length.
 TEST(Placement, FramesRowsAndTheTitleStayWhole) {
     const auto control = [](host::Kind kind, const host::Area& area) {
         host::Control one;
@@ -65,11 +65,16 @@ TEST(Placement, FramesRowsAndTheTitleStayWhole) {
     };
     host::Window window;
     window.title = std::string(60, 't');
-    window.controls = {control(host::Kind::Label, {0, 2, 30, 8}), control(host::Kind::Check, {34, 0, 40, 8}),
-                       control(host::Kind::Group, {0, 20, 100, 30}),
-                       control(host::Kind::Label, {5, 30, 140, 8})};
+    window.controls = {control(host::Kind::Label, {0, 2, 60, 8}), control(host::Kind::Check, {34, 0, 40, 8}),
+                       control(host::Kind::Group, {0, 50, 100, 30}),
+                       control(host::Kind::Label, {5, 60, 140, 8}),
+                       control(host::Kind::Label, {0, 20, 60, 16})};
+    const std::string word(30, 'x');
+    window.controls.back().text = word + ' ' + word + " and more";
     ExpectToFit(window, 80, 24);
     const host::Placement placement = host::PlaceWindow(window, 80, 24);
+    EXPECT_GE(placement.controls.back().cells.columns, 30 + 9);
+    EXPECT_EQ(placement.controls.back().cells.rows, 2);
     EXPECT_EQ(placement.controls[1].cells.top, placement.controls[2].cells.top);
     EXPECT_GT(placement.columns, 60);
 }
