@@ -54,29 +54,41 @@ void ExpectToFit(const host::Window& window, int columns, int rows) {
     }
 }
 
+host::Control Made(host::Kind kind, const host::Area& area, const std::string& text = {}) {
+    host::Control control;
+    control.kind = kind;
+    control.area = area;
+    control.text = text;
+    return control;
+}
+
 // In a window of few controls: a label over whose place a check box lies, a label that reaches over the edge
 // of its group, and one whose text needs two lines of unequal length.
 TEST(Placement, FramesRowsAndTheTitleStayWhole) {
-    const auto control = [](host::Kind kind, const host::Area& area) {
-        host::Control one;
-        one.kind = kind;
-        one.area = area;
-        return one;
-    };
+    const std::string word(30, 'x');
     host::Window window;
     window.title = std::string(60, 't');
-    window.controls = {control(host::Kind::Label, {0, 2, 60, 8}), control(host::Kind::Check, {34, 0, 40, 8}),
-                       control(host::Kind::Group, {0, 50, 100, 30}),
-                       control(host::Kind::Label, {5, 60, 140, 8}),
-                       control(host::Kind::Label, {0, 20, 60, 16})};
-    const std::string word(30, 'x');
-    window.controls.back().text = word + ' ' + word + " and more";
+    window.controls = {Made(host::Kind::Label, {0, 2, 60, 8}), Made(host::Kind::Check, {34, 0, 40, 8}),
+                       Made(host::Kind::Group, {0, 50, 100, 30}), Made(host::Kind::Label, {5, 60, 140, 8}),
+                       Made(host::Kind::Label, {0, 20, 60, 16}, word + ' ' + word + " and more")};
     ExpectToFit(window, 80, 24);
     const host::Placement placement = host::PlaceWindow(window, 80, 24);
     EXPECT_GE(placement.controls.back().cells.columns, 30 + 9);
     EXPECT_EQ(placement.controls.back().cells.rows, 2);
     EXPECT_EQ(placement.controls[1].cells.top, placement.controls[2].cells.top);
     EXPECT_GT(placement.columns, 60);
+}
+
+TEST(Placement, ASmallTerminalGetsTheClosestForm) {
+    host::Window sheet, box;
+    for (const char* const caption : {"OK", "Abbrechen", "Übernehmen"}) {
+        sheet.controls.push_back(Made(host::Kind::Button, {}, caption));
+        sheet.controls.back().of_frame = true;
+    }
+    ExpectToFit(sheet, 40, 10);
+    box.kind = host::WindowKind::Box;
+    box.controls = {Made(host::Kind::Label, {}, "1\n2\n3\n4\n5\n6\n7"), Made(host::Kind::Button, {}, "OK")};
+    EXPECT_EQ(host::PlaceWindow(box, 40, 10).rows, 10);
 }
 
 // The window as a terminal of that size shows it, with the focus on a control.
