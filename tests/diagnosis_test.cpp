@@ -141,7 +141,14 @@ TEST(Diagnosis, FindsWhatIsWrong) {
     for (const auto& each : cases) {
         sim::Machine machine = SoundMachine();
         each.change(machine);
-        EXPECT_EQ(Told(RecordsOf(FileOf(machine))), each.expected) << &each - cases;
+        const host::Records records = RecordsOf(FileOf(machine));
+        EXPECT_EQ(Told(records), each.expected) << &each - cases;
+        // Each finding has its evidence, and no number that one is about is said to be in order.
+        const auto told = host::DiagnosisJson(records, host::Diagnose(records), {});
+        for (const auto& finding : told["findings"]) {
+            EXPECT_EQ(finding["sentence"].get<std::string>().find(": ."), std::string::npos) << finding;
+            EXPECT_EQ(std::ranges::count(told["sound"]["numbers"], finding["number"]), 0) << finding;
+        }
     }
 }
 
@@ -390,12 +397,15 @@ TEST(Bench, RefusesWhatALivePortContradicts) {
     const host::MachineFile file = FileOf(SoundMachine());
     const std::string answers =
         Do(file, {"free COM3", "free COM9", "claim COM9", "forget COM3", "forget COM9", "free COM3 --even-so",
-                  "claim COM9 --even-so", "why x"});
+                  "claim COM9 --even-so", "free COM1 --even-so", "claim 4096 --even-so",
+                  "claim 4097 --even-so", "why x"});
     for (const char* expected :
          {"error: not freed: device 3 (", "error: not freed: it is free already",
           "error: not claimed: there is nothing", "error: not forgotten: device 3 (",
           "error: there is no settings line \"COM9\"", "> free COM3 --even-so\nCOM3: freed",
-          "> claim COM9 --even-so\nCOM9: claimed", "error: \"x\" is not a COM number"}) {
+          "> claim COM9 --even-so\nCOM9: claimed", "> free COM1 --even-so\nCOM1: freed",
+          "> claim 4096 --even-so\nCOM4096: claimed", "error: not claimed: a COM number is 1 to 4096",
+          "error: \"x\" is not a COM number"}) {
         EXPECT_NE(answers.find(expected), std::string::npos) << expected << "\n" << answers;
     }
 }
