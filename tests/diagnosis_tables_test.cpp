@@ -81,6 +81,8 @@ void CompareValues(const sim::Machine& machine, std::size_t device, const Faults
 
 TEST(DiagnosisTables, PublishedValuesAreThoseThatTheLibraryReads) {
     CompareValues(BoardWith(ClassUart), board, host::BoardFaults, [] { return OpenBoard().initiated; });
+    EXPECT_EQ(host::WhyNoPage(host::Role::Board, StoreOf(BoardWith(ClassUart).devices[board])), "");
+    EXPECT_NE(host::WhyNoPage(host::Role::Board, {}), "");
     for (u32 channel_class = ClassUart; channel_class <= ClassCan; ++channel_class) {
         EXPECT_EQ(host::ChannelClassOf(InterfaceClass(channel_class)), channel_class);
         CompareValues(

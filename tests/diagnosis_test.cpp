@@ -4,13 +4,16 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <set>
 #include <sstream>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 #include <rapidcheck.h>
 
+#include "host/diagnosis/number_map.h"
 #include "host/diagnosis/number_ranges.h"
+#include "host/diagnosis/ports_table.h"
 #include "host/diagnosis/report.h"
 #include "host/diagnosis/settings_reading.h"
 #include "host/line/line_seat.h"
@@ -141,7 +144,24 @@ TEST(Diagnosis, FindsWhatIsWrong) {
     for (const auto& each : cases) {
         sim::Machine machine = SoundMachine();
         each.change(machine);
-        EXPECT_EQ(Told(RecordsOf(FileOf(machine))), each.expected) << &each - cases;
+        const host::Records records = RecordsOf(FileOf(machine));
+        EXPECT_EQ(Told(records), each.expected) << &each - cases;
+        // Each finding has its evidence, one that is safe to mend its command, and no number that one is
+        // about is said to be in order. In the map of numbers some are conflicts.
+        const std::vector<host::Finding> findings = host::Diagnose(records);
+        const auto list = host::DiagnosisJson(records, findings, {});
+        const std::vector<unsigned long> sound = list["sound"]["numbers"];
+        for (const host::Finding& finding : findings) {
+            EXPECT_EQ(finding.sentence.find(": ."), std::string::npos) << finding.sentence;
+            EXPECT_EQ(std::ranges::count(sound, finding.subject.number), 0) << finding.sentence;
+            EXPECT_TRUE(!finding.safe || !finding.command.empty()) << finding.sentence;
+        }
+        if (!findings.empty() && findings[0].subject.number != 0) {
+            const std::set<std::string> conflicts = {"same-name", "twice-in-serial-map", "unclaimed-port"};
+            EXPECT_EQ(host::StateOf(records, findings[0].subject.number) == host::NumberState::Conflict,
+                      conflicts.contains(findings[0].rule))
+                << findings[0].sentence;
+        }
     }
 }
 
@@ -163,9 +183,15 @@ TEST(Diagnosis, NamesThePlacesItDependsOn) {
     EXPECT_EQ(lines.front(), "One thing is wrong: 1 serious.");
     EXPECT_EQ(std::ranges::count(lines, "    HKEY_LOCAL_MACHINE\\HARDWARE\\DEVICEMAP\\SERIALCOMM"), 1);
     EXPECT_EQ(lines.back(), "In order as far as was checked: COM 1, 4; device 1 (Multi-function board).");
+    // A table is shown whole where it fits.
+    const Names table = host::PortsTable(records, 0);
+    const std::string& widest = *std::ranges::max_element(table, {}, &std::string::size);
+    EXPECT_EQ(host::PortsTable(records, static_cast<int>(widest.size())), table);
     for (const std::string& line : host::NumberLines(records, host::Diagnose(records), 13)) {
         EXPECT_LE(line.size(), 80u) << line;
     }
+    records.known &= ~static_cast<unsigned>(host::DatabasePlace);
+    EXPECT_EQ(host::ClaimedWithoutDevice(records), "not known");
 }
 
 TEST(Diagnosis, SeesWhatAPageWouldNotShowAsItIsWritten) {
@@ -387,15 +413,22 @@ TEST(Bench, UndoesOneStepAtATime) {
 }
 
 TEST(Bench, RefusesWhatALivePortContradicts) {
-    const host::MachineFile file = FileOf(SoundMachine());
+    sim::Machine machine = SoundMachine();
+    sim::SetClaimed(machine.port_usage, 13, true);
+    machine.serial_map.SetText(u"\\Device\\Modem", u"COM13");
+    const host::MachineFile file = FileOf(machine);
     const std::string answers =
-        Do(file, {"free COM3", "free COM9", "claim COM9", "forget COM3", "forget COM9", "free COM3 --even-so",
-                  "claim COM9 --even-so", "why x"});
+        Do(file, {"free COM13", "free COM3", "free COM9", "claim COM9", "claim COM3", "forget COM3",
+                  "forget COM9", "free COM3 --even-so", "claim COM9 --even-so", "free COM1 --even-so",
+                  "claim 4096 --even-so", "claim 4097 --even-so", "why x"});
     for (const char* expected :
-         {"error: not freed: device 3 (", "error: not freed: it is free already",
-          "error: not claimed: there is nothing", "error: not forgotten: device 3 (",
+         {"error: not freed: device 3 (", "error: not freed: a port is live on it: \\Device\\Modem",
+          "error: not freed: it is free already", "error: not claimed: there is nothing",
+          "error: not claimed: it is claimed already", "error: not forgotten: device 3 (",
           "error: there is no settings line \"COM9\"", "> free COM3 --even-so\nCOM3: freed",
-          "> claim COM9 --even-so\nCOM9: claimed", "error: \"x\" is not a COM number"}) {
+          "> claim COM9 --even-so\nCOM9: claimed", "> free COM1 --even-so\nCOM1: freed",
+          "> claim 4096 --even-so\nCOM4096: claimed", "error: not claimed: a COM number is 1 to 4096",
+          "error: \"x\" is not a COM number"}) {
         EXPECT_NE(answers.find(expected), std::string::npos) << expected << "\n" << answers;
     }
 }

@@ -9,7 +9,7 @@
 namespace {
 
 constexpr host::Key f4{VK_F4}, enter{VK_RETURN}, escape{VK_ESCAPE}, down{VK_DOWN}, tab{VK_TAB};
-constexpr host::Key alt_down{VK_DOWN, 0, false, true};
+constexpr host::Key alt_down{VK_DOWN, 0, false, true}, alt_up{VK_UP, 0, false, true};
 
 int Focused() {
     return GetFocus() == nullptr ? 0 : GetDlgCtrlID(GetFocus());
@@ -36,7 +36,7 @@ TEST(Keyboard, AnOpenListTakesEnterAndEscForItself) {
     AtBoard({.at_page = [](HWND page) {
         const HWND sheet = SheetOf(page), combo = GetDlgItem(page, IDC_PORT_NUMBER);
         host::PressKey(sheet, {0, 'P', false, true});
-        for (const auto& [opens, closes] : {std::pair{f4, enter}, {alt_down, escape}, {f4, tab}}) {
+        for (const auto& [opens, closes] : {std::pair{f4, enter}, {alt_down, escape}, {alt_up, tab}}) {
             const LRESULT before = SendMessageW(combo, CB_GETCURSEL, 0, 0);
             host::PressKey(sheet, opens);
             EXPECT_TRUE(SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0));
@@ -58,6 +58,11 @@ TEST(Keyboard, LettersTypedInARowFindTheItemThatBeginsWithThem) {
         EXPECT_EQ(sheets::Shown(page, IDC_PORT_LIST), "COM120 (port6)");
         Type(sheet, u"c"); // no item begins with both, so the search starts again
         EXPECT_EQ(sheets::Shown(page, IDC_PORT_LIST), "COM13 (port7)");
+        Type(sheet, u"p");
+        EXPECT_EQ(Focused(), IDC_PORT_LIST);
+        host::PressKey(sheet, tab); // to a box, where a letter is a hot key
+        Type(sheet, u"p");
+        EXPECT_EQ(Focused(), IDC_PORT_NUMBER);
     }});
 }
 

@@ -28,6 +28,11 @@ void ExpectToFit(const host::Window& window, int columns, int rows) {
         const auto& [left, top, wide, high] = placed.cells;
         SCOPED_TRACE(std::to_string(placed.control->id) + ' ' + placed.control->text);
         EXPECT_GE(wide, host::ColumnsFor(*placed.control, true));
+        int headings = 0;
+        for (const auto& column : placed.control->columns) {
+            headings += host::Columns(column.title) + 1;
+        }
+        EXPECT_GT(wide, headings);
         EXPECT_TRUE(left > 0 && top > 0 && left + wide < placement.columns && top + high < placement.rows);
         for (const host::Placed& other : placement.controls) {
             const bool apart = &other == &placed || other.control->kind == host::Kind::Group ||
@@ -38,8 +43,52 @@ void ExpectToFit(const host::Window& window, int columns, int rows) {
                 other.control->area.y >= placed.control->area.y + placed.control->area.cy) {
                 EXPECT_GE(other.cells.top, top) << other.control->text;
             }
+            // What is in a group stays off its frame.
+            if (host::IsInside(*placed.control, *other.control)) {
+                const host::Cells& group = other.cells;
+                EXPECT_TRUE(group.left < left && left + wide < group.left + group.columns &&
+                            group.top < top && top + high < group.top + group.rows)
+                    << other.control->text;
+            }
         }
     }
+}
+
+host::Control Made(host::Kind kind, const host::Area& area, const std::string& text = {}) {
+    host::Control control;
+    control.kind = kind;
+    control.area = area;
+    control.text = text;
+    return control;
+}
+
+// In a window of few controls: a label over whose place a check box lies, a label that reaches over the edge
+// of its group, and one whose text needs two lines of unequal length.
+TEST(Placement, FramesRowsAndTheTitleStayWhole) {
+    const std::string word(30, 'x');
+    host::Window window;
+    window.title = std::string(60, 't');
+    window.controls = {Made(host::Kind::Label, {0, 2, 60, 8}), Made(host::Kind::Check, {34, 0, 40, 8}),
+                       Made(host::Kind::Group, {0, 50, 100, 30}), Made(host::Kind::Label, {5, 60, 140, 8}),
+                       Made(host::Kind::Label, {0, 20, 60, 16}, word + ' ' + word + " and more")};
+    ExpectToFit(window, 80, 24);
+    const host::Placement placement = host::PlaceWindow(window, 80, 24);
+    EXPECT_GE(placement.controls.back().cells.columns, 30 + 9);
+    EXPECT_EQ(placement.controls.back().cells.rows, 2);
+    EXPECT_EQ(placement.controls[1].cells.top, placement.controls[2].cells.top);
+    EXPECT_GT(placement.columns, 60);
+}
+
+TEST(Placement, ASmallTerminalGetsTheClosestForm) {
+    host::Window sheet, box;
+    for (const char* const caption : {"OK", "Abbrechen", "Übernehmen"}) {
+        sheet.controls.push_back(Made(host::Kind::Button, {}, caption));
+        sheet.controls.back().of_frame = true;
+    }
+    ExpectToFit(sheet, 40, 10);
+    box.kind = host::WindowKind::Box;
+    box.controls = {Made(host::Kind::Label, {}, "1\n2\n3\n4\n5\n6\n7"), Made(host::Kind::Button, {}, "OK")};
+    EXPECT_EQ(host::PlaceWindow(box, 40, 10).rows, 10);
 }
 
 // The window as a terminal of that size shows it, with the focus on a control.

@@ -71,6 +71,7 @@ TEST(RegistryExport, TakesEveryFormOfAValue) {
     // deleted.
     const sim::Machine machine = Loaded(R"(Windows Registry Editor Version 5.00
 [HKEY_LOCAL_MACHINE\SOFTWARE\Classes\MIME\Database\Content Type\text/html]
+"x"=-
 [hkey_local_machine\system\CURRENTcontrolSET\enum\A\[b]\c;] ; x
 [-HKEY_LOCAL_MACHINE\SYSTEM\CurrentControlSet\Enum\A\B\C] ; y
 "DeviceDesc"="x"
@@ -116,6 +117,7 @@ TEST(RegistryExport, NamesTheFirstLineThatIsWrong) {
         {"\"A\"=hex(7:01", 3, ") after the value's type"},
         {"\"A\"=hex:01,02,", 3, "a byte in two hexadecimal digits"},
         {"\"A\"=hex:0\xC4\xA0,02", 3, "a comma or the end of the line after the byte"},
+        {"\"A\"=hex:0\xC2\x80,02", 3, "a comma or the end of the line after the byte"},
         {"\"A\"=hex:01\\\n02", 3, "a comma or the end of the line after the byte"},
         {"\"A\"=hex:01,\\ 02\n02", 3, "the end of the line after \\"},
         {"\"A\"=hex:01,\\\n; fine\n02,\\\n0x,\\\n03", 6, "a comma or the end of the line after the byte"},
@@ -136,6 +138,7 @@ TEST(RegistryExport, NamesTheFirstLineThatIsWrong) {
         {std::string("\xFE\xFF\0W\0i", 6), 1, "UTF-16LE or UTF-8 and not UTF-16BE"},
         {std::string("\0W\0i", 4), 1, "UTF-16LE or UTF-8 and not UTF-16BE"},
         {first_line + store + std::string("\"A\"=\"x\0y\"", 9), 3, "a text without NUL"},
+        {first_line + std::string("[HKEY_USERS\\A\0B]", 16), 2, "a text without NUL"},
         {InUtf16(first_line).substr(2), 1, "the line \"Windows Registry Editor Version 5.00\""},
         {first_line + "\"A\"=dword:1", 2, "a key in brackets before the first value"},
         {first_line + "; \xC0\x80\n", 2, "text in UTF-8"},

@@ -101,6 +101,7 @@ class Report(unittest.TestCase):
         page = Page(text)
         self.assertLess(len(text.encode()), 5_000_000)
         self.assertTrue(text.startswith("<!DOCTYPE html>\n"))
+        self.assertNotIn("", page.texts("code"))
         self.assertEqual(page.all("html")[0]["attributes"]["lang"], "en")
         self.assertEqual({name for each in page.elements for name in each["attributes"]} - ATTRIBUTES, set())
         self.assertNotRegex(text.split("</style>")[0], r"url\(|@import|expression")
@@ -134,6 +135,8 @@ class Report(unittest.TestCase):
         grid = re.findall(r"[.?capL!]", "".join(re.findall(r"^ +\d+ ((?: [.?capL!]){16})$", said, re.MULTILINE)))
         cells = [each["text"] for each in page.all("text") if "g" in each["inside"]]
         self.assertEqual(cells, grid)
+        classes = [each["attributes"]["class"] for each in page.all("rect")]
+        self.assertEqual(classes, [{"L": "live", "!": "conflict", ".": "free"}.get(sign, "other") for sign in grid])
         self.assertEqual([text.split(":")[0] for text in page.texts("title")[2:]], [f"COM{number}" for number in range(1, 257)])
         listed = {}
         for text in [each["text"] for each in page.all("li") if "ul" in each["inside"]]:

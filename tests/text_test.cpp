@@ -3,6 +3,7 @@
 
 #include "host/screen/canvas.h"
 #include "host/text.h"
+#include "simulated/machine.h"
 
 namespace {
 
@@ -24,6 +25,15 @@ TEST(Text, TakesTheColumnsOfItsScripts) {
 TEST(Text, IsFoldedInEveryAlphabetWithSmallLetters) {
     EXPECT_EQ(host::Folded("COM1 ÄŁŐŸ ΣΏ ЙЁ Ա"), "com1 äłőÿ σώ йё ա");
     EXPECT_EQ(host::Folded("ßİ 港"), "ßİ 港");
+    // The system compares names in the same way, except for signs that are no letters of their own.
+    std::u16string others;
+    for (char16_t unit = 1; unit < 0xD800; ++unit) {
+        const std::u16string folded = FromUtf8(host::Folded(ToUtf8(std::u16string(1, unit))));
+        if (folded.size() != 1 || sim::Upper(folded[0]) != sim::Upper(unit)) {
+            others += unit;
+        }
+    }
+    EXPECT_EQ(ToUtf8(others), "\u03F4\u1E9E\u2126\u212A\u212B");
 }
 
 TEST(Text, NeverCommandsATerminalOrTurnsItsDirection) {
