@@ -1,7 +1,6 @@
 // The standard input of a program without live windows that need attention: the console edits the line.
 #include <windows.h>
 
-#include <fcntl.h>
 #include <io.h>
 
 #include <iostream>
@@ -26,18 +25,10 @@ private:
 } // namespace
 
 std::unique_ptr<LineSource> OpenConsole() {
-    SetConsoleCP(CP_UTF8);
     if (_isatty(_fileno(stdin)) && _isatty(_fileno(stdout))) {
         return std::make_unique<Console>();
     }
     return LinesOf(std::cin);
-}
-
-// Lines end as they do on other systems.
-void OpenOutput() {
-    SetConsoleOutputCP(CP_UTF8);
-    _setmode(_fileno(stdin), _O_BINARY);
-    _setmode(_fileno(stdout), _O_BINARY);
 }
 
 } // namespace host

@@ -72,25 +72,6 @@ private:
     bool waiting_ = false; // a line has been asked for and has not come yet
 };
 
-// The console uses UTF-8 while the program runs, and is left as it was found.
-class Utf8Console {
-public:
-    Utf8Console() {
-        SetConsoleCP(CP_UTF8);
-        SetConsoleOutputCP(CP_UTF8);
-    }
-    ~Utf8Console() {
-        SetConsoleCP(input_before_);
-        SetConsoleOutputCP(output_before_);
-    }
-    Utf8Console(const Utf8Console&) = delete;
-    Utf8Console& operator=(const Utf8Console&) = delete;
-
-private:
-    const UINT input_before_ = GetConsoleCP();
-    const UINT output_before_ = GetConsoleOutputCP();
-};
-
 } // namespace
 
 std::unique_ptr<LineSource> OpenConsole() {
@@ -98,13 +79,6 @@ std::unique_ptr<LineSource> OpenConsole() {
         return std::make_unique<Console>();
     }
     return LinesOf(std::cin);
-}
-
-// Lines end as they do on other systems.
-void OpenOutput() {
-    static const Utf8Console utf8;
-    _setmode(_fileno(stdin), _O_BINARY);
-    _setmode(_fileno(stdout), _O_BINARY);
 }
 
 } // namespace host
