@@ -34,7 +34,7 @@ TAKEN_BACK_ALONE = ["ComDBClaimPort 16 ends after", "SwDeviceCreate 8 ends after
 TAKING_BACK = ["RegDeleteValueW 1 ends", "RegDeleteValueW 4 ends after", "SetupDiCallClassInstaller 1 ends",
                "SetupDiCallClassInstaller 5 ends after", "DefineDosDeviceW 2 ends after", "WriteProfileStringW 1 ends",
                "ComDBReleasePort 9 ends after", "DeleteFileW 1 ends", "DeleteFileW 1 ends after"]
-FAILING = ["WriteFile 20", "ComDBClaimPort 5", "SwDeviceCreate 4", "SwDeviceInterfaceRegister 2", "RegSetValueExW 1",
+FAILING = ["WriteFile 20", "ComDBClaimPort 5", "SwDeviceCreate 4", "SwDeviceInterfaceRegister 2",
            "RegSetValueExW 100"]
 
 
