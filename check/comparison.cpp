@@ -33,6 +33,10 @@ Difference DifferenceOf(const Fact& here, const Fact& there) {
                 "; on Wine " + Shown(there.seen)};
 }
 
+bool IsAboutDevices(const Fact& fact) {
+    return fact.name.starts_with("devices.");
+}
+
 } // namespace
 
 std::vector<Difference> Compare(const Report& seen, const Report& wine) {
@@ -48,8 +52,12 @@ std::vector<Difference> Compare(const Report& seen, const Report& wine) {
             differences.push_back(DifferenceOf(here, *there));
         }
     }
+    const bool made_devices = std::ranges::any_of(seen.facts, IsAboutDevices);
+    if (!made_devices && std::ranges::any_of(wine.facts, IsAboutDevices)) {
+        differences.push_back({Weight::Missing, "not looked at: devices: it was made without --devices"});
+    }
     for (const Fact& there : wine.facts) {
-        if (Find(seen, there.name) == nullptr) {
+        if (Find(seen, there.name) == nullptr && (made_devices || !IsAboutDevices(there))) {
             differences.push_back({Weight::Missing, "not looked at: " + there.name});
         }
     }

@@ -77,6 +77,8 @@ TEST(CheckReport, TellsTheWorstFirst) {
     EXPECT_EQ(lines[2], "does not hold: a: expected 4 of 4, seen 3 of 4; on Wine 4 of 4");
     EXPECT_EQ(lines[3], "not looked at: e");
     EXPECT_EQ(check::ComparisonLines(wine, {}).back(), "all as on Wine");
+    const Report with_devices = Read(some + "devices.a\tx\tx\ndevices.b\tx\tx\n");
+    EXPECT_EQ(check::Compare(Read(some), with_devices).size(), 1u);
 }
 
 TEST(CheckReport, TheKeptOneIsWhole) {
