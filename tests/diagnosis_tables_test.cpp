@@ -168,7 +168,8 @@ TEST(DiagnosisTables, ModesAndLevelsArePossibleWhereTheLibraryAllowsThem) {
     for (u32 mode = 0; mode < 16; ++mode) {
         const UartMode* const known = FindUartMode(mode);
         const std::optional<unsigned long> needed = host::NeededBy(mode);
-        EXPECT_EQ(host::ModeName(mode), known != nullptr ? sim::ToUtf8(known->text) : std::to_string(mode));
+        EXPECT_EQ(host::ModeName(mode),
+                  known != nullptr ? sim::ToUtf8(known->text) : "none (" + std::to_string(mode) + ")");
         for (u32 capability = 0; capability < 256; ++capability) {
             EXPECT_EQ(needed && (capability & *needed) == *needed,
                       known != nullptr && HasAll(capability, known->offered))

@@ -200,7 +200,10 @@ class FullScreen(unittest.TestCase):
             open_board(terminal)
             terminal.press("\x1a")
             terminal.wait("Stopped", "shell>")
+            entered = terminal.raw.count(b"\x1b[?1049h")
             terminal.press("fg\r")
+            # Until then the shell would take the keys.
+            terminal.until(lambda: terminal.raw.count(b"\x1b[?1049h") > entered, "the full screen again")
             terminal.wait("Port Control", "COM7 (port1)")
             terminal.press("down")
             terminal.wait("> COM5 (port2)")

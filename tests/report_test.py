@@ -132,7 +132,7 @@ class Report(unittest.TestCase):
         page = self.report(SAMPLE)
         self.check_findings(page, SAMPLE)
         said = self.run_host(SAMPLE, "-c", "numbers", "-c", "ports", "-c", "board 1", "-c", "board 2")
-        grid = re.findall(r"[.?capL!]", "".join(re.findall(r"^ +\d+ ((?: [.?capL!]){16})$", said, re.MULTILINE)))
+        grid = re.findall(r"[.?capL!]", "".join(re.findall(r"^ +\d+ ((?: [.?capL!]){32})$", said, re.MULTILINE)))
         cells = [each["text"] for each in page.all("text") if "g" in each["inside"]]
         self.assertEqual(cells, grid)
         classes = [each["attributes"]["class"] for each in page.all("rect")]
