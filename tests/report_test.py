@@ -158,10 +158,8 @@ class Report(unittest.TestCase):
         self.assertEqual(page.texts("pre")[0].split(" database"), " ".join(
             self.run_host(SAMPLE, "-c", "mend", "-c", "changes").split("> changes\n")[1].split("kvrhost")[0].split()).split(" database"))
         head, *keys = SAMPLE.read_text().split("\n[")
-        (self.folder / "part.reg").write_text("\n[".join([head, *(key for key in reversed(keys) if "SERIALCOMM" not in key)]))
-        page = self.report("part.reg")
-        self.assertEqual(sum("PCI I/O board" in caption for caption in page.texts("caption")), 2)
-        text = " ".join(page.texts("ul")[:1])
+        (self.folder / "part.reg").write_text("\n[".join([head, *(key for key in keys if "SERIALCOMM" not in key)]))
+        text = " ".join(self.report("part.reg").texts("ul")[:1])
         for missing in json.loads(self.run_host("diagnose", "part.reg", "--json", status=1))["notKnown"]:
             self.assertIn(missing["export"], text)
 
