@@ -69,7 +69,7 @@ FAULTS = [
     ("host/files", "host/whole_file.cpp", 'written += ".part";', ""),
     ("host/full_screen", "host/full_screen/terminal.cpp", "{KEY_HOME, {VK_HOME}}", "{KEY_HOME, {VK_END}}"),
     ("host/full_screen_picture", "docs/pictures/full_screen.svg", "COM3\u00A0(port1)", "COM4\u00A0(port1)"),
-    ("host/hints", "host/full_screen/front_window.cpp", '"list", OfCode(VK_F4)', '"list", OfCode(VK_F3)'),
+    ("host/hints", "host/full_screen/front_window.cpp", '"list", OfCode(VK_F4)', '"list", OfCode(VK_TAB)'),
     ("host/line_terminal", "host/line/console_libedit.cpp", "interrupted = 1;", "interrupted = 0;"),
     ("host/one_session", "host/session/mending_commands.cpp", '"undone: "', '"done: "'),
     ("host/report", "host/diagnosis/html_report.cpp", 'html += "&lt;";', 'html += "<";'),
