@@ -11,6 +11,7 @@
 #include <nlohmann/json.hpp>
 #include <rapidcheck.h>
 
+#include "host/diagnosis/board_table.h"
 #include "host/diagnosis/number_map.h"
 #include "host/diagnosis/number_ranges.h"
 #include "host/diagnosis/ports_table.h"
@@ -156,6 +157,9 @@ TEST(Diagnosis, FindsWhatIsWrong) {
             EXPECT_EQ(std::ranges::count(sound, finding.subject.number), 0) << finding.sentence;
             EXPECT_TRUE(!finding.safe || !finding.command.empty()) << finding.sentence;
         }
+        const Names lines = host::DiagnosisLines(records, findings);
+        EXPECT_EQ(std::ranges::any_of(lines, [](auto& one) { return one.starts_with("The command mend"); }),
+                  std::ranges::any_of(findings, &host::Finding::safe));
         if (!findings.empty() && findings[0].subject.number != 0) {
             const std::set<std::string> conflicts = {"same-name", "twice-in-serial-map", "unclaimed-port"};
             EXPECT_EQ(host::StateOf(records, findings[0].subject.number) == host::NumberState::Conflict,
@@ -190,8 +194,26 @@ TEST(Diagnosis, NamesThePlacesItDependsOn) {
     for (const std::string& line : host::NumberLines(records, host::Diagnose(records), 13)) {
         EXPECT_LE(line.size(), 80u) << line;
     }
+    EXPECT_EQ(host::NumberLines(records, host::Diagnose(records), 1).back(),
+              "COM1: nothing is wrong with what is known of it.");
     records.known &= ~static_cast<unsigned>(host::DatabasePlace);
     EXPECT_EQ(host::ClaimedWithoutDevice(records), "not known");
+}
+
+// A board with a channel that is no port, after an interface that has gone, and a port with an odd name.
+TEST(Diagnosis, ListsABoardAndThePorts) {
+    sim::Machine machine = SoundMachine();
+    AddChannel(machine, {}, ClassCan, 3);
+    machine.interfaces.insert(machine.interfaces.begin(), machine.interfaces.back());
+    machine.interfaces.front().linked = false;
+    machine.devices[mainboard].key.SetText(u"PortName", u"port1");
+    const host::Records records = RecordsOf(FileOf(machine));
+    const host::BoardTable table = host::TableOfBoard(records, records.devices[board]);
+    ASSERT_EQ(table.lines.size(), 4u);
+    EXPECT_EQ(table.listed, (std::vector<std::size_t>{0, 3, 4, 0}));
+    EXPECT_EQ(table.lines[1], "  1        UART   COM3    RS-232     large  112      128       3");
+    EXPECT_EQ(table.lines[3], "  3        CAN    -       -          -      -        -         -");
+    EXPECT_EQ(host::PortRows(records)[1][2], "port1 is not COM");
 }
 
 TEST(Diagnosis, SeesWhatAPageWouldNotShowAsItIsWritten) {

@@ -58,6 +58,9 @@ TEST(Keyboard, LettersTypedInARowFindTheItemThatBeginsWithThem) {
         EXPECT_EQ(sheets::Shown(page, IDC_PORT_LIST), "COM120 (port6)");
         Type(sheet, u"c"); // no item begins with both, so the search starts again
         EXPECT_EQ(sheets::Shown(page, IDC_PORT_LIST), "COM13 (port7)");
+        host::PressKey(sheet, {VK_UP});
+        host::PressKey(sheet, f4); // which a list does not know
+        EXPECT_EQ(sheets::Shown(page, IDC_PORT_LIST), "COM120 (port6)");
         Type(sheet, u"p");
         EXPECT_EQ(Focused(), IDC_PORT_LIST);
         host::PressKey(sheet, tab); // to a box, where a letter is a hot key
