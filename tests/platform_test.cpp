@@ -78,4 +78,28 @@ TEST(Platform, RefusesAndCutsAsWindowsDoes) {
     EXPECT_TRUE(machine.journal.back().failed);
 }
 
+// The sweeps fail what is counted here: an operation that does not ask would silently be left out of them.
+// The rest can't fail, or belongs to failures and to the loading.
+TEST(Platform, CountsEveryOperationOfThePages) {
+    sim::Machine machine = BoardOn({3, 4});
+    const AtWork at_work(machine);
+    sheets::Open(sheets::Page::Board, 0,
+                 {.at_page = [](HWND page) { sheets::Do(page, "select0 fifo tx5 apply com9 advanced"); },
+                  .at_dialog = [](HWND dialog) { sheets::Do(dialog, "mode1 sort ok"); },
+                  .leaves_by = sheets::ok});
+    sheets::Open(sheets::Page::Port, 1,
+                 {.at_page = [](HWND page) { sheets::Do(page, "baud3 advanced"); },
+                  .at_dialog = [](HWND dialog) { sheets::Do(dialog, "com20 ok"); },
+                  .leaves_by = sheets::ok,
+                  .answers = IDYES});
+    std::string not_counted;
+    for (const std::string_view name : sim::Operations()) {
+        if (!machine.faults.count_by_name.contains(name)) {
+            not_counted += std::string(name) + ' ';
+        }
+    }
+    EXPECT_EQ(not_counted, "DestroyPropertySheetPage DisableThreadLibraryCalls GetDlgCtrlID GetParent "
+                           "GetWindowLongPtrW MessageBoxW SetWindowLongPtrW ");
+}
+
 } // namespace

@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "host/screen/hand.h"
-#include "host/worlds/simulated/world.h"
+#include "host/worlds/simulated/page_provider.h"
 
 namespace sheets {
 namespace {

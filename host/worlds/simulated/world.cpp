@@ -7,7 +7,6 @@
 #include <sstream>
 #include <utility>
 
-#include "board_page/board_page_provider.h"
 #include "host/languages.h"
 #include "host/machine_file/machine_file.h"
 #include "host/machine_file/machine_places.h"
@@ -15,9 +14,9 @@
 #include "host/text.h"
 #include "host/whole_file.h"
 #include "host/worlds/channel_classes.h"
+#include "host/worlds/simulated/page_provider.h"
 #include "host/worlds/simulated/tour.h"
 #include "reporting/module_entry.h"
-#include "uart_page/uart_page_provider.h"
 
 namespace host {
 namespace {
@@ -60,10 +59,6 @@ std::string JournalLine(const sim::JournalEntry& entry) {
 }
 
 } // namespace
-
-PageProvider ProviderOf(Role role) {
-    return role == Role::Board ? KvrBoardPropPageProvider : KvrUartPropPageProvider;
-}
 
 SimulatedWorld::SimulatedWorld(MachineFile file, sim::Machine& machine)
     : file_(std::move(file)), machine_(machine), scope_(machine) {

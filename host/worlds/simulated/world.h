@@ -11,11 +11,6 @@ namespace host {
 // with a reason in `error` on failure.
 bool OpenMachineFile(const std::string& path, MachineFile& file, std::string& error);
 
-// The provider of a role's page in the library.
-using PageProvider = BOOL(WINAPI*)(PSP_PROPSHEETPAGE_REQUEST request, LPFNADDPROPSHEETPAGE addPage,
-                                   LPARAM lParam);
-PageProvider ProviderOf(Role role);
-
 class SimulatedWorld : public World, private FileMachine {
 public:
     // Gives the machine what the file holds, makes it current and loads the library. The machine must outlive
