@@ -135,7 +135,7 @@ class Terminals(unittest.TestCase):
             print(f"Esc takes {statistics.median(escapes):.0f} ms, 95 % of the other keys {sorted(others)[len(others) * 95 // 100]:.0f} ms")
             def quick(each):  # a quarter of them, as other tests run at the same time
                 return sorted(each)[len(each) // 4]
-            self.assertLess(quick(escapes), quick(others) + 30)
+            self.assertLess(quick(escapes), 150 if SANITIZED else 50)  # a forgotten wait makes it 400 or more
             for key, each in times.items():
                 self.assertLess(quick(each), 100 if SANITIZED else 20, key)
             terminal.see("esc")

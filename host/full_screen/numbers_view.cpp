@@ -111,9 +111,14 @@ View::Outcome NumbersView::Take(const Event& event, const Cells& within) {
     if (event.key.code == VK_RETURN) {
         return {false, Command()};
     }
-    const std::pair<UINT, int> moves[] = {
-        {VK_LEFT, -1},           {VK_RIGHT, 1},         {VK_UP, -across_},       {VK_DOWN, across_},
-        {VK_PRIOR, -4 * across_}, {VK_NEXT, 4 * across_}, {VK_HOME, 1 - number_}, {VK_END, all - number_}};
+    const std::pair<UINT, int> moves[] = {{VK_LEFT, -1},
+                                          {VK_RIGHT, 1},
+                                          {VK_UP, -across_},
+                                          {VK_DOWN, across_},
+                                          {VK_PRIOR, -4 * across_},
+                                          {VK_NEXT, 4 * across_},
+                                          {VK_HOME, 1 - number_},
+                                          {VK_END, all - number_}};
     const auto move = std::ranges::find(moves, event.key.code, &std::pair<UINT, int>::first);
     if (move != std::end(moves) && number_ + move->second >= 1 && number_ + move->second <= all) {
         number_ += move->second;
