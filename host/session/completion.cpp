@@ -112,8 +112,11 @@ Completion Completed(Session& session, std::string_view line) {
         words.pop_back();
     }
     Words matching = Continuations(session, words);
-    std::erase_if(matching,
-                  [&](const std::string& word) { return !Folded(word).starts_with(Folded(begun)); });
+    // What a machine calls a device may hold what no line can, or what commands a terminal.
+    std::erase_if(matching, [&](const std::string& word) {
+        return !Folded(word).starts_with(Folded(begun)) || word.find('"') != std::string::npos ||
+               Escaped(word) != word;
+    });
     if (matching.empty()) {
         return {std::string(line), {}};
     }
