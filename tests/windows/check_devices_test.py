@@ -109,7 +109,7 @@ def main():
 
         for fault in MAKING + TAKING_BACK:
             code, report = run("kit", "--devices", fault=fault)
-            check(f"{fault}: the process ends there", code == ENDED, code)
+            check(f"{fault}: the process ends there", code == ENDED, (code, report))
             check(f"{fault}: what was left before is taken back", report.get("earlier_check.taken_back", "all") == "all", report)
             if fault in TAKEN_BACK_ALONE:
                 run("quick")
