@@ -197,7 +197,6 @@ bool MayMakeDevices() {
 void LookAtDevices(bool allowed, int times, Report& report, const std::function<void()>& save) {
     OwnWorld world;
     Journal journal;
-    std::vector<std::string> earlier;
     std::string error;
     std::vector<Step> made;
     bool begun = false;

@@ -14,7 +14,7 @@ import sys
 import tty
 
 from check_test import STAND_IN, install, registry, report_of
-from wine import BUILD, PORTS, ROOT, Prefix
+from wine import BUILD, PORTS, ROOT, Checks, Prefix
 
 SANDBOX = {"USER": "WDAGUtilityAccount"}
 ENDED = 9
@@ -58,13 +58,7 @@ def asked(prefix, program, answer):
 
 
 def main():
-    failed = []
-
-    def check(what, holds, told=""):
-        if not holds:
-            failed.append(what)
-            print(f"not so: {what}", told)
-
+    check = Checks()
     with Prefix() as prefix:
         prefix.import_machine(ROOT / "host/machines/sample.reg")
         install(prefix)
@@ -139,7 +133,7 @@ def main():
         check("another device keeps the number, its mark and its line", '"COM247:"' in kept and ",40,00" in kept and
               "KVRCHECK" not in kept.upper(), kept)
         check("a number that is used is not taken", made() == "COM247 is used")
-    return bool(failed)
+    return bool(check.failed)
 
 
 if __name__ == "__main__":

@@ -9,7 +9,7 @@ import pathlib
 import shutil
 import sys
 
-from wine import BUILD, HOST_BUILD, ROOT, Prefix
+from wine import BUILD, HOST_BUILD, ROOT, Checks, Prefix
 
 KEPT = ROOT / "docs" / "kvrcheck_wine.txt"
 STAND_IN = HOST_BUILD / "standins" / "cfgmgr32.dll"
@@ -47,13 +47,7 @@ def report_of(folder):
 
 
 def main(keep):
-    failed = []
-
-    def check(what, holds, told=""):
-        if not holds:
-            failed.append(what)
-            print(f"not so: {what}", told)
-
+    check = Checks()
     with Prefix() as prefix:
         prefix.import_machine(ROOT / "host/machines/sample.reg")
         prefix.reg("delete", r"HKLM\HARDWARE\DEVICEMAP\SERIALCOMM")  # as in a sandbox, which has no port
@@ -81,7 +75,7 @@ def main(keep):
         told, code = prefix.run("C:\\kit\\kvrcheck.exe")
         text = (folder / "kvrcheck.txt").read_bytes().decode()
         check("without the library it says so", code == 1 and "library.loaded\tyes\terror 126" in text, told)
-    return bool(failed)
+    return bool(check.failed)
 
 
 if __name__ == "__main__":

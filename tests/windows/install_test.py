@@ -6,7 +6,7 @@ import re
 import shutil
 import sys
 
-from wine import BUILD, CLASSES, ROOT, Prefix, windows_path
+from wine import BUILD, CLASSES, ROOT, Checks, Prefix, windows_path
 
 BOARD = r"PCI\VEN_1E5F&DEV_0810&SUBSYS_08101E5F&REV_02"
 PORT = r"KVRBUS\UART"
@@ -36,13 +36,7 @@ def install(prefix, package, form):
 
 
 def main():
-    failed = []
-
-    def check(what, holds, told=""):
-        if not holds:
-            failed.append(what)
-            print(f"not so: {what}", told)
-
+    check = Checks()
     with Prefix() as prefix:
         prefix.import_file(ROOT / "host/machines/sample.reg")
         library = prefix.library
@@ -72,7 +66,7 @@ def main():
         library.unlink()
         gone, _ = prefix.run("kvrhost.exe", input=b"devices\n")
         check("a library that is not there is told", b"that library can't be loaded: error 126" in gone, gone)
-    return bool(failed)
+    return bool(check.failed)
 
 
 if __name__ == "__main__":

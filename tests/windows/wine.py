@@ -61,6 +61,18 @@ def windows_path(file):
     return "Z:" + str(pathlib.Path(file).resolve()).replace("/", "\\")
 
 
+class Checks:
+    """Tells what does not hold, and goes on."""
+
+    def __init__(self):
+        self.failed = []
+
+    def __call__(self, what, holds, told=""):
+        if not holds:
+            self.failed.append(what)
+            print(f"not so: {what}", told)
+
+
 class Screen:
     """An invisible display, one for all prefixes."""
     display = None
