@@ -107,17 +107,18 @@ void EndText(BYTE* field, u32 fieldBytes, u32 storedBytes) {
     }
 }
 
-template <SIZE_T Count> u32 ReadFrom(HKEY key, const StoreField (&fields)[Count], void* record) {
-    for (const StoreField& field : fields) {
-        auto* destination = static_cast<BYTE*>(record) + field.offset;
-        DWORD length = field.bytes;
-        const LSTATUS lStatus = RegQueryValueExW(key, field.name, nullptr, nullptr, destination, &length);
+u32 ReadFrom(HKEY key, const StoreField* field, const StoreField* end, void* record) {
+    for (; field != end; field++) {
+        auto* destination = static_cast<BYTE*>(record) + field->offset;
+        DWORD length = field->bytes;
+        const LSTATUS lStatus = RegQueryValueExW(key, field->name, nullptr, nullptr, destination, &length);
         if (lStatus != ERROR_SUCCESS) {
-            TraceOut("%s - RegQueryValueEx() fail, %ws, lStatus:%d\n", TraceOperation(), field.name, lStatus);
+            TraceOut("%s - RegQueryValueEx() fail, %ws, lStatus:%d\n", TraceOperation(), field->name,
+                     lStatus);
             return StatusReadFailed;
         }
-        if (field.text) {
-            EndText(destination, field.bytes, length);
+        if (field->text) {
+            EndText(destination, field->bytes, length);
         }
     }
     return 0;
@@ -129,13 +130,13 @@ struct StoreNumber {
     u32 value;
 };
 
-template <SIZE_T Count> u32 WriteTo(HKEY key, const StoreNumber (&numbers)[Count]) {
-    for (const StoreNumber& number : numbers) {
+u32 WriteTo(HKEY key, const StoreNumber* number, const StoreNumber* end) {
+    for (; number != end; number++) {
         const LSTATUS lStatus =
-            RegSetValueExW(key, number.name, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&number.value),
-                           sizeof(number.value));
+            RegSetValueExW(key, number->name, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&number->value),
+                           sizeof(number->value));
         if (lStatus != ERROR_SUCCESS) {
-            TraceOut("%s - RegSetValueEx() fail, %ws, lStatus:%d\n", TraceOperation(), number.name, lStatus);
+            TraceOut("%s - RegSetValueEx() fail, %ws, lStatus:%d\n", TraceOperation(), number->name, lStatus);
             return StatusWriteFailed;
         }
     }
@@ -151,7 +152,7 @@ u32 ReadValues(HDEVINFO set, SP_DEVINFO_DATA* data, const StoreField (&fields)[C
     if (key == INVALID_HANDLE_VALUE) {
         return trace.Status(StatusNoKey);
     }
-    const u32 sStatus = ReadFrom(key, fields, record);
+    const u32 sStatus = ReadFrom(key, fields, fields + Count, record);
     RegCloseKey(key);
     return trace.Status(sStatus);
 }
@@ -165,7 +166,7 @@ u32 WriteValues(HDEVINFO set, SP_DEVINFO_DATA* data, const StoreNumber (&numbers
     if (key == INVALID_HANDLE_VALUE) {
         return trace.Status(StatusNoKey);
     }
-    const u32 sStatus = WriteTo(key, numbers);
+    const u32 sStatus = WriteTo(key, numbers, numbers + Count);
     RegCloseKey(key);
     return trace.Status(sStatus);
 }
