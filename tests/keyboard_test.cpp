@@ -9,6 +9,7 @@
 namespace {
 
 constexpr host::Key f4{VK_F4}, enter{VK_RETURN}, escape{VK_ESCAPE}, down{VK_DOWN}, tab{VK_TAB};
+constexpr int tabs = 0x3020; // of a sheet
 constexpr host::Key alt_down{VK_DOWN, 0, false, true}, alt_up{VK_UP, 0, false, true};
 
 int Focused() {
@@ -100,6 +101,29 @@ TEST(Keyboard, TheFocusComesBackAfterASortAndAfterADialog) {
                      EXPECT_EQ(Focused(), 0);
                      host::PressKey(dialog, {0, 'T', false, true});
                      EXPECT_EQ(Focused(), IDC_INTERFACE_SELECT);
+                 }});
+}
+
+TEST(Keyboard, KeysStayWhereTheyAreMeant) {
+    AtBoard({.at_page =
+                 [](HWND page) {
+                     const HWND sheet = SheetOf(page);
+                     SetFocus(GetDlgItem(sheet, tabs));
+                     host::PressKey(sheet, down); // for the tabs, as a letter is without Alt
+                     Type(sheet, u"p");
+                     EXPECT_EQ(Focused(), tabs);
+                     host::PressKey(sheet, {0, 'v', false, true});
+                 },
+             .at_dialog =
+                 [](HWND dialog) {
+                     const HWND list = GetDlgItem(dialog, IDC_INTERFACE_SELECT);
+                     SetFocus(list);
+                     MSG message = {list, WM_KEYDOWN, VK_TAB, 0, 0, {}};
+                     EXPECT_FALSE(IsDialogMessageW(GetWindow(dialog, GW_OWNER), &message));
+                     EXPECT_EQ(Focused(), IDC_INTERFACE_SELECT);
+                     EnableWindow(GetDlgItem(dialog, IDOK), FALSE);
+                     host::PressKey(dialog, enter);
+                     EXPECT_TRUE(IsWindowVisible(dialog));
                  }});
 }
 

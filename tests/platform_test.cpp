@@ -24,6 +24,11 @@ TEST(Platform, TellsWhatALibraryMustNotDo) {
              SetupDiGetDeviceInterfaceDetailW(device.set, &data, nullptr, 0, nullptr, nullptr);
          },
          "SetupDiGetDeviceInterfaceDetailW: an interface that is not of this set"},
+        {[] {
+             OpenDevice device(1);
+             SetupDiOpenDevRegKey(device.set, &device.data, DICS_FLAG_GLOBAL, 1, DIREG_DEV, KEY_ALL_ACCESS);
+         },
+         "SetupDiOpenDevRegKey: only the global hardware key"},
     };
     for (const auto& each : cases) {
         sim::Machine machine = BoardOn({3});
