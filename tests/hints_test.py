@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
 """Every hint at the foot of the full screen is true: in each place it is pressed, by key and by click, and does what it says.
+A click is tried once for each hint, or in each place too with KVR_LONG.
 
     hints_test.py KVRHOST"""
+import os
 import pathlib
 import re
 import sys
@@ -107,6 +109,7 @@ class Hints(unittest.TestCase):
             self.assertIsNone(re.search(ASKED, after), after)
 
     def walk(self, clicks, with_views):
+        clicked = set()
         for place, way in PLACES.items():
             with self.subTest(place), tempfile.TemporaryDirectory() as folder:
                 terminal = self.begin(folder, way)
@@ -116,6 +119,9 @@ class Hints(unittest.TestCase):
                 if with_views and views and ("Devices" in terminal.text() or "╔" in terminal.text()):
                     self.expect_views(terminal, views, bool(len(place) % 2))
                 for hint in [hint for hint in told if hint not in views]:
+                    if clicks and hint[:2] in clicked and "KVR_LONG" not in os.environ:
+                        continue  # what it does here its key has shown
+                    clicked.add(hint[:2])
                     if terminal.child.closed or hints(terminal) != told:
                         terminal = self.begin(folder, way)
                     with self.subTest(hint[:2]):

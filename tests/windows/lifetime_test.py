@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Loading and unloading the library and opening its pages leaks nothing: two hundred times in each run, a thousand
+"""Loading and unloading the library and opening its pages leaks nothing: a hundred times in each run, a thousand
 times with KVR_LONG.
 
     lifetime_test.py [TIMES]"""
@@ -18,4 +18,4 @@ def main(times):
 
 
 if __name__ == "__main__":
-    sys.exit(main(sys.argv[1] if len(sys.argv) > 1 else 1000 if "KVR_LONG" in os.environ else 200))
+    sys.exit(main(sys.argv[1] if len(sys.argv) > 1 else 1000 if "KVR_LONG" in os.environ else 100))
