@@ -26,8 +26,8 @@ if subprocess.run([PROGRAM, "--gtest_brief=1", f"--gtest_filter=-{LEFT_OUT}{'' i
 
 def report(folder, source, *options):
     """Lines and branches of a folder of the tree, as counted by the objects below another."""
-    gcovr = ["gcovr", "--root", ROOT, "--filter", str(ROOT / source), "--exclude-throw-branches",
-             "--exclude-unreachable-branches", *options, folder]
+    gcovr = ["gcovr", "--gcov-executable", "llvm-cov gcov", "--root", ROOT, "--filter", str(ROOT / source),
+             "--exclude-throw-branches", "--exclude-unreachable-branches", *options, folder]
     lines = subprocess.run([*gcovr, "--print-summary"], capture_output=True, text=True)
     branches = subprocess.run([*gcovr, "--branches"], capture_output=True, text=True)
     print(branches.stdout, lines.stdout, lines.stderr, branches.stderr, sep="")
