@@ -206,13 +206,13 @@ const std::map<std::pair<Call, Call>, Outcome> after_both = {
     {{{"WriteProfileStringW", 1}, {"WriteProfileStringW", 2}}, {{.settings = "COM5"}}},
 };
 
-// What failures leave; none that the table does not have occurs. A refusal ends the rename, so nothing that
-// fails in its wake, such as its box, leaves anything more.
+// What failures leave; a call without a row leaves nothing. A refusal ends the rename, so nothing that fails in
+// its wake, such as its box, leaves anything more.
 Outcome OutcomeOf(const std::vector<Call>& failed) {
     Outcome outcome;
     for (const Call& call : failed) {
         const auto row = after_failure.find(call);
-        if (outcome.box != nullptr || row == after_failure.end()) {
+        if (row == after_failure.end()) {
             continue;
         }
         if (row->second.box != nullptr) {

@@ -107,13 +107,11 @@ class FullScreen(unittest.TestCase):
             self.assertIn("Devices", terminal.resize(80, 24))
 
     def test_languages_and_terminals(self):
-        for language, title in ((1041, "COM7"), (1025, "COM7"), (1037, "COM7")):
+        for language, heading in ((1041, "ポート制御"), (1025, "التحكم في المنفذ"), (1037, "בקרת יציאה")):
             with self.subTest(language), Terminal(HOST, "--language", str(language), NO_COLOR="1") as terminal:
                 terminal.wait("F1 help")
-                self.assertIn("(port1)", terminal.see("enter"))
+                self.assertIn(heading, terminal.see("enter"))
                 self.assertIsNone(re.search(rb"\x1b\[[0-9;]*3[0-7][;m]", terminal.raw), "a colour")
-                rows = [line for line in terminal.rows() if "(port1)" in line]
-                self.assertIn(title, rows[0])
         with Terminal(HOST, TERM="dumb") as terminal:
             terminal.wait("can't be filled", "> ")
             terminal.press("quit\r")
@@ -186,7 +184,7 @@ class FullScreen(unittest.TestCase):
                 else:
                     terminal.child.kill(how)
                 code, killed = terminal.wait_end()
-                self.assertEqual(terminal.raw.count(LEFT) > before, True)
+                self.assertGreater(terminal.raw.count(LEFT), before)
                 self.assertIn(b"\x1b[?1002l", terminal.raw)
                 if how not in (signal.SIGSEGV, signal.SIGABRT):  # which the sanitizers answer in their own way
                     self.assertEqual((code, killed), (0, None) if how == "ctrl-c" else (None, how))

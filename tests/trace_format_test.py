@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """A line whose format and arguments disagree does not compile, whether the trace is live or not.
 
-    trace_format_test.py COMPILER"""
+    trace_format_test.py COMPILER..."""
+import itertools
 import pathlib
 import re
 import subprocess
@@ -9,8 +10,7 @@ import sys
 import unittest
 
 ROOT = pathlib.Path(__file__).resolve().parents[1]
-COMPILER = sys.argv.pop(1)
-IS_CLANG = "clang" in subprocess.run([*COMPILER.split(), "--version"], capture_output=True, text=True).stdout
+COMPILERS = sys.argv[1:]
 
 # The lines are compiled in this function.
 FUNCTION = """#include "reporting/trace.h"
@@ -41,13 +41,13 @@ WRONG = [
 ]
 
 
-def compiled(lines, live):
+def compiled(compiler, lines, live):
     """Whether a function of these lines compiles, and the lines that the compiler complains about."""
     statements = [line if line.startswith("TraceScope") else f"TraceOut({line})" for line in lines]
     source = FUNCTION % "\n    ".join(f"{{ {statement}; }}" for statement in statements)
-    done = subprocess.run([*COMPILER.split(), "-std=c++20", "-DKVR_SIMULATED", f"-I{ROOT}", f"-I{ROOT / 'src'}",
+    done = subprocess.run([*compiler.split(), "-std=c++20", "-DKVR_SIMULATED", f"-I{ROOT}", f"-I{ROOT / 'src'}",
                            "-fsyntax-only", "-x", "c++", "-", *(["-DTRACE_LIVE"] if live else []),
-                           *(["-ferror-limit=0"] if IS_CLANG else [])],
+                           *(["-ferror-limit=0"] if "clang" in compiler else [])],
                           input=source, capture_output=True, text=True)
     first = 1 + FUNCTION[:FUNCTION.index("%s\n}")].count("\n")
     named = {int(number) - first for number in re.findall(r"<stdin>:(\d+):", done.stderr)}
@@ -56,10 +56,11 @@ def compiled(lines, live):
 
 class TraceFormats(unittest.TestCase):
     def test_wrong_lines_do_not_compile_and_right_ones_do(self):
-        for live in (False, True):
-            self.assertEqual(compiled(RIGHT, live), (True, set()))
-            self.assertEqual(compiled(WRONG, live), (False, set(WRONG)))
+        for compiler, live in itertools.product(COMPILERS, (False, True)):
+            with self.subTest(compiler, live=live):
+                self.assertEqual(compiled(compiler, RIGHT, live), (True, set()))
+                self.assertEqual(compiled(compiler, WRONG, live), (False, set(WRONG)))
 
 
 if __name__ == "__main__":
-    unittest.main()
+    unittest.main(argv=sys.argv[:1])

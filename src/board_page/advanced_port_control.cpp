@@ -58,7 +58,8 @@ void ShowBoxes(HWND hDlg, const UartBasicInfo& uart, const UartMode& mode) {
     }
 }
 
-// The mode at a position of the combo; null if no mode has that position.
+// The mode at a position of the combo; null if no mode has that position. Without a selection the position is
+// that of all modes that aren't offered, and the first of them is found.
 const UartMode* ModeAtEntry(const BPPCHL* chl, u32 position) {
     for (const UartMode& mode : UartModes) {
         if (chl->*mode.comboPos == position) {

@@ -76,6 +76,9 @@ void _FillChannelList(HWND hDlg) {
     const BoardParams* params = PageParams(hDlg);
     const HWND list = GetDlgItem(hDlg, IDC_PORT_LIST);
     SendMessageW(list, LB_RESETCONTENT, 0, 0);
+    if (params->BoardOther.BoardNrController < 2) {
+        return; // only number 0, which is no channel's
+    }
     u32 position = 0;
     for (BPPCHL* chl = params->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
         WCHAR line[ControlTextCapacity];

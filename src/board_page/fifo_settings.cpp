@@ -129,6 +129,9 @@ bool _SetEachUartUiFifoSettingsIfChange(BoardParams* params, u32* status, u32* c
     TraceScope trace;
     *status = 0;
     *comNumber = 0;
+    if (params->BoardOther.BoardNrController < 2) {
+        return trace.Success(true);
+    }
     for (BPPCHL* chl = params->WalkFirst; chl != nullptr; chl = chl->WalkNext) {
         if (chl->Class != ClassUart) {
             continue;

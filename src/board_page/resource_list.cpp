@@ -19,6 +19,7 @@ void AddRow(HWND list, int row, UINT labelId, WCHAR* setting) {
         item.pszText = label;
         SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
     }
+    // Without a label there is no row, and the setting goes nowhere.
     item.iSubItem = 1;
     item.pszText = setting;
     SendMessageW(list, LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));

@@ -42,6 +42,7 @@ u32 MoveDosName(Remap* remap) {
     }
     TraceOut("%s - Remap->OldComName:%ws, Remap->Buffer1:%ws\n", TraceOperation(), remap->OldComName,
              remap->Buffer1);
+    // Where the removal fails the rename goes on: the port then answers to both names until the next start.
     const BOOL bRemoved = DefineDosDeviceW(DDD_REMOVE_DEFINITION, remap->OldComName, nullptr);
     TraceOut("%s - DefineDosDevice, bRemoved:%d, OldComName:%ws, Buffer1:%ws, GetLastError():%d\n",
              TraceOperation(), bRemoved, remap->OldComName, remap->Buffer1, GetLastError());
@@ -49,7 +50,8 @@ u32 MoveDosName(Remap* remap) {
         TraceOut("%s - DefineDosDevice fail, Remap->NewComName:%ws, Remap->Buffer1:%ws, GetLastError():%d\n",
                  TraceOperation(), remap->NewComName, remap->Buffer1, GetLastError());
         // A name whose removal failed is still there, and defining it again would put a second definition
-        // over it.
+        // over it. If this fails too, there is nothing left to try: the port has no DOS name until the driver
+        // makes it anew at the next start.
         if (bRemoved) {
             DefineDosDeviceW(DDD_RAW_TARGET_PATH, remap->OldComName, remap->Buffer1);
         }
@@ -87,7 +89,8 @@ void RenameInSerialMap(Remap* remap, DWORD dwNewComNameLen) {
 }
 
 // The old number is free before the new one is claimed. The claim is forced: the caller has asked whether the
-// number may be taken. A refused claim leaves the number free in the database although the port has it.
+// number may be taken. A refused claim leaves the number free in the database although the port has it; a
+// refused release leaves the old one claimed by no port, until someone frees it.
 void RenameInDatabase(Remap* remap) {
     if (remap->ComDbHandle != nullptr && remap->ComDbHandle != INVALID_HANDLE_VALUE) {
         ComDBReleasePort(remap->ComDbHandle, remap->OldComNumber);
@@ -116,6 +119,8 @@ void WriteFriendlyName(Remap* remap) {
 u32 RenameEverywhere(Remap* remap) {
     TraceOut("%s - ARRAYSIZE(Remap->OldComName):%I64d\n", TraceOperation(), ARRAYSIZE(remap->OldComName));
     FormatText(remap->OldComName, RemapTextCapacity, TEXT("COM%d"), remap->OldComNumber);
+    // A port that isn't started has no DOS name. Its driver makes one from `PortName` at the next start, so
+    // the rename goes on in the other places.
     const bool dosNameExists = QueryOldTarget(remap);
     if (!dosNameExists) {
         TraceOut("%s - QueryDosDevice 1 fail, GetLastError():%d\n", TraceOperation(), GetLastError());
@@ -131,8 +136,9 @@ u32 RenameEverywhere(Remap* remap) {
     if (sStatus != 0) {
         return sStatus;
     }
-    // From here on the port answers to its new name, and each step runs whatever the one before it reported:
-    // a place that can't be changed keeps the old number, and going back would leave more places wrong.
+    // A port with a DOS name answers to the new one from here on, so each step runs whatever the one before
+    // it reported: a place that can't be changed keeps the old number, and going back would leave more places
+    // wrong.
     RenameInSerialMap(remap, dwNewComNameLen);
     RenameInDatabase(remap);
     WriteFriendlyName(remap);

@@ -6,8 +6,9 @@
 //     4. the caller's records get the new name
 //     5. Kavro_COMPortMigratePortSettings moves the settings line from the old name to the new one
 //
-// The rename can fail up to step 2; then nothing has changed and nothing of the caller may change. From step
-// 3 on there is no way back, so a failure there is not reported: the port has its new number in any case.
+// The rename can fail up to step 2; then the port has its old number and nothing of the caller may change.
+// From step 3 on there is no way back, so a failure there is not reported: the port has its new number in any
+// case.
 #pragma once
 
 #include "device_model/board_params.h"

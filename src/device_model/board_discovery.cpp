@@ -104,7 +104,7 @@ void AddChannel(BoardParams* board, HDEVINFO set, const SP_DEVINFO_DATA& data, u
                 const ChannelInfo& info, const WCHAR* path, u32 pathCapacity) {
     auto* chl = static_cast<BPPCHL*>(LocalAlloc(LPTR, sizeof(BPPCHL)));
     if (chl == nullptr) {
-        return;
+        return; // the page shows the other channels
     }
     ChlListInit(chl);
     chl->Board = board;
@@ -117,7 +117,7 @@ void AddChannel(BoardParams* board, HDEVINFO set, const SP_DEVINFO_DATA& data, u
     }
     chl->DeviceInfoSet = set;
     chl->DeviceInfoData = data;
-    chl->DevicePath = CopyDevicePath(path, pathCapacity);
+    chl->DevicePath = CopyDevicePath(path, pathCapacity); // without memory null: only the trace shows it
     ChlListInsertTail(&board->ChlList, chl);
     BoardChlWalkInsert(board, chl);
     ++board->ChlCount;
@@ -193,6 +193,8 @@ u32 BoardEnumClass(BoardParams* board, BYTE* buffer, u32 bufferSize, HDEVINFO se
         detail->cbSize = sizeof(*detail);
         SP_DEVINFO_DATA data = {};
         data.cbSize = sizeof(data);
+        // An interface that can't be read is passed over: the first class lists every COM port of the
+        // machine, and those of other makers have none of these values.
         if (SetupDiGetDeviceInterfaceDetailW(set, &interfaceData, detail, needed, &needed, &data) &&
             ReadChannel(set, &data, channelClass, &info) && BelongsToBoard(board, info)) {
             AddChannel(board, set, data, channelClass, info, detail->DevicePath, pathCapacity);

@@ -107,8 +107,9 @@ void EndText(BYTE* field, u32 fieldBytes, u32 storedBytes) {
     }
 }
 
+// Reads the fields up to `end`, which is behind the last.
 u32 ReadFrom(HKEY key, const StoreField* field, const StoreField* end, void* record) {
-    for (; field != end; field++) {
+    for (; field != end; ++field) {
         auto* destination = static_cast<BYTE*>(record) + field->offset;
         DWORD length = field->bytes;
         const LSTATUS lStatus = RegQueryValueExW(key, field->name, nullptr, nullptr, destination, &length);
@@ -131,7 +132,7 @@ struct StoreNumber {
 };
 
 u32 WriteTo(HKEY key, const StoreNumber* number, const StoreNumber* end) {
-    for (; number != end; number++) {
+    for (; number != end; ++number) {
         const LSTATUS lStatus =
             RegSetValueExW(key, number->name, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&number->value),
                            sizeof(number->value));

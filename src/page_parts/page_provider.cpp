@@ -8,6 +8,7 @@ bool ProvidePage(const PageKind& kind, const SP_PROPSHEETPAGE_REQUEST* request, 
     if (!kind.checkDevice(request)) {
         return false;
     }
+    // Even where no page is wanted: a lack of memory is told in any case.
     void* record = LocalAlloc(LPTR, kind.recordBytes);
     if (record == nullptr) {
         ErrorBoxShow(FailureNoMemory, 0, nullptr);

@@ -107,7 +107,8 @@ void ShowOutOfMemory(HWND owner) {
     MessageBoxW(owner, OutOfMemoryText, OutOfMemoryCaption, ErrorStyle);
 }
 
-// Shows a box whose text and caption come from the resources, and passes on its answer.
+// Shows a box whose text and caption come from the resources, and passes on its answer. One that can't be
+// loaded stays empty: the user still learns that something failed, and a question is still asked.
 void ShowFromStrings(HWND owner, UINT stringId, UINT style, WCHAR* text, WCHAR* caption,
                      u32* nUserDialogChoice) {
     LoadStringW(ModuleInstance, stringId, text, BoxCapacity);

@@ -12,6 +12,8 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
     if (reason == DLL_PROCESS_ATTACH) {
         TraceOut("LOAD, DBGSTR:%s\n", szDebugTag);
         ModuleInstance = instance;
+        // None of these stops the loading: calls for threads would only be ignored, and a box for a lack of
+        // memory without its text is better than no page.
         DisableThreadLibraryCalls(instance);
         LoadStringW(instance, IDS_OUT_OF_MEMORY, OutOfMemoryText, ARRAYSIZE(OutOfMemoryText));
         LoadStringW(instance, IDS_OUT_OF_MEMORY_CAPTION, OutOfMemoryCaption, ARRAYSIZE(OutOfMemoryCaption));

@@ -125,6 +125,8 @@ void _RestoreDefaultClicked(HWND hDlg, UartAdvancedParams* params) {
     _EnableFifoControls(hDlg, TRUE);
     const LRESULT found = SendDlgItemMessageW(hDlg, IDC_PORT_NUMBER, CB_FINDSTRING, static_cast<WPARAM>(-1),
                                               reinterpret_cast<LPARAM>(params->ComName));
+    // A name that isn't found gives an index far beyond the items: nothing is selected, and OK keeps the
+    // number.
     SendDlgItemMessageW(hDlg, IDC_PORT_NUMBER, CB_SETCURSEL, LOWORD(found), 0);
 }
 

@@ -10,7 +10,8 @@
 
 constexpr const WCHAR* DefaultBaudText = TEXT("9600");
 
-// The items of two combos, in their order. Both tables end with a 0. The index of n data bits is n - 4.
+// The items of two combos, in their order. Both tables end with a 0. The index of n data bits is n - 4. An
+// empty field of a line means the entry at index 3, so that entry must stay where it is.
 inline constexpr u32 BaudRateTable[] = {75,     110,    134,    150,    300,    600,   1200,  1800,
                                         2400,   4800,   7200,   9600,   14400,  19200, 38400, 57600,
                                         115200, 128000, 230400, 460800, 921600, 0};

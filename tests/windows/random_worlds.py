@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """The two worlds compared on random scripts: they open sheets on the devices of a machine and operate them without a
-plan, with operations that fail, in nine languages. Each run has the same thirty scripts, or three hundred with KVR_LONG.
+plan, with operations that fail, in nine languages. Each run has the same twenty scripts, or three hundred with KVR_LONG.
 
     random_worlds.py [FIRST [COUNT]]"""
 import os
@@ -106,4 +106,4 @@ def main(first, count):
 
 if __name__ == "__main__":
     sys.exit(main(int(sys.argv[1]) if len(sys.argv) > 1 else 1,
-                  int(sys.argv[2]) if len(sys.argv) > 2 else 300 if "KVR_LONG" in os.environ else 30))
+                  int(sys.argv[2]) if len(sys.argv) > 2 else 300 if "KVR_LONG" in os.environ else 20))
