@@ -186,14 +186,20 @@ TEST(BoardFifo, ASliderThatIsNotThereStandsAtOne) {
     EXPECT_EQ(StoredFifo(1), "1 1 1");
 }
 
+// A board that promises no channel has nothing to store.
 TEST(BoardFifo, StoringStartsFromNoStatusAndNoNumber) {
-    sim::Machine machine = TwoUartsAndADio();
-    const AtWork at_work(machine);
-    OpenBoard board;
-    u32 status = 77;
-    u32 number = 77;
-    EXPECT_TRUE(_SetEachUartUiFifoSettingsIfChange(&board.params, &status, &number));
-    EXPECT_EQ(std::pair(status, number), std::pair(0u, 0u));
+    for (const u32 promised : {3u, 1u}) {
+        sim::Machine machine = TwoUartsAndADio();
+        const AtWork at_work(machine);
+        OpenBoard board;
+        board.params.BoardOther.BoardNrController = promised;
+        board.params.WalkFirst->CurrentInfo.Uart.UartTxFifoLowHigh ^= 1;
+        u32 status = 77;
+        u32 number = 77;
+        EXPECT_TRUE(_SetEachUartUiFifoSettingsIfChange(&board.params, &status, &number));
+        EXPECT_EQ(std::pair(status, number), std::pair(0u, 0u));
+        EXPECT_EQ(Count(machine, "RegSetValueExW"), promised == 3 ? 3u : 0u);
+    }
 }
 
 } // namespace

@@ -206,8 +206,8 @@ const std::map<std::pair<Call, Call>, Outcome> after_both = {
     {{{"WriteProfileStringW", 1}, {"WriteProfileStringW", 2}}, {{.settings = "COM5"}}},
 };
 
-// What failures leave; a call without a row leaves nothing. A refusal ends the rename, so nothing that fails in
-// its wake, such as its box, leaves anything more.
+// What failures leave; a call without a row leaves nothing. A refusal ends the rename, so nothing that fails
+// in its wake, such as its box, leaves anything more.
 Outcome OutcomeOf(const std::vector<Call>& failed) {
     Outcome outcome;
     for (const Call& call : failed) {
