@@ -1,4 +1,4 @@
-# All tests as one source, for style/clang_tidy, most of whose time goes into headers. Each test has a namespace of its own,
+# SHEETS and TESTS as one source, for style/clang_tidy, most of whose time goes into headers. Each test has a namespace of its own,
 # as tests have helpers of the same names.
 foreach(file ${SHEETS} ${TESTS})
   file(STRINGS ${file} INCLUDES REGEX "^#include")

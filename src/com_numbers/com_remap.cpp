@@ -50,8 +50,8 @@ u32 MoveDosName(Remap* remap) {
         TraceOut("%s - DefineDosDevice fail, Remap->NewComName:%ws, Remap->Buffer1:%ws, GetLastError():%d\n",
                  TraceOperation(), remap->NewComName, remap->Buffer1, GetLastError());
         // A name whose removal failed is still there, and defining it again would put a second definition
-        // over it. If this fails too, there is nothing left to try: the port has no DOS name until the driver
-        // makes it anew at the next start.
+        // over it. Where the old name can't be defined either, the port has no DOS name until its driver
+        // makes one at the next start.
         if (bRemoved) {
             DefineDosDeviceW(DDD_RAW_TARGET_PATH, remap->OldComName, remap->Buffer1);
         }

@@ -17,8 +17,8 @@ WCHAR* AllocateSettingsKey(const WCHAR* portName) {
 
 // Applications are notified while both keys exist, so that one that reads on the notice finds the port under
 // either name. A write that fails costs the line: the port then gets the default line. A deletion that fails
-// leaves the old line, which the next port of that name inherits; a notice that fails costs an application
-// nothing that it doesn't read when it opens the port.
+// leaves the old line, which the next port of that name inherits. A notice that fails costs little:
+// applications read the line when they open the port.
 void MoveSettingsLine(const WCHAR* oldKey, const WCHAR* newKey) {
     WCHAR value[SettingsLineCapacity] = {};
     GetProfileStringW(PortsSection, oldKey, TEXT(""), value, ARRAYSIZE(value));

@@ -98,7 +98,7 @@ class Package(unittest.TestCase):
             for place in (ROOT, BUILD, pathlib.Path.home()):
                 for form in (str(place), str(place).replace("/", "\\")):
                     if len(form) > 5:
-                        # Not assertNotIn, whose failure prints the whole file.
+                        # assertNotIn and assertEqual would print whole files.
                         self.assertFalse(form.encode() in file.read_bytes(), f"{form} in {file}")
 
     def test_another_resource_compiler_makes_the_same_of_every_resource(self):
